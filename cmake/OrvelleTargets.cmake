@@ -1,0 +1,45 @@
+# How every room of the house is built: one library target per folder, one test program per room.
+
+option(ORVELLE_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
+option(ORVELLE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+add_library(orvelle_build_flags INTERFACE)
+target_include_directories(orvelle_build_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(orvelle_build_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_compile_options(orvelle_build_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+  $<$<BOOL:${ORVELLE_WARNINGS_AS_ERRORS}>:-Werror>)
+if(ORVELLE_SANITIZE)
+  target_compile_options(orvelle_build_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orvelle_build_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# orvelle_library(NAME SOURCES... LINK...): a static library of one folder.
+# A folder with headers only is declared with no compiled source and becomes an interface library.
+function(orvelle_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  if(ARG_SOURCES)
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC orvelle_build_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE orvelle_build_flags ${ARG_LINK})
+  endif()
+endfunction()
+
+# orvelle_test(NAME SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
+function(orvelle_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK} orvelle_test_support)
+  add_test(NAME ${name} COMMAND ${name})
+  orvelle_test_environment(${name})
+endfunction()
+
+# Every test runs off-screen, under one locale, with the sanitizers told to stop at the first finding.
+function(orvelle_test_environment name)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
+endfunction()

@@ -1,0 +1,60 @@
+#include "core/system_monitor.h"
+
+#include "core/checked.h"
+#include "settings/settings_store.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+
+namespace orvelle {
+
+SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settings, QObject* parent)
+    : QObject(parent)
+    , m_sources(std::move(sources))
+    , m_settings(settings)
+    , m_cpu(*m_sources.processor, m_sources.now)
+    , m_memory(*m_sources.memory) {}
+
+SystemMonitor::~SystemMonitor() = default;
+
+std::optional<double> SystemMonitor::activeInterval() const {
+    if (!m_timer)
+        return std::nullopt;
+    return std::chrono::duration<double>(m_timer->intervalAsDuration()).count();
+}
+
+void SystemMonitor::start() {
+    updateCycle();
+    const double seconds = std::max(m_settings.updateInterval(), minimumIntervalSeconds);
+    m_timer = std::make_unique<QTimer>();
+    m_timer->callOnTimeout(this, &SystemMonitor::updateCycle);
+    m_timer->start(
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double>(seconds)));
+}
+
+void SystemMonitor::stop() {
+    m_timer.reset();
+}
+
+void SystemMonitor::restart() {
+    stop();
+    start();
+}
+
+void SystemMonitor::updateCycle() {
+    const QCoreApplication* application = QCoreApplication::instance();
+    if (application != nullptr && QThread::currentThread() != application->thread())
+        qFatal("An update cycle must run on the main thread");
+
+    m_cpu.updateUsage();
+    m_cpu.updateLoadAverages();
+    m_cpu.updateUptime();
+    m_memory.update();
+    m_updateCycleCount = checkedAdd(m_updateCycleCount, qint64{1});
+    Q_EMIT changed();
+}
+
+} // namespace orvelle

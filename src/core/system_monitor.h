@@ -1,0 +1,56 @@
+#pragma once
+
+#include "core/cpu_monitor.h"
+#include "core/memory_monitor.h"
+#include "core/sources/machine_sources.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace orvelle {
+
+class SettingsStore;
+
+/// Owns the monitors and is the only clock of the sampling core: it runs one update cycle when started and
+/// one per interval after that. Main thread only; a cycle on any other thread stops the process.
+class SystemMonitor : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(qint64 updateCycleCount READ updateCycleCount NOTIFY changed)
+
+public:
+    /// No faster sampling than this, whatever interval the settings ask for: the monitor must stay cheap.
+    static constexpr double minimumIntervalSeconds = 3.0;
+
+    SystemMonitor(MachineSources sources, const SettingsStore& settings, QObject* parent = nullptr);
+    ~SystemMonitor() override;
+
+    [[nodiscard]] CPUMonitor& cpu() { return m_cpu; }
+    [[nodiscard]] MemoryMonitor& memory() { return m_memory; }
+
+    /// Update cycles completed since construction; stopping does not reset it.
+    [[nodiscard]] qint64 updateCycleCount() const { return m_updateCycleCount; }
+    /// The sampling interval in seconds, nothing while stopped.
+    [[nodiscard]] std::optional<double> activeInterval() const;
+
+    /// Runs one update cycle at once, then one per effective interval. Stop first when already running.
+    void start();
+    void stop();
+    /// Stops and starts again, so that a changed interval takes effect; this samples once more at once.
+    void restart();
+    /// Samples every monitor once, in a fixed order, then announces the change.
+    void updateCycle();
+
+Q_SIGNALS:
+    /// Every monitor has been sampled once more.
+    void changed();
+
+private:
+    MachineSources m_sources;
+    const SettingsStore& m_settings;
+    CPUMonitor m_cpu;
+    MemoryMonitor m_memory;
+    std::unique_ptr<QTimer> m_timer;
+    qint64 m_updateCycleCount = 0;
+};
+
+} // namespace orvelle

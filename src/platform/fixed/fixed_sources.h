@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/sources/machine_sources.h"
+
+namespace orvelle {
+
+/// A clock that stands still until it is told to move.
+class FixedClock {
+public:
+    /// 2026-01-01 00:00:00 UTC, where every replay begins.
+    static constexpr std::int64_t replayStartSeconds = 1767225600;
+
+    [[nodiscard]] WallClock reader() const {
+        return [time = m_time] { return *time; };
+    }
+    void advance(std::chrono::duration<double> step) {
+        *m_time += std::chrono::duration_cast<WallTime::duration>(step);
+    }
+
+private:
+    std::shared_ptr<WallTime> m_time = std::make_shared<WallTime>(std::chrono::seconds(replayStartSeconds));
+};
+
+/// Answers what it was last told, for tests, snapshots and replays.
+class FixedProcessorSource final : public ProcessorSource {
+public:
+    std::optional<std::vector<CoreTicks>> ticks;
+    std::optional<std::array<double, 3>> loadAverages;
+    std::optional<std::int64_t> bootTime;
+
+    [[nodiscard]] std::optional<std::vector<CoreTicks>> readTicks() override { return ticks; }
+    [[nodiscard]] std::optional<std::array<double, 3>> readLoadAverages() override { return loadAverages; }
+    [[nodiscard]] std::optional<std::int64_t> readBootTime() override { return bootTime; }
+};
+
+class FixedMemorySource final : public MemorySource {
+public:
+    std::optional<MemoryReading> reading;
+
+    [[nodiscard]] std::optional<MemoryReading> read() override { return reading; }
+};
+
+} // namespace orvelle

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvelle::linux_platform {
+
+/// A kernel text file that is read again and again: the descriptor stays open between reads, which costs half
+/// of opening it each time. When a read fails (the device behind it vanished, say) the file is closed and
+/// opened afresh at the next read.
+class KeptFile {
+public:
+    /// No kernel text that a monitor reads is longer; what lies beyond is not read.
+    static constexpr std::size_t maximumSize = std::size_t{4} << 20;
+
+    /// How the kernel ends the text. `single`: the whole text is produced for one read, so a read that leaves
+    /// room in the buffer has seen all of it (stat, meminfo, loadavg). `records`: each read ends at a record
+    /// near a page, so only an empty read is the end (diskstats, net/dev, mountinfo).
+    enum class Layout { single, records };
+
+    KeptFile(std::filesystem::path path, Layout layout);
+    ~KeptFile();
+    KeptFile(KeptFile&& other) noexcept;
+    KeptFile& operator=(KeptFile&& other) noexcept;
+    KeptFile(const KeptFile&) = delete;
+    KeptFile& operator=(const KeptFile&) = delete;
+
+    /// The file's text now, valid until the next call; nothing when it cannot be opened or read.
+    [[nodiscard]] std::optional<std::string_view> read();
+
+    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+
+private:
+    void close();
+    [[nodiscard]] bool readAll();
+
+    std::filesystem::path m_path;
+    Layout m_layout;
+    int m_descriptor = -1;
+    std::string m_buffer;
+    std::size_t m_size = 0;
+};
+
+/// The text of a file that is read once or rarely, cut at `maximumSize` bytes; nothing when it cannot be
+/// read.
+[[nodiscard]] std::optional<std::string> readFile(const std::filesystem::path& path,
+                                                  std::size_t maximumSize = KeptFile::maximumSize);
+
+} // namespace orvelle::linux_platform

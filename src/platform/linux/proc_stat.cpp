@@ -1,0 +1,62 @@
+#include "platform/linux/proc_stat.h"
+
+#include "platform/linux/text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle::linux_platform {
+namespace {
+
+/// The counters of one line after its label: user nice system idle iowait irq softirq steal, in clock ticks.
+/// Old kernels stop early, so what is missing counts as 0.
+std::array<std::uint64_t, 8> takeCounters(std::string_view line) {
+    std::array<std::uint64_t, 8> counters{};
+    for (std::uint64_t& counter : counters)
+        counter = takeNumber<std::uint64_t>(line).value_or(0);
+    return counters;
+}
+
+CoreTicks ticksFrom(std::string_view line) {
+    const auto [user, nice, system, idle, ioWait, irq, softIrq, steal] = takeCounters(line);
+    const auto bounded = [](std::uint64_t ticks) { return std::min(ticks, CoreTicks::maximumTicks); };
+    return {.user = bounded(user),
+            .system = bounded(saturatingAdd(saturatingAdd(system, irq), softIrq)),
+            .idle = bounded(saturatingAdd(saturatingAdd(idle, ioWait), steal)),
+            .nice = bounded(nice)};
+}
+
+/// `cpu0`, `cpu17`, but not `cpu`, which sums them all.
+bool isCoreLabel(std::string_view label) {
+    return label.size() > 3 && label.starts_with("cpu") && label[3] >= '0' && label[3] <= '9';
+}
+
+} // namespace
+
+std::optional<ProcStat> parseProcStat(std::string_view text) {
+    ProcStat stat;
+    while (!text.empty()) {
+        std::string_view line = takeLine(text);
+        const std::string_view label = takeWord(line);
+        if (isCoreLabel(label))
+            stat.cores.push_back(ticksFrom(line));
+        else if (label == "btime")
+            stat.bootTime = takeNumber<std::int64_t>(line);
+    }
+    if (stat.cores.empty())
+        return std::nullopt;
+    return stat;
+}
+
+std::optional<std::array<double, 3>> parseLoadAverages(std::string_view text) {
+    std::array<double, 3> averages{};
+    for (double& average : averages) {
+        const std::optional<double> value = takeNumber<double>(text);
+        if (!value || !std::isfinite(*value) || *value < 0)
+            return std::nullopt;
+        average = *value;
+    }
+    return averages;
+}
+
+} // namespace orvelle::linux_platform

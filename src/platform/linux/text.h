@@ -1,0 +1,90 @@
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string_view>
+
+/// Reading of kernel text without copies. Nothing here trusts the text: a missing or malformed number is
+/// nothing, and a number beyond its type is the largest one.
+namespace orvelle::linux_platform {
+
+/// Cuts `text` at the first `separator` and returns the part before it; the separator is dropped. Without one
+/// the whole text is returned and `text` becomes empty.
+inline std::string_view takeUntil(std::string_view& text, char separator) {
+    const std::size_t end = text.find(separator);
+    const std::string_view part = text.substr(0, end);
+    text = end == std::string_view::npos ? std::string_view{} : text.substr(end + 1);
+    return part;
+}
+
+inline std::string_view takeLine(std::string_view& text) {
+    return takeUntil(text, '\n');
+}
+
+/// The next word of a line, leading blanks and tabs skipped; empty at the end of the line.
+inline std::string_view takeWord(std::string_view& line) {
+    constexpr std::string_view blanks = " \t";
+    const std::size_t start = line.find_first_not_of(blanks);
+    if (start == std::string_view::npos) {
+        line = {};
+        return {};
+    }
+    const std::size_t end = line.find_first_of(blanks, start);
+    const std::string_view word = line.substr(start, end - start);
+    line = end == std::string_view::npos ? std::string_view{} : line.substr(end);
+    return word;
+}
+
+/// `text` without blanks, tabs and line ends at either end.
+[[nodiscard]] inline std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r\n";
+    const std::size_t start = text.find_first_not_of(blanks);
+    if (start == std::string_view::npos)
+        return {};
+    return text.substr(start, text.find_last_not_of(blanks) - start + 1);
+}
+
+/// The number that `word` begins with; the largest of its type when it does not fit, nothing when there is
+/// none.
+template <class Number>
+requires std::integral<Number> || std::floating_point<Number>
+[[nodiscard]] std::optional<Number> parseNumber(std::string_view word) {
+    Number value{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error == std::errc::result_out_of_range)
+        return word.starts_with('-') ? std::numeric_limits<Number>::lowest()
+                                     : std::numeric_limits<Number>::max();
+    if (error != std::errc{})
+        return std::nullopt;
+    return value;
+}
+
+/// The next word of a line as a number.
+template <class Number>
+[[nodiscard]] std::optional<Number> takeNumber(std::string_view& line) {
+    return parseNumber<Number>(takeWord(line));
+}
+
+/// Sum that stays at the largest value instead of wrapping.
+[[nodiscard]] constexpr std::uint64_t saturatingAdd(std::uint64_t left, std::uint64_t right) {
+    return left > std::numeric_limits<std::uint64_t>::max() - right
+               ? std::numeric_limits<std::uint64_t>::max()
+               : left + right;
+}
+
+/// Product that stays at the largest value instead of wrapping.
+[[nodiscard]] constexpr std::uint64_t saturatingMultiply(std::uint64_t left, std::uint64_t right) {
+    return right != 0 && left > std::numeric_limits<std::uint64_t>::max() / right
+               ? std::numeric_limits<std::uint64_t>::max()
+               : left * right;
+}
+
+/// Difference that stays at 0 instead of wrapping.
+[[nodiscard]] constexpr std::uint64_t saturatingSubtract(std::uint64_t left, std::uint64_t right) {
+    return left > right ? left - right : 0;
+}
+
+} // namespace orvelle::linux_platform
