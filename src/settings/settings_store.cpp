@@ -1,1 +1,133 @@
 #include "settings/settings_store.h"
+
+#include "settings/settings_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace orvelle {
+namespace {
+
+/// Editors empty, rename and write in several steps; the file is read when they have come to rest.
+constexpr std::chrono::milliseconds settleTime{100};
+
+std::unique_ptr<SettingsStorage> openStorage(const QString& filePath) {
+    if (filePath.isEmpty())
+        return openUserSettings();
+    return std::make_unique<SettingsFile>(filePath);
+}
+
+} // namespace
+
+SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
+    : QObject(parent)
+    , m_storage(openStorage(filePath))
+    , m_settings{&m_showCPU,
+                 &m_showMemory,
+                 &m_showNetwork,
+                 &m_showDisk,
+                 &m_showBattery,
+                 &m_showSensors,
+                 &m_updateInterval,
+                 &m_cpuDisplayMode,
+                 &m_useFahrenheit,
+                 &m_compactMode,
+                 &m_colorTheme,
+                 &m_selectedThemeId,
+                 &m_graphLineStyle,
+                 &m_graphFillStyle,
+                 &m_barChartStyle,
+                 &m_ringChartStyle,
+                 &m_menuBarDisplayStyle,
+                 &m_animationSpeed,
+                 &m_glowIntensity,
+                 &m_useCustomCPUColor,
+                 &m_useCustomMemoryColor,
+                 &m_useCustomNetworkColor,
+                 &m_useCustomDiskColor,
+                 &m_useCustomBatteryColor,
+                 &m_useCustomSensorColor,
+                 &m_customCPUColorHex,
+                 &m_customMemoryColorHex,
+                 &m_customNetworkColorHex,
+                 &m_customDiskColorHex,
+                 &m_customBatteryColorHex,
+                 &m_customSensorColorHex,
+                 &m_launchAtLogin} {
+    m_reloadDelay.setSingleShot(true);
+    m_reloadDelay.setInterval(settleTime);
+    connect(&m_reloadDelay, &QTimer::timeout, this, &SettingsStore::reload);
+    const auto startDelay = [this] { m_reloadDelay.start(); };
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, startDelay);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, startDelay);
+    reload();
+}
+
+SettingsStore::~SettingsStore() = default;
+
+void SettingsStore::saveAndAnnounce(const AnySetting& setting) {
+    save();
+    Q_EMIT(this->*setting.changedSignal())();
+    Q_EMIT changed();
+}
+
+void SettingsStore::save() {
+    StoredValues values;
+    for (const AnySetting* setting : m_settings) {
+        if (setting->isUnsaved())
+            values.insert(setting->key(), setting->storedForm());
+    }
+    if (m_storage->write(values)) {
+        for (AnySetting* setting : m_settings) {
+            if (setting->isUnsaved())
+                setting->markSaved();
+        }
+    }
+    updateSaveFailed();
+    watch();
+}
+
+void SettingsStore::updateSaveFailed() {
+    const bool failed = std::ranges::any_of(m_settings, &AnySetting::isUnsaved);
+    if (std::exchange(m_saveFailed, failed) != failed)
+        Q_EMIT saveFailedChanged();
+}
+
+void SettingsStore::reload() {
+    watch();
+    QStringList keys;
+    for (const AnySetting* setting : m_settings)
+        keys.append(setting->key());
+    const std::optional<StoredValues> stored = m_storage->read(keys);
+    if (!stored)
+        return;
+
+    // Observers of one property may look at another: all of them are assigned before the first is announced.
+    std::vector<const AnySetting*> changedSettings;
+    for (AnySetting* setting : m_settings) {
+        if (setting->follow(stored->value(setting->key())))
+            changedSettings.push_back(setting);
+    }
+    updateSaveFailed();
+    for (const AnySetting* setting : changedSettings)
+        Q_EMIT(this->*setting->changedSignal())();
+    if (!changedSettings.empty())
+        Q_EMIT changed();
+}
+
+/// Watches the file and its folder: the file for writes in place, the folder because editors and this program
+/// replace the file, which ends the watch on the old one.
+void SettingsStore::watch() {
+    const QString filePath = m_storage->filePath();
+    const QString folder = QFileInfo(filePath).path();
+    if (!m_watcher.directories().contains(folder) && QDir().mkpath(folder))
+        m_watcher.addPath(folder);
+    if (!m_watcher.files().contains(filePath) && QFileInfo(filePath).isFile())
+        m_watcher.addPath(filePath);
+}
+
+} // namespace orvelle

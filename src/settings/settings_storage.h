@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+#include <optional>
+
+namespace orvelle {
+
+/// Stored values by their keys.
+using StoredValues = QHash<QString, QVariant>;
+
+/// Where settings are kept between runs. It shares the place with other programs and with people who edit it
+/// by hand: keys it is not asked to write keep their values.
+class SettingsStorage {
+public:
+    SettingsStorage() = default;
+    SettingsStorage(const SettingsStorage&) = delete;
+    SettingsStorage& operator=(const SettingsStorage&) = delete;
+    virtual ~SettingsStorage() = default;
+
+    /// What is stored now under those of `keys` that are stored; nothing when the place cannot be read.
+    [[nodiscard]] virtual std::optional<StoredValues> read(const QStringList& keys) = 0;
+    /// Stores booleans, numbers and texts at once; false when they could not be stored.
+    [[nodiscard]] virtual bool write(const StoredValues& values) = 0;
+    /// The file behind the storage, which changes when another program stores something.
+    [[nodiscard]] virtual QString filePath() const = 0;
+};
+
+/// The place where this operating system keeps the user's settings of this program.
+[[nodiscard]] std::unique_ptr<SettingsStorage> openUserSettings();
+
+} // namespace orvelle
