@@ -18,10 +18,8 @@ SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settin
     , m_cpu(*m_sources.processor, m_sources.now)
     , m_memory(*m_sources.memory) {}
 
-SystemMonitor::~SystemMonitor() = default;
-
 std::optional<double> SystemMonitor::activeInterval() const {
-    if (!m_timer)
+    if (m_timer == nullptr)
         return std::nullopt;
     return std::chrono::duration<double>(m_timer->intervalAsDuration()).count();
 }
@@ -29,14 +27,18 @@ std::optional<double> SystemMonitor::activeInterval() const {
 void SystemMonitor::start() {
     updateCycle();
     const double seconds = std::max(m_settings.updateInterval(), minimumIntervalSeconds);
-    m_timer = std::make_unique<QTimer>();
+    m_timer = new QTimer(this);
     m_timer->callOnTimeout(this, &SystemMonitor::updateCycle);
     m_timer->start(
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double>(seconds)));
 }
 
 void SystemMonitor::stop() {
-    m_timer.reset();
+    if (m_timer == nullptr)
+        return;
+    m_timer->stop();
+    m_timer->deleteLater(); // the call may come from within the timer's own cycle
+    m_timer = nullptr;
 }
 
 void SystemMonitor::restart() {

@@ -22,7 +22,6 @@ public:
     static constexpr double minimumIntervalSeconds = 3.0;
 
     SystemMonitor(MachineSources sources, const SettingsStore& settings, QObject* parent = nullptr);
-    ~SystemMonitor() override;
 
     [[nodiscard]] CPUMonitor& cpu() { return m_cpu; }
     [[nodiscard]] MemoryMonitor& memory() { return m_memory; }
@@ -32,7 +31,8 @@ public:
     /// The sampling interval in seconds, nothing while stopped.
     [[nodiscard]] std::optional<double> activeInterval() const;
 
-    /// Runs one update cycle at once, then one per effective interval. Stop first when already running.
+    /// Runs one update cycle at once, then one per effective interval. It leaves an earlier timer running:
+    /// a caller that starts again must stop first, as `restart` does.
     void start();
     void stop();
     /// Stops and starts again, so that a changed interval takes effect; this samples once more at once.
@@ -49,7 +49,7 @@ private:
     const SettingsStore& m_settings;
     CPUMonitor m_cpu;
     MemoryMonitor m_memory;
-    std::unique_ptr<QTimer> m_timer;
+    QTimer* m_timer = nullptr; ///< the latest timer, owned as a child; none while stopped
     qint64 m_updateCycleCount = 0;
 };
 

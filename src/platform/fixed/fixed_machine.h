@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/fixed/fixed_sources.h"
+
+namespace orvelle {
+
+/// A machine of fixed sources. Its members stay usable after `sources()` handed them to a `SystemMonitor`,
+/// for as long as that monitor lives.
+class FixedMachine {
+public:
+    FixedClock clock;
+    FixedProcessorSource* processor = nullptr;
+    FixedMemorySource* memory = nullptr;
+
+    [[nodiscard]] MachineSources sources() {
+        return {.now = clock.reader(), .processor = make(processor), .memory = make(memory)};
+    }
+
+private:
+    template <class Source>
+    static std::unique_ptr<Source> make(Source*& observer) {
+        auto source = std::make_unique<Source>();
+        observer = source.get();
+        return source;
+    }
+};
+
+} // namespace orvelle

@@ -1,0 +1,24 @@
+#include "core/metric_history.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle {
+namespace {
+
+TEST(MetricHistory, KeepsTheNewestSamplesOldestFirst) {
+    QList<double> history;
+    for (int sample = 0; sample < 61; ++sample)
+        MetricHistory::append(history, sample);
+    ASSERT_EQ(history.size(), 60);
+    EXPECT_EQ(history.first(), 1);
+    EXPECT_EQ(history.last(), 60);
+}
+
+TEST(MetricHistory, ShrinksALongerArrayToItsBound) {
+    QList<double> history{1, 2, 3, 4};
+    MetricHistory::append(history, 5, 2);
+    EXPECT_EQ(history, (QList<double>{4, 5}));
+}
+
+} // namespace
+} // namespace orvelle

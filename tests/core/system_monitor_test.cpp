@@ -1,0 +1,80 @@
+#include "core/system_monitor.h"
+#include "platform/fixed/fixed_machine.h"
+#include "settings/settings_store.h"
+
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <thread>
+
+namespace orvelle {
+namespace {
+
+class SystemMonitorTest : public ::testing::Test {
+protected:
+    [[nodiscard]] std::ptrdiff_t timerCount() const {
+        return std::ranges::count_if(monitor.findChildren<QTimer*>(), &QTimer::isActive);
+    }
+
+    QTemporaryDir directory;
+    SettingsStore settings{directory.filePath(QStringLiteral("settings.conf"))};
+    FixedMachine machine;
+    SystemMonitor monitor{machine.sources(), settings};
+};
+
+TEST_F(SystemMonitorTest, StartSamplesAtOnceAndAnnouncesTheChange) {
+    int announcements = 0;
+    QObject::connect(&monitor, &SystemMonitor::changed, &monitor, [&] { ++announcements; });
+    machine.memory->reading = MemoryReading{.pageSize = 1, .physicalMemory = 100};
+    monitor.start();
+    EXPECT_EQ(monitor.updateCycleCount(), 1);
+    EXPECT_EQ(announcements, 1);
+    EXPECT_EQ(monitor.memory().info().total, 100u);
+}
+
+TEST_F(SystemMonitorTest, NeverSamplesFasterThanEveryThreeSeconds) {
+    for (const auto& [setting, effective] :
+         {std::pair{1.0, 3.0}, {2.0, 3.0}, {3.0, 3.0}, {5.0, 5.0}, {10.0, 10.0}}) {
+        settings.setUpdateInterval(setting);
+        monitor.restart();
+        EXPECT_EQ(monitor.activeInterval(), effective) << setting;
+    }
+}
+
+TEST_F(SystemMonitorTest, RestartLeavesExactlyOneTimerAndSamplesOnceMore) {
+    monitor.start();
+    settings.setUpdateInterval(10);
+    monitor.restart();
+    EXPECT_EQ(timerCount(), 1);
+    EXPECT_EQ(monitor.updateCycleCount(), 2);
+}
+
+TEST_F(SystemMonitorTest, StartingTwiceWithoutStoppingLeavesTwoTimers) {
+    monitor.start();
+    monitor.start();
+    EXPECT_EQ(timerCount(), 2);
+}
+
+TEST_F(SystemMonitorTest, StopEndsSamplingAndKeepsTheCount) {
+    monitor.start();
+    monitor.stop();
+    EXPECT_EQ(timerCount(), 0);
+    EXPECT_EQ(monitor.activeInterval(), std::nullopt);
+    EXPECT_EQ(monitor.updateCycleCount(), 1);
+}
+
+TEST_F(SystemMonitorTest, AMachineThatAnswersNothingIsSurvived) {
+    monitor.updateCycle();
+    monitor.updateCycle();
+    EXPECT_EQ(monitor.updateCycleCount(), 2);
+    EXPECT_TRUE(monitor.cpu().usageHistory().isEmpty());
+}
+
+TEST_F(SystemMonitorTest, ACycleOffTheMainThreadStopsTheProcess) {
+    EXPECT_DEATH(std::thread([this] { monitor.updateCycle(); }).join(), "main thread");
+}
+
+} // namespace
+} // namespace orvelle
