@@ -1,5 +1,3 @@
-#include "platform/linux/linux_machine.h"
-
 #include "platform/host.h"
 #include "platform/linux/linux_memory_source.h"
 #include "platform/linux/linux_processor_source.h"
@@ -28,7 +26,7 @@ MachineSources makeSources(const std::filesystem::path& root, WallClock now, std
 
 } // namespace
 
-MachineSources makeLinuxSources(const std::filesystem::path& root, WallClock now) {
+MachineSources makeTreeSources(const std::filesystem::path& root, WallClock now) {
     return makeSources(root, std::move(now), usualPageSize);
 }
 

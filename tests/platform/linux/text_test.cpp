@@ -1,0 +1,42 @@
+#include "platform/linux/text.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle::linux_platform {
+namespace {
+
+TEST(Text, LinesAndWordsAreTakenInTurn) {
+    std::string_view text = "  one\ttwo \nthree";
+    std::string_view line = takeLine(text);
+    EXPECT_EQ(takeWord(line), "one");
+    EXPECT_EQ(takeWord(line), "two");
+    EXPECT_EQ(takeWord(line), "");
+    EXPECT_EQ(takeLine(text), "three");
+    EXPECT_EQ(takeLine(text), "");
+    EXPECT_TRUE(text.empty());
+}
+
+TEST(Text, NumbersThatDoNotFitAreTheLargestOfTheirType) {
+    EXPECT_EQ(parseNumber<std::uint64_t>("18446744073709551616"), ~std::uint64_t{0});
+    EXPECT_EQ(parseNumber<int>("-99999999999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(parseNumber<int>("42kB"), 42);
+    EXPECT_EQ(parseNumber<int>(""), std::nullopt);
+    EXPECT_EQ(parseNumber<std::uint64_t>("-1"), std::nullopt);
+}
+
+TEST(Text, SaturatingArithmeticStaysAtItsLimits) {
+    constexpr std::uint64_t largest = ~std::uint64_t{0};
+    EXPECT_EQ(saturatingAdd(largest, 1), largest);
+    EXPECT_EQ(saturatingAdd(1, 2), 3u);
+    EXPECT_EQ(saturatingMultiply(largest, 2), largest);
+    EXPECT_EQ(saturatingMultiply(3, 0), 0u);
+    EXPECT_EQ(saturatingSubtract(1, 2), 0u);
+}
+
+TEST(Text, TrimmingTakesBlanksFromBothEnds) {
+    EXPECT_EQ(trimmed(" \t a b \n"), "a b");
+    EXPECT_EQ(trimmed(" \n"), "");
+}
+
+} // namespace
+} // namespace orvelle::linux_platform
