@@ -1,0 +1,33 @@
+// orvelle-probe: prints what the monitors publish as one JSON object, for tests and bug reports.
+
+#include "probe/probe_session.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int exitUnreadable = 1;
+constexpr int exitUsage = 2;
+
+int fail(const QString& message, int status) {
+    std::fprintf(stderr, "orvelle-probe: %s\n", qUtf8Printable(message));
+    return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char** argumentValues) {
+    const QCoreApplication application(argumentCount, argumentValues);
+    const auto arguments = orvelle::parseProbeArguments(QCoreApplication::arguments());
+    if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
+        return fail(error->message, exitUsage);
+    const auto result = orvelle::probe(std::get<orvelle::ProbeArguments>(arguments));
+    if (const auto* error = std::get_if<orvelle::UnreadableRoot>(&result))
+        return fail(error->message, exitUnreadable);
+    const QByteArray text = QJsonDocument(std::get<QJsonObject>(result)).toJson();
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    return 0;
+}

@@ -1,0 +1,47 @@
+#include "probe/probe_arguments.h"
+
+#include <QCommandLineParser>
+
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+constexpr double maximumStepSeconds = 86400;
+constexpr int maximumCycles = 1'000'000;
+
+const QString usage = QStringLiteral("usage: orvelle-probe [--root DIR]... [--step SECONDS] [--cycles N]");
+
+UsageError usageError(const QString& reason) {
+    return {reason + QLatin1Char('\n') + usage};
+}
+
+} // namespace
+
+std::variant<ProbeArguments, UsageError> parseProbeArguments(const QStringList& commandLine) {
+    const QCommandLineOption root(QStringLiteral("root"), {}, QStringLiteral("DIR"));
+    const QCommandLineOption step(QStringLiteral("step"), {}, QStringLiteral("SECONDS"), QStringLiteral("3"));
+    const QCommandLineOption cycles(QStringLiteral("cycles"), {}, QStringLiteral("N"), QStringLiteral("2"));
+    QCommandLineParser parser;
+    parser.addOptions({root, step, cycles});
+    if (!parser.parse(commandLine))
+        return usageError(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        return usageError(
+            QStringLiteral("Unexpected argument \"%1\"").arg(parser.positionalArguments().first()));
+
+    ProbeArguments arguments{.roots = parser.values(root)};
+    bool isNumber = false;
+    arguments.stepSeconds = parser.value(step).toDouble(&isNumber);
+    if (!isNumber || !(arguments.stepSeconds > 0) || arguments.stepSeconds > maximumStepSeconds)
+        return usageError(
+            QStringLiteral("--step takes seconds above 0 and up to %1").arg(maximumStepSeconds));
+    arguments.cycles = parser.value(cycles).toInt(&isNumber);
+    if (!isNumber || arguments.cycles < 1 || arguments.cycles > maximumCycles)
+        return usageError(QStringLiteral("--cycles takes a number from 1 to %1").arg(maximumCycles));
+    if (parser.isSet(cycles) && !arguments.roots.isEmpty())
+        return usageError(QStringLiteral("--cycles does not go with --root: each root is one cycle"));
+    return arguments;
+}
+
+} // namespace orvelle
