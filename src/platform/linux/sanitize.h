@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvelle::linux_platform {
+
+/// A name from the kernel made fit to be shown: valid UTF-8 on one line. Names of mounts, interfaces,
+/// processes and devices may hold any byte, also such as would break a row in two or turn the text around
+/// them. Bytes that are not UTF-8 become U+FFFD, control characters and line separators become blanks, and
+/// characters that change the direction of the text are left out. Any other name is returned as it is.
+[[nodiscard]] std::string sanitizedName(std::string_view name);
+
+} // namespace orvelle::linux_platform

@@ -1,0 +1,71 @@
+#include "platform/linux/sanitize.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle::linux_platform {
+namespace {
+
+TEST(SanitizedName, LeavesAnOrdinaryNameAsItIs) {
+    EXPECT_EQ(sanitizedName(""), "");
+    EXPECT_EQ(sanitizedName("eth0"), "eth0");
+    EXPECT_EQ(sanitizedName("/media/B\xC3\xBC"
+                            "cher \xE6\x9C\xAC \xF0\x9F\x92\xBE"),
+              "/media/B\xC3\xBC"
+              "cher \xE6\x9C\xAC \xF0\x9F\x92\xBE");
+}
+
+TEST(SanitizedName, PutsEverythingOnOneLineWithoutControlCharacters) {
+    EXPECT_EQ(sanitizedName("a\nb\tc\x1B[1m\x7F"
+                            "d"),
+              "a b c [1m d");
+    EXPECT_EQ(sanitizedName("a\xC2\x85"
+                            "b\xC2\x9B"
+                            "c"),
+              "a b c"); // U+0085, U+009B
+    EXPECT_EQ(sanitizedName("a\xE2\x80\xA8"
+                            "b\xE2\x80\xA9"
+                            "c"),
+              "a b c"); // U+2028, U+2029
+    EXPECT_EQ(sanitizedName(std::string_view("a\0b", 3)), "a b");
+}
+
+TEST(SanitizedName, LeavesOutWhatTurnsTheTextAround) {
+    EXPECT_EQ(sanitizedName("gpj\xE2\x80\xAE"
+                            "exe"),
+              "gpjexe"); // U+202E
+    EXPECT_EQ(sanitizedName("\xE2\x80\x8E"
+                            "a\xE2\x80\x8F\xD8\x9C"
+                            "b"),
+              "ab"); // U+200E, U+200F, U+061C
+    EXPECT_EQ(sanitizedName("\xE2\x81\xA6"
+                            "a\xE2\x81\xA9"),
+              "a");                                           // U+2066, U+2069
+    EXPECT_EQ(sanitizedName("\xE2\x80\x90"), "\xE2\x80\x90"); // U+2010, a hyphen
+}
+
+TEST(SanitizedName, ReplacesEachByteThatIsNotUtf8) {
+    const std::string replaced = "\xEF\xBF\xBD";
+    EXPECT_EQ(sanitizedName("a\xFF"
+                            "b"),
+              "a" + replaced + "b");
+    EXPECT_EQ(sanitizedName("a\x80"), "a" + replaced);
+    EXPECT_EQ(sanitizedName("a\xE6\x9C"), "a" + replaced + replaced);         // cut off at the end
+    EXPECT_EQ(sanitizedName("\xC3z"), replaced + "z");                        // not continued
+    EXPECT_EQ(sanitizedName("\xC0\xAF"), replaced + replaced);                // a longer spelling of '/'
+    EXPECT_EQ(sanitizedName("\xE0\x80\x8A"), replaced + replaced + replaced); // and of a line feed
+    EXPECT_EQ(sanitizedName("\xED\xA0\x80"), replaced + replaced + replaced); // half of a surrogate pair
+    EXPECT_EQ(sanitizedName("\xF4\x90\x80\x80"),
+              replaced + replaced + replaced + replaced); // beyond U+10FFFF
+}
+
+TEST(SanitizedName, SurvivesAMegabyteOfAnything) {
+    std::string name;
+    for (std::size_t index = 0; index < (std::size_t{1} << 20); ++index)
+        name += static_cast<char>((index * 2654435761U) >> 13);
+    const std::string sanitized = sanitizedName(name);
+    EXPECT_EQ(sanitizedName(sanitized), sanitized);
+    EXPECT_EQ(sanitized.find('\n'), std::string::npos);
+}
+
+} // namespace
+} // namespace orvelle::linux_platform
