@@ -40,4 +40,13 @@ public:
     [[nodiscard]] std::optional<MemoryReading> read() override { return reading; }
 };
 
+class FixedProcessSource final : public ProcessSource {
+public:
+    std::optional<std::uint64_t> totalMemory;
+    std::optional<std::vector<ProcessRecord>> processes;
+
+    [[nodiscard]] std::optional<std::uint64_t> readTotalMemory() override { return totalMemory; }
+    [[nodiscard]] std::optional<std::span<const ProcessRecord>> readProcesses() override { return processes; }
+};
+
 } // namespace orvelle
