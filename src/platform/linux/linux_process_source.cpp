@@ -1,0 +1,131 @@
+#include "platform/linux/linux_process_source.h"
+
+#include "platform/linux/kept_file.h"
+#include "platform/linux/meminfo.h"
+#include "platform/linux/process_clock.h"
+#include "platform/linux/text.h"
+
+#include <functional>
+
+namespace orvelle::linux_platform {
+namespace {
+
+/// An idle process can lose resident pages without running, so one idle process in so many is read in every
+/// sample, each in its turn.
+constexpr std::size_t idleProcessesPerRead = 34;
+
+constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
+
+std::uint64_t bounded(std::uint64_t nanoseconds) {
+    return std::min(nanoseconds, ProcessRecord::maximumNanoseconds);
+}
+
+} // namespace
+
+LinuxProcessSource::LinuxProcessSource(const std::filesystem::path& root, ProcessTimesFrom timesFrom,
+                                       ProcessUnits units)
+    : m_meminfoPath(root / "proc/meminfo")
+    , m_timesFrom(timesFrom)
+    , m_units(units)
+    , m_files(root)
+    , m_newestPid(root) {}
+
+std::optional<std::uint64_t> LinuxProcessSource::readTotalMemory() {
+    const std::optional<std::string> text = readFile(m_meminfoPath);
+    const std::optional<Meminfo> meminfo = text ? parseMeminfo(*text) : std::nullopt;
+    if (!meminfo)
+        return std::nullopt;
+    return meminfo->total;
+}
+
+std::optional<std::span<const ProcessRecord>> LinuxProcessSource::readProcesses() {
+    if (!m_files.open())
+        return std::nullopt;
+    refreshKnownProcesses();
+    if (m_timesFrom == ProcessTimesFrom::processClocks)
+        findNewProcesses(m_searchPlan.next(m_newestPid.read(), m_table.records().size()));
+    else
+        findNewProcesses({.wholeListing = true});
+    return std::span(m_table.records());
+}
+
+void LinuxProcessSource::refreshKnownProcesses() {
+    if (m_timesFrom == ProcessTimesFrom::statFiles) {
+        m_table.keepIf([this](std::size_t, ProcessRecord& record, ProcessLife& life) {
+            return refreshByStat(record, life);
+        });
+        return;
+    }
+    const std::size_t count = m_table.records().size();
+    if (m_idleTurn >= count)
+        m_idleTurn = 0;
+    const std::size_t turnEnd = m_idleTurn + (count + idleProcessesPerRead - 1) / idleProcessesPerRead;
+    m_table.keepIf([this, turnEnd](std::size_t index, ProcessRecord& record, ProcessLife& life) {
+        return refreshByClock(record, life, index >= m_idleTurn && index < turnEnd);
+    });
+    m_idleTurn = turnEnd;
+}
+
+bool LinuxProcessSource::refreshByClock(ProcessRecord& record, ProcessLife& life, bool isIdleTurn) {
+    const std::optional<std::uint64_t> time = readProcessClock(record.pid);
+    if (!time)
+        return false;
+    const bool hasRun = bounded(*time) != record.userNanoseconds;
+    record.userNanoseconds = bounded(*time);
+    return !(hasRun || isIdleTurn) || refreshByStat(record, life);
+}
+
+bool LinuxProcessSource::refreshByStat(ProcessRecord& record, ProcessLife& life) {
+    const std::optional<std::string_view> text = m_files.readStat(record.pid);
+    const std::optional<ProcessStat> stat = text ? parseProcessStat(*text) : std::nullopt;
+    if (!stat || !isRunning(*stat))
+        return false;
+    if (m_timesFrom == ProcessTimesFrom::statFiles) {
+        record.userNanoseconds = nanoseconds(stat->userTicks);
+        record.systemNanoseconds = nanoseconds(stat->systemTicks);
+    }
+    record.residentBytes = saturatingMultiply(stat->residentPages, m_units.pageSize);
+    takeName(record, life, *stat);
+    return true;
+}
+
+void LinuxProcessSource::takeName(ProcessRecord& record, ProcessLife& life, const ProcessStat& stat) {
+    const ProcessLife present{.startTime = stat.startTime,
+                              .commHash = std::hash<std::string_view>{}(stat.comm)};
+    if (life == present)
+        return;
+    life = present;
+    // The path takes the place of the text that `stat.comm` points into.
+    const std::string comm(stat.comm);
+    const std::optional<std::string_view> path =
+        isKernelThread(stat) ? std::nullopt : m_files.readExecutablePath(record.pid);
+    record.name = processName(path.value_or(std::string_view{}), comm);
+}
+
+void LinuxProcessSource::findNewProcesses(const NewProcessSearch& search) {
+    if (search.wholeListing) {
+        for (const std::int32_t pid : m_files.list())
+            addIfNew(pid);
+        return;
+    }
+    for (std::int32_t pid = search.first; pid <= search.last; ++pid)
+        addIfNew(pid);
+}
+
+void LinuxProcessSource::addIfNew(std::int32_t pid) {
+    if (m_table.contains(pid))
+        return;
+    ProcessRecord record;
+    record.pid = pid;
+    ProcessLife life;
+    const bool isProcess = m_timesFrom == ProcessTimesFrom::processClocks ? refreshByClock(record, life, true)
+                                                                          : refreshByStat(record, life);
+    if (isProcess)
+        m_table.insert(std::move(record), life);
+}
+
+std::uint64_t LinuxProcessSource::nanoseconds(std::uint64_t ticks) const {
+    return bounded(saturatingMultiply(ticks, nanosecondsPerSecond / m_units.ticksPerSecond));
+}
+
+} // namespace orvelle::linux_platform
