@@ -10,13 +10,19 @@
 #include <chrono>
 
 namespace orvelle {
+namespace {
+
+constexpr qint64 cyclesPerProcessUpdate = 3;
+
+} // namespace
 
 SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settings, QObject* parent)
     : QObject(parent)
     , m_sources(std::move(sources))
     , m_settings(settings)
     , m_cpu(*m_sources.processor, m_sources.now)
-    , m_memory(*m_sources.memory) {}
+    , m_memory(*m_sources.memory)
+    , m_process(*m_sources.process, m_sources.now) {}
 
 std::optional<double> SystemMonitor::activeInterval() const {
     if (m_timer == nullptr)
@@ -56,6 +62,8 @@ void SystemMonitor::updateCycle() {
     m_cpu.updateUptime();
     m_memory.update();
     m_updateCycleCount = checkedAdd(m_updateCycleCount, qint64{1});
+    if (m_updateCycleCount % cyclesPerProcessUpdate == 1)
+        m_process.update();
     Q_EMIT changed();
 }
 

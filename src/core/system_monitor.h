@@ -2,6 +2,7 @@
 
 #include "core/cpu_monitor.h"
 #include "core/memory_monitor.h"
+#include "core/process_monitor.h"
 #include "core/sources/machine_sources.h"
 
 #include <QObject>
@@ -25,6 +26,7 @@ public:
 
     [[nodiscard]] CPUMonitor& cpu() { return m_cpu; }
     [[nodiscard]] MemoryMonitor& memory() { return m_memory; }
+    [[nodiscard]] ProcessMonitor& process() { return m_process; }
 
     /// Update cycles completed since construction; stopping does not reset it.
     [[nodiscard]] qint64 updateCycleCount() const { return m_updateCycleCount; }
@@ -37,7 +39,8 @@ public:
     void stop();
     /// Stops and starts again, so that a changed interval takes effect; this samples once more at once.
     void restart();
-    /// Samples every monitor once, in a fixed order, then announces the change.
+    /// Samples every monitor once, in a fixed order, then announces the change. The processes, which cost
+    /// most, are sampled in the first cycle and in every third one after it.
     void updateCycle();
 
 Q_SIGNALS:
@@ -49,6 +52,7 @@ private:
     const SettingsStore& m_settings;
     CPUMonitor m_cpu;
     MemoryMonitor m_memory;
+    ProcessMonitor m_process;
     QTimer* m_timer = nullptr; ///< the latest timer, owned as a child; none while stopped
     qint64 m_updateCycleCount = 0;
 };

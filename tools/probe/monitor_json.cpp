@@ -49,7 +49,8 @@ QJsonObject jsonFromMonitor(const QObject& monitor) {
 QJsonObject publishedValues(SystemMonitor& monitor) {
     return {{QStringLiteral("updateCycleCount"), monitor.updateCycleCount()},
             {QStringLiteral("cpu"), jsonFromMonitor(monitor.cpu())},
-            {QStringLiteral("memory"), jsonFromMonitor(monitor.memory())}};
+            {QStringLiteral("memory"), jsonFromMonitor(monitor.memory())},
+            {QStringLiteral("process"), jsonFromMonitor(monitor.process())}};
 }
 
 } // namespace orvelle

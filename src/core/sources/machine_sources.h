@@ -2,6 +2,7 @@
 
 #include "core/sources/clock.h"
 #include "core/sources/memory_source.h"
+#include "core/sources/process_source.h"
 #include "core/sources/processor_source.h"
 
 #include <memory>
@@ -13,6 +14,7 @@ struct MachineSources {
     WallClock now;
     std::unique_ptr<ProcessorSource> processor;
     std::unique_ptr<MemorySource> memory;
+    std::unique_ptr<ProcessSource> process;
 };
 
 } // namespace orvelle

@@ -11,9 +11,13 @@ public:
     FixedClock clock;
     FixedProcessorSource* processor = nullptr;
     FixedMemorySource* memory = nullptr;
+    FixedProcessSource* process = nullptr;
 
     [[nodiscard]] MachineSources sources() {
-        return {.now = clock.reader(), .processor = make(processor), .memory = make(memory)};
+        return {.now = clock.reader(),
+                .processor = make(processor),
+                .memory = make(memory),
+                .process = make(process)};
     }
 
 private:

@@ -45,6 +45,22 @@ private:
     MomentsPointer m_moments;
 };
 
+class ReplayProcessSource final : public ProcessSource {
+public:
+    explicit ReplayProcessSource(MomentsPointer moments)
+        : m_moments(std::move(moments)) {}
+
+    [[nodiscard]] std::optional<std::uint64_t> readTotalMemory() override {
+        return m_moments->now().process->readTotalMemory();
+    }
+    [[nodiscard]] std::optional<std::span<const ProcessRecord>> readProcesses() override {
+        return m_moments->now().process->readProcesses();
+    }
+
+private:
+    MomentsPointer m_moments;
+};
+
 } // namespace
 
 ReplayMachine::ReplayMachine(std::vector<MachineSources> moments)
@@ -53,7 +69,8 @@ ReplayMachine::ReplayMachine(std::vector<MachineSources> moments)
 MachineSources ReplayMachine::sources(WallClock now) const {
     return {.now = std::move(now),
             .processor = std::make_unique<ReplayProcessorSource>(m_moments),
-            .memory = std::make_unique<ReplayMemorySource>(m_moments)};
+            .memory = std::make_unique<ReplayMemorySource>(m_moments),
+            .process = std::make_unique<ReplayProcessSource>(m_moments)};
 }
 
 std::size_t ReplayMachine::momentCount() const {

@@ -1,6 +1,8 @@
 #include "platform/host.h"
 #include "platform/linux/linux_memory_source.h"
+#include "platform/linux/linux_process_source.h"
 #include "platform/linux/linux_processor_source.h"
+#include "platform/linux/process_clock.h"
 
 #include <unistd.h>
 
@@ -9,29 +11,39 @@ namespace {
 
 using namespace linux_platform;
 
-/// Page size of a machine that is only a tree of files: it tells no other, and this is by far the most
-/// common.
-constexpr std::uint64_t usualPageSize = 4096;
-
-std::uint64_t hostPageSize() {
-    const long size = ::sysconf(_SC_PAGESIZE);
-    return size > 0 ? static_cast<std::uint64_t>(size) : usualPageSize;
+/// What the running system says of itself; `otherwise` should it not know.
+std::uint64_t hostSetting(int name, std::uint64_t otherwise) {
+    const long value = ::sysconf(name);
+    return value > 0 ? static_cast<std::uint64_t>(value) : otherwise;
 }
 
-MachineSources makeSources(const std::filesystem::path& root, WallClock now, std::uint64_t pageSize) {
+/// The units of a machine that is only a tree of files are the usual ones.
+constexpr ProcessUnits usualUnits;
+
+ProcessUnits hostUnits() {
+    return {.pageSize = hostSetting(_SC_PAGESIZE, usualUnits.pageSize),
+            .ticksPerSecond = hostSetting(_SC_CLK_TCK, usualUnits.ticksPerSecond)};
+}
+
+MachineSources makeSources(const std::filesystem::path& root, WallClock now, ProcessTimesFrom timesFrom,
+                           const ProcessUnits& units) {
     return {.now = std::move(now),
             .processor = std::make_unique<LinuxProcessorSource>(root),
-            .memory = std::make_unique<LinuxMemorySource>(root, pageSize)};
+            .memory = std::make_unique<LinuxMemorySource>(root, units.pageSize),
+            .process = std::make_unique<LinuxProcessSource>(root, timesFrom, units)};
 }
 
 } // namespace
 
 MachineSources makeTreeSources(const std::filesystem::path& root, WallClock now) {
-    return makeSources(root, std::move(now), usualPageSize);
+    return makeSources(root, std::move(now), ProcessTimesFrom::statFiles, usualUnits);
 }
 
 MachineSources makeHostSources() {
-    return makeSources("/", std::chrono::system_clock::now, hostPageSize());
+    const std::filesystem::path root = "/";
+    const ProcessTimesFrom timesFrom =
+        clocksTellOfListedProcesses(root) ? ProcessTimesFrom::processClocks : ProcessTimesFrom::statFiles;
+    return makeSources(root, std::chrono::system_clock::now, timesFrom, hostUnits());
 }
 
 } // namespace orvelle
