@@ -49,4 +49,29 @@ public:
     [[nodiscard]] std::optional<std::span<const ProcessRecord>> readProcesses() override { return processes; }
 };
 
+class FixedBatterySource final : public BatterySource {
+public:
+    std::optional<std::vector<std::optional<PowerSourceDescription>>> powerSources;
+    std::optional<SmartBatteryProperties> smartBattery;
+
+    [[nodiscard]] std::optional<std::vector<std::optional<PowerSourceDescription>>>
+    readPowerSources() override {
+        return powerSources;
+    }
+    [[nodiscard]] std::optional<SmartBatteryProperties> readSmartBattery() override { return smartBattery; }
+};
+
+class FixedSensorSource final : public SensorSource {
+public:
+    std::optional<double> cpuTemperature;
+    std::optional<double> gpuTemperature;
+    std::vector<NamedTemperature> sensors;
+    std::vector<std::int64_t> fanSpeeds;
+
+    [[nodiscard]] std::optional<double> readCPUTemperature() override { return cpuTemperature; }
+    [[nodiscard]] std::optional<double> readGPUTemperature() override { return gpuTemperature; }
+    [[nodiscard]] std::vector<NamedTemperature> readSensors() override { return sensors; }
+    [[nodiscard]] std::vector<std::int64_t> readFanSpeeds() override { return fanSpeeds; }
+};
+
 } // namespace orvelle
