@@ -1,7 +1,6 @@
 #include "settings/hex_color.h"
 
 #include <QTextBoundaryFinder>
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <cctype>
@@ -36,8 +35,8 @@ std::optional<uint> scanHexadecimal(QStringView text) {
 }
 
 /// A colour keeps 16 bits per component, where 8-bit steps are 257 apart; whole numbers make the cut exact.
-int steps255(quint16 component) {
-    return component / 257;
+uint steps255(quint16 component) {
+    return component / 257U;
 }
 
 } // namespace
@@ -45,8 +44,7 @@ int steps255(quint16 component) {
 std::optional<QColor> hexToColor(const QString& text) {
     QString digits = text.trimmed();
     digits.remove(u'#');
-    // The length is tested first: counting characters costs time, and a character may be many units long.
-    if (digits.size() < digitCount || characterCount(digits) != digitCount)
+    if (characterCount(digits) != digitCount)
         return std::nullopt;
     const std::optional<uint> number = scanHexadecimal(digits);
     return number ? std::optional(QColor(QRgb{*number})) : std::nullopt;
@@ -56,8 +54,8 @@ QString colorToHex(const QColor& color) {
     if (!color.isValid())
         return QStringLiteral("#FFFFFF");
     const QRgba64 components = color.rgba64();
-    return QString::fromStdString(fmt::format("#{:02X}{:02X}{:02X}", steps255(components.red()),
-                                              steps255(components.green()), steps255(components.blue())));
+    return QString::asprintf("#%02X%02X%02X", steps255(components.red()), steps255(components.green()),
+                             steps255(components.blue()));
 }
 
 } // namespace orvelle

@@ -61,9 +61,15 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     m_reloadDelay.setSingleShot(true);
     m_reloadDelay.setInterval(settleTime);
     connect(&m_reloadDelay, &QTimer::timeout, this, &SettingsStore::reload);
-    const auto startDelay = [this] { m_reloadDelay.start(); };
+    // Not started anew by each event: a folder that is never at rest would keep the file from being read.
+    const auto startDelay = [this] {
+        if (!m_reloadDelay.isActive())
+            m_reloadDelay.start();
+    };
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, startDelay);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, startDelay);
+    // A folder that is missing cannot be watched.
+    QDir().mkpath(QFileInfo(m_storage->filePath()).path());
     reload();
 }
 
@@ -124,7 +130,7 @@ void SettingsStore::reload() {
 void SettingsStore::watch() {
     const QString filePath = m_storage->filePath();
     const QString folder = QFileInfo(filePath).path();
-    if (!m_watcher.directories().contains(folder) && QDir().mkpath(folder))
+    if (!m_watcher.directories().contains(folder) && QFileInfo(folder).isDir())
         m_watcher.addPath(folder);
     if (!m_watcher.files().contains(filePath) && QFileInfo(filePath).isFile())
         m_watcher.addPath(filePath);
