@@ -1,0 +1,279 @@
+#include "settings/settings_store.h"
+#include "settings/temporary_settings.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QMetaProperty>
+#include <QSignalSpy>
+
+#include <clocale>
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace orvelle {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct Row {
+    const char* key;
+    const char* typeName;
+    QVariant defaultValue; ///< an enumeration's case by its name
+    QVariant otherValue;
+    QByteArray otherText; ///< how the other value stands in the file
+};
+
+const QList<Row>& table() {
+    static const QList<Row> rows{
+        {"showCPU", "bool", true, false, "false"},
+        {"showMemory", "bool", true, false, "false"},
+        {"showNetwork", "bool", true, false, "false"},
+        {"showDisk", "bool", false, true, "true"},
+        {"showBattery", "bool", true, false, "false"},
+        {"showSensors", "bool", false, true, "true"},
+        {"updateInterval", "double", 3.0, 10.0, "10"},
+        {"cpuDisplayMode", "orvelle::SettingsStore::CPUDisplayMode", u"barChart"_s, u"percentage"_s,
+         "percentage"},
+        {"useFahrenheit", "bool", false, true, "true"},
+        {"compactMode", "bool", false, true, "true"},
+        {"colorTheme", "orvelle::SettingsStore::ColorTheme", u"standard"_s, u"monochrome"_s, "monochrome"},
+        {"selectedThemeId", "QString", u"midnight"_s, u"nord"_s, "nord"},
+        {"graphLineStyle", "orvelle::GraphLineStyle", u"smooth"_s, u"dotted"_s, "dotted"},
+        {"graphFillStyle", "orvelle::GraphFillStyle", u"gradient"_s, u"striped"_s, "striped"},
+        {"barChartStyle", "orvelle::BarChartStyle", u"rounded"_s, u"thinLine"_s, "thinLine"},
+        {"ringChartStyle", "orvelle::RingChartStyle", u"fullRing"_s, u"pieChart"_s, "pieChart"},
+        {"menuBarDisplayStyle", "orvelle::MenuBarDisplayStyle", u"miniBars"_s, u"dotIndicator"_s,
+         "dotIndicator"},
+        {"animationSpeed", "orvelle::AnimationSpeed", u"normal"_s, u"instant"_s, "instant"},
+        {"glowIntensity", "orvelle::GlowIntensity", u"medium"_s, u"intense"_s, "intense"},
+        {"useCustomCPUColor", "bool", false, true, "true"},
+        {"useCustomMemoryColor", "bool", false, true, "true"},
+        {"useCustomNetworkColor", "bool", false, true, "true"},
+        {"useCustomDiskColor", "bool", false, true, "true"},
+        {"useCustomBatteryColor", "bool", false, true, "true"},
+        {"useCustomSensorColor", "bool", false, true, "true"},
+        {"customCPUColorHex", "QString", u""_s, u"#FF8000"_s, "#FF8000"},
+        {"customMemoryColorHex", "QString", u""_s, u"#FF8001"_s, "#FF8001"},
+        {"customNetworkColorHex", "QString", u""_s, u"#FF8002"_s, "#FF8002"},
+        {"customDiskColorHex", "QString", u""_s, u"#FF8003"_s, "#FF8003"},
+        {"customBatteryColorHex", "QString", u""_s, u"#FF8004"_s, "#FF8004"},
+        {"customSensorColorHex", "QString", u""_s, u"#FF8005"_s, "#FF8005"},
+        {"launchAtLogin", "bool", false, true, "true"},
+    };
+    return rows;
+}
+
+QMetaProperty propertyOf(const SettingsStore& store, const Row& row) {
+    const QMetaObject* meta = store.metaObject();
+    return meta->property(meta->indexOfProperty(row.key));
+}
+
+/// Enumerations read as the names of their cases, everything else as it is.
+QVariant valueOf(const SettingsStore& store, const Row& row) {
+    const QVariant value = propertyOf(store, row).read(&store);
+    return propertyOf(store, row).isEnumType() ? QVariant(value.toString()) : value;
+}
+
+bool setValue(SettingsStore& store, const Row& row, QVariant value) {
+    const QMetaProperty property = propertyOf(store, row);
+    return value.convert(property.metaType()) && property.write(&store, value);
+}
+
+class SettingsStoreTest : public ::testing::Test {
+protected:
+    TemporarySettings settings;
+};
+
+TEST_F(SettingsStoreTest, AFreshStoreHasExactlyTheTablesPropertiesAtTheirDefaults) {
+    const SettingsStore store(settings.path());
+    ASSERT_EQ(table().size(), 32);
+    for (const Row& row : table()) {
+        ASSERT_GE(store.metaObject()->indexOfProperty(row.key), 0) << row.key;
+        EXPECT_STREQ(propertyOf(store, row).typeName(), row.typeName);
+        EXPECT_TRUE(propertyOf(store, row).hasNotifySignal()) << row.key;
+        EXPECT_EQ(valueOf(store, row), row.defaultValue) << row.key;
+    }
+    const int own = store.metaObject()->propertyCount() - QObject::staticMetaObject.propertyCount();
+    EXPECT_EQ(own, 33) << "the table and saveFailed";
+    EXPECT_FALSE(store.saveFailed());
+}
+
+TEST_F(SettingsStoreTest, DefaultsAreNotWritten) {
+    const SettingsStore store(settings.path());
+    EXPECT_FALSE(QFile::exists(settings.path()));
+}
+
+TEST_F(SettingsStoreTest, EachPropertyIsStoredUnderItsNameAndComesBack) {
+    for (const Row& row : table()) {
+        {
+            SettingsStore store(settings.path());
+            ASSERT_TRUE(setValue(store, row, row.otherValue)) << row.key;
+            EXPECT_EQ(valueOf(store, row), row.otherValue) << row.key;
+            EXPECT_FALSE(store.saveFailed());
+        }
+        EXPECT_TRUE(settings.text().contains('\n' + QByteArray(row.key) + '=' + row.otherText + '\n'))
+            << row.key;
+    }
+    const SettingsStore store(settings.path());
+    for (const Row& row : table())
+        EXPECT_EQ(valueOf(store, row), row.otherValue) << row.key;
+    EXPECT_EQ(settings.text().count('\n'), 33) << settings.text().toStdString();
+}
+
+TEST_F(SettingsStoreTest, SettingOnePropertyAnnouncesItOnceAndNoOther) {
+    SettingsStore store(settings.path());
+    for (const Row& row : table()) {
+        std::vector<std::unique_ptr<QSignalSpy>> spies;
+        for (const Row& each : table())
+            spies.push_back(std::make_unique<QSignalSpy>(&store, propertyOf(store, each).notifySignal()));
+        QSignalSpy changed(&store, &SettingsStore::changed);
+        ASSERT_TRUE(setValue(store, row, row.otherValue));
+        for (qsizetype index = 0; index < table().size(); ++index) {
+            const bool isSet = table().at(index).key == row.key;
+            EXPECT_EQ(spies[static_cast<std::size_t>(index)]->count(), isSet ? 1 : 0)
+                << row.key << " announced " << table().at(index).key;
+        }
+        EXPECT_EQ(changed.count(), 1) << row.key;
+    }
+}
+
+TEST_F(SettingsStoreTest, ObserversSeeTheNewValueStoredAlready) {
+    SettingsStore store(settings.path());
+    bool isSeen = false;
+    QObject::connect(&store, &SettingsStore::useFahrenheitChanged, &store, [&] {
+        isSeen = store.useFahrenheit() && settings.text().contains("useFahrenheit=true");
+    });
+    store.setUseFahrenheit(true);
+    EXPECT_TRUE(isSeen);
+}
+
+TEST_F(SettingsStoreTest, TheGeneralSignalFollowsThePropertysOwn) {
+    SettingsStore store(settings.path());
+    QStringList order;
+    QObject::connect(&store, &SettingsStore::changed, &store, [&] { order.append(u"changed"_s); });
+    QObject::connect(&store, &SettingsStore::showDiskChanged, &store, [&] { order.append(u"showDisk"_s); });
+    store.setShowDisk(true);
+    EXPECT_EQ(order, (QStringList{u"showDisk"_s, u"changed"_s}));
+}
+
+TEST_F(SettingsStoreTest, SettingTheStoredValueAgainDoesNothing) {
+    SettingsStore store(settings.path());
+    store.setShowDisk(true);
+    ASSERT_TRUE(QFile::remove(settings.path()));
+    QSignalSpy changed(&store, &SettingsStore::changed);
+    store.setShowDisk(true);
+    EXPECT_EQ(changed.count(), 0);
+    EXPECT_FALSE(QFile::exists(settings.path()));
+}
+
+TEST_F(SettingsStoreTest, SettingADefaultStoresIt) {
+    SettingsStore store(settings.path());
+    store.setShowCPU(true);
+    EXPECT_EQ(settings.text(), "[General]\nshowCPU=true\n");
+}
+
+TEST_F(SettingsStoreTest, ValuesThatAreNotLegalAreNotTaken) {
+    SettingsStore store(settings.path());
+    QSignalSpy changed(&store, &SettingsStore::changed);
+    for (const double seconds : {0.0, -1.0, 86401.0, std::numeric_limits<double>::infinity(),
+                                 std::numeric_limits<double>::quiet_NaN()})
+        store.setUpdateInterval(seconds);
+    store.setGlowIntensity(static_cast<GlowIntensity>(4));
+    store.setSelectedThemeId(QString(maximumTextLength + 1, u'x'));
+    EXPECT_EQ(store.updateInterval(), 3.0);
+    EXPECT_EQ(store.glowIntensity(), GlowIntensity::medium);
+    EXPECT_EQ(store.selectedThemeId(), u"midnight"_s);
+    EXPECT_EQ(changed.count(), 0);
+    EXPECT_FALSE(QFile::exists(settings.path()));
+}
+
+TEST_F(SettingsStoreTest, ThemeWrittenByHandIsReadAndAnUnknownOneIsTheDefault) {
+    settings.writeInPlace("[General]\ncolorTheme=neon\n");
+    EXPECT_EQ(SettingsStore(settings.path()).colorTheme(), SettingsStore::ColorTheme::neon);
+    settings.writeInPlace("[General]\ncolorTheme=sepia\n");
+    EXPECT_EQ(SettingsStore(settings.path()).colorTheme(), SettingsStore::ColorTheme::standard);
+}
+
+TEST_F(SettingsStoreTest, EveryCaseOfTheNestedEnumerationsComesBack) {
+    using Mode = SettingsStore::CPUDisplayMode;
+    using Theme = SettingsStore::ColorTheme;
+    for (const Mode mode : {Mode::percentage, Mode::barChart}) {
+        SettingsStore(settings.path()).setCpuDisplayMode(mode);
+        EXPECT_EQ(SettingsStore(settings.path()).cpuDisplayMode(), mode);
+    }
+    for (const Theme theme : {Theme::neon, Theme::monochrome, Theme::standard}) {
+        SettingsStore(settings.path()).setColorTheme(theme);
+        EXPECT_EQ(SettingsStore(settings.path()).colorTheme(), theme);
+    }
+    EXPECT_TRUE(settings.text().contains("cpuDisplayMode=barChart\n"));
+    EXPECT_TRUE(settings.text().contains("colorTheme=standard\n"));
+}
+
+TEST_F(SettingsStoreTest, OtherKeysSurviveEveryWrite) {
+    const QByteArray others =
+        "# mine\n[General]\nsomethingElse=@Variant(\\0\\0\\0\\x7f)\nlist=1, 2\n\n[Window]\nshowCPU=7\n";
+    settings.writeInPlace(others);
+    SettingsStore store(settings.path());
+    for (const Row& row : table())
+        ASSERT_TRUE(setValue(store, row, row.otherValue)) << row.key;
+    const QByteArray text = settings.text();
+    for (const QByteArray& line : others.split('\n'))
+        EXPECT_TRUE(text.contains(line)) << line.toStdString();
+    EXPECT_TRUE(text.endsWith("\n\n[Window]\nshowCPU=7\n")) << text.toStdString();
+}
+
+TEST_F(SettingsStoreTest, TwoStoresOnOneFileKeepEachOthersValues) {
+    SettingsStore first(settings.path());
+    SettingsStore second(settings.path());
+    first.setShowDisk(true);
+    second.setShowSensors(true);
+    const SettingsStore third(settings.path());
+    EXPECT_TRUE(third.showDisk());
+    EXPECT_TRUE(third.showSensors());
+}
+
+TEST_F(SettingsStoreTest, NumbersDoNotFollowTheLocale) {
+    const QByteArray before = std::setlocale(LC_ALL, nullptr);
+    const QLocale localeBefore;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const bool hasGerman = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+    SettingsStore(settings.path()).setUpdateInterval(2.5);
+    EXPECT_TRUE(settings.text().contains("updateInterval=2.5\n"));
+    EXPECT_EQ(SettingsStore(settings.path()).updateInterval(), 2.5);
+    std::setlocale(LC_ALL, before.constData());
+    QLocale::setDefault(localeBefore);
+    if (!hasGerman)
+        GTEST_SKIP() << "de_DE.UTF-8 is not installed: checked under Qt's German locale only";
+}
+
+TEST_F(SettingsStoreTest, WithoutAPathTheUsersOwnSettingsAreUsed) {
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", settings.folderPath().toLocal8Bit());
+    SettingsStore().setShowDisk(true);
+    EXPECT_TRUE(SettingsStore().showDisk());
+    EXPECT_TRUE(SettingsStore(settings.folderPath() + u"/orvelle/orvelle.conf"_s).showDisk());
+    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+}
+
+TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucceeds) {
+    ASSERT_TRUE(QDir().mkpath(settings.path())); // a folder stands in the file's place
+    SettingsStore store(settings.path());
+    QSignalSpy saveFailed(&store, &SettingsStore::saveFailedChanged);
+    QSignalSpy showDisk(&store, &SettingsStore::showDiskChanged);
+    store.setShowDisk(true);
+    EXPECT_TRUE(store.showDisk());
+    EXPECT_EQ(showDisk.count(), 1);
+    EXPECT_TRUE(store.saveFailed());
+    store.setUseFahrenheit(true);
+    EXPECT_EQ(saveFailed.count(), 1) << "it had failed already";
+
+    ASSERT_TRUE(QDir().rmdir(settings.path()));
+    store.setShowSensors(true);
+    EXPECT_FALSE(store.saveFailed());
+    EXPECT_EQ(saveFailed.count(), 2);
+    EXPECT_EQ(settings.text(), "[General]\nshowDisk=true\nshowSensors=true\nuseFahrenheit=true\n");
+}
+
+} // namespace
+} // namespace orvelle
