@@ -28,12 +28,17 @@ function(orvelle_library name)
   endif()
 endfunction()
 
-# orvelle_test(NAME SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
+# orvelle_test(NAME [GUI] SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
+# GUI gives it a QGuiApplication, for fonts and images; without it there is a QCoreApplication.
 function(orvelle_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "GUI" "" "SOURCES;LINK" ${ARGN})
+  set(support orvelle_test_support)
+  if(ARG_GUI)
+    set(support orvelle_gui_test_support)
+  endif()
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK} orvelle_test_support)
+  target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK} ${support})
   add_test(NAME ${name} COMMAND ${name})
   orvelle_test_environment(${name})
 endfunction()

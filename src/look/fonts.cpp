@@ -1,0 +1,103 @@
+#include "look/fonts.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHash>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+enum class FontRole { proportional, monospaced, rounded };
+
+/// What fontconfig and Qt answer when the desktop has chosen nothing.
+bool isGenericFamily(const QString& family) {
+    static const QStringList generic = {QStringLiteral("Sans Serif"), QStringLiteral("Sans"),
+                                        QStringLiteral("sans-serif"), QStringLiteral("Helvetica"),
+                                        QStringLiteral("monospace"),  QStringLiteral("Monospace")};
+    return family.isEmpty() || generic.contains(family);
+}
+
+/// The first of `candidates` that is installed, else an empty string.
+QString firstInstalled(const QStringList& candidates) {
+    const QStringList installed = QFontDatabase::families();
+    for (const QString& candidate : candidates) {
+        if (installed.contains(candidate))
+            return candidate;
+    }
+    return {};
+}
+
+QStringList candidateFamilies(FontRole role) {
+    switch (role) {
+    case FontRole::proportional:
+        return {QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("Cantarell"),
+                QStringLiteral("Ubuntu"), QStringLiteral("DejaVu Sans")};
+    case FontRole::monospaced:
+        return {QStringLiteral("Noto Sans Mono"), QStringLiteral("DejaVu Sans Mono"),
+                QStringLiteral("Liberation Mono")};
+    case FontRole::rounded:
+        return {QStringLiteral("SF Pro Rounded"), QStringLiteral("Nunito"), QStringLiteral("Varela Round")};
+    }
+    return {};
+}
+
+QFont baseFont(FontRole role) {
+    const bool isMonospaced = role == FontRole::monospaced;
+    QFont font =
+        QFontDatabase::systemFont(isMonospaced ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont);
+    const bool needsAnotherFamily = role == FontRole::rounded || isGenericFamily(font.family());
+    const QString family = needsAnotherFamily ? firstInstalled(candidateFamilies(role)) : QString();
+    if (!family.isEmpty())
+        font.setFamilies({family});
+    else if (role == FontRole::rounded)
+        font = baseFont(FontRole::proportional);
+    font.setStyleHint(isMonospaced ? QFont::Monospace : QFont::SansSerif);
+    return font;
+}
+
+/// A pixel size can only be whole; a fractional one goes through points at the screen's resolution, which is
+/// also the one that images and windows report.
+void setLogicalPixelSize(QFont& font, double size) {
+    constexpr double largestSize = 1000;
+    const double pixels = size > 0 ? std::min(size, largestSize) : 1;
+    if (std::rint(pixels) == pixels) {
+        font.setPixelSize(static_cast<int>(pixels));
+        return;
+    }
+    constexpr double pointsPerInch = 72;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dotsPerInch = screen != nullptr ? std::round(screen->logicalDotsPerInchY()) : 96;
+    font.setPointSizeF(pixels * pointsPerInch / dotsPerInch);
+}
+
+/// The base fonts are looked up once: asking for the installed families walks the whole font database.
+QFont makeFont(FontRole role, double size, QFont::Weight weight) {
+    static QHash<FontRole, QFont> bases;
+    auto base = bases.find(role);
+    if (base == bases.end())
+        base = bases.insert(role, baseFont(role));
+    QFont font = *base;
+    setLogicalPixelSize(font, size);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+QFont systemFont(double size, QFont::Weight weight) {
+    return makeFont(FontRole::proportional, size, weight);
+}
+
+QFont monospacedSystemFont(double size, QFont::Weight weight) {
+    return makeFont(FontRole::monospaced, size, weight);
+}
+
+QFont roundedSystemFont(double size, QFont::Weight weight) {
+    return makeFont(FontRole::rounded, size, weight);
+}
+
+} // namespace orvelle
