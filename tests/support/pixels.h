@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+
+#include <functional>
+
+/// Pictures for tests: paints into an image and asks what its pixels show.
+namespace orvelle {
+
+/// A transparent image of `size` points at a device pixel ratio, painted by `paint` with antialiasing off
+/// until it switches it on.
+inline QImage paintedImage(const QSizeF& size, double devicePixelRatio,
+                           const std::function<void(QPainter&)>& paint) {
+    QImage image((size * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    paint(painter);
+    return image;
+}
+
+/// The same pixels without a device pixel ratio, for comparison.
+inline QImage unscaled(QImage image) {
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+/// Pixels of exactly this colour.
+inline int countPixels(const QImage& image, const QColor& color) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y).rgba() == color.rgba() ? 1 : 0;
+    }
+    return count;
+}
+
+/// The painted area in pixels, a translucent pixel counting by its opacity.
+inline double coveredArea(const QImage& image) {
+    double area = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            area += qAlpha(image.pixel(x, y)) / 255.0;
+    }
+    return area;
+}
+
+/// The smallest rectangle of pixels that holds everything painted; empty when nothing is.
+inline QRect paintedRect(const QImage& image) {
+    QRect rect;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) > 0)
+                rect |= QRect(x, y, 1, 1);
+        }
+    }
+    return rect;
+}
+
+} // namespace orvelle
