@@ -3,16 +3,12 @@
 #include <QColor>
 
 /// The colours of text on the dark bar and the dark panels.
-namespace orvelle::labelColors {
+namespace orvelle::LabelColors {
 
-/// Values and titles: white.
-[[nodiscard]] inline QColor primary() {
-    return QColor::fromRgbF(1, 1, 1);
-}
+/// Values and titles.
+inline constexpr QColor primary(255, 255, 255);
 
-/// Captions and values that are not known: white at opacity 0.55.
-[[nodiscard]] inline QColor secondary() {
-    return QColor::fromRgbF(1, 1, 1, 0.55F);
-}
+/// Captions, and values that are not known: white at opacity 0.55.
+inline constexpr QColor secondary(255, 255, 255, 140);
 
-} // namespace orvelle::labelColors
+} // namespace orvelle::LabelColors
