@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QPen>
+#include <QRectF>
+
+namespace orvelle {
+
+/// A clipped drawing surface with its origin at the top-left corner of `frame`. Restores the painter when it
+/// goes out of scope.
+class Canvas {
+public:
+    Canvas(QPainter& painter, const QRectF& frame);
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    /// Width in points of one physical pixel of what the painter draws on.
+    [[nodiscard]] double pixelWidth() const;
+
+private:
+    QPainter& m_painter;
+};
+
+/// `color` with its opacity multiplied by `opacity`.
+[[nodiscard]] QColor withOpacity(const QColor& color, double opacity);
+
+/// A pen with round caps and joins, as every line of a graph is drawn.
+[[nodiscard]] QPen linePen(const QColor& color, double width);
+
+/// The rectangle of `size` whose centre is that of `bounds`.
+[[nodiscard]] QRectF centred(const QSizeF& size, const QRectF& bounds);
+
+} // namespace orvelle

@@ -1,0 +1,49 @@
+#include "charts/sparkline_view.h"
+
+#include "charts/canvas.h"
+#include "charts/sample_points.h"
+#include "charts/sparkline_rules.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double defaultFillOpacity = 0.2;
+constexpr double bottomFillOpacity = 0.15;
+constexpr double topFillOpacity = 0.1;
+constexpr double dualLineWidth = 1;
+
+} // namespace
+
+void SparklineView::paint(QPainter& painter, const QRectF& bounds) const {
+    const std::optional<double> scale = sparklineScale(data, maxValue);
+    if (!scale || !(width > 0) || !(height > 0))
+        return;
+    const Canvas canvas(painter, centred({width, height}, bounds));
+    const QList<QPointF> points =
+        visiblePoints(samplePoints(data, *scale, {width, height}, sparklineTopInset), canvas.pixelWidth());
+    const QPainterPath line = sparklinePath(points);
+    painter.fillPath(areaUnder(line, points, height),
+                     fillColor.value_or(withOpacity(lineColor, defaultFillOpacity)));
+    if (lineWidth > 0)
+        painter.strokePath(line, linePen(lineColor, lineWidth));
+}
+
+QList<SparklineView> DualSparklineView::layers() const {
+    const auto layer = [this](const QList<double>& data, const QColor& color, double fillOpacity) {
+        return SparklineView{.data = data,
+                             .maxValue = 0,
+                             .lineColor = color,
+                             .fillColor = withOpacity(color, fillOpacity),
+                             .lineWidth = dualLineWidth,
+                             .width = width,
+                             .height = height};
+    };
+    return {layer(bottomData, bottomColor, bottomFillOpacity), layer(topData, topColor, topFillOpacity)};
+}
+
+void DualSparklineView::paint(QPainter& painter, const QRectF& bounds) const {
+    for (const SparklineView& sparkline : layers())
+        sparkline.paint(painter, bounds);
+}
+
+} // namespace orvelle
