@@ -1,11 +1,15 @@
 #include "charts/canvas.h"
 
-#include <QPaintDevice>
+#include "look/device_pixels.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvelle {
+namespace {
+
+constexpr double largestSide = 16384;
+
+} // namespace
 
 Canvas::Canvas(QPainter& painter, const QRectF& frame)
     : m_painter(painter) {
@@ -20,9 +24,12 @@ Canvas::~Canvas() {
 }
 
 double Canvas::pixelWidth() const {
-    const QTransform transform = m_painter.deviceTransform();
-    const double pixelsPerPoint = std::hypot(transform.m11(), transform.m12());
-    return pixelsPerPoint > 0 ? 1 / pixelsPerPoint : 1;
+    return 1 / devicePixelsPerPoint(m_painter);
+}
+
+bool isPaintable(const QSizeF& size) {
+    return size.width() > 0 && size.height() > 0 && size.width() <= largestSide &&
+           size.height() <= largestSide;
 }
 
 QColor withOpacity(const QColor& color, double opacity) {
@@ -32,7 +39,8 @@ QColor withOpacity(const QColor& color, double opacity) {
 }
 
 QPen linePen(const QColor& color, double width) {
-    return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+    const double usableWidth = width > 0 ? std::min(width, largestSide) : 0;
+    return {color, usableWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 QRectF centred(const QSizeF& size, const QRectF& bounds) {

@@ -16,12 +16,16 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    /// Width in points of one physical pixel of what the painter draws on.
+    /// Width of one pixel of what is drawn on, points.
     [[nodiscard]] double pixelWidth() const;
 
 private:
     QPainter& m_painter;
 };
+
+/// Whether anything can be drawn in this size: both sides are above 0 and no larger than a screen could show.
+/// The limit keeps coordinates within what the painter can count and loops over a side short.
+[[nodiscard]] bool isPaintable(const QSizeF& size);
 
 /// `color` with its opacity multiplied by `opacity`.
 [[nodiscard]] QColor withOpacity(const QColor& color, double opacity);

@@ -3,6 +3,8 @@
 #include "charts/bar_rules.h"
 #include "charts/continuous_rounded_rect.h"
 
+#include <algorithm>
+
 namespace orvelle {
 namespace {
 
@@ -10,13 +12,21 @@ constexpr double cornerRadius = 0.5;
 
 } // namespace
 
+BarLook MiniBar::look() const {
+    return {std::min(value, 1.0), miniBarColor(value, color)};
+}
+
 void MiniBar::paint(QPainter& painter, const QRectF& slot) const {
-    const double height = miniBarHeight(value, slot.height());
+    paint(painter, slot, look());
+}
+
+void MiniBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown) {
+    const double height = barHeight(shown.ratio, slot.height());
     // A slot lower than the smallest bar shows what fits.
     const QRectF bar = QRectF(slot.left(), slot.bottom() - height, slot.width(), height) & slot;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(continuousRoundedRect(bar, cornerRadius), miniBarColor(value, color));
+    painter.fillPath(continuousRoundedRect(bar, cornerRadius), shown.color);
     painter.restore();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "charts/bar_look.h"
+
 #include <QColor>
 #include <QPainter>
 #include <QRectF>
@@ -11,11 +13,14 @@ struct MiniBar {
     double value = 0; ///< fraction where 1 is full; more is drawn as full
     QColor color;     ///< colour below half; yellow from there and red from three quarters
 
-    /// Seconds over which height and colour ease in and out after a change of `value`.
-    static constexpr double animationSeconds = 0.3;
+    /// The look of the present value, towards which a host may animate.
+    [[nodiscard]] BarLook look() const;
 
     /// Fills the slot's whole width; never paints outside the slot.
     void paint(QPainter& painter, const QRectF& slot) const;
+
+    /// Paints the bar as it looks in the middle of an animation.
+    static void paint(QPainter& painter, const QRectF& slot, const BarLook& shown);
 
     bool operator==(const MiniBar&) const = default;
 };

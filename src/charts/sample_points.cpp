@@ -62,4 +62,14 @@ QList<QPointF> visiblePoints(const QList<QPointF>& points, double columnWidth) {
     return kept;
 }
 
+QPainterPath areaUnder(const QPainterPath& line, const QList<QPointF>& points, double bottom) {
+    QPainterPath area = line;
+    if (points.isEmpty())
+        return area;
+    area.lineTo(points.last().x(), bottom);
+    area.lineTo(points.first().x(), bottom);
+    area.closeSubpath();
+    return area;
+}
+
 } // namespace orvelle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPainterPath>
 #include <QPointF>
 #include <QSizeF>
 
@@ -21,5 +22,9 @@ inline constexpr double lowestRatio = -100;
 /// points share a column only its first, lowest, highest and last are kept, which cover the same pixels.
 /// Lines with few points come back as they are.
 [[nodiscard]] QList<QPointF> visiblePoints(const QList<QPointF>& points, double columnWidth);
+
+/// The area between a line and the bottom edge at y = `bottom`: the line, extended straight down from both
+/// of its ends. `points` are the points that the line passes through.
+[[nodiscard]] QPainterPath areaUnder(const QPainterPath& line, const QList<QPointF>& points, double bottom);
 
 } // namespace orvelle

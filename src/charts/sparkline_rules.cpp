@@ -1,7 +1,5 @@
 #include "charts/sparkline_rules.h"
 
-#include <cmath>
-
 namespace orvelle {
 
 std::optional<double> sparklineScale(const QList<double>& data, double maxValue) {
@@ -32,16 +30,6 @@ QPainterPath sparklinePath(const QList<QPointF>& points) {
         path.cubicTo({middle, from.y()}, {middle, to.y()}, to);
     }
     return path;
-}
-
-QPainterPath areaUnder(const QPainterPath& line, const QList<QPointF>& points, double bottom) {
-    QPainterPath area = line;
-    if (points.isEmpty())
-        return area;
-    area.lineTo(points.last().x(), bottom);
-    area.lineTo(points.first().x(), bottom);
-    area.closeSubpath();
-    return area;
 }
 
 } // namespace orvelle

@@ -19,8 +19,4 @@ inline constexpr double sparklineTopInset = 1.0;
 /// Empty for fewer than two points.
 [[nodiscard]] QPainterPath sparklinePath(const QList<QPointF>& points);
 
-/// The area between a line and the bottom edge at y = `bottom`: the line, extended straight down from both
-/// of its ends. `points` are the points that the line passes through.
-[[nodiscard]] QPainterPath areaUnder(const QPainterPath& line, const QList<QPointF>& points, double bottom);
-
 } // namespace orvelle

@@ -16,7 +16,7 @@ constexpr double dualLineWidth = 1;
 
 void SparklineView::paint(QPainter& painter, const QRectF& bounds) const {
     const std::optional<double> scale = sparklineScale(data, maxValue);
-    if (!scale || !(width > 0) || !(height > 0))
+    if (!scale || !isPaintable({width, height}))
         return;
     const Canvas canvas(painter, centred({width, height}, bounds));
     const QList<QPointF> points =

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "charts/bar_look.h"
+#include "charts/glow_picture.h"
+#include "settings/styles.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+namespace orvelle {
+
+/// One bar of a row.
+struct AnimatedBar {
+    double value = 0;
+    double maxValue = 1;     ///< value that fills the bar; when not above 0 the bar stays empty
+    double cornerRadius = 0; ///< points; pill and thin-line bars have a radius of their own
+    QColor baseColor;        ///< colour below half scale
+    bool showGlow = true;
+    bool animate = true; ///< whether the host animates changes
+    BarChartStyle barStyle = BarChartStyle::rounded;
+    GlowIntensity glowIntensity = GlowIntensity::medium;
+    AnimationSpeed animationSpeed = AnimationSpeed::normal;
+
+    /// The look of the present value, towards which a host animates.
+    [[nodiscard]] BarLook look() const;
+
+    /// Paints the look of the present value at the bottom of `slot`.
+    void paint(QPainter& painter, const QRectF& slot, GlowCache* glows = nullptr) const;
+
+    /// Paints the bar as it looks in the middle of an animation. The bar stays within the slot's width,
+    /// except that a thin line is never narrower than 1.5 points; the glow reaches beyond the slot by
+    /// `glowReach(glowRadius(glowIntensity))` plus the point by which it is raised. `index` numbers the bars
+    /// that share one cache.
+    void paint(QPainter& painter, const QRectF& slot, const BarLook& shown, GlowCache* glows,
+               std::size_t index = 0) const;
+
+    bool operator==(const AnimatedBar&) const = default;
+};
+
+} // namespace orvelle

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "charts/animated_bar.h"
+
+#include <QList>
+
+namespace orvelle {
+
+/// A row of bars for a series of values, one per element from left to right.
+struct AnimatedBarChart {
+    QList<double> values;
+    double maxValue = 1;     ///< value that fills a bar to the full height
+    double barSpacing = 2;   ///< points between bars; some styles ask for more
+    double cornerRadius = 3; ///< kept for callers; the bars take their radius from the style
+    QColor baseColor;        ///< colour of a bar below half scale
+    bool showGlow = true;
+    double height = 50; ///< of the chart, points
+    bool animateChanges = true;
+    BarChartStyle barStyle = BarChartStyle::rounded;
+    GlowIntensity glowIntensity = GlowIntensity::medium;
+    AnimationSpeed animationSpeed = AnimationSpeed::normal;
+
+    /// One bar per value.
+    [[nodiscard]] QList<AnimatedBar> bars() const;
+
+    /// The spaces that the bars stand in. The chart is as wide as `bounds` and `height` points high, centred
+    /// in it; the bars share the width that their gaps leave. Where the gaps would leave none, they shrink.
+    [[nodiscard]] QList<QRectF> barSlots(const QRectF& bounds) const;
+
+    /// Paints the present values, and the glow beyond the chart as every bar does.
+    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+
+    /// Paints the bars as they look in the middle of an animation: one look per value, in order.
+    void paint(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown, GlowCache* glows) const;
+
+    bool operator==(const AnimatedBarChart&) const = default;
+};
+
+} // namespace orvelle

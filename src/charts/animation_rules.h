@@ -1,0 +1,49 @@
+#pragma once
+
+#include "settings/styles.h"
+
+#include <QEasingCurve>
+
+#include <optional>
+
+/// How long and along which curve the charts move. Durations are seconds.
+namespace orvelle {
+
+/// How a spring moves: `response` is the period it would have without damping, in seconds; a damping fraction
+/// of 1 would be the least that does not overshoot. The fraction lies above 0 and below 1.
+struct SpringParameters {
+    double response = 0;
+    double dampingFraction = 0;
+
+    bool operator==(const SpringParameters&) const = default;
+};
+
+/// The spring of a bar's height and colour; nothing when changes show at once.
+[[nodiscard]] std::optional<SpringParameters> barSpring(AnimationSpeed speed, bool animate);
+
+/// How long a ring takes to fill when it is first shown (ease out); nothing when it fills at once.
+[[nodiscard]] std::optional<double> ringOpeningSeconds(AnimationSpeed speed);
+
+/// How long a ring takes to follow a change (ease in and out); nothing when it follows at once.
+[[nodiscard]] std::optional<double> ringChangeSeconds(AnimationSpeed speed);
+
+inline constexpr double miniBarSeconds = 0.3;            ///< ease in and out
+inline constexpr double lineGraphSeconds = 0.3;          ///< ease in and out
+inline constexpr double lineGraphRedrawSeconds = 0.1;    ///< shortest time between two redraws
+inline constexpr double segmentRingOpeningSeconds = 1.0; ///< ease out, from progress 0 to 1
+inline constexpr double temperatureGaugeSeconds = 0.5;   ///< ease in and out
+
+/// One way of a critical ring's pulse, from scale 1 to `pulseLargestScale` or back; it repeats forever.
+inline constexpr double pulseSeconds = 0.8;
+inline constexpr double pulseLargestScale = 1.03;
+
+/// The scale of a ring that has been pulsing for `elapsedSeconds`: it eases in and out from 1 up and back.
+[[nodiscard]] double pulseScaleAt(double elapsedSeconds);
+
+/// Starts and ends gently: the cubic Bezier curve through (0.42, 0) and (0.58, 1).
+[[nodiscard]] const QEasingCurve& easeInOut();
+
+/// Starts at once and ends gently: the cubic Bezier curve through (0, 0) and (0.58, 1).
+[[nodiscard]] const QEasingCurve& easeOut();
+
+} // namespace orvelle

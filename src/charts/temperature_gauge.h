@@ -1,0 +1,40 @@
+#pragma once
+
+#include "charts/glow_picture.h"
+#include "settings/styles.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+
+namespace orvelle {
+
+/// A temperature as a half ring from green to red, with the reading in its middle and a caption below.
+struct TemperatureGauge {
+    QString label;
+    double temperature = 0; ///< degrees Celsius; 0 or below means that there is no reading
+    double maxTemp = 110;   ///< degrees Celsius at which the dial is full
+    QString icon;           ///< name of a symbol for callers; the gauge does not draw it
+    bool useFahrenheit = false;
+    QColor baseColor; ///< kept for callers; the dial has colours of its own
+    GlowIntensity glowIntensity = GlowIntensity::medium;
+    bool showGlow = true;
+
+    /// How full the dial is, 0 to 1: towards this a host animates.
+    [[nodiscard]] double fraction() const;
+
+    /// Height of dial and caption together, points. Needs a QGuiApplication, as painting does.
+    [[nodiscard]] double height() const;
+
+    /// Paints the present temperature from the top of `bounds`, centred across its width. The dial is 70
+    /// points wide; its glow reaches beyond by `glowReach(glowRadius(glowIntensity))` and half the stroke.
+    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+
+    /// Paints the dial filled to `shownFraction`, in the middle of an animation.
+    void paint(QPainter& painter, const QRectF& bounds, double shownFraction, GlowCache* glows) const;
+
+    bool operator==(const TemperatureGauge&) const = default;
+};
+
+} // namespace orvelle
