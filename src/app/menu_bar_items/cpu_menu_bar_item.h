@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/menu_bar_items/item_part.h"
+#include "app/shell/status_item_view.h"
+
+namespace orvelle {
+
+class CPUMonitor;
+class SettingsStore;
+class ThemeManager;
+
+/// The CPU module's place in the menu bar: total usage, a bar or a dot for each core, or the usage history.
+/// What it refers to must outlive it.
+class CPUMenuBarItem final : public StatusItemView {
+public:
+    CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
+
+    void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+private:
+    [[nodiscard]] ItemPart body() const;
+    [[nodiscard]] ItemPart coreBars(const QColor& color) const;
+    [[nodiscard]] ItemPart coreDots(const QColor& color) const;
+
+    const CPUMonitor& m_monitor;
+    const SettingsStore& m_settings;
+    const ThemeManager& m_themes;
+};
+
+} // namespace orvelle

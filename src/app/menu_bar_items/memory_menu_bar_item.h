@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/menu_bar_items/item_part.h"
+#include "app/shell/status_item_view.h"
+
+namespace orvelle {
+
+class MemoryMonitor;
+class SettingsStore;
+class ThemeManager;
+
+/// The memory module's place in the menu bar: the used share as text, bar or dots, or the pressure history.
+/// What it refers to must outlive it.
+class MemoryMenuBarItem final : public StatusItemView {
+public:
+    MemoryMenuBarItem(const MemoryMonitor& monitor, const SettingsStore& settings,
+                      const ThemeManager& themes);
+
+    void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+private:
+    [[nodiscard]] ItemPart body() const;
+
+    const MemoryMonitor& m_monitor;
+    const SettingsStore& m_settings;
+    const ThemeManager& m_themes;
+};
+
+} // namespace orvelle

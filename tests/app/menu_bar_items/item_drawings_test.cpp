@@ -1,0 +1,84 @@
+#include "app/menu_bar_items/item_drawings.h"
+#include "charts/sparkline_view.h"
+#include "item_fixture.h"
+#include "look/fonts.h"
+
+namespace orvelle {
+namespace {
+
+const QColor tint(200, 30, 10);
+
+class ItemDrawingsTest : public ItemFixture {};
+
+TEST_F(ItemDrawingsTest, DotsHaveTheirColoursFromLeftToRight) {
+    const ItemPart dots = dotsPart({Qt::red, Qt::green, Qt::blue});
+    EXPECT_EQ(dots.size, QSizeF(16, 4));
+    const QImage image = picture(dots, 16);
+    const int centerLine = image.height() / 2;
+    EXPECT_EQ(image.pixelColor(4, centerLine), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(16, centerLine), QColor(Qt::green));
+    EXPECT_EQ(image.pixelColor(28, centerLine), QColor(Qt::blue));
+    EXPECT_EQ(countRuns(image, centerLine, 0, image.width()), 3);
+}
+
+TEST_F(ItemDrawingsTest, NoDotsTakeNoRoom) {
+    EXPECT_EQ(dotsPart({}).size.width(), 0);
+}
+
+TEST_F(ItemDrawingsTest, ALevelBarIsFilledUpToItsFraction) {
+    const QImage image = picture(levelBarPart({28, 8}, 3, 0.5, tint), 28);
+    const int centerLine = image.height() / 2;
+    EXPECT_GT(image.pixelColor(26, centerLine).alpha(), 200);
+    EXPECT_EQ(image.pixelColor(30, centerLine).alpha(), 38) << "only the track, white at 0.15";
+}
+
+TEST_F(ItemDrawingsTest, ALevelAboveOneFillsTheBarAndNoMore) {
+    EXPECT_EQ(picture(levelBarPart({28, 8}, 3, 7, tint), 40), picture(levelBarPart({28, 8}, 3, 1, tint), 40));
+}
+
+TEST_F(ItemDrawingsTest, ALowLevelDoesNotStickOutOfTheRoundedTrack) {
+    const QImage empty = picture(levelBarPart({28, 8}, 3, 0, tint), 28);
+    const QImage low = picture(levelBarPart({28, 8}, 3, 0.04, tint), 28);
+    for (int y = 0; y < empty.height(); ++y)
+        EXPECT_EQ(qAlpha(empty.pixel(0, y)) == 0, qAlpha(low.pixel(0, y)) == 0) << "in line " << y;
+    EXPECT_NE(empty, low);
+}
+
+TEST_F(ItemDrawingsTest, TextIsCentredOnItsCapitals) {
+    const QRect ink = paintedRect(picture(textPart(QStringLiteral("H"), systemFont(11), Qt::white), 20));
+    EXPECT_NEAR(ink.top() + ink.bottom() + 1, barHeight * pixelsPerPoint, 2);
+}
+
+TEST_F(ItemDrawingsTest, CondensedTextKeepsItsHeightAndAllItsLetters) {
+    const ItemPart text = textPart(QStringLiteral("HHHH"), systemFont(11), Qt::white);
+    const QRect wide = paintedRect(picture(text, 60));
+    const QRect narrow = paintedRect(picture(text, text.size.width() * 0.8));
+    EXPECT_NEAR(narrow.height(), wide.height(), 1);
+    EXPECT_NEAR(narrow.width(), wide.width() * 0.8, 3);
+}
+
+TEST_F(ItemDrawingsTest, AnIconIsTwelvePointsSquareInTheModulesColour) {
+    const ItemPart icon = iconPart(u"cpu", tint);
+    EXPECT_EQ(icon.size, QSizeF(12, 12));
+    EXPECT_GT(countPixels(picture(icon, 12), tint), 20);
+}
+
+TEST_F(ItemDrawingsTest, AHistoryIsDrawnFromItsLastTwentySamples) {
+    const QSizeF size(32, 12);
+    QList<double> history(20, 0.5);
+    const QImage twenty = picture(historyPart(history, tint, 1, size), 32);
+    history.prepend(1.0);
+    EXPECT_EQ(picture(historyPart(history, tint, 1, size), 32), twenty) << "the 21st is left out";
+    history = QList<double>(20, 0.5);
+    history.first() = 1.0;
+    EXPECT_NE(picture(historyPart(history, tint, 1, size), 32), twenty) << "the 20th is drawn";
+}
+
+TEST_F(ItemDrawingsTest, AnEmptyHistoryTakesItsRoomAndDrawsNothing) {
+    const ItemPart history = historyPart({}, tint, 1, {32, 12});
+    EXPECT_EQ(history.size, QSizeF(32, 12));
+    EXPECT_TRUE(paintedRect(picture(history, 32)).isEmpty());
+}
+
+} // namespace
+} // namespace orvelle
