@@ -22,6 +22,8 @@ SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settin
     , m_settings(settings)
     , m_cpu(*m_sources.processor, m_sources.now)
     , m_memory(*m_sources.memory)
+    , m_disk(*m_sources.disk, m_sources.now)
+    , m_network(*m_sources.network, m_sources.now)
     , m_process(*m_sources.process, m_sources.now) {}
 
 std::optional<double> SystemMonitor::activeInterval() const {
@@ -61,6 +63,9 @@ void SystemMonitor::updateCycle() {
     m_cpu.updateLoadAverages();
     m_cpu.updateUptime();
     m_memory.update();
+    m_disk.updateVolumes();
+    m_disk.updateIO();
+    m_network.update();
     m_updateCycleCount = checkedAdd(m_updateCycleCount, qint64{1});
     if (m_updateCycleCount % cyclesPerProcessUpdate == 1)
         m_process.update();

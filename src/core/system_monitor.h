@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/cpu_monitor.h"
+#include "core/disk_monitor.h"
 #include "core/memory_monitor.h"
+#include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "core/sources/machine_sources.h"
 
@@ -26,6 +28,8 @@ public:
 
     [[nodiscard]] CPUMonitor& cpu() { return m_cpu; }
     [[nodiscard]] MemoryMonitor& memory() { return m_memory; }
+    [[nodiscard]] DiskMonitor& disk() { return m_disk; }
+    [[nodiscard]] NetworkMonitor& network() { return m_network; }
     [[nodiscard]] ProcessMonitor& process() { return m_process; }
 
     /// Update cycles completed since construction; stopping does not reset it.
@@ -52,6 +56,8 @@ private:
     const SettingsStore& m_settings;
     CPUMonitor m_cpu;
     MemoryMonitor m_memory;
+    DiskMonitor m_disk;
+    NetworkMonitor m_network;
     ProcessMonitor m_process;
     QTimer* m_timer = nullptr; ///< the latest timer, owned as a child; none while stopped
     qint64 m_updateCycleCount = 0;

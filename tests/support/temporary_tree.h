@@ -1,28 +1,56 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <string>
 #include <string_view>
 
 namespace orvelle {
 
-/// A directory that stands for the root of a machine; it is removed at the end of the test.
+/// A tree of files of a test's own, such as /proc and /sys of an invented machine; removed with the object.
 class TemporaryTree {
 public:
-    [[nodiscard]] std::filesystem::path root() const { return m_directory.path().toStdString(); }
-
-    /// Writes one file, with the folders above it; replaces an earlier text in place, as the kernel does.
-    void write(const std::filesystem::path& path, std::string_view text) const {
-        std::filesystem::create_directories((root() / path).parent_path());
-        std::ofstream(root() / path, std::ios::binary) << text;
+    TemporaryTree() {
+        std::string name = (std::filesystem::temp_directory_path() / "orvelle-test-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr)
+            ADD_FAILURE() << "cannot make " << name;
+        m_root = name;
     }
+    ~TemporaryTree() {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_root, ignored);
+    }
+    TemporaryTree(const TemporaryTree&) = delete;
+    TemporaryTree& operator=(const TemporaryTree&) = delete;
 
-    void remove(const std::filesystem::path& path) const { std::filesystem::remove_all(root() / path); }
+    [[nodiscard]] const std::filesystem::path& root() const { return m_root; }
+
+    /// Writes a file with its directories, over what was there.
+    void write(const std::filesystem::path& path, std::string_view text) const {
+        makeParent(path);
+        std::ofstream file(m_root / path, std::ios::binary | std::ios::trunc);
+        file << text;
+        EXPECT_TRUE(file.flush()) << path;
+    }
+    void makeDirectory(const std::filesystem::path& path) const {
+        std::filesystem::create_directories(m_root / path);
+    }
+    /// A symbolic link; its target need not exist.
+    void link(const std::filesystem::path& path, const std::filesystem::path& target) const {
+        makeParent(path);
+        std::filesystem::create_symlink(target, m_root / path);
+    }
+    void remove(const std::filesystem::path& path) const { std::filesystem::remove_all(m_root / path); }
 
 private:
-    QTemporaryDir m_directory;
+    void makeParent(const std::filesystem::path& path) const {
+        std::filesystem::create_directories((m_root / path).parent_path());
+    }
+
+    std::filesystem::path m_root;
 };
 
 } // namespace orvelle

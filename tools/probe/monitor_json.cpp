@@ -50,6 +50,8 @@ QJsonObject publishedValues(SystemMonitor& monitor) {
     return {{QStringLiteral("updateCycleCount"), monitor.updateCycleCount()},
             {QStringLiteral("cpu"), jsonFromMonitor(monitor.cpu())},
             {QStringLiteral("memory"), jsonFromMonitor(monitor.memory())},
+            {QStringLiteral("disk"), jsonFromMonitor(monitor.disk())},
+            {QStringLiteral("network"), jsonFromMonitor(monitor.network())},
             {QStringLiteral("process"), jsonFromMonitor(monitor.process())}};
 }
 

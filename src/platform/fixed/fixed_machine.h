@@ -11,12 +11,20 @@ public:
     FixedClock clock;
     FixedProcessorSource* processor = nullptr;
     FixedMemorySource* memory = nullptr;
+    FixedDiskSource* disk = nullptr;
+    FixedNetworkSource* network = nullptr;
+    FixedBatterySource* battery = nullptr;
+    FixedSensorSource* sensor = nullptr;
     FixedProcessSource* process = nullptr;
 
     [[nodiscard]] MachineSources sources() {
         return {.now = clock.reader(),
                 .processor = make(processor),
                 .memory = make(memory),
+                .disk = make(disk),
+                .network = make(network),
+                .battery = make(battery),
+                .sensor = make(sensor),
                 .process = make(process)};
     }
 

@@ -13,52 +13,98 @@ struct ReplayMachine::Moments {
 
 namespace {
 
-using MomentsPointer = std::shared_ptr<const ReplayMachine::Moments>;
-
-class ReplayProcessorSource final : public ProcessorSource {
+/// A source that asks the present moment's source.
+template <class Interface>
+class ReplaySource : public Interface {
 public:
-    explicit ReplayProcessorSource(MomentsPointer moments)
+    explicit ReplaySource(std::shared_ptr<const ReplayMachine::Moments> moments)
         : m_moments(std::move(moments)) {}
+
+protected:
+    [[nodiscard]] const MachineSources& now() const { return m_moments->now(); }
+
+private:
+    std::shared_ptr<const ReplayMachine::Moments> m_moments;
+};
+
+class ReplayProcessorSource final : public ReplaySource<ProcessorSource> {
+public:
+    using ReplaySource::ReplaySource;
 
     [[nodiscard]] std::optional<std::vector<CoreTicks>> readTicks() override {
-        return m_moments->now().processor->readTicks();
+        return now().processor->readTicks();
     }
     [[nodiscard]] std::optional<std::array<double, 3>> readLoadAverages() override {
-        return m_moments->now().processor->readLoadAverages();
+        return now().processor->readLoadAverages();
     }
     [[nodiscard]] std::optional<std::int64_t> readBootTime() override {
-        return m_moments->now().processor->readBootTime();
+        return now().processor->readBootTime();
     }
-
-private:
-    MomentsPointer m_moments;
 };
 
-class ReplayMemorySource final : public MemorySource {
+class ReplayMemorySource final : public ReplaySource<MemorySource> {
 public:
-    explicit ReplayMemorySource(MomentsPointer moments)
-        : m_moments(std::move(moments)) {}
+    using ReplaySource::ReplaySource;
 
-    [[nodiscard]] std::optional<MemoryReading> read() override { return m_moments->now().memory->read(); }
-
-private:
-    MomentsPointer m_moments;
+    [[nodiscard]] std::optional<MemoryReading> read() override { return now().memory->read(); }
 };
 
-class ReplayProcessSource final : public ProcessSource {
+class ReplayDiskSource final : public ReplaySource<DiskSource> {
 public:
-    explicit ReplayProcessSource(MomentsPointer moments)
-        : m_moments(std::move(moments)) {}
+    using ReplaySource::ReplaySource;
+
+    [[nodiscard]] std::optional<std::vector<MountedVolume>> readVolumes() override {
+        return now().disk->readVolumes();
+    }
+    [[nodiscard]] std::optional<std::vector<DiskCounters>> readCounters() override {
+        return now().disk->readCounters();
+    }
+};
+
+class ReplayNetworkSource final : public ReplaySource<NetworkSource> {
+public:
+    using ReplaySource::ReplaySource;
+
+    [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override { return now().network->read(); }
+};
+
+class ReplayBatterySource final : public ReplaySource<BatterySource> {
+public:
+    using ReplaySource::ReplaySource;
+
+    [[nodiscard]] std::optional<std::vector<std::optional<PowerSourceDescription>>>
+    readPowerSources() override {
+        return now().battery->readPowerSources();
+    }
+    [[nodiscard]] std::optional<SmartBatteryProperties> readSmartBattery() override {
+        return now().battery->readSmartBattery();
+    }
+};
+
+class ReplaySensorSource final : public ReplaySource<SensorSource> {
+public:
+    using ReplaySource::ReplaySource;
+
+    [[nodiscard]] std::optional<double> readCPUTemperature() override {
+        return now().sensor->readCPUTemperature();
+    }
+    [[nodiscard]] std::optional<double> readGPUTemperature() override {
+        return now().sensor->readGPUTemperature();
+    }
+    [[nodiscard]] std::vector<NamedTemperature> readSensors() override { return now().sensor->readSensors(); }
+    [[nodiscard]] std::vector<std::int64_t> readFanSpeeds() override { return now().sensor->readFanSpeeds(); }
+};
+
+class ReplayProcessSource final : public ReplaySource<ProcessSource> {
+public:
+    using ReplaySource::ReplaySource;
 
     [[nodiscard]] std::optional<std::uint64_t> readTotalMemory() override {
-        return m_moments->now().process->readTotalMemory();
+        return now().process->readTotalMemory();
     }
     [[nodiscard]] std::optional<std::span<const ProcessRecord>> readProcesses() override {
-        return m_moments->now().process->readProcesses();
+        return now().process->readProcesses();
     }
-
-private:
-    MomentsPointer m_moments;
 };
 
 } // namespace
@@ -70,6 +116,10 @@ MachineSources ReplayMachine::sources(WallClock now) const {
     return {.now = std::move(now),
             .processor = std::make_unique<ReplayProcessorSource>(m_moments),
             .memory = std::make_unique<ReplayMemorySource>(m_moments),
+            .disk = std::make_unique<ReplayDiskSource>(m_moments),
+            .network = std::make_unique<ReplayNetworkSource>(m_moments),
+            .battery = std::make_unique<ReplayBatterySource>(m_moments),
+            .sensor = std::make_unique<ReplaySensorSource>(m_moments),
             .process = std::make_unique<ReplayProcessSource>(m_moments)};
 }
 

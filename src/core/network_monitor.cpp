@@ -1,0 +1,138 @@
+#include "core/network_monitor.h"
+
+#include "core/checked.h"
+#include "core/published.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvelle {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr QLatin1StringView noAddress = "N/A"_L1;
+
+struct DisplayName {
+    QLatin1StringView prefix;
+    QLatin1StringView name;
+};
+
+/// The first prefix that fits counts, so a longer one stands before a shorter one.
+constexpr std::array displayNames{
+    DisplayName{"en0"_L1, "Wi-Fi"_L1},
+    DisplayName{"en"_L1, "Ethernet"_L1},
+    DisplayName{"bridge"_L1, "Bridge"_L1},
+    DisplayName{"awdl"_L1, "AWDL"_L1},
+    DisplayName{"llw"_L1, "Low Latency WLAN"_L1},
+    DisplayName{"utun"_L1, "VPN Tunnel"_L1},
+    DisplayName{"pdp_ip"_L1, "Cellular"_L1},
+};
+
+void addEntry(NetworkInterfaceInfo& info, const InterfaceEntry& entry) {
+    if (!entry.ipv4Address.empty())
+        info.ipv4Address = QString::fromStdString(entry.ipv4Address);
+    if (!entry.ipv6Address.empty() && !entry.ipv6Address.starts_with("fe80"))
+        info.ipv6Address = QString::fromStdString(entry.ipv6Address);
+    info.bytesIn = checkedAdd(info.bytesIn, quint64{entry.bytesIn});
+    info.bytesOut = checkedAdd(info.bytesOut, quint64{entry.bytesOut});
+}
+
+std::map<QString, NetworkInterfaceInfo> groupedByName(const std::vector<InterfaceEntry>& entries) {
+    std::map<QString, NetworkInterfaceInfo> interfaces;
+    for (const InterfaceEntry& entry : entries) {
+        if (!entry.isUp || entry.isLoopback)
+            continue;
+        const QString name = QString::fromStdString(entry.name);
+        const auto [position, isNew] = interfaces.try_emplace(name);
+        if (isNew) {
+            position->second.name = name;
+            position->second.displayName = interfaceDisplayName(name);
+        }
+        addEntry(position->second, entry);
+    }
+    return interfaces;
+}
+
+/// An interface that never carried a byte and has no address is of no interest to the user.
+bool isListed(const NetworkInterfaceInfo& info) {
+    return info.bytesIn != 0 || info.bytesOut != 0 || info.ipv4Address.has_value();
+}
+
+} // namespace
+
+QString interfaceDisplayName(const QString& name) {
+    for (const DisplayName& entry : displayNames) {
+        if (name.startsWith(entry.prefix))
+            return entry.name;
+    }
+    return name;
+}
+
+NetworkMonitor::NetworkMonitor(NetworkSource& source, WallClock now, QObject* parent)
+    : QObject(parent)
+    , m_source(source)
+    , m_now(std::move(now))
+    , m_primaryIPv4(noAddress)
+    , m_primaryIPv6(noAddress) {}
+
+void NetworkMonitor::update() {
+    const std::optional<std::vector<InterfaceEntry>> entries = m_source.read();
+    if (!entries || entries->empty())
+        return;
+    InterfacesByName interfaces = groupedByName(*entries);
+    measureSpeeds(interfaces, m_now());
+    publishInterfaces(interfaces);
+    publishPrimaryAddresses();
+    MetricHistory::append(m_downloadHistory, m_totalDownloadSpeed, maxHistoryCount);
+    Q_EMIT downloadHistoryChanged();
+    MetricHistory::append(m_uploadHistory, m_totalUploadSpeed, maxHistoryCount);
+    Q_EMIT uploadHistoryChanged();
+}
+
+void NetworkMonitor::measureSpeeds(InterfacesByName& interfaces, WallTime now) {
+    const double elapsedSeconds = m_lastUpdateTime ? secondsBetween(*m_lastUpdateTime, now) : 0;
+    for (auto& [name, info] : interfaces) {
+        const auto previous = m_previousBytes.find(name);
+        if (previous != m_previousBytes.end() && elapsedSeconds > 0) {
+            const Bytes& before = previous->second;
+            info.downloadSpeed = static_cast<double>(counterDelta(info.bytesIn, before.in)) / elapsedSeconds;
+            info.uploadSpeed = static_cast<double>(counterDelta(info.bytesOut, before.out)) / elapsedSeconds;
+        }
+        m_previousBytes[name] = {.in = info.bytesIn, .out = info.bytesOut};
+    }
+    m_lastUpdateTime = now;
+}
+
+void NetworkMonitor::publishInterfaces(const InterfacesByName& interfaces) {
+    QList<InterfaceInfo> listed;
+    double downloadSpeed = 0;
+    double uploadSpeed = 0;
+    quint64 bytesIn = 0;
+    quint64 bytesOut = 0;
+    for (const auto& [name, info] : interfaces) {
+        downloadSpeed += info.downloadSpeed;
+        uploadSpeed += info.uploadSpeed;
+        bytesIn = checkedAdd(bytesIn, info.bytesIn);
+        bytesOut = checkedAdd(bytesOut, info.bytesOut);
+        if (isListed(info))
+            listed.append(info);
+    }
+    publish(this, m_interfaces, std::move(listed), &NetworkMonitor::interfacesChanged);
+    publish(this, m_totalDownloadSpeed, downloadSpeed, &NetworkMonitor::totalDownloadSpeedChanged);
+    publish(this, m_totalUploadSpeed, uploadSpeed, &NetworkMonitor::totalUploadSpeedChanged);
+    publish(this, m_totalBytesIn, bytesIn, &NetworkMonitor::totalBytesInChanged);
+    publish(this, m_totalBytesOut, bytesOut, &NetworkMonitor::totalBytesOutChanged);
+}
+
+void NetworkMonitor::publishPrimaryAddresses() {
+    const auto primary = std::ranges::find_if(
+        m_interfaces, [](const InterfaceInfo& info) { return info.ipv4Address.has_value(); });
+    if (primary == m_interfaces.end())
+        return;
+    publish(this, m_primaryIPv4, *primary->ipv4Address, &NetworkMonitor::primaryIPv4Changed);
+    publish(this, m_primaryIPv6, primary->ipv6Address.value_or(noAddress),
+            &NetworkMonitor::primaryIPv6Changed);
+}
+
+} // namespace orvelle

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvelle {
+
+/// One entry of the system's interface list. An interface may have several: one for each of its addresses and
+/// one with its counters, say. Of several addresses of a kind the last counts; counters of all entries of one
+/// interface are added up. A source keeps the sums of all entries within 64 bits, or its system cannot reach
+/// them, because a sum beyond stops the process.
+struct InterfaceEntry {
+    std::string name; ///< never empty, fit to be shown
+    bool isUp = false;
+    bool isLoopback = false;
+    std::string ipv4Address{}; ///< in numeric form; empty when the entry tells none
+    std::string ipv6Address{}; ///< in numeric form, link-local ones included; empty when the entry tells none
+    std::uint64_t bytesIn = 0; ///< received since the interface appeared
+    std::uint64_t bytesOut = 0; ///< sent since the interface appeared
+
+    bool operator==(const InterfaceEntry&) const = default;
+};
+
+/// What `NetworkMonitor` asks of an operating system.
+class NetworkSource {
+public:
+    virtual ~NetworkSource() = default;
+
+    /// The interface list in the system's order; nothing when it cannot be read.
+    [[nodiscard]] virtual std::optional<std::vector<InterfaceEntry>> read() = 0;
+};
+
+} // namespace orvelle
