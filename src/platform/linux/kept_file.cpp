@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 #include <utility>
 
@@ -64,6 +65,13 @@ std::optional<std::string_view> KeptFile::read() {
         return std::nullopt;
     }
     return std::string_view(m_buffer.data(), m_size);
+}
+
+bool KeptFile::hasAnnouncedChange() {
+    if (m_descriptor < 0)
+        return true;
+    pollfd request{.fd = m_descriptor, .events = POLLPRI, .revents = 0};
+    return ::poll(&request, 1, 0) != 0 && (request.revents & (POLLPRI | POLLERR)) != 0;
 }
 
 bool KeptFile::readAll() {

@@ -30,6 +30,10 @@ public:
     /// The file's text now, valid until the next call; nothing when it cannot be opened or read.
     [[nodiscard]] std::optional<std::string_view> read();
 
+    /// Whether the kernel may have changed the text since the last call, for a text whose changes it
+    /// announces to those who poll the open file (mountinfo). Yes while the file is not open.
+    [[nodiscard]] bool hasAnnouncedChange();
+
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
 
 private:

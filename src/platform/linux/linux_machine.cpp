@@ -1,5 +1,7 @@
 #include "platform/host.h"
+#include "platform/linux/linux_disk_source.h"
 #include "platform/linux/linux_memory_source.h"
+#include "platform/linux/linux_network_source.h"
 #include "platform/linux/linux_process_source.h"
 #include "platform/linux/linux_processor_source.h"
 #include "platform/linux/process_clock.h"
@@ -30,6 +32,8 @@ MachineSources makeSources(const std::filesystem::path& root, WallClock now, Pro
     return {.now = std::move(now),
             .processor = std::make_unique<LinuxProcessorSource>(root),
             .memory = std::make_unique<LinuxMemorySource>(root, units.pageSize),
+            .disk = std::make_unique<LinuxDiskSource>(root),
+            .network = std::make_unique<LinuxNetworkSource>(root),
             .process = std::make_unique<LinuxProcessSource>(root, timesFrom, units)};
 }
 

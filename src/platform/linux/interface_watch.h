@@ -1,0 +1,27 @@
+#pragma once
+
+namespace orvelle::linux_platform {
+
+/// Tells when the running system's interfaces or addresses may have changed, so that they need not be asked
+/// for at each sample: the kernel announces changes on a routing socket (rtnetlink(7)). Asking costs one
+/// system call while nothing changes. Where no such socket can be had, every tenth question is answered yes.
+class InterfaceWatch {
+public:
+    InterfaceWatch() = default;
+    ~InterfaceWatch();
+    InterfaceWatch(const InterfaceWatch&) = delete;
+    InterfaceWatch& operator=(const InterfaceWatch&) = delete;
+
+    /// Whether something may have changed since the last call; yes at the first call. What is read after the
+    /// call is at least as new as the answer.
+    [[nodiscard]] bool mayHaveChanged();
+
+private:
+    [[nodiscard]] bool takeAnnouncements();
+    void close();
+
+    int m_socket = -1;
+    unsigned m_callsWithoutSocket = 0;
+};
+
+} // namespace orvelle::linux_platform

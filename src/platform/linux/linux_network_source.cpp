@@ -1,0 +1,79 @@
+#include "platform/linux/linux_network_source.h"
+
+#include "platform/linux/host_root.h"
+#include "platform/linux/sanitize.h"
+
+#include <algorithm>
+
+namespace orvelle::linux_platform {
+namespace {
+
+InterfaceEntry withAddress(InterfaceEntry entry, const InterfaceAddress& address) {
+    const bool isIPv4 = address.family == InterfaceAddress::Family::ipv4;
+    (isIPv4 ? entry.ipv4Address : entry.ipv6Address) = address.text;
+    return entry;
+}
+
+} // namespace
+
+LinuxNetworkSource::LinuxNetworkSource(std::filesystem::path root)
+    : m_root(std::move(root))
+    , m_counters(m_root / "proc/net/dev", KeptFile::Layout::records) {
+    if (isHostRoot(m_root))
+        m_watch.emplace();
+}
+
+std::optional<std::vector<InterfaceEntry>> LinuxNetworkSource::read() {
+    // Asked before the counters are read, so that a change in between is announced to the next reading.
+    if (!m_watch || m_watch->mayHaveChanged())
+        m_isStale = true;
+    const std::optional<std::string_view> text = m_counters.read();
+    if (!text)
+        return std::nullopt;
+    const std::vector<InterfaceCounters> interfaces = parseNetDev(*text);
+    if (m_isStale || !knowsAll(interfaces))
+        learn(interfaces);
+
+    std::vector<InterfaceEntry> entries;
+    for (const InterfaceCounters& counters : interfaces) {
+        const KnownInterface& known = m_known.find(counters.name)->second;
+        if (known.state.isPort)
+            continue;
+        InterfaceEntry entry;
+        entry.name = sanitizedName(counters.name);
+        entry.isUp = known.state.isUp;
+        entry.isLoopback = known.state.isLoopback;
+        for (const InterfaceAddress& address : known.addresses)
+            entries.push_back(withAddress(entry, address));
+        entry.bytesIn = counters.bytesIn;
+        entry.bytesOut = counters.bytesOut;
+        entries.push_back(std::move(entry));
+    }
+    return entries;
+}
+
+bool LinuxNetworkSource::knowsAll(const std::vector<InterfaceCounters>& interfaces) const {
+    return std::ranges::all_of(interfaces, [this](const InterfaceCounters& counters) {
+        return m_known.find(counters.name) != m_known.end();
+    });
+}
+
+void LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces) {
+    m_known.clear();
+    for (const InterfaceCounters& counters : interfaces)
+        m_known[std::string(counters.name)].state = readInterfaceState(m_root, counters.name);
+    for (InterfaceAddress& address : readAddresses()) {
+        const auto position = m_known.find(address.interfaceName);
+        if (position != m_known.end())
+            position->second.addresses.push_back(std::move(address));
+    }
+    m_isStale = false;
+}
+
+std::vector<InterfaceAddress> LinuxNetworkSource::readAddresses() const {
+    if (m_watch)
+        return hostAddresses();
+    return parseAddresses(readFile(m_root / "addresses").value_or(""));
+}
+
+} // namespace orvelle::linux_platform

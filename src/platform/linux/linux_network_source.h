@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/sources/network_source.h"
+#include "platform/linux/interface_addresses.h"
+#include "platform/linux/interface_state.h"
+#include "platform/linux/interface_watch.h"
+#include "platform/linux/kept_file.h"
+#include "platform/linux/net_dev.h"
+
+#include <map>
+
+namespace orvelle::linux_platform {
+
+/// Answers from `proc/net/dev`, `sys/class/net` and the interfaces' addresses. Ports of a bridge or bond are
+/// left out. On the running system states and addresses are read only when the kernel announced a change; in
+/// another tree they are read each time, the addresses from its file `addresses`.
+class LinuxNetworkSource final : public NetworkSource {
+public:
+    explicit LinuxNetworkSource(std::filesystem::path root);
+
+    [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override;
+
+private:
+    struct KnownInterface {
+        InterfaceState state;
+        std::vector<InterfaceAddress> addresses;
+    };
+
+    [[nodiscard]] bool knowsAll(const std::vector<InterfaceCounters>& interfaces) const;
+    void learn(const std::vector<InterfaceCounters>& interfaces);
+    [[nodiscard]] std::vector<InterfaceAddress> readAddresses() const;
+
+    std::filesystem::path m_root;
+    KeptFile m_counters;
+    /// Empty when the root is not the running system.
+    std::optional<InterfaceWatch> m_watch;
+    std::map<std::string, KnownInterface, std::less<>> m_known;
+    bool m_isStale = true;
+};
+
+} // namespace orvelle::linux_platform

@@ -1,0 +1,101 @@
+#include "platform/linux/linux_volumes.h"
+
+#include "platform/linux/host_root.h"
+#include "platform/linux/sanitize.h"
+#include "platform/linux/volume_choice.h"
+#include "platform/linux/volume_labels.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvelle::linux_platform {
+namespace {
+
+/// The choice is made anew after so many readings in any case: a label may be written without a mount.
+constexpr unsigned readingsPerChoice = 20;
+
+/// Up to so many volumes are measured at each reading; of more, a tenth in turn.
+constexpr std::size_t leastMeasured = 4;
+constexpr std::size_t longestTurn = 10;
+
+/// What container runtimes bind into every container. A tree of files need not hold them to be told.
+constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/hosts", "/etc/resolv.conf"};
+
+} // namespace
+
+LinuxVolumes::LinuxVolumes(std::filesystem::path root)
+    : m_root(std::move(root))
+    , m_isHost(isHostRoot(m_root))
+    , m_mountinfo(m_root / "proc/self/mountinfo", KeptFile::Layout::records) {}
+
+std::optional<std::vector<MountedVolume>> LinuxVolumes::read() {
+    const bool mustChoose = !m_isHost || m_mountinfo.hasAnnouncedChange() || m_readingsUntilChoice == 0;
+    if (mustChoose && !choose()) {
+        m_readingsUntilChoice = 0;
+        return std::nullopt;
+    }
+    m_readingsUntilChoice = mustChoose ? readingsPerChoice : m_readingsUntilChoice - 1;
+    if (!m_isHost)
+        measureFromTree();
+    else
+        measure(mustChoose ? m_volumes.size() : std::max(leastMeasured, m_volumes.size() / longestTurn));
+
+    std::vector<MountedVolume> measured;
+    for (const Volume& volume : m_volumes) {
+        if (!volume.space)
+            continue;
+        measured.push_back(volume.published);
+        measured.back().totalBytes = volume.space->totalBytes;
+        measured.back().freeBytes = volume.space->freeBytes;
+    }
+    return measured;
+}
+
+bool LinuxVolumes::choose() {
+    const std::optional<std::string_view> text = m_mountinfo.read();
+    if (!text)
+        return false;
+    const HiddenPaths hidden = hiddenPathsInFstab(readFile(m_root / "etc/fstab").value_or(""));
+    const VolumeLabels labels(m_root);
+    m_volumes.clear();
+    m_nextToMeasure = 0;
+    const auto isFile = [this](const Mount& mount) { return isSingleFile(mount); };
+    for (const Mount& mount : chosenVolumes(parseMountinfo(*text), hidden, isFile)) {
+        MountedVolume published;
+        published.path = sanitizedName(mount.path);
+        published.name = labels.labelOf(mount);
+        published.isLocal = true;
+        m_volumes.push_back({mount.path, std::move(published), std::nullopt});
+    }
+    return true;
+}
+
+bool LinuxVolumes::isSingleFile(const Mount& mount) const {
+    // Made plain first, so that the path stays below the root.
+    const std::filesystem::path path =
+        m_root / std::filesystem::path(mount.path).lexically_normal().relative_path();
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(path, ignored);
+    if (std::filesystem::exists(status))
+        return !std::filesystem::is_directory(status);
+    return std::ranges::find(containerFiles, mount.path) != containerFiles.end();
+}
+
+void LinuxVolumes::measure(std::size_t count) {
+    for (std::size_t measured = 0; measured < std::min(count, m_volumes.size()); ++measured) {
+        Volume& volume = m_volumes[m_nextToMeasure];
+        volume.space = hostVolumeSpace(volume.path);
+        m_nextToMeasure = (m_nextToMeasure + 1) % m_volumes.size();
+    }
+}
+
+void LinuxVolumes::measureFromTree() {
+    const auto spaces = parseVolumeSpaces(readFile(m_root / "statfs").value_or(""));
+    for (Volume& volume : m_volumes) {
+        const auto position = spaces.find(volume.path);
+        if (position != spaces.end())
+            volume.space = position->second;
+    }
+}
+
+} // namespace orvelle::linux_platform
