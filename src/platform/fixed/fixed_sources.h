@@ -72,20 +72,22 @@ public:
     [[nodiscard]] std::optional<double> readGPUTemperature() override { return gpuTemperature; }
     [[nodiscard]] std::vector<NamedTemperature> readSensors() override { return sensors; }
     [[nodiscard]] std::vector<std::int64_t> readFanSpeeds() override { return fanSpeeds; }
-    class FixedDiskSource final : public DiskSource {
-    public:
-        std::optional<std::vector<MountedVolume>> volumes;
-        std::optional<std::vector<DiskCounters>> counters;
+};
 
-        [[nodiscard]] std::optional<std::vector<MountedVolume>> readVolumes() override { return volumes; }
-        [[nodiscard]] std::optional<std::vector<DiskCounters>> readCounters() override { return counters; }
-    };
+class FixedDiskSource final : public DiskSource {
+public:
+    std::optional<std::vector<MountedVolume>> volumes;
+    std::optional<std::vector<DiskCounters>> counters;
 
-    class FixedNetworkSource final : public NetworkSource {
-    public:
-        std::optional<std::vector<InterfaceEntry>> entries;
+    [[nodiscard]] std::optional<std::vector<MountedVolume>> readVolumes() override { return volumes; }
+    [[nodiscard]] std::optional<std::vector<DiskCounters>> readCounters() override { return counters; }
+};
 
-        [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override { return entries; }
-    };
+class FixedNetworkSource final : public NetworkSource {
+public:
+    std::optional<std::vector<InterfaceEntry>> entries;
+
+    [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override { return entries; }
+};
 
 } // namespace orvelle
