@@ -1,6 +1,5 @@
 #include "settings/ini_text.h"
 
-#include <QList>
 #include <QLocale>
 #include <QMap>
 
@@ -20,6 +19,12 @@ struct Line {
 
 bool isHeader(QByteArrayView trimmed) {
     return trimmed.startsWith('[');
+}
+
+/// What follows the bracket, a comment say, does not matter.
+bool isGeneralHeader(QByteArrayView trimmed) {
+    constexpr QByteArrayView header("[General]");
+    return trimmed.first(std::min(trimmed.size(), header.size())).compare(header, Qt::CaseInsensitive) == 0;
 }
 
 void splitAtEquals(Line& line) {
@@ -47,7 +52,7 @@ void forEachLine(QByteArrayView text, Visitor visit) {
         line.content = text.sliced(begin, end - begin);
         const QByteArrayView trimmed = line.content.trimmed();
         if (isHeader(trimmed))
-            isGeneral = trimmed.toByteArray().toLower() == "[general]";
+            isGeneral = isGeneralHeader(trimmed);
         line.isGeneral = isGeneral;
         splitAtEquals(line);
         visit(line);

@@ -73,8 +73,6 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     reload();
 }
 
-SettingsStore::~SettingsStore() = default;
-
 void SettingsStore::saveAndAnnounce(const AnySetting& setting) {
     save();
     Q_EMIT(this->*setting.changedSignal())();
@@ -126,13 +124,16 @@ void SettingsStore::reload() {
 }
 
 /// Watches the file and its folder: the file for writes in place, the folder because editors and this program
-/// replace the file, which ends the watch on the old one.
+/// replace the file. The watch on the file is renewed, because the old file may live on elsewhere, still
+/// watched.
 void SettingsStore::watch() {
     const QString filePath = m_storage->filePath();
     const QString folder = QFileInfo(filePath).path();
     if (!m_watcher.directories().contains(folder) && QFileInfo(folder).isDir())
         m_watcher.addPath(folder);
-    if (!m_watcher.files().contains(filePath) && QFileInfo(filePath).isFile())
+    if (m_watcher.files().contains(filePath))
+        m_watcher.removePath(filePath);
+    if (QFileInfo(filePath).isFile())
         m_watcher.addPath(filePath);
 }
 

@@ -83,7 +83,6 @@ public:
 
     /// The user's settings of this program, or those in an ini file of one's own when a path is given.
     explicit SettingsStore(const QString& filePath = {}, QObject* parent = nullptr);
-    ~SettingsStore() override;
 
     /// Which modules have an item in the menu bar.
     [[nodiscard]] bool showCPU() const { return m_showCPU.value(); }

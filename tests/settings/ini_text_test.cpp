@@ -44,8 +44,10 @@ TEST(IniTextTest, OnlyTheGeneralSectionCounts) {
     EXPECT_EQ(valueIn("a=1\n[Other]\na=2\n"), u"1"_s);
     EXPECT_EQ(valueIn("[Other]\na=2\n[General]\na=3"), u"3"_s);
     EXPECT_EQ(valueIn(" [general] \na=3"), u"3"_s);
+    EXPECT_EQ(valueIn("[Other]\n[General] ; again\na=4"), u"4"_s);
     EXPECT_FALSE(valueIn("[Other]\na=2\n").isValid());
     EXPECT_FALSE(valueIn("[General\na=2\n").isValid());
+    EXPECT_FALSE(valueIn("[Generals]\na=2\n").isValid());
 }
 
 TEST(IniTextTest, CommentsAndBrokenLinesAreNoValues) {

@@ -43,6 +43,17 @@ TEST_F(SettingsHandEditTest, ReplacingTheFileIsPublishedAgainAndAgain) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return store.updateInterval() == 30.0; }, longestWait));
 }
 
+TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublishedWhileSomeoneStillHoldsTheReplacedFile) {
+    settings.writeInPlace("[General]\n");
+    QFile held(settings.path());
+    ASSERT_TRUE(held.open(QIODevice::ReadOnly));
+    SettingsStore store(settings.path());
+    settings.replaceByRename("[General]\nshowDisk=true\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return store.showDisk(); }, longestWait));
+    settings.writeInPlace("[General]\nshowSensors=true\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return store.showSensors(); }, longestWait));
+}
+
 TEST_F(SettingsHandEditTest, AFileThatAppearsIsPublishedAndOneThatVanishesGivesTheDefaults) {
     SettingsStore store(settings.path());
     settings.writeInPlace("[General]\nglowIntensity=intense\n");
