@@ -1,0 +1,133 @@
+#include "samplers.h"
+
+#include "core/process_monitor.h"
+#include "helpers.h"
+#include "platform/host.h"
+#include "platform/linux/process_clock.h"
+#include "platform/linux/process_files.h"
+#include "platform/linux/process_search.h"
+
+#include <algorithm>
+#include <fstream>
+#include <malloc.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace orvelle::bench {
+namespace {
+
+template <class Sample>
+void repeat(const Rhythm& rhythm, Sample sample) {
+    for (int count = 0; rhythm.samples == 0 || count < rhythm.samples; ++count) {
+        if (count > 0)
+            std::this_thread::sleep_for(rhythm.interval);
+        sample(count);
+    }
+}
+
+double heapBytes() {
+    const struct mallinfo2 use = ::mallinfo2();
+    return static_cast<double>(use.uordblks + use.hblkhd);
+}
+
+double residentBytes() {
+    std::ifstream statm("/proc/self/statm");
+    double total = 0;
+    double resident = 0;
+    statm >> total >> resident;
+    return resident * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+/// Passes a source's answers on and counts what they hold.
+class CountingSource final : public ProcessSource {
+public:
+    CountingSource(ProcessSource& source, SampleCounts& counts)
+        : m_source(source)
+        , m_counts(counts) {}
+
+    std::optional<std::uint64_t> readTotalMemory() override { return m_source.readTotalMemory(); }
+    std::optional<std::span<const ProcessRecord>> readProcesses() override {
+        const auto records = m_source.readProcesses();
+        if (!records)
+            return records;
+        std::vector<std::pair<std::int32_t, std::uint64_t>> times;
+        times.reserve(records->size());
+        for (const ProcessRecord& record : *records)
+            times.emplace_back(record.pid, record.userNanoseconds + record.systemNanoseconds);
+        if (!m_times.empty())
+            count(times);
+        m_times = std::move(times);
+        return records;
+    }
+
+private:
+    void count(const std::vector<std::pair<std::int32_t, std::uint64_t>>& times) {
+        m_counts.listed += times.size();
+        for (const auto& time : times)
+            m_counts.ran += std::ranges::binary_search(m_times, time) ? 0U : 1U;
+    }
+
+    ProcessSource& m_source;
+    SampleCounts& m_counts;
+    std::vector<std::pair<std::int32_t, std::uint64_t>> m_times;
+};
+
+} // namespace
+
+SampleCounts sampleProcesses(const Rhythm& rhythm) {
+    SampleCounts counts;
+    const MachineSources sources = makeHostSources();
+    CountingSource counting(*sources.process, counts);
+    // Counting costs time of its own, so it is done only where time is not measured.
+    ProcessSource& source = rhythm.samples > 0 ? counting : *sources.process;
+    ProcessMonitor monitor(source, sources.now);
+    repeat(rhythm, [&](int) { monitor.update(); });
+    return counts;
+}
+
+void askOnlyClocks(const Rhythm& rhythm) {
+    linux_platform::ProcessFiles files("/");
+    if (!files.open())
+        return;
+    const std::vector<std::int32_t> pids = files.list();
+    linux_platform::NewestPid newestPid("/");
+    repeat(rhythm, [&](int) {
+        static_cast<void>(newestPid.read());
+        for (const std::int32_t pid : pids)
+            static_cast<void>(linux_platform::readProcessClock(pid));
+    });
+}
+
+void readOnlyStatFiles(const Rhythm& rhythm) {
+    linux_platform::ProcessFiles files("/");
+    if (!files.open())
+        return;
+    repeat(rhythm, [&](int) {
+        for (const std::int32_t pid : files.list())
+            static_cast<void>(files.readStat(pid));
+    });
+}
+
+MemoryGrowth measureMemoryGrowth(std::size_t extra) {
+    Helpers helpers;
+    helpers.reserve(extra);
+    const MachineSources sources = makeHostSources();
+    ProcessMonitor monitor(*sources.process, sources.now);
+    const auto sampleTwice = [&monitor] {
+        monitor.update();
+        monitor.update();
+    };
+    sampleTwice();
+    ::malloc_trim(0);
+    const double heapBefore = heapBytes();
+    const double residentBefore = residentBytes();
+    helpers.addSleepers(extra);
+    sampleTwice();
+    const auto perProcess = [extra](double bytes) { return bytes / static_cast<double>(extra); };
+    return {.heapBytes = perProcess(heapBytes() - heapBefore),
+            .residentBytes = perProcess(residentBytes() - residentBefore)};
+}
+
+} // namespace orvelle::bench
