@@ -45,7 +45,7 @@ void ProcessMonitor::update() {
     HeaviestProcesses<std::uint64_t> byMemory;
     if (const auto processes = m_source.readProcesses(); processes && !processes->empty()) {
         const WallTime now = m_now();
-        m_previousCPUTimes.beginSample();
+        m_previousCPUTimes.beginSample(processes->size());
         for (const ProcessRecord& process : *processes) {
             if (process.pid <= 0)
                 continue;

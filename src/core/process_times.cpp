@@ -4,7 +4,10 @@
 
 namespace orvelle {
 
-void ProcessTimesByPid::beginSample() {
+void ProcessTimesByPid::beginSample(std::size_t processCount) {
+    // Doubling would leave up to half of the memory unused for as long as the program runs.
+    if (processCount > m_entries.capacity())
+        m_entries.reserve(processCount + processCount / 16 + 16);
     ++m_sample;
     m_hint = 0;
 }
@@ -23,9 +26,6 @@ ProcessTimes* ProcessTimesByPid::see(std::int32_t pid) {
 }
 
 void ProcessTimesByPid::add(std::int32_t pid, const ProcessTimes& times) {
-    // Doubling would leave up to half of the memory unused for as long as the program runs.
-    if (m_entries.size() == m_entries.capacity())
-        m_entries.reserve(m_entries.size() + m_entries.size() / 8 + 16);
     m_entries.push_back({.pid = pid, .seenInSample = m_sample, .times = times});
 }
 

@@ -18,8 +18,8 @@ struct ProcessTimes {
 /// are looked up in every sample and nearly all of them are the ones of the sample before.
 class ProcessTimesByPid {
 public:
-    /// Begins a sample: from here on no process has been seen.
-    void beginSample();
+    /// Begins a sample of so many processes: from here on none of them has been seen.
+    void beginSample(std::size_t processCount);
     /// The times of `pid`, which counts as seen from now on; null for an unknown process. Valid until the
     /// next call of any other member.
     [[nodiscard]] ProcessTimes* see(std::int32_t pid);

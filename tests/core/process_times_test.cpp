@@ -13,7 +13,7 @@ ProcessTimes userTime(std::uint64_t nanoseconds) {
 
 /// One sample in which exactly `pids` are listed; each is given its pid as its user time.
 void sample(ProcessTimesByPid& times, std::initializer_list<std::int32_t> pids) {
-    times.beginSample();
+    times.beginSample(pids.size());
     for (const std::int32_t pid : pids) {
         if (times.see(pid) == nullptr)
             times.add(pid, userTime(static_cast<std::uint64_t>(pid)));
@@ -23,7 +23,7 @@ void sample(ProcessTimesByPid& times, std::initializer_list<std::int32_t> pids) 
 
 TEST(ProcessTimesByPid, KnowsNothingAtFirst) {
     ProcessTimesByPid times;
-    times.beginSample();
+    times.beginSample(5);
     EXPECT_EQ(times.see(1), nullptr);
     EXPECT_EQ(times.size(), 0u);
 }
@@ -35,7 +35,7 @@ TEST(ProcessTimesByPid, FindsEveryProcessWhateverTheOrderOfTheListing) {
                              {1, 3, 77, 500, 900},
                              {900, 500, 77, 3, 1},
                              {77, 900, 1, 500, 3}}) {
-        times.beginSample();
+        times.beginSample(5);
         for (const std::int32_t pid : order) {
             const ProcessTimes* found = times.see(pid);
             ASSERT_NE(found, nullptr) << pid;
@@ -51,7 +51,7 @@ TEST(ProcessTimesByPid, ForgetsWhatWasNotListed) {
     sample(times, {1, 2, 3, 4});
     sample(times, {2, 4, 5});
     EXPECT_EQ(times.size(), 3u);
-    times.beginSample();
+    times.beginSample(5);
     EXPECT_EQ(times.see(1), nullptr);
     EXPECT_NE(times.see(2), nullptr);
     EXPECT_EQ(times.see(3), nullptr);
@@ -62,10 +62,10 @@ TEST(ProcessTimesByPid, ForgetsWhatWasNotListed) {
 TEST(ProcessTimesByPid, KeepsWhatIsWrittenIntoItsTimes) {
     ProcessTimesByPid times;
     sample(times, {1, 2});
-    times.beginSample();
+    times.beginSample(5);
     *times.see(2) = userTime(99);
     times.forgetUnseen();
-    times.beginSample();
+    times.beginSample(5);
     ASSERT_NE(times.see(2), nullptr);
     EXPECT_EQ(times.see(2)->userNanoseconds, 99u);
 }

@@ -12,12 +12,18 @@ namespace {
 
 /// An idle process can lose resident pages without running, so one idle process in so many is read in every
 /// sample, each in its turn.
-constexpr std::size_t idleProcessesPerRead = 34;
+constexpr std::size_t idleProcessesPerRead = 50;
 
 constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
 
 std::uint64_t bounded(std::uint64_t nanoseconds) {
     return std::min(nanoseconds, ProcessRecord::maximumNanoseconds);
+}
+
+/// The start time tells a reused pid, the short name an exec. Both in one number, since thousands are kept.
+ProcessLife lifeOf(const ProcessStat& stat) {
+    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+    return std::hash<std::string_view>{}(stat.comm) ^ (stat.startTime * spread);
 }
 
 } // namespace
@@ -90,8 +96,7 @@ bool LinuxProcessSource::refreshByStat(ProcessRecord& record, ProcessLife& life)
 }
 
 void LinuxProcessSource::takeName(ProcessRecord& record, ProcessLife& life, const ProcessStat& stat) {
-    const ProcessLife present{.startTime = stat.startTime,
-                              .commHash = std::hash<std::string_view>{}(stat.comm)};
+    const ProcessLife present = lifeOf(stat);
     if (life == present)
         return;
     life = present;
@@ -104,7 +109,9 @@ void LinuxProcessSource::takeName(ProcessRecord& record, ProcessLife& life, cons
 
 void LinuxProcessSource::findNewProcesses(const NewProcessSearch& search) {
     if (search.wholeListing) {
-        for (const std::int32_t pid : m_files.list())
+        const std::vector<std::int32_t>& pids = m_files.list();
+        m_table.reserve(pids.size());
+        for (const std::int32_t pid : pids)
             addIfNew(pid);
         return;
     }
@@ -117,7 +124,7 @@ void LinuxProcessSource::addIfNew(std::int32_t pid) {
         return;
     ProcessRecord record;
     record.pid = pid;
-    ProcessLife life;
+    ProcessLife life = 0;
     const bool isProcess = m_timesFrom == ProcessTimesFrom::processClocks ? refreshByClock(record, life, true)
                                                                           : refreshByStat(record, life);
     if (isProcess)

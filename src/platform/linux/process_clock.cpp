@@ -9,10 +9,6 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// No kernel hands out a larger pid (PID_MAX_LIMIT); one whose upper bits do not fit would name another's
-/// clock, and 0 the caller's.
-constexpr std::int32_t largestPid = 1 << 22;
-
 /// How the kernel numbers CPU clocks (include/linux/posix-timers_types.h): the pid inverted, then two bits,
 /// of which the value 2 means time as the scheduler counts it.
 clockid_t clockOf(std::int32_t pid) {

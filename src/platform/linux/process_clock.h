@@ -7,9 +7,13 @@
 
 namespace orvelle::linux_platform {
 
+/// No kernel hands out a larger pid (PID_MAX_LIMIT).
+inline constexpr std::int32_t largestPid = 1 << 22;
+
 /// Processor time in nanoseconds that all threads of a process have used, ended ones included: the process's
 /// CPU clock (clock_getcpuclockid(3)), which any user may read and which costs a tenth of reading its `stat`.
-/// Nothing when there is no such process, or when `pid` is a thread of one.
+/// Nothing when there is no such process, or when `pid` is a thread of one. Pids that no
+/// kernel hands out are never asked: their bits would name another's clock, and 0 the caller's own.
 [[nodiscard]] std::optional<std::uint64_t> readProcessClock(std::int32_t pid);
 
 /// Whether `readProcessClock` can be asked about the pids that `root/proc` lists: `root` is that of the

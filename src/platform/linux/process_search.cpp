@@ -1,5 +1,6 @@
 #include "platform/linux/process_search.h"
 
+#include "platform/linux/process_clock.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>
@@ -9,9 +10,10 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// How many pids may be asked one by one: beyond so many per known process the listing is cheaper.
-constexpr std::size_t askedPerKnownProcess = 4;
-constexpr std::size_t alwaysAsked = 256;
+/// How many pids may be asked one by one: a few, and one for so many known processes. With more the sample
+/// would make many more system calls than there are processes, and listing them takes a handful.
+constexpr std::size_t alwaysAsked = 16;
+constexpr std::size_t knownProcessesPerAsked = 32;
 
 /// Whether both files belong to the same mount of a file system.
 bool onSameDevice(const std::filesystem::path& left, const std::filesystem::path& right) {
@@ -25,19 +27,15 @@ bool onSameDevice(const std::filesystem::path& left, const std::filesystem::path
 
 NewProcessSearch NewProcessSearchPlan::next(std::optional<std::int32_t> newestPid, std::size_t knownCount) {
     const std::optional<std::int32_t> previous = std::exchange(m_newestPid, newestPid);
-    // A pid is handed out a moment before its process can be seen, so the pids of the sample before are asked
-    // once more.
-    const std::optional<std::int32_t> from = std::exchange(m_olderNewestPid, previous);
     constexpr NewProcessSearch wholeListing{.wholeListing = true};
-    if (m_sampleCount++ % samplesPerListing == 0 || !newestPid || !previous || !from)
+    const bool isListingDue = m_sampleCount++ % samplesPerListing == 0;
+    if (isListingDue || !newestPid || !previous || *newestPid < *previous)
         return wholeListing;
-    const bool hasWrapped = *newestPid < *previous || *previous < *from;
-    if (hasWrapped)
+    const std::int32_t first = std::max(*previous - askedAgain, 0) + 1;
+    const auto asked = static_cast<std::size_t>(*newestPid - first) + 1;
+    if (asked > alwaysAsked + knownCount / knownProcessesPerAsked)
         return wholeListing;
-    const auto asked = static_cast<std::size_t>(*newestPid - *from);
-    if (asked > std::max(alwaysAsked, knownCount * askedPerKnownProcess))
-        return wholeListing;
-    return asked == 0 ? NewProcessSearch{} : NewProcessSearch{.first = *from + 1, .last = *newestPid};
+    return {.first = first, .last = *newestPid};
 }
 
 NewestPid::NewestPid(const std::filesystem::path& root)
@@ -56,7 +54,7 @@ std::optional<std::int32_t> parseNewestPid(std::string_view text) {
     for (int field = 0; field < 4; ++field) // three averages, then running/all tasks
         takeWord(line);
     const std::optional<std::int32_t> pid = takeNumber<std::int32_t>(line);
-    return pid && *pid > 0 ? pid : std::nullopt;
+    return pid && *pid > 0 && *pid <= largestPid ? pid : std::nullopt;
 }
 
 } // namespace orvelle::linux_platform

@@ -13,9 +13,8 @@ namespace orvelle::linux_platform {
 /// Where a sample looks for processes that are new since the sample before.
 struct NewProcessSearch {
     bool wholeListing = false; ///< in the whole listing of `/proc`, which shows everything
-    /// else among these pids, both included; none when `first > last`
-    std::int32_t first = 1;
-    std::int32_t last = 0;
+    std::int32_t first = 0;    ///< else among the pids from this one
+    std::int32_t last = 0;     ///< to this one, which is included
 
     bool operator==(const NewProcessSearch&) const = default;
 };
@@ -29,14 +28,16 @@ public:
     /// Samples between two whole listings: they find what the newest pid does not tell, such as a process
     /// whose pid was chosen by its parent.
     static constexpr unsigned samplesPerListing = 10;
+    /// A pid is handed out a moment before its process can be seen, so that the last few of the sample before
+    /// are asked once more.
+    static constexpr std::int32_t askedAgain = 8;
 
     /// `newestPid` is nothing when it cannot be told, `knownCount` how many processes are known.
     [[nodiscard]] NewProcessSearch next(std::optional<std::int32_t> newestPid, std::size_t knownCount);
 
 private:
     unsigned m_sampleCount = 0;
-    std::optional<std::int32_t> m_newestPid;      ///< at the sample before
-    std::optional<std::int32_t> m_olderNewestPid; ///< at the sample before that
+    std::optional<std::int32_t> m_newestPid; ///< at the sample before
 };
 
 /// The newest pid that the kernel handed out, from `proc/loadavg`; threads count too.

@@ -4,18 +4,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
 namespace orvelle::linux_platform {
 
-/// What tells one life of a pid from the next, and one program in it from the next.
-struct ProcessLife {
-    std::uint64_t startTime = 0; ///< ticks after boot
-    std::size_t commHash = 0;
-
-    bool operator==(const ProcessLife&) const = default;
-};
+/// Tells one life of a pid from the next and one program in it from the next; 0 before either is known.
+using ProcessLife = std::uint64_t;
 
 /// The known processes, ascending by pid. The records lie side by side in one piece of memory, so that they
 /// can be handed out as they are, and what only the sampler needs lies beside them.
@@ -27,9 +23,19 @@ public:
         return std::ranges::binary_search(m_records, pid, {}, &ProcessRecord::pid);
     }
 
+    /// Makes room for so many processes and a few more.
+    void reserve(std::size_t count) {
+        if (count <= m_records.capacity())
+            return;
+        // Doubling would leave up to half of the memory unused for as long as the program runs.
+        const std::size_t capacity = count + count / 16 + 16;
+        m_records.reserve(capacity);
+        m_lives.reserve(capacity);
+    }
+
     /// Puts a process that the table does not contain at its place.
-    void insert(ProcessRecord record, const ProcessLife& life) {
-        growIfFull();
+    void insert(ProcessRecord record, ProcessLife life) {
+        reserve(m_records.size() + 1);
         const auto place = std::ranges::lower_bound(m_records, record.pid, {}, &ProcessRecord::pid);
         m_lives.insert(m_lives.begin() + (place - m_records.begin()), life);
         m_records.insert(place, std::move(record));
@@ -53,15 +59,6 @@ public:
     }
 
 private:
-    /// Doubling would leave up to half of the memory unused for as long as the program runs.
-    void growIfFull() {
-        if (m_records.size() < m_records.capacity())
-            return;
-        const std::size_t capacity = m_records.size() + m_records.size() / 8 + 16;
-        m_records.reserve(capacity);
-        m_lives.reserve(capacity);
-    }
-
     std::vector<ProcessRecord> m_records;
     std::vector<ProcessLife> m_lives; ///< of the record at the same place
 };

@@ -3,11 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace orvelle::linux_platform {
 namespace {
 
 constexpr NewProcessSearch wholeListing{.wholeListing = true};
-constexpr NewProcessSearch nowhere{};
 
 NewProcessSearch among(std::int32_t first, std::int32_t last) {
     return {.wholeListing = false, .first = first, .last = last};
@@ -15,49 +16,55 @@ NewProcessSearch among(std::int32_t first, std::int32_t last) {
 
 class NewProcessSearchPlanTest : public ::testing::Test {
 protected:
-    /// The two samples after which the plan knows the newest pids that it needs.
-    void settleAt(std::int32_t newestPid) {
-        EXPECT_EQ(plan.next(newestPid, known), wholeListing);
-        EXPECT_EQ(plan.next(newestPid, known), wholeListing);
-    }
+    /// The first sample always lists everything.
+    void beginAt(std::int32_t newestPid) { EXPECT_EQ(plan.next(newestPid, known), wholeListing); }
 
     NewProcessSearchPlan plan;
     std::size_t known = 100;
 };
 
-TEST_F(NewProcessSearchPlanTest, LooksNowhereWhileTheNewestPidStands) {
-    settleAt(500);
-    for (int sample = 2; sample < 10; ++sample)
-        EXPECT_EQ(plan.next(500, known), nowhere);
+TEST_F(NewProcessSearchPlanTest, AsksOnlyTheLastFewPidsAgainWhileTheNewestPidStands) {
+    beginAt(500);
+    for (int sample = 1; sample < 10; ++sample)
+        EXPECT_EQ(plan.next(500, known), among(493, 500));
 }
 
 TEST_F(NewProcessSearchPlanTest, ListsEverythingInEveryTenthSample) {
-    settleAt(500);
-    for (int sample = 2; sample < 50; ++sample)
-        EXPECT_EQ(plan.next(500, known), sample % 10 == 0 ? wholeListing : nowhere) << sample;
+    beginAt(500);
+    for (int sample = 1; sample < 50; ++sample)
+        EXPECT_EQ(plan.next(500, known), sample % 10 == 0 ? wholeListing : among(493, 500)) << sample;
 }
 
-TEST_F(NewProcessSearchPlanTest, AsksEachNewPidInTwoSamples) {
-    settleAt(500);
-    EXPECT_EQ(plan.next(503, known), among(501, 503));
-    EXPECT_EQ(plan.next(504, known), among(501, 504));
-    EXPECT_EQ(plan.next(504, known), among(504, 504));
-    EXPECT_EQ(plan.next(504, known), nowhere);
+TEST_F(NewProcessSearchPlanTest, AsksEachNewPidAndTheLastFewBefore) {
+    beginAt(500);
+    EXPECT_EQ(plan.next(503, known), among(493, 503));
+    EXPECT_EQ(plan.next(504, known), among(496, 504));
+}
+
+TEST_F(NewProcessSearchPlanTest, AsksNoPidBelowTheFirst) {
+    beginAt(3);
+    EXPECT_EQ(plan.next(5, known), among(1, 5));
 }
 
 TEST_F(NewProcessSearchPlanTest, ListsEverythingAfterThePidsWrapped) {
-    settleAt(32000);
+    beginAt(32000);
     EXPECT_EQ(plan.next(310, known), wholeListing);
-    EXPECT_EQ(plan.next(312, known), wholeListing); // the process of a pid before the wrap may show only now
-    EXPECT_EQ(plan.next(313, known), among(311, 313));
+    EXPECT_EQ(plan.next(312, known), among(303, 312));
 }
 
-TEST_F(NewProcessSearchPlanTest, ListsEverythingWhenSoManyPidsAreNewThatTheListingIsCheaper) {
-    settleAt(1000);
-    EXPECT_EQ(plan.next(1400, known), among(1001, 1400));
-    EXPECT_EQ(plan.next(1401, known), wholeListing);
-    known = 10;
-    EXPECT_EQ(plan.next(1656, known), among(1401, 1656)) << "a few hundred pids are always asked";
+TEST_F(NewProcessSearchPlanTest, ListsEverythingWhenManyPidsAreNewForThoseThatAreKnown) {
+    known = 3200; // 16 + 3200 / 32 pids may be asked, eight of them again
+    beginAt(1000);
+    EXPECT_EQ(plan.next(1108, known), among(993, 1108));
+    EXPECT_EQ(plan.next(1217, known), wholeListing);
+    EXPECT_EQ(plan.next(1218, known), among(1210, 1218));
+}
+
+TEST_F(NewProcessSearchPlanTest, AsksAFewPidsHoweverFewProcessesAreKnown) {
+    known = 3;
+    beginAt(1000);
+    EXPECT_EQ(plan.next(1008, known), among(993, 1008));
+    EXPECT_EQ(plan.next(1017, known), wholeListing);
 }
 
 TEST_F(NewProcessSearchPlanTest, ListsEverythingAlwaysWhenTheNewestPidCannotBeTold) {
@@ -66,11 +73,17 @@ TEST_F(NewProcessSearchPlanTest, ListsEverythingAlwaysWhenTheNewestPidCannotBeTo
 }
 
 TEST_F(NewProcessSearchPlanTest, RecoversFromOneFailedReading) {
-    settleAt(500);
+    beginAt(500);
     EXPECT_EQ(plan.next(std::nullopt, known), wholeListing);
     EXPECT_EQ(plan.next(505, known), wholeListing);
-    EXPECT_EQ(plan.next(506, known), wholeListing);
-    EXPECT_EQ(plan.next(507, known), among(506, 507));
+    EXPECT_EQ(plan.next(506, known), among(498, 506));
+}
+
+TEST_F(NewProcessSearchPlanTest, SurvivesTheLargestPids) {
+    constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+    beginAt(1);
+    EXPECT_EQ(plan.next(largest, known), wholeListing);
+    EXPECT_EQ(plan.next(largest, known), among(largest - 7, largest));
 }
 
 TEST(NewestPid, IsTheLastNumberOfTheLoadAverages) {
@@ -80,7 +93,8 @@ TEST(NewestPid, IsTheLastNumberOfTheLoadAverages) {
 
 TEST(NewestPid, IsNothingInAnyOtherText) {
     for (const char* text : {"", "\n", "0.05 0.13 0.09", "0.05 0.13 0.09 1/92", "0.05 0.13 0.09 1/92 x",
-                             "0.05 0.13 0.09 1/92 0", "0.05 0.13 0.09 1/92 -3", "a\nb\nc\nd\n5"})
+                             "0.05 0.13 0.09 1/92 0", "0.05 0.13 0.09 1/92 -3", "0.05 0.13 0.09 1/92 4194305",
+                             "0.05 0.13 0.09 1/92 99999999999999999999", "a\nb\nc\nd\n5"})
         EXPECT_FALSE(parseNewestPid(text)) << text;
 }
 

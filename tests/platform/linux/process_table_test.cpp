@@ -12,7 +12,7 @@ ProcessTable tableOf(std::initializer_list<std::int32_t> pids) {
     for (const std::int32_t pid : pids) {
         ProcessRecord record;
         record.pid = pid;
-        table.insert(record, {.startTime = static_cast<std::uint64_t>(pid) * 10});
+        table.insert(record, static_cast<ProcessLife>(pid) * 10);
     }
     return table;
 }
@@ -38,13 +38,13 @@ TEST(ProcessTable, KnowsWhatItContains) {
 
 TEST(ProcessTable, KeepsEachLifeBesideItsRecord) {
     ProcessTable table = tableOf({5, 1, 9, 3, 7});
-    table.keepIf([](std::size_t, const ProcessRecord& record, const ProcessLife& life) {
-        EXPECT_EQ(life.startTime, static_cast<std::uint64_t>(record.pid) * 10);
+    table.keepIf([](std::size_t, const ProcessRecord& record, ProcessLife life) {
+        EXPECT_EQ(life, static_cast<ProcessLife>(record.pid) * 10);
         return record.pid != 3 && record.pid != 9;
     });
     EXPECT_EQ(pidsOf(table), (std::vector{1, 5, 7}));
-    table.keepIf([](std::size_t index, ProcessRecord& record, const ProcessLife& life) {
-        EXPECT_EQ(life.startTime, static_cast<std::uint64_t>(record.pid) * 10);
+    table.keepIf([](std::size_t index, ProcessRecord& record, ProcessLife life) {
+        EXPECT_EQ(life, static_cast<ProcessLife>(record.pid) * 10);
         record.residentBytes = index;
         return true;
     });
