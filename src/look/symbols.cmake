@@ -24,7 +24,6 @@ set(bootstrap_symbols
   gearshape.fill=gear-fill
   internaldrive=hdd
   memorychip=memory
-  network=globe
   power=power
   powerplug=plug
   powerplug.fill=plug-fill
@@ -38,6 +37,7 @@ set(own_symbols
   arrow.up
   circle.grid.2x1.fill
   fan
+  network
   text.badge.star)
 
 # orvelle_embed_symbols(TARGET): embeds every symbol under :/symbols/NAME.svg.

@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QSvgRenderer>
 
-#include <cmath>
+#include <algorithm>
 
 namespace orvelle {
 namespace {
@@ -81,12 +81,12 @@ QImage symbolImage(QStringView name, double fontSize, const QColor& color, doubl
     const double side = symbolExtent(fontSize) * devicePixelRatio;
     if (!(fontSize > 0) || !(devicePixelRatio > 0) || !(side <= largestSide))
         return {};
-    constexpr qsizetype keptBytes = 1024 * 1024;
+    constexpr qsizetype keptBytes = qsizetype{1024} * 1024;
     static QCache<SymbolKey, QImage> cache(keptBytes);
     const SymbolKey key{name.toString(), fontSize, color.rgba(), devicePixelRatio, weight};
     if (const QImage* kept = cache.object(key))
         return *kept;
-    const QImage image = renderSymbol(key, weight);
+    QImage image = renderSymbol(key, weight);
     if (!image.isNull())
         cache.insert(key, new QImage(image), image.sizeInBytes());
     return image;
