@@ -22,4 +22,14 @@ QList<QColor> meterColors(const QColor& color, qsizetype litCount, qsizetype dot
     return colors;
 }
 
+bool isActive(double bytesPerSecond) {
+    constexpr double idleBytesPerSecond = 1024;
+    return bytesPerSecond > idleBytesPerSecond;
+}
+
+QColor activityDotColor(double bytesPerSecond, const QColor& color) {
+    constexpr double idleOpacity = 0.2;
+    return isActive(bytesPerSecond) ? color : withOpacity(color, idleOpacity);
+}
+
 } // namespace orvelle

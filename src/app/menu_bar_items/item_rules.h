@@ -20,4 +20,10 @@ inline constexpr qsizetype recentSampleCount = 20;
 [[nodiscard]] QList<QColor> meterColors(const QColor& color, qsizetype litCount, qsizetype dotCount,
                                         double dimmedOpacity);
 
+/// Whether a rate is worth a lit mark: more than 1024 bytes per second.
+[[nodiscard]] bool isActive(double bytesPerSecond);
+
+/// The colour of the dot of one direction: `color`, dimmed to opacity 0.2 while nothing much flows.
+[[nodiscard]] QColor activityDotColor(double bytesPerSecond, const QColor& color);
+
 } // namespace orvelle

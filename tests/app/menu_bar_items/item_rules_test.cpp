@@ -52,5 +52,16 @@ TEST(MeterColors, DimATranslucentColourFurther) {
     EXPECT_EQ(meterColors(QColor(255, 255, 255, 128), 0, 1, 0.5).first().alpha(), 64);
 }
 
+TEST(Activity, IsMoreThan1024BytesPerSecond) {
+    EXPECT_FALSE(isActive(0));
+    EXPECT_FALSE(isActive(1024));
+    EXPECT_TRUE(isActive(1024.1));
+}
+
+TEST(ActivityDots, AreDimmedWhileIdle) {
+    EXPECT_EQ(activityDotColor(1025, QColor(10, 20, 30)), QColor(10, 20, 30));
+    EXPECT_EQ(activityDotColor(1024, QColor(10, 20, 30)), QColor(10, 20, 30, 51));
+}
+
 } // namespace
 } // namespace orvelle

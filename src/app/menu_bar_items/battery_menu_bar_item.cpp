@@ -1,0 +1,74 @@
+#include "app/menu_bar_items/battery_menu_bar_item.h"
+
+#include "app/menu_bar_items/battery_glyph.h"
+#include "app/menu_bar_items/battery_item_rules.h"
+#include "app/menu_bar_items/item_drawings.h"
+#include "core/battery_monitor.h"
+#include "settings/settings_store.h"
+#include "settings/system_colors.h"
+#include "settings/theme_manager.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double spacing = 2;
+constexpr double chargingMarkFontSize = 7;
+constexpr QSizeF historySize(28, 12);
+
+ItemPart externalPower() {
+    return row(
+        {iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), smallValueFontSize)},
+        spacing);
+}
+
+QString chargeText(const BatteryInfo& battery) {
+    return QString::number(battery.currentCapacity) + QLatin1Char('%');
+}
+
+} // namespace
+
+BatteryMenuBarItem::BatteryMenuBarItem(const BatteryMonitor& monitor, const SettingsStore& settings,
+                                       const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+void BatteryMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
+    paintCentred(painter, bounds, m_monitor.battery().isPresent ? body() : externalPower());
+}
+
+QString BatteryMenuBarItem::accessibleText() const {
+    const BatteryInfo& battery = m_monitor.battery();
+    if (!battery.isPresent)
+        return QStringLiteral("Battery: none, on AC power");
+    const QString charging = battery.isCharging ? QStringLiteral(", charging") : QString();
+    return QStringLiteral("Battery %1").arg(chargeText(battery)) + charging;
+}
+
+ItemPart BatteryMenuBarItem::body() const {
+    const BatteryInfo& battery = m_monitor.battery();
+    const QColor color =
+        batteryColor(battery.currentCapacity, battery.isCharging, m_themes.batteryColor(m_settings));
+    const ItemPart icon = iconPart(u"battery.100", color);
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::textOnly:
+        return charge(valueFontSize);
+    case MenuBarDisplayStyle::miniBars:
+    case MenuBarDisplayStyle::iconAndText:
+        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)}, spacing);
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, historySize)}, spacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    return row({icon, dotsPart(batteryDotColors(battery.currentCapacity, color))}, spacing);
+}
+
+ItemPart BatteryMenuBarItem::charge(double fontSize) const {
+    QList<ItemPart> parts = {valuePart(chargeText(m_monitor.battery()), fontSize)};
+    if (m_monitor.battery().isCharging)
+        parts.append(symbolPart(u"bolt.fill", chargingMarkFontSize, SystemColors::yellow));
+    return row(parts, spacing);
+}
+
+} // namespace orvelle

@@ -1,0 +1,100 @@
+#include "app/menu_bar_items/disk_menu_bar_item.h"
+
+#include "app/formatters/formatters.h"
+#include "app/menu_bar_items/disk_item_rules.h"
+#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_rules.h"
+#include "charts/sparkline_view.h"
+#include "core/disk_monitor.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double spacing = 2;
+constexpr QSizeF historySize(28, 12);
+
+} // namespace
+
+DiskMenuBarItem::DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings,
+                                 const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+void DiskMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
+    paintCentred(painter, bounds, body());
+}
+
+QString DiskMenuBarItem::accessibleText() const {
+    const QString usedText = used() ? QStringLiteral(" %1").arg(formatPercent(*used())) : QString();
+    return QStringLiteral("Disk%1, read %2, write %3")
+        .arg(usedText, formatRate(m_monitor.diskIO().readSpeed), formatRate(m_monitor.diskIO().writeSpeed));
+}
+
+ItemPart DiskMenuBarItem::body() const {
+    const QColor color = m_themes.diskColor(m_settings);
+    const ItemPart icon = iconPart(u"internaldrive", color);
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::miniBars:
+        return row({icon, activityAndUsage(color)}, spacing);
+    case MenuBarDisplayStyle::textOnly:
+        return withUsedText({});
+    case MenuBarDisplayStyle::iconAndText:
+        return withUsedText({icon});
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, history()}, spacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    return row({icon, activityDots()}, spacing);
+}
+
+std::optional<double> DiskMenuBarItem::used() const {
+    if (m_monitor.volumes().isEmpty())
+        return std::nullopt;
+    return usedSpaceFraction(m_monitor.volumes().first());
+}
+
+ItemPart DiskMenuBarItem::withUsedText(QList<ItemPart> parts) const {
+    if (const std::optional<double> fraction = used())
+        parts.append(valuePart(formatPercent(*fraction)));
+    return row(parts, spacing);
+}
+
+ItemPart DiskMenuBarItem::activityAndUsage(const QColor& color) const {
+    constexpr double arrowFontSize = 6;
+    constexpr double stackSpacing = 1;
+    constexpr QSizeF barSize(20, 4);
+    constexpr double barCornerRadius = 2;
+    const AppTheme& theme = m_themes.currentTheme();
+    const auto arrow = [](QStringView name, double bytesPerSecond, const QColor& directionColor) {
+        return symbolPart(name, arrowFontSize, activityArrowColor(bytesPerSecond, directionColor));
+    };
+    QList<ItemPart> parts = {
+        row({arrow(u"arrow.up.circle.fill", m_monitor.diskIO().writeSpeed, theme.diskWriteColor),
+             arrow(u"arrow.down.circle.fill", m_monitor.diskIO().readSpeed, theme.diskReadColor)},
+            stackSpacing)};
+    if (const std::optional<double> fraction = used())
+        parts.append(levelBarPart(barSize, barCornerRadius, *fraction, color));
+    return column(parts, stackSpacing, ColumnAlignment::center);
+}
+
+ItemPart DiskMenuBarItem::history() const {
+    const AppTheme& theme = m_themes.currentTheme();
+    return sparklinePart(DualSparklineView{.topData = recentSamples(m_monitor.readHistory()),
+                                           .bottomData = recentSamples(m_monitor.writeHistory()),
+                                           .topColor = theme.diskReadColor,
+                                           .bottomColor = theme.diskWriteColor,
+                                           .width = historySize.width(),
+                                           .height = historySize.height()});
+}
+
+ItemPart DiskMenuBarItem::activityDots() const {
+    const AppTheme& theme = m_themes.currentTheme();
+    return dotsPart({activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor),
+                     activityDotColor(m_monitor.diskIO().writeSpeed, theme.diskWriteColor)});
+}
+
+} // namespace orvelle

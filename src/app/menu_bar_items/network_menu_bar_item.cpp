@@ -1,0 +1,102 @@
+#include "app/menu_bar_items/network_menu_bar_item.h"
+
+#include "app/formatters/formatters.h"
+#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_rules.h"
+#include "charts/canvas.h"
+#include "charts/sparkline_view.h"
+#include "core/network_monitor.h"
+#include "look/fonts.h"
+#include "look/label_colors.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double spacing = 2;
+constexpr double historyHeight = 14;
+constexpr double rateFontSize = 8;
+
+ItemPart bareRate(double bytesPerSecond) {
+    return textPart(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize, QFont::Medium),
+                    withOpacity(LabelColors::primary, 0.7));
+}
+
+ItemPart rateWithArrow(QStringView arrow, double bytesPerSecond, const QColor& color) {
+    constexpr double arrowFontSize = 6;
+    constexpr double arrowSpacing = 1;
+    constexpr double opacity = 0.8;
+    const ItemPart rate = textPart(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize),
+                                   withOpacity(LabelColors::primary, opacity));
+    return row({symbolPart(arrow, arrowFontSize, withOpacity(color, opacity)), rate}, arrowSpacing);
+}
+
+} // namespace
+
+NetworkMenuBarItem::NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
+                                       const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+void NetworkMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
+    paintCentred(painter, bounds, body());
+}
+
+QString NetworkMenuBarItem::accessibleText() const {
+    return QStringLiteral("Network download %1, upload %2")
+        .arg(formatRate(m_monitor.totalDownloadSpeed()), formatRate(m_monitor.totalUploadSpeed()));
+}
+
+ItemPart NetworkMenuBarItem::body() const {
+    constexpr double widthBesideRates = 32;
+    constexpr double widthBesideIcon = 36;
+    const ItemPart icon = iconPart(u"network", m_themes.networkColor(m_settings));
+    const bool hasHistory = !m_monitor.downloadHistory().isEmpty();
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::miniBars:
+        return hasHistory ? row({ratePair(), history(widthBesideRates)}, spacing) : ratePair();
+    case MenuBarDisplayStyle::textOnly:
+        return rates();
+    case MenuBarDisplayStyle::iconAndText:
+        return ratePair();
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, hasHistory ? history(widthBesideIcon) : ratePair()}, spacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    return row({icon, activityDots()}, spacing);
+}
+
+ItemPart NetworkMenuBarItem::rates() const {
+    return column({bareRate(m_monitor.totalUploadSpeed()), bareRate(m_monitor.totalDownloadSpeed())}, 0,
+                  ColumnAlignment::trailing);
+}
+
+ItemPart NetworkMenuBarItem::ratePair() const {
+    const AppTheme& theme = m_themes.currentTheme();
+    return column({rateWithArrow(u"arrow.up", m_monitor.totalUploadSpeed(), theme.networkUploadColor),
+                   rateWithArrow(u"arrow.down", m_monitor.totalDownloadSpeed(), theme.networkDownloadColor)},
+                  0, ColumnAlignment::trailing);
+}
+
+ItemPart NetworkMenuBarItem::history(double width) const {
+    const AppTheme& theme = m_themes.currentTheme();
+    return sparklinePart(DualSparklineView{.topData = recentSamples(m_monitor.downloadHistory()),
+                                           .bottomData = recentSamples(m_monitor.uploadHistory()),
+                                           .topColor = theme.networkDownloadColor,
+                                           .bottomColor = theme.networkUploadColor,
+                                           .width = width,
+                                           .height = historyHeight});
+}
+
+ItemPart NetworkMenuBarItem::activityDots() const {
+    constexpr double dotDiameter = 5;
+    const AppTheme& theme = m_themes.currentTheme();
+    return dotsPart({activityDotColor(m_monitor.totalDownloadSpeed(), theme.networkDownloadColor),
+                     activityDotColor(m_monitor.totalUploadSpeed(), theme.networkUploadColor)},
+                    dotDiameter);
+}
+
+} // namespace orvelle

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/menu_bar_items/item_part.h"
+#include "app/shell/status_item_view.h"
+
+namespace orvelle {
+
+class NetworkMonitor;
+class SettingsStore;
+class ThemeManager;
+
+/// The network module's place in the menu bar: the upload rate above the download rate, their histories, or a
+/// dot for each direction. What it refers to must outlive it.
+class NetworkMenuBarItem final : public StatusItemView {
+public:
+    NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
+                       const ThemeManager& themes);
+
+    void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] QString accessibleText() const override;
+
+private:
+    [[nodiscard]] ItemPart body() const;
+    /// Both rates as bare text.
+    [[nodiscard]] ItemPart rates() const;
+    /// Both rates, each behind an arrow in the colour of its direction.
+    [[nodiscard]] ItemPart ratePair() const;
+    [[nodiscard]] ItemPart history(double width) const;
+    [[nodiscard]] ItemPart activityDots() const;
+
+    const NetworkMonitor& m_monitor;
+    const SettingsStore& m_settings;
+    const ThemeManager& m_themes;
+};
+
+} // namespace orvelle

@@ -1,0 +1,59 @@
+#include "app/menu_bar_items/sensor_menu_bar_item.h"
+
+#include "app/formatters/formatters.h"
+#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/sensor_item_rules.h"
+#include "core/sensor_monitor.h"
+#include "look/fonts.h"
+#include "look/label_colors.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double spacing = 2;
+constexpr QSizeF historySize(24, 10);
+constexpr double historyMaximum = 110;
+
+} // namespace
+
+SensorMenuBarItem::SensorMenuBarItem(const SensorMonitor& monitor, const SettingsStore& settings,
+                                     const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+void SensorMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
+    paintCentred(painter, bounds, body());
+}
+
+QString SensorMenuBarItem::accessibleText() const {
+    const double celsius = m_monitor.cpuTemperature();
+    return celsius > 0 ? QStringLiteral("Sensors %1").arg(formatTemperature(celsius, false))
+                       : QStringLiteral("Sensors: no temperature");
+}
+
+ItemPart SensorMenuBarItem::body() const {
+    const double celsius = m_monitor.cpuTemperature();
+    const QColor color = temperatureColor(celsius, m_themes.sensorColor(m_settings));
+    const ItemPart icon = iconPart(u"thermometer.medium", color);
+    const ItemPart text =
+        textPart(temperatureText(celsius), monospacedSystemFont(smallValueFontSize, QFont::Medium),
+                 celsius > 0 ? color : LabelColors::secondary);
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::miniBars:
+    case MenuBarDisplayStyle::textOnly:
+        return text;
+    case MenuBarDisplayStyle::iconAndText:
+        return row({icon, text}, spacing);
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, historyPart(m_monitor.cpuTempHistory(), color, historyMaximum, historySize)},
+                   spacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    return row({icon, dotsPart(temperatureDotColors(celsius))}, spacing);
+}
+
+} // namespace orvelle
