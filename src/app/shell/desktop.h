@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/shell/status_bar.h"
+
+#include <optional>
+
+/// What each desktop's folder defines once; the build decides which one is linked.
+namespace orvelle {
+
+/// Chooses how the program talks to its desktop. Called once, before the application object exists, because
+/// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
+[[nodiscard]] std::optional<QString> prepareDesktop();
+
+/// The bar of this desktop, empty and not yet shown. Needs the application object.
+[[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar();
+
+} // namespace orvelle

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/shell/status_item.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace orvelle {
+
+/// The strip of the desktop that holds the status items, flush right. Main thread only.
+class StatusBar : public QObject {
+    Q_OBJECT
+
+public:
+    /// Appends an item of `length` points to the right of those present. The bar owns it until it is removed.
+    [[nodiscard]] virtual StatusItem& addItem(const QString& identifier, double length) = 0;
+
+    /// Destroys the item; those to its left move right to close the gap. A bar without items shows nothing.
+    virtual void removeItem(StatusItem& item) = 0;
+
+Q_SIGNALS:
+    /// The items have been painted for the first time since the program started.
+    void firstPainted();
+};
+
+} // namespace orvelle

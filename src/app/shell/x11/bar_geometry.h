@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QList>
+#include <QRect>
+
+#include <optional>
+#include <vector>
+
+/// Where the bar and its items belong, as rules without a window.
+///
+/// Two units meet here. Qt speaks of points, `pixelsPerPoint` device pixels each, and gives a screen's origin
+/// in device pixels but its size in points. The X server and the window manager know device pixels only.
+namespace orvelle {
+
+/// Height of the bar and of every item in it, in points.
+inline constexpr int barHeightPoints = 22;
+
+/// Left free between the last item and the edge of the screen, in points.
+inline constexpr double barRightMarginPoints = 8;
+
+/// The top strip of the screen that a dock reserves: `height` pixels from the root window's upper edge, in
+/// the columns from `startX` to `endX`, both included.
+struct TopStrut {
+    int height = 0;
+    int startX = 0;
+    int endX = 0;
+
+    bool operator==(const TopStrut&) const = default;
+};
+
+/// A dock of another program that reserves space at the top, in pixels of the root window.
+struct TopDock {
+    QRect window;
+    TopStrut strut;
+};
+
+/// The screen in pixels of the root window.
+[[nodiscard]] QRect screenPixels(const QRect& screenGeometry, double pixelsPerPoint);
+
+/// How many pixels below the upper edge of `screen` a bar of `height` pixels finds room: the first gap
+/// between the docks of other programs. 0 when they leave none in the upper half of the screen.
+[[nodiscard]] int freeOffset(const QRect& screen, int height, const std::vector<TopDock>& others);
+
+/// The bar's geometry as Qt wants it, over the whole width, at least `offset` pixels below the upper edge.
+[[nodiscard]] QRect barGeometry(const QRect& screenGeometry, double pixelsPerPoint, int offset);
+
+/// The pixels of the root window that Qt makes of a window's geometry on that screen.
+[[nodiscard]] QRect windowPixels(const QRect& geometry, const QRect& screenGeometry, double pixelsPerPoint);
+
+/// What a bar at `bar` (pixels) reserves in a root window of `rootSize`. Nothing below another screen: a
+/// strut counts from the root window's edge, so it would take the same columns of the screen above.
+[[nodiscard]] std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QSize& rootSize,
+                                               const std::vector<QRect>& otherScreens);
+
+/// The items' rectangles in a bar of `barWidth` points, in the order of `lengths`, side by side and flush
+/// right. When they do not fit, the first ones leave the bar at its left edge.
+[[nodiscard]] QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth);
+
+} // namespace orvelle

@@ -1,0 +1,44 @@
+#include "app/shell/x11/x11_status_bar.h"
+
+#include "app/shell/desktop.h"
+
+namespace orvelle {
+
+X11StatusBar::X11StatusBar()
+    : m_placement(m_window) {
+    connect(&m_window, &BarWindow::emptyChanged, this, [this] { m_placement.setShown(!m_window.isEmpty()); });
+    connect(&m_window, &BarWindow::painted, this, &StatusBar::firstPainted, Qt::SingleShotConnection);
+}
+
+StatusItem& X11StatusBar::addItem(const QString& identifier, double length) {
+    return m_window.addItem(identifier, length);
+}
+
+void X11StatusBar::removeItem(StatusItem& item) {
+    m_window.removeItem(item);
+}
+
+std::unique_ptr<StatusBar> makeStatusBar() {
+    return std::make_unique<X11StatusBar>();
+}
+
+std::optional<QString> prepareDesktop() {
+    // Whoever names another platform knows what it needs; off-screen, for one, needs no display.
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && !platform.startsWith("xcb"))
+        return std::nullopt;
+    // Only X11 lets a program place a bar; Wayland sessions offer it through XWayland.
+    const QString display = qEnvironmentVariable("DISPLAY");
+    if (display.isEmpty())
+        return QStringLiteral("Orvelle needs an X display, and DISPLAY names none.");
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool failed = xcb_connection_has_error(connection) != 0;
+    xcb_disconnect(connection);
+    if (failed)
+        return QStringLiteral("Orvelle cannot reach the X display \"%1\".").arg(display);
+    if (platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    return std::nullopt;
+}
+
+} // namespace orvelle

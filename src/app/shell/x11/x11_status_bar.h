@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/shell/status_bar.h"
+#include "app/shell/x11/bar_placement.h"
+#include "app/shell/x11/bar_window.h"
+
+namespace orvelle {
+
+/// A status bar of the program's own, since X11 desktops have none that holds items of any width.
+class X11StatusBar final : public StatusBar {
+    Q_OBJECT
+
+public:
+    X11StatusBar();
+
+    [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override;
+    void removeItem(StatusItem& item) override;
+
+private:
+    BarWindow m_window;
+    BarPlacement m_placement;
+};
+
+} // namespace orvelle
