@@ -1,0 +1,58 @@
+#include "app/orvelle_app.h"
+
+#include "app/shell/desktop.h"
+#include "platform/host.h"
+
+#include <QLoggingCategory>
+
+namespace orvelle {
+namespace {
+
+/// Off by default; QT_LOGGING_RULES="orvelle.start.debug=true" switches one on.
+Q_LOGGING_CATEGORY(startLog, "orvelle.start", QtInfoMsg)
+Q_LOGGING_CATEGORY(sampleLog, "orvelle.sample", QtInfoMsg)
+
+} // namespace
+
+OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart)
+    : m_sinceStart(sinceStart)
+    , m_application(argumentCount, arguments)
+    , m_themes(m_settings)
+    , m_monitor(makeHostSources(), m_settings)
+    , m_statusBar(makeStatusBar())
+    , m_delegate(m_monitor, m_settings, m_themes, *m_statusBar) {
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Orvelle"));
+    // The bar may be empty and every window closed; the program stays.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&m_terminationSignals, &TerminationSignals::received, &m_application,
+                     &QGuiApplication::quit);
+    QObject::connect(&m_application, &QGuiApplication::aboutToQuit, &m_delegate,
+                     &AppDelegate::applicationWillTerminate);
+    logStart();
+    logSamples();
+}
+
+int OrvelleApp::run() {
+    m_delegate.applicationDidFinishLaunching();
+    return QGuiApplication::exec();
+}
+
+void OrvelleApp::logStart() {
+    QObject::connect(m_statusBar.get(), &StatusBar::firstPainted, m_statusBar.get(), [this] {
+        qCDebug(startLog, "first bar painted %lld ms after main() was entered",
+                static_cast<long long>(m_sinceStart.elapsed()));
+    });
+}
+
+void OrvelleApp::logSamples() {
+    if (!sampleLog().isDebugEnabled())
+        return;
+    QObject::connect(&m_monitor, &SystemMonitor::changed, &m_delegate, [this] {
+        for (const Module& module : modules())
+            qCDebug(sampleLog, "%s %s, cycle %lld", module.key.data(),
+                    module.describeSample(m_monitor).c_str(),
+                    static_cast<long long>(m_monitor.updateCycleCount()));
+    });
+}
+
+} // namespace orvelle

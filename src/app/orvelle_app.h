@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/termination_signals.h"
+#include "core/system_monitor.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+
+namespace orvelle {
+
+/// The program: it owns everything that lives as long as the process and connects it.
+class OrvelleApp {
+public:
+    /// `sinceStart` was started when the process entered main(). Needs a desktop that `prepareDesktop()` has
+    /// found. The arguments name the program and nothing else; both must outlive the object.
+    OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart);
+
+    /// Runs until the program is told to end; returns its exit status.
+    [[nodiscard]] int run();
+
+private:
+    void logStart();
+    void logSamples();
+
+    QElapsedTimer m_sinceStart;
+    QGuiApplication m_application;
+    TerminationSignals m_terminationSignals;
+    SettingsStore m_settings;
+    ThemeManager m_themes;
+    SystemMonitor m_monitor;
+    std::unique_ptr<StatusBar> m_statusBar;
+    AppDelegate m_delegate;
+};
+
+} // namespace orvelle

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/shell/status_bar.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <vector>
+
+namespace orvelle {
+
+/// A status bar without a desktop: it holds the items and records what is asked of it.
+class RecordingStatusBar final : public StatusBar {
+public:
+    class Item final : public StatusItem {
+    public:
+        Item(QString identifier, double length)
+            : m_identifier(std::move(identifier))
+            , m_length(length) {}
+        [[nodiscard]] const QString& identifier() const override { return m_identifier; }
+        [[nodiscard]] double length() const override { return m_length; }
+        void setView(std::shared_ptr<const StatusItemView> newView) override {
+            view = std::move(newView);
+            ++viewCount;
+        }
+
+        std::shared_ptr<const StatusItemView> view;
+        int viewCount = 0; ///< how often a view was set
+
+    private:
+        QString m_identifier;
+        double m_length;
+    };
+
+    [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
+        calls.append(QStringLiteral("add ") + identifier);
+        items.push_back(std::make_unique<Item>(identifier, length));
+        return *items.back();
+    }
+    void removeItem(StatusItem& item) override {
+        calls.append(QStringLiteral("remove ") + item.identifier());
+        std::erase_if(items, [&item](const auto& present) { return present.get() == &item; });
+    }
+
+    [[nodiscard]] QStringList identifiers() const {
+        QStringList identifiers;
+        for (const auto& item : items)
+            identifiers.append(item->identifier());
+        return identifiers;
+    }
+
+    std::vector<std::unique_ptr<Item>> items; ///< present now, from left to right
+    QStringList calls;
+};
+
+} // namespace orvelle
