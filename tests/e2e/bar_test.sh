@@ -1,0 +1,207 @@
+#!/bin/bash
+# The real program in a real X server: where its bar stands, what it reserves, how it follows the desktop and
+# how it ends.
+#
+#   bar_test.sh ORVELLE X11_CLIENT
+
+orvelle=$1
+client=$2
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool xrandr xrdb wmctrl import convert
+
+export XDG_CONFIG_HOME=$workDirectory/config QT_FORCE_STDERR_LOGGING=1
+unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
+
+# startOrvelle [NAME=VALUE...]: sets orvellePid and bar, the id of the shown bar.
+startOrvelle() {
+    env "$@" "$orvelle" 2>"$workDirectory/orvelle.log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the bar appears" barIsShown || cat "$workDirectory/orvelle.log"
+}
+barIsShown() {
+    bar=$(xdotool search --onlyvisible --class '^orvelle$' 2>/dev/null | tail -1)
+    [[ -n $bar ]]
+}
+barIsHidden() { ! barIsShown; }
+
+endOrvelle() {
+    kill -"$1" "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "SIG$1 ends the program with status" 0 $?
+}
+
+barIsAt() { [[ $(geometry "$bar") == "$1" ]]; }
+strutIs() { [[ $(property "$bar" _NET_WM_STRUT_PARTIAL) == "0, 0, $1, 0, 0, 0, 0, 0, 0, $2, 0, 0" ]]; }
+workAreaIs() { [[ $(rootProperty _NET_WORKAREA) == "$1, "* ]]; }
+
+# expectBar GEOMETRY STRUT_HEIGHT LAST_COLUMN
+expectBar() {
+    waitUntil "the bar is at $1" barIsAt "$1" || geometry "$bar"
+    waitUntil "the bar reserves $2 pixels" strutIs "$2" "$3" || property "$bar" _NET_WM_STRUT_PARTIAL
+}
+
+# The first column of the bar that shows something other than its background.
+firstInkedColumn() {
+    import -window "$bar" "$workDirectory/bar.png" 2>/dev/null || return
+    convert "$workDirectory/bar.png" -crop x20+0+0 +repage -trim -format '%X' info: | tr -d +
+}
+inkStartsBetween() {
+    local column
+    column=$(firstInkedColumn)
+    [[ -n $column ]] && ((column >= $1 && column < $2))
+}
+
+# store KEY=VALUE...: rewrites the settings file as another program would.
+store() {
+    mkdir -p "$(dirname "$settingsFile")"
+    { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
+}
+
+testDock() {
+    startOrvelle
+    expectEqual "the bar is a dock" _NET_WM_WINDOW_TYPE_DOCK "$(property "$bar" _NET_WM_WINDOW_TYPE)"
+    expectEqual "the bar is on every desktop" 4294967295 "$(property "$bar" _NET_WM_DESKTOP)"
+    local state
+    for state in SKIP_TASKBAR SKIP_PAGER; do
+        [[ $(property "$bar" _NET_WM_STATE) == *_NET_WM_STATE_$state* ]] || fail "the bar has state $state"
+    done
+    expectBar "0,0 1280x22" 22 1279
+    waitUntil "the window manager reserves the bar's space" workAreaIs "0, 22, 1280, 778"
+    expectEqual "the bar has not taken the focus" "" "$(xdotool getwindowfocus getwindowname 2>/dev/null | grep Orvelle)"
+}
+
+testMaximizedWindow() {
+    "$client" window >"$workDirectory/window" &
+    local pid=$! window
+    ownedPids+=("$pid")
+    waitUntil "a window opens" test -s "$workDirectory/window"
+    window=$(<"$workDirectory/window")
+    windowIsManaged() { rootProperty _NET_CLIENT_LIST | grep -q "$window"; }
+    waitUntil "the window is managed" windowIsManaged
+    wmctrl -i -r "$window" -b add,maximized_vert,maximized_horz
+    isMaximizedBelowTheBar() {
+        local top height
+        read -r top height < <(geometry "$window" | sed 's/^[-0-9]*,\([-0-9]*\) [0-9]*x\([0-9]*\)/\1 \2/')
+        ((height > 600 && top >= 22))
+    }
+    waitUntil "a maximised window stays below the bar" isMaximizedBelowTheBar || geometry "$window"
+    kill "$pid"
+}
+
+testVisibility() {
+    waitUntil "both items are painted" inkStartsBetween 1142 1212
+    store showMemory=false
+    waitUntil "the CPU item moves to the right when memory is switched off" inkStartsBetween 1212 1272
+    store showMemory=false showCPU=false showNetwork=false showBattery=false
+    waitUntil "the bar disappears with the last item" barIsHidden
+    waitUntil "the space is given back" workAreaIs "0, 0, 1280, 800"
+    store showCPU=true
+    waitUntil "the bar returns with the items" barIsShown
+    expectBar "0,0 1280x22" 22 1279
+    waitUntil "both items are painted again" inkStartsBetween 1142 1212
+    waitUntil "the space is reserved again" workAreaIs "0, 22, 1280, 778"
+}
+
+testPanelAbove() {
+    "$client" panel 30 >"$workDirectory/panel" &
+    local pid=$!
+    ownedPids+=("$pid")
+    expectBar "0,30 1280x22" 52 1279
+    waitUntil "the space of both is reserved" workAreaIs "0, 52, 1280, 748"
+    sleep 0.3
+    expectBar "0,30 1280x22" 52 1279
+    kill "$pid"
+    expectBar "0,0 1280x22" 22 1279
+}
+
+testScreenSize() {
+    xrandr --newmode 1024x768 63.50 1024 1072 1176 1328 768 771 775 798
+    xrandr --addmode screen 1024x768
+    xrandr -s 1024x768
+    expectBar "0,0 1024x22" 22 1023
+    waitUntil "the reserved space follows the screen" workAreaIs "0, 22, 1024, 746"
+    xrandr -s 1280x800
+    expectBar "0,0 1280x22" 22 1279
+}
+
+testWindowManagerRestart() {
+    kill "$windowManagerPid"
+    wait "$windowManagerPid"
+    startWindowManager
+    expectBar "0,0 1280x22" 22 1279
+    waitUntil "a new window manager reserves the space" workAreaIs "0, 22, 1280, 778"
+}
+
+testClosedByTheWindowManager() {
+    wmctrl -i -c "$bar"
+    waitUntil "a bar that was closed returns" barIsShown
+    expectBar "0,0 1280x22" 22 1279
+}
+
+# testScale HEIGHT NAME=VALUE...
+testScale() {
+    local height=$1
+    shift
+    startOrvelle "$@"
+    expectBar "0,0 1280x$height" "$height" 1279
+    endOrvelle TERM
+}
+
+testPanelPresentAtStart() {
+    "$client" panel 25 >"$workDirectory/panel" &
+    local pid=$!
+    ownedPids+=("$pid")
+    waitUntil "a panel reserves its space" workAreaIs "0, 25, 1280, 775"
+    startOrvelle QT_SCALE_FACTOR=1.5
+    # 25 pixels are 16.7 points, and Qt places windows at whole points: 17, which are 26 pixels.
+    expectBar "0,26 1280x33" 59 1279
+    endOrvelle INT
+    kill "$pid"
+    waitUntil "the panel is gone" workAreaIs "0, 0, 1280, 800"
+}
+
+testWithoutWindowManager() {
+    kill "$windowManagerPid"
+    wait "$windowManagerPid"
+    startOrvelle
+    waitUntil "the bar stands at the top without a window manager" barIsAt "0,0 1280x22"
+    startWindowManager
+    waitUntil "the bar becomes a dock when a window manager starts" workAreaIs "0, 22, 1280, 778"
+    waitUntil "the bar is still shown" barIsShown
+    endOrvelle TERM
+}
+
+testWithoutDisplay() {
+    local message status
+    message=$(env -u DISPLAY "$orvelle" 2>&1)
+    status=$?
+    expectEqual "without a display the status is" 1 "$status"
+    [[ $message == *"needs an X display"* ]] || fail "without a display the program says so, not: $message"
+    message=$(DISPLAY=:9999 "$orvelle" 2>&1)
+    status=$?
+    expectEqual "with an unreachable display the status is" 1 "$status"
+    [[ $message == *":9999"* ]] || fail "an unreachable display is named, not: $message"
+}
+
+startServer 1280x800
+startWindowManager
+testDock
+testMaximizedWindow
+testVisibility
+testPanelAbove
+testScreenSize
+testWindowManagerRestart
+testClosedByTheWindowManager
+endOrvelle TERM
+testScale 33 QT_SCALE_FACTOR=1.5
+testScale 44 QT_SCALE_FACTOR=2
+echo "Xft.dpi: 144" | xrdb -merge
+testScale 33
+xrdb -remove
+testPanelPresentAtStart
+testWithoutWindowManager
+testWithoutDisplay
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))

@@ -1,0 +1,67 @@
+// Another program on the same desktop, for the end-to-end tests: an ordinary window, or a panel that reserves
+// the top of the screen. It prints its window's id once it is mapped, and stays until it is ended.
+//
+//   x11_client window
+//   x11_client panel HEIGHT      (pixels)
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+struct FreeReply {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const std::unique_ptr<xcb_intern_atom_reply_t, FreeReply> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+void becomePanel(xcb_connection_t* connection, xcb_window_t window, std::uint32_t width,
+                 std::uint32_t height) {
+    const auto set = [&](std::string_view name, xcb_atom_t type, const std::vector<std::uint32_t>& values) {
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(connection, name), type, 32,
+                            static_cast<std::uint32_t>(values.size()), values.data());
+    };
+    set("_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {atom(connection, "_NET_WM_WINDOW_TYPE_DOCK")});
+    constexpr std::uint32_t userSpecifiedPosition = 1; // else the window manager places the panel
+    std::vector<std::uint32_t> sizeHints(18);
+    sizeHints[0] = userSpecifiedPosition;
+    set("WM_NORMAL_HINTS", XCB_ATOM_WM_SIZE_HINTS, sizeHints);
+    set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, height, 0, 0, 0, 0, 0, 0, width - 1, 0, 0});
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    if (argumentCount < 2 || xcb_connection_has_error(connection) != 0)
+        return EXIT_FAILURE;
+    const bool isPanel = std::string_view(arguments[1]) == "panel" && argumentCount == 3;
+    const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const std::uint16_t width = isPanel ? screen->width_in_pixels : 400;
+    const auto height = static_cast<std::uint16_t>(isPanel ? std::atoi(arguments[2]) : 300);
+    const std::uint32_t color = 0x3070A0;
+
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, width, height, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_BACK_PIXEL, &color);
+    if (isPanel)
+        becomePanel(connection, window, width, height);
+    xcb_map_window(connection, window);
+    xcb_flush(connection);
+    std::printf("0x%x\n", window);
+    std::fflush(stdout);
+    while (std::unique_ptr<xcb_generic_event_t, FreeReply>(xcb_wait_for_event(connection)))
+        continue;
+    return EXIT_SUCCESS;
+}
