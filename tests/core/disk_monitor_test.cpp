@@ -144,7 +144,6 @@ TEST_F(DiskMonitorTest, ClockThatDidNotAdvanceLeavesTheThroughputAndMovesTheBase
     const DiskMonitor::DiskIO before = monitor.diskIO();
 
     clock.advance(std::chrono::hours(-1));
-    updateIOWith({{.bytesRead = 900, .bytesWritten = 900}});
     updateIOWith({{.bytesRead = 1000, .bytesWritten = 1000}});
     EXPECT_EQ(monitor.diskIO(), before);
     EXPECT_EQ(monitor.readHistory(), QList<double>({100}));
@@ -153,6 +152,10 @@ TEST_F(DiskMonitorTest, ClockThatDidNotAdvanceLeavesTheThroughputAndMovesTheBase
     updateIOWith({{.bytesRead = 1100, .bytesWritten = 1200}});
     EXPECT_DOUBLE_EQ(monitor.diskIO().readSpeed, 50);
     EXPECT_DOUBLE_EQ(monitor.diskIO().writeSpeed, 100);
+
+    updateIOWith({{.bytesRead = 5000, .bytesWritten = 5000}}); // at the same moment
+    EXPECT_DOUBLE_EQ(monitor.diskIO().readSpeed, 50);
+    EXPECT_EQ(monitor.readHistory(), QList<double>({100, 50}));
 }
 
 TEST_F(DiskMonitorTest, FailedReadLeavesEverythingUntouched) {

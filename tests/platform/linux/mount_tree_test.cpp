@@ -32,6 +32,16 @@ TEST(MountTree, DoesNotReachWhatIsMountedOver) {
                                         "3 2 0:40 / /mnt rw - nfs4 server:/ rw\n";
     EXPECT_FALSE(isReachable(mounts, "/dev/covered"));
     EXPECT_TRUE(isReachable(mounts, "/dev/root"));
+    // Moved there later though it was mounted first.
+    EXPECT_FALSE(isReachable("1 0 8:1 / / rw - ext4 /dev/root rw\n"
+                             "2 3 0:40 / /mnt rw - nfs4 server:/ rw\n"
+                             "3 1 8:2 / /mnt rw - ext4 /dev/covered rw\n",
+                             "/dev/covered"));
+    // The later one counts where the numbers do not tell.
+    EXPECT_FALSE(isReachable("1 0 8:1 / / rw - ext4 /dev/root rw\n"
+                             "2 1 8:2 / /mnt rw - ext4 /dev/covered rw\n"
+                             "3 1 0:40 / /mnt rw - nfs4 server:/ rw\n",
+                             "/dev/covered"));
 }
 
 TEST(MountTree, ReachesWhatIsMountedOverANetworkMountOrAnAutomountPoint) {

@@ -39,7 +39,8 @@ TEST(VolumeChoice, NeverTakesNetworkMemoryOrImages) {
                           "10 1 7:0 / /mnt/image ro - ext4 /dev/loop0 ro\n"
                           "11 1 0:48 / /mnt/butter rw - btrfs /dev/loop1 rw\n"
                           "12 1 8:33 / /mnt/live ro - squashfs /dev/sdc1 ro\n"
-                          "13 1 0:49 / /mnt/overlay rw - overlay overlay rw\n"),
+                          "13 1 0:49 / /mnt/overlay rw - overlay overlay rw\n"
+                          "14 1 7:1 / /mnt/named ro - iso9660 /dev/disk/by-label/image ro\n"),
               Paths{"/"});
 }
 
