@@ -8,6 +8,7 @@
 #include "platform/linux/process_search.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <malloc.h>
 #include <thread>
@@ -127,7 +128,8 @@ MemoryGrowth measureMemoryGrowth(std::size_t extra) {
     sampleTwice();
     const auto perProcess = [extra](double bytes) { return bytes / static_cast<double>(extra); };
     return {.heapBytes = perProcess(heapBytes() - heapBefore),
-            .residentBytes = perProcess(residentBytes() - residentBefore)};
+            .residentBytes = perProcess(residentBytes() - residentBefore),
+            .nameLength = std::filesystem::read_symlink("/proc/self/exe").filename().string().size()};
 }
 
 } // namespace orvelle::bench

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 
 namespace orvelle::bench {
@@ -30,6 +31,7 @@ void readOnlyStatFiles(const Rhythm& rhythm);
 struct MemoryGrowth {
     double heapBytes = 0;
     double residentBytes = 0;
+    std::size_t nameLength = 0; ///< of each of those processes
 };
 [[nodiscard]] MemoryGrowth measureMemoryGrowth(std::size_t extra);
 

@@ -5,9 +5,10 @@
 namespace orvelle {
 
 void ProcessTimesByPid::beginSample(std::size_t processCount) {
-    // Doubling would leave up to half of the memory unused for as long as the program runs.
+    // Doubling would leave up to half of the memory unused for as long as the program runs, and a few more
+    // processes come sooner or later.
     if (processCount > m_entries.capacity())
-        m_entries.reserve(processCount + processCount / 16 + 16);
+        m_entries.reserve(processCount + processCount / 32 + 16);
     ++m_sample;
     m_hint = 0;
 }

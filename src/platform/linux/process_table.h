@@ -23,19 +23,17 @@ public:
         return std::ranges::binary_search(m_records, pid, {}, &ProcessRecord::pid);
     }
 
-    /// Makes room for so many processes and a few more.
+    /// Makes room for so many processes.
     void reserve(std::size_t count) {
-        if (count <= m_records.capacity())
-            return;
-        // Doubling would leave up to half of the memory unused for as long as the program runs.
-        const std::size_t capacity = count + count / 16 + 16;
-        m_records.reserve(capacity);
-        m_lives.reserve(capacity);
+        m_records.reserve(count);
+        m_lives.reserve(count);
     }
 
     /// Puts a process that the table does not contain at its place.
     void insert(ProcessRecord record, ProcessLife life) {
-        reserve(m_records.size() + 1);
+        // Doubling would leave up to half of the memory unused for as long as the program runs.
+        if (m_records.size() == m_records.capacity())
+            reserve(m_records.size() + m_records.size() / 16 + 16);
         const auto place = std::ranges::lower_bound(m_records, record.pid, {}, &ProcessRecord::pid);
         m_lives.insert(m_lives.begin() + (place - m_records.begin()), life);
         m_records.insert(place, std::move(record));
