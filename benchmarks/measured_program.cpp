@@ -18,6 +18,7 @@ namespace {
 [[noreturn]] void execute(const std::vector<std::string>& command) {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string& argument : command)
         arguments.push_back(const_cast<char*>(argument.c_str()));
     arguments.push_back(nullptr);

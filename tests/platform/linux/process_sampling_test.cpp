@@ -1,7 +1,6 @@
 #include "child_process.h"
 #include "core/system_monitor.h"
 #include "platform/host.h"
-#include "platform/linux/linux_machine.h"
 #include "process_tree.h"
 #include "settings/settings_store.h"
 
@@ -76,7 +75,7 @@ protected:
 
     ProcessTree tree;
     SettingsStore settings;
-    SystemMonitor monitor{makeLinuxSources(tree.root(), [] { return WallTime{}; }), settings};
+    SystemMonitor monitor{makeTreeSources(tree.root(), [] { return WallTime{}; }), settings};
 };
 
 TEST_F(ProcessCadenceTest, SamplesProcessesInTheFirstCycleAndInEveryThirdAfterIt) {
@@ -86,7 +85,7 @@ TEST_F(ProcessCadenceTest, SamplesProcessesInTheFirstCycleAndInEveryThirdAfterIt
         tree.put({.pid = cycle, .residentPages = static_cast<std::uint64_t>(cycle), .exe = {}});
         monitor.updateCycle();
         if (cycle % 3 == 1)
-            EXPECT_EQ(listed().front(), cycle);
+            EXPECT_EQ(listed().at(0), cycle);
         else
             EXPECT_EQ(listed(), before);
     }
