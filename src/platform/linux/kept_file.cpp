@@ -11,6 +11,7 @@ namespace orvelle::linux_platform {
 namespace {
 
 constexpr std::size_t firstBufferSize = 8192;
+constexpr std::size_t firstValueBufferSize = 64;
 
 ssize_t preadWithoutInterruption(int descriptor, char* into, std::size_t size, std::size_t offset) {
     ssize_t count = 0;
@@ -76,7 +77,7 @@ bool KeptFile::hasAnnouncedChange() {
 
 bool KeptFile::readAll() {
     if (m_buffer.empty())
-        m_buffer.resize(firstBufferSize);
+        m_buffer.resize(m_layout == Layout::value ? firstValueBufferSize : firstBufferSize);
     m_size = 0;
     while (true) {
         const std::size_t room = m_buffer.size() - m_size;
@@ -85,7 +86,7 @@ bool KeptFile::readAll() {
             return false;
         m_size += static_cast<std::size_t>(count);
         const bool leftRoom = static_cast<std::size_t>(count) < room;
-        if (count == 0 || (leftRoom && m_layout == Layout::single))
+        if (count == 0 || (leftRoom && m_layout != Layout::records))
             return true;
         if (leftRoom)
             continue;
@@ -93,7 +94,7 @@ bool KeptFile::readAll() {
             return true;
         m_buffer.resize(std::min(m_buffer.size() * 2, maximumSize));
         // A text that is produced for one read would be made of two moments if only its rest were read.
-        if (m_layout == Layout::single)
+        if (m_layout != Layout::records)
             m_size = 0;
     }
 }

@@ -16,9 +16,10 @@ public:
     static constexpr std::size_t maximumSize = std::size_t{4} << 20;
 
     /// How the kernel ends the text. `single`: the whole text is produced for one read, so a read that leaves
-    /// room in the buffer has seen all of it (stat, meminfo, loadavg). `records`: each read ends at a record
-    /// near a page, so only an empty read is the end (diskstats, net/dev, mountinfo).
-    enum class Layout { single, records };
+    /// room in the buffer has seen all of it (stat, meminfo, loadavg). `value`: the same, and so short that a
+    /// small buffer does (one value of a device in sysfs). `records`: each read ends at a record near a page,
+    /// so only an empty read is the end (diskstats, net/dev, mountinfo).
+    enum class Layout { single, value, records };
 
     KeptFile(std::filesystem::path path, Layout layout);
     ~KeptFile();

@@ -1,0 +1,58 @@
+#include "platform/linux/sleep_guard.h"
+
+#include "platform/linux/sysfs.h"
+#include "platform/linux/text.h"
+
+#include <algorithm>
+
+namespace orvelle::linux_platform {
+namespace {
+
+/// Nobody waits longer for a disk to stop; it keeps nonsense out of the sums of times.
+constexpr std::int64_t longestIdleMilliseconds = std::int64_t{24} * 3600 * 1000;
+
+bool isAsleep(KeptFile& status) {
+    const std::string_view text = trimmed(status.read().value_or(std::string_view()));
+    return text == "suspended" || text == "suspending";
+}
+
+/// How long the device stays awake after its last use; 0 when it never sleeps or sleeps at once.
+std::chrono::milliseconds idleTime(const std::filesystem::path& powerFolder) {
+    if (readAttribute(powerFolder / "control") != "auto")
+        return {};
+    const auto delay = parseAttributeNumber(readAttribute(powerFolder / "autosuspend_delay_ms"));
+    return std::chrono::milliseconds(std::clamp<std::int64_t>(delay.value_or(0), 0, longestIdleMilliseconds));
+}
+
+} // namespace
+
+SleepGuard::SleepGuard(const std::vector<std::filesystem::path>& powerFolders) {
+    for (const std::filesystem::path& folder : powerFolders) {
+        KeptFile status(folder / "runtime_status", KeptFile::Layout::value);
+        const std::optional<std::string_view> text = status.read();
+        if (text && trimmed(*text) != "unsupported")
+            m_managed.push_back({.folder = folder, .status = std::move(status)});
+    }
+    renewIdleTime();
+}
+
+SleepGuard::Advice SleepGuard::adviceAt(std::chrono::steady_clock::time_point now) {
+    for (Managed& device : m_managed) {
+        if (isAsleep(device.status))
+            return Advice::avoid;
+    }
+    // Twice the idle time leaves room for the device to fall asleep in between, so that one which is still
+    // awake then is in use by others.
+    if (m_lastReading && now - *m_lastReading < 2 * m_idleTime)
+        return Advice::wait;
+    m_lastReading = now;
+    return Advice::read;
+}
+
+void SleepGuard::renewIdleTime() {
+    m_idleTime = {};
+    for (const Managed& device : m_managed)
+        m_idleTime = std::max(m_idleTime, idleTime(device.folder));
+}
+
+} // namespace orvelle::linux_platform

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/linux/kept_file.h"
+
+#include <chrono>
+#include <functional>
+#include <vector>
+
+namespace orvelle::linux_platform {
+
+/// Time that never steps back.
+using MonotonicClock = std::function<std::chrono::steady_clock::time_point()>;
+
+/// Tells when a device may be read without being woken or kept awake (Documentation/power/runtime_pm.rst). A
+/// suspended device would be resumed by the reading of a value. One that is awake and falls asleep after some
+/// idle time would never do so if it were read more often than that.
+class SleepGuard {
+public:
+    enum class Advice {
+        read,  ///< awake: read it now
+        wait,  ///< awake, but read so lately that it must be let fall asleep: what was read last still holds
+        avoid, ///< asleep: nothing is known of it
+    };
+
+    /// `powerFolders` are the `power` folders of the device and of those that it sleeps with.
+    explicit SleepGuard(const std::vector<std::filesystem::path>& powerFolders);
+
+    /// What to do now. Being told to read counts as having read.
+    [[nodiscard]] Advice adviceAt(std::chrono::steady_clock::time_point now);
+
+    /// Looks again at how the device is told to save power, which the user may change at any time.
+    void renewIdleTime();
+
+private:
+    /// A device that has runtime power management.
+    struct Managed {
+        std::filesystem::path folder;
+        KeptFile status;
+    };
+
+    std::vector<Managed> m_managed;
+    std::chrono::milliseconds m_idleTime{0};
+    std::optional<std::chrono::steady_clock::time_point> m_lastReading;
+};
+
+} // namespace orvelle::linux_platform
