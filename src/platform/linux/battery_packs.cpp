@@ -1,0 +1,158 @@
+#include "platform/linux/battery_packs.h"
+
+#include "platform/linux/pack_figures.h"
+#include "platform/linux/text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle::linux_platform {
+namespace {
+
+/// No battery of a machine reaches this in any unit; it keeps nonsense away from the limits of the types.
+constexpr double largestFigure = 1e9;
+/// A machine that draws next to nothing would run for years by the numbers; that says nothing to its user.
+constexpr double longestMinutes = 100 * 60;
+/// What a driver gives as temperature when its sensor is missing lies outside (absolute zero, for one).
+constexpr std::int64_t lowestTemperature = -500; // tenths of a degree
+constexpr std::int64_t highestTemperature = 1500;
+
+std::int64_t rounded(double value) {
+    return std::llround(std::clamp(value, -largestFigure, largestFigure));
+}
+
+std::optional<std::int64_t> rounded(const Figure& value) {
+    return value ? std::optional(rounded(*value)) : std::nullopt;
+}
+
+/// The sum over all packs; nothing when one of them gives nothing.
+Figure sumOverAll(const std::vector<BatteryPack>& packs, Figure (*figure)(const BatteryPack&)) {
+    double sum = 0;
+    for (const BatteryPack& pack : packs) {
+        const Figure part = figure(pack);
+        if (!part)
+            return std::nullopt;
+        sum += *part;
+    }
+    return sum;
+}
+
+std::optional<std::int64_t> chargePercent(const std::vector<BatteryPack>& packs) {
+    const auto packCount = static_cast<double>(packs.size());
+    const Figure byEnergy = quotient(sumOverAll(packs, energyNow), sumOverAll(packs, energyFull));
+    const Figure fraction = firstOf(byEnergy, quotient(sumOverAll(packs, chargeLevel), packCount));
+    return rounded(fraction ? Figure(std::clamp(*fraction * 100.0, 0.0, 100.0)) : std::nullopt);
+}
+
+bool isAny(const std::vector<BatteryPack>& packs, PackStatus status) {
+    return std::ranges::find(packs, status, &BatteryPack::status) != packs.end();
+}
+
+/// What flows into all packs together. Of packs of which one gives nothing, as an idle one may, the others
+/// count; nothing when none gives anything.
+struct Flow {
+    Figure amperes; ///< nothing when one pack gives only its power
+    Figure watts;
+};
+
+Flow flowInto(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
+    Flow flow;
+    bool isCurrentComplete = true;
+    for (const BatteryPack& pack : packs) {
+        const Figure amperes = currentInto(pack, isOnExternalPower);
+        const Figure watts = powerInto(pack, isOnExternalPower);
+        if (amperes)
+            flow.amperes = flow.amperes.value_or(0) + *amperes;
+        if (watts)
+            flow.watts = flow.watts.value_or(0) + *watts;
+        isCurrentComplete = isCurrentComplete && (amperes || !watts);
+    }
+    if (!isCurrentComplete)
+        flow.amperes.reset();
+    return flow;
+}
+
+Figure meanVoltage(const std::vector<BatteryPack>& packs) {
+    const Figure weighted = quotient(
+        sumOverAll(packs,
+                   [](const BatteryPack& pack) { return product(presentVoltage(pack), energyNow(pack)); }),
+        sumOverAll(packs, energyNow));
+    double sum = 0;
+    double count = 0;
+    for (const BatteryPack& pack : packs) {
+        sum += presentVoltage(pack).value_or(0);
+        count += presentVoltage(pack) ? 1 : 0;
+    }
+    return firstOf(weighted, quotient(sum, count));
+}
+
+/// Minutes until `wattHours` have flowed; -1 when that cannot be told.
+std::int64_t minutesUntil(const Figure& wattHours, const Figure& watts) {
+    const Figure minutes = product(quotient(wattHours, watts ? Figure(std::abs(*watts)) : watts), 60.0);
+    return minutes && *minutes >= 0 && *minutes <= longestMinutes ? rounded(*minutes) : -1;
+}
+
+/// The time that a driver gives counts where there is no other pack to be emptied or filled as well.
+std::int64_t minutesGivenOr(const std::vector<BatteryPack>& packs,
+                            std::optional<std::int64_t> BatteryPack::*seconds, std::int64_t otherwise) {
+    const std::optional<std::int64_t> given = packs.size() == 1 ? packs.front().*seconds : std::nullopt;
+    const Figure minutes = given ? Figure(static_cast<double>(*given) / 60.0) : std::nullopt;
+    return minutes && *minutes > 0 && *minutes <= longestMinutes ? rounded(*minutes) : otherwise;
+}
+
+} // namespace
+
+PackStatus parsePackStatus(std::string_view text) {
+    const std::string_view word = trimmed(text);
+    if (word == "Charging")
+        return PackStatus::charging;
+    if (word == "Discharging")
+        return PackStatus::discharging;
+    if (word == "Not charging")
+        return PackStatus::notCharging;
+    return word == "Full" ? PackStatus::full : PackStatus::unknown;
+}
+
+PowerSourceDescription describePacks(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
+    const bool isCharging = isAny(packs, PackStatus::charging);
+    const bool isDischarging = !isCharging && (!isOnExternalPower || isAny(packs, PackStatus::discharging));
+    const Figure watts = flowInto(packs, isOnExternalPower).watts;
+    const Figure held = sumOverAll(packs, energyNow);
+    const Figure full = sumOverAll(packs, energyFull);
+    const Figure missing = held && full ? Figure(*full - *held) : std::nullopt;
+
+    PowerSourceDescription description;
+    description.currentCapacity = chargePercent(packs);
+    description.isCharging = isCharging;
+    description.powerSourceState =
+        isOnExternalPower ? PowerSourceDescription::externalPower : PowerSourceDescription::batteryPower;
+    description.isCharged =
+        std::ranges::all_of(packs, [](const BatteryPack& pack) { return pack.status == PackStatus::full; });
+    description.timeToEmpty =
+        isDischarging ? minutesGivenOr(packs, &BatteryPack::timeToEmpty, minutesUntil(held, watts)) : -1;
+    description.timeToFullCharge =
+        isCharging ? minutesGivenOr(packs, &BatteryPack::timeToFull, minutesUntil(missing, watts)) : -1;
+    return description;
+}
+
+SmartBatteryProperties combinePacks(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
+    SmartBatteryProperties battery;
+    for (const BatteryPack& pack : packs) {
+        if (pack.cycleCount && *pack.cycleCount >= 0)
+            battery.cycleCount =
+                std::max(battery.cycleCount.value_or(0), rounded(static_cast<double>(*pack.cycleCount)));
+        if (pack.temperature && *pack.temperature > lowestTemperature &&
+            *pack.temperature < highestTemperature)
+            battery.temperature =
+                std::max(battery.temperature.value_or(lowestTemperature * 10), *pack.temperature * 10);
+    }
+    battery.designCapacity = rounded(sumOverAll(packs, designCapacity));
+    battery.rawMaxCapacity = rounded(sumOverAll(packs, fullCapacity));
+    const Figure volts = meanVoltage(packs);
+    battery.voltage = rounded(product(volts, 1000.0));
+    const Flow flow = flowInto(packs, isOnExternalPower);
+    battery.amperage = rounded(product(firstOf(flow.amperes, quotient(flow.watts, volts)), 1000.0));
+    return battery;
+}
+
+} // namespace orvelle::linux_platform
