@@ -24,7 +24,17 @@ SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settin
     , m_memory(*m_sources.memory)
     , m_disk(*m_sources.disk, m_sources.now)
     , m_network(*m_sources.network, m_sources.now)
+    , m_battery(*m_sources.battery)
+    , m_sensor([this]() -> SensorSource& { return sensorSource(); })
     , m_process(*m_sources.process, m_sources.now) {}
+
+SensorSource& SystemMonitor::sensorSource() {
+    if (m_sources.sensor)
+        return *m_sources.sensor;
+    if (!m_smcHelper)
+        m_smcHelper = std::make_unique<SMCHelper>(*m_sources.smcUserClient);
+    return *m_smcHelper;
+}
 
 std::optional<double> SystemMonitor::activeInterval() const {
     if (m_timer == nullptr)
@@ -66,6 +76,8 @@ void SystemMonitor::updateCycle() {
     m_disk.updateVolumes();
     m_disk.updateIO();
     m_network.update();
+    m_battery.update();
+    m_sensor.update();
     m_updateCycleCount = checkedAdd(m_updateCycleCount, qint64{1});
     if (m_updateCycleCount % cyclesPerProcessUpdate == 1)
         m_process.update();

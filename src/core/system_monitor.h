@@ -1,10 +1,13 @@
 #pragma once
 
+#include "core/battery_monitor.h"
 #include "core/cpu_monitor.h"
 #include "core/disk_monitor.h"
 #include "core/memory_monitor.h"
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
+#include "core/sensor_monitor.h"
+#include "core/smc_helper.h"
 #include "core/sources/machine_sources.h"
 
 #include <QObject>
@@ -30,6 +33,8 @@ public:
     [[nodiscard]] MemoryMonitor& memory() { return m_memory; }
     [[nodiscard]] DiskMonitor& disk() { return m_disk; }
     [[nodiscard]] NetworkMonitor& network() { return m_network; }
+    [[nodiscard]] BatteryMonitor& battery() { return m_battery; }
+    [[nodiscard]] SensorMonitor& sensor() { return m_sensor; }
     [[nodiscard]] ProcessMonitor& process() { return m_process; }
 
     /// Update cycles completed since construction; stopping does not reset it.
@@ -52,12 +57,18 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// The system's own sensors, or the System Management Controller's, connected at the first call.
+    [[nodiscard]] SensorSource& sensorSource();
+
     MachineSources m_sources;
+    std::unique_ptr<SMCHelper> m_smcHelper;
     const SettingsStore& m_settings;
     CPUMonitor m_cpu;
     MemoryMonitor m_memory;
     DiskMonitor m_disk;
     NetworkMonitor m_network;
+    BatteryMonitor m_battery;
+    SensorMonitor m_sensor;
     ProcessMonitor m_process;
     QTimer* m_timer = nullptr; ///< the latest timer, owned as a child; none while stopped
     qint64 m_updateCycleCount = 0;

@@ -1,6 +1,7 @@
 #include "core/system_monitor.h"
 #include "platform/fixed/fixed_machine.h"
 #include "settings/settings_store.h"
+#include "support/scripted_smc_user_client.h"
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -70,6 +71,31 @@ TEST_F(SystemMonitorTest, AMachineThatAnswersNothingIsSurvived) {
     monitor.updateCycle();
     EXPECT_EQ(monitor.updateCycleCount(), 2);
     EXPECT_TRUE(monitor.cpu().usageHistory().isEmpty());
+}
+
+TEST_F(SystemMonitorTest, TheBatteryIsSampledBeforeTheSensors) {
+    QStringList order;
+    QObject::connect(&monitor.battery(), &BatteryMonitor::batteryChanged, &monitor,
+                     [&] { order << QStringLiteral("battery"); });
+    QObject::connect(&monitor.sensor(), &SensorMonitor::fansChanged, &monitor,
+                     [&] { order << QStringLiteral("sensor"); });
+    monitor.updateCycle();
+    EXPECT_EQ(order, (QStringList{QStringLiteral("battery"), QStringLiteral("sensor")}));
+}
+
+TEST_F(SystemMonitorTest, TheSensorsBehindAControllerAreConnectedInTheFirstCycle) {
+    MachineSources sources = machine.sources();
+    sources.sensor.reset();
+    auto scripted = std::make_unique<ScriptedSMCUserClient>();
+    ScriptedSMCUserClient& controller = *scripted;
+    controller.setFloat("Tp09", 55);
+    sources.smcUserClient = std::move(scripted);
+    SystemMonitor withController(std::move(sources), settings);
+    EXPECT_EQ(controller.openCount, 0);
+    withController.updateCycle();
+    withController.updateCycle();
+    EXPECT_EQ(controller.openCount, 1);
+    EXPECT_EQ(withController.sensor().cpuTemperature(), 55);
 }
 
 TEST_F(SystemMonitorTest, ACycleOffTheMainThreadStopsTheProcess) {

@@ -1,9 +1,11 @@
 #include "platform/host.h"
+#include "platform/linux/linux_battery_source.h"
 #include "platform/linux/linux_disk_source.h"
 #include "platform/linux/linux_memory_source.h"
 #include "platform/linux/linux_network_source.h"
 #include "platform/linux/linux_process_source.h"
 #include "platform/linux/linux_processor_source.h"
+#include "platform/linux/linux_sensor_source.h"
 #include "platform/linux/process_clock.h"
 
 #include <unistd.h>
@@ -34,6 +36,8 @@ MachineSources makeSources(const std::filesystem::path& root, WallClock now, Pro
             .memory = std::make_unique<LinuxMemorySource>(root, units.pageSize),
             .disk = std::make_unique<LinuxDiskSource>(root),
             .network = std::make_unique<LinuxNetworkSource>(root),
+            .battery = std::make_unique<LinuxBatterySource>(root),
+            .sensor = std::make_unique<LinuxSensorSource>(root),
             .process = std::make_unique<LinuxProcessSource>(root, timesFrom, units)};
 }
 
