@@ -49,6 +49,26 @@ TEST(ProbeReplay, ALargeCounterIsPrintedExactly) {
     EXPECT_EQ(replay({path(tree)})[u"memory"][u"info"][u"total"].toInteger(), 9007199254741 * 1024);
 }
 
+TEST(ProbeReplay, BatteryAndSensorsComeFromTheTreeOfEachMoment) {
+    const TemporaryTree first;
+    const TemporaryTree second;
+    for (const auto& [tree, energy, temperature] :
+         {std::tuple{&first, "40", "50000"}, {&second, "30", "60000"}}) {
+        tree->write("sys/class/power_supply/BAT0/type", "Battery\n");
+        tree->write("sys/class/power_supply/BAT0/status", "Discharging\n");
+        tree->write("sys/class/power_supply/BAT0/energy_now", energy);
+        tree->write("sys/class/power_supply/BAT0/energy_full", "50");
+        tree->write("sys/class/hwmon/hwmon0/name", "k10temp\n");
+        tree->write("sys/class/hwmon/hwmon0/temp1_input", temperature);
+    }
+    const QJsonObject result = replay({path(first), path(second)});
+    EXPECT_EQ(result[u"battery"][u"battery"][u"currentCapacity"].toInt(), 60);
+    EXPECT_EQ(result[u"battery"][u"battery"][u"powerSource"].toString(), QStringLiteral("Battery"));
+    EXPECT_EQ(result[u"battery"][u"chargeHistory"].toArray(), (QJsonArray{0.8, 0.6}));
+    EXPECT_EQ(result[u"sensor"][u"cpuTempHistory"].toArray(), (QJsonArray{50, 60}));
+    EXPECT_EQ(result[u"sensor"][u"sensors"][0][u"name"].toString(), QStringLiteral("k10temp"));
+}
+
 TEST(ProbeReplay, ARootThatIsNoDirectoryIsSaid) {
     EXPECT_TRUE(std::holds_alternative<UnreadableRoot>(probe({.roots = {QStringLiteral("/dev/null")}})));
 }

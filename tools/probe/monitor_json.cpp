@@ -52,6 +52,8 @@ QJsonObject publishedValues(SystemMonitor& monitor) {
             {QStringLiteral("memory"), jsonFromMonitor(monitor.memory())},
             {QStringLiteral("disk"), jsonFromMonitor(monitor.disk())},
             {QStringLiteral("network"), jsonFromMonitor(monitor.network())},
+            {QStringLiteral("battery"), jsonFromMonitor(monitor.battery())},
+            {QStringLiteral("sensor"), jsonFromMonitor(monitor.sensor())},
             {QStringLiteral("process"), jsonFromMonitor(monitor.process())}};
 }
 
