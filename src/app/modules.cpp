@@ -1,7 +1,11 @@
 #include "app/modules.h"
 
+#include "app/menu_bar_items/battery_menu_bar_item.h"
 #include "app/menu_bar_items/cpu_menu_bar_item.h"
+#include "app/menu_bar_items/disk_menu_bar_item.h"
 #include "app/menu_bar_items/memory_menu_bar_item.h"
+#include "app/menu_bar_items/network_menu_bar_item.h"
+#include "app/menu_bar_items/sensor_menu_bar_item.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
@@ -28,6 +32,33 @@ std::string describeMemory(SystemMonitor& monitor) {
                        static_cast<double>(info.total) / bytesPerMebibyte, pressureFraction(info) * 100);
 }
 
+std::string describeNetwork(SystemMonitor& monitor) {
+    const NetworkMonitor& network = monitor.network();
+    return fmt::format("{:.0f} B/s down, {:.0f} B/s up on {} interfaces, address {}",
+                       network.totalDownloadSpeed(), network.totalUploadSpeed(), network.interfaces().size(),
+                       network.primaryIPv4().toStdString());
+}
+
+std::string describeDisk(SystemMonitor& monitor) {
+    const DiskMonitor& disk = monitor.disk();
+    return fmt::format("{:.0f} B/s read, {:.0f} B/s written, {} volumes", disk.diskIO().readSpeed,
+                       disk.diskIO().writeSpeed, disk.volumes().size());
+}
+
+std::string describeBattery(SystemMonitor& monitor) {
+    const BatteryMonitor::BatteryInfo& battery = monitor.battery().battery();
+    if (!battery.isPresent)
+        return "none";
+    return fmt::format("{}%, {}, {:.1f} W", battery.currentCapacity, battery.powerSource.toStdString(),
+                       battery.wattage);
+}
+
+std::string describeSensors(SystemMonitor& monitor) {
+    const SensorMonitor& sensor = monitor.sensor();
+    return fmt::format("CPU {:.0f}, GPU {:.0f} degrees Celsius, {} sensors, {} fans", sensor.cpuTemperature(),
+                       sensor.gpuTemperature(), sensor.sensors().size(), sensor.fans().size());
+}
+
 /// A menu-bar item of type `Item` for the monitor that `monitorOf` names.
 template <class Item, auto monitorOf>
 std::shared_ptr<const StatusItemView> makeItem(const ModuleContext& context) {
@@ -42,6 +73,14 @@ std::span<const Module> modules() {
                makeItem<CPUMenuBarItem, &SystemMonitor::cpu>, describeCPU},
         Module{QLatin1StringView("memory"), 70, &SettingsStore::showMemory,
                makeItem<MemoryMenuBarItem, &SystemMonitor::memory>, describeMemory},
+        Module{QLatin1StringView("network"), 90, &SettingsStore::showNetwork,
+               makeItem<NetworkMenuBarItem, &SystemMonitor::network>, describeNetwork},
+        Module{QLatin1StringView("disk"), 45, &SettingsStore::showDisk,
+               makeItem<DiskMenuBarItem, &SystemMonitor::disk>, describeDisk},
+        Module{QLatin1StringView("battery"), 65, &SettingsStore::showBattery,
+               makeItem<BatteryMenuBarItem, &SystemMonitor::battery>, describeBattery},
+        Module{QLatin1StringView("sensor"), 50, &SettingsStore::showSensors,
+               makeItem<SensorMenuBarItem, &SystemMonitor::sensor>, describeSensors},
     };
     return table;
 }
