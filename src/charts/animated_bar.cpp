@@ -3,8 +3,11 @@
 #include "charts/bar_rules.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
+#include "charts/glow_painter.h"
 
 #include <QLinearGradient>
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
@@ -23,6 +26,23 @@ QBrush barBrush(BarChartStyle style, const QColor& color, double top, double bot
     return fade;
 }
 
+/// Draws the bar in a slot whose top-left corner is the origin.
+void drawBar(QPainter& painter, const AnimatedBar& bar, const QSizeF& slotSize, const BarLook& shown) {
+    const QRectF slot({0, 0}, slotSize);
+    const double height = barHeight(shown.ratio, slot.height());
+    const QPainterPath shape = barShape(bar.barStyle, slot, height, bar.cornerRadius);
+    const QBrush brush = barBrush(bar.barStyle, shown.color, slot.bottom() - height, slot.bottom());
+    if (bar.showGlow) {
+        GlowStyle style = GlowStyle::of(shown.color, bar.glowIntensity);
+        style.radius = barGlowRadius(bar.barStyle, bar.glowIntensity);
+        paintGlow(painter, shape.boundingRect().translated(0, -glowRise), style, [&](QPainter& mask) {
+            mask.translate(0, -glowRise);
+            mask.fillPath(shape, brush);
+        });
+    }
+    painter.fillPath(shape, brush);
+}
+
 } // namespace
 
 BarLook AnimatedBar::look() const {
@@ -30,32 +50,27 @@ BarLook AnimatedBar::look() const {
     return {ratio, barColor(ratio, baseColor)};
 }
 
-void AnimatedBar::paint(QPainter& painter, const QRectF& slot, GlowCache* glows) const {
-    paint(painter, slot, look(), glows);
+double AnimatedBar::overhang() const {
+    return showGlow ? glowReach(barGlowRadius(barStyle, glowIntensity)) + glowRise : 0;
 }
 
-void AnimatedBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown, GlowCache* glows,
-                        std::size_t index) const {
+void AnimatedBar::paint(QPainter& painter, const QRectF& slot) const {
+    paint(painter, slot, look(), nullptr);
+}
+
+void AnimatedBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown,
+                        PictureCache<BarPicture>* cache, std::size_t index) const {
     if (!isPaintable(slot.size()))
         return;
-    const QRectF localSlot({0, 0}, slot.size());
-    const double height = barHeight(shown.ratio, slot.height());
-    const QPainterPath shape = barShape(barStyle, localSlot, height, cornerRadius);
-    const QBrush brush = barBrush(barStyle, shown.color, localSlot.bottom() - height, localSlot.bottom());
+    const double width = barWidth(barStyle, slot.width());
+    const double height = std::max(barHeight(shown.ratio, slot.height()), slot.height());
+    const QRectF inked(slot.width() / 2 - width / 2, slot.height() - height, width, height);
+    const double room = overhang();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(slot.topLeft());
-    if (showGlow) {
-        painter.translate(0, -glowRise);
-        paintGlow(painter,
-                  {.shape = shape,
-                   .brush = brush,
-                   .color = withOpacity(shown.color, glowOpacity(glowIntensity)),
-                   .radius = barGlowRadius(barStyle, glowIntensity)},
-                  glows, index);
-        painter.translate(0, glowRise);
-    }
-    painter.fillPath(shape, brush);
+    const auto draw = [&](QPainter& target) { drawBar(target, *this, slot.size(), shown); };
+    showKept(painter, cache, BarPicture{*this, shown}, inked.adjusted(-room, -room, room, room), draw, index);
     painter.restore();
 }
 

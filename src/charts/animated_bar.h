@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/bar_look.h"
-#include "charts/glow_picture.h"
+#include "charts/picture_cache.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -9,6 +9,8 @@
 #include <QRectF>
 
 namespace orvelle {
+
+struct BarPicture;
 
 /// One bar of a row.
 struct AnimatedBar {
@@ -25,17 +27,27 @@ struct AnimatedBar {
     /// The look of the present value, towards which a host animates.
     [[nodiscard]] BarLook look() const;
 
-    /// Paints the look of the present value at the bottom of `slot`.
-    void paint(QPainter& painter, const QRectF& slot, GlowCache* glows = nullptr) const;
+    /// How far the glow reaches beyond the slot on every side, points.
+    [[nodiscard]] double overhang() const;
 
-    /// Paints the bar as it looks in the middle of an animation. The bar stays within the slot's width,
-    /// except that a thin line is never narrower than 1.5 points; the glow reaches beyond the slot by
-    /// `glowReach(glowRadius(glowIntensity))` plus the point by which it is raised. `index` numbers the bars
-    /// that share one cache.
-    void paint(QPainter& painter, const QRectF& slot, const BarLook& shown, GlowCache* glows,
+    /// Paints the look of the present value at the bottom of `slot`.
+    void paint(QPainter& painter, const QRectF& slot) const;
+
+    /// Paints the bar as it looks in the middle of an animation. Without its glow the bar stays within the
+    /// slot's width, except that a thin line is never narrower than 1.5 points. `index` numbers the bars that
+    /// share one cache.
+    void paint(QPainter& painter, const QRectF& slot, const BarLook& shown, PictureCache<BarPicture>* cache,
                std::size_t index = 0) const;
 
     bool operator==(const AnimatedBar&) const = default;
+};
+
+/// What decides how the picture of a bar in a cache looks.
+struct BarPicture {
+    AnimatedBar bar;
+    BarLook shown;
+
+    bool operator==(const BarPicture&) const = default;
 };
 
 } // namespace orvelle

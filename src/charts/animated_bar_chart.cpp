@@ -36,20 +36,20 @@ QList<QRectF> AnimatedBarChart::barSlots(const QRectF& bounds) const {
     return result;
 }
 
-void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, GlowCache* glows) const {
+void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, PictureCache<BarPicture>* cache) const {
     QList<BarLook> looks;
     looks.reserve(values.size());
     for (const AnimatedBar& bar : bars())
         looks.append(bar.look());
-    paint(painter, bounds, looks, glows);
+    paint(painter, bounds, looks, cache);
 }
 
 void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown,
-                             GlowCache* glows) const {
+                             PictureCache<BarPicture>* cache) const {
     const QList<AnimatedBar> drawn = bars();
     const QList<QRectF> places = barSlots(bounds);
     for (qsizetype index = 0; index < std::min(drawn.size(), shown.size()); ++index)
-        drawn[index].paint(painter, places[index], shown[index], glows, static_cast<std::size_t>(index));
+        drawn[index].paint(painter, places[index], shown[index], cache, static_cast<std::size_t>(index));
 }
 
 } // namespace orvelle

@@ -28,10 +28,11 @@ struct AnimatedBarChart {
     [[nodiscard]] QList<QRectF> barSlots(const QRectF& bounds) const;
 
     /// Paints the present values, and the glow beyond the chart as every bar does.
-    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+    void paint(QPainter& painter, const QRectF& bounds, PictureCache<BarPicture>* cache = nullptr) const;
 
     /// Paints the bars as they look in the middle of an animation: one look per value, in order.
-    void paint(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown, GlowCache* glows) const;
+    void paint(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown,
+               PictureCache<BarPicture>* cache) const;
 
     bool operator==(const AnimatedBarChart&) const = default;
 };

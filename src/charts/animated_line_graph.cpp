@@ -1,11 +1,16 @@
 #include "charts/animated_line_graph.h"
 
+#include "charts/blur.h"
 #include "charts/canvas.h"
-#include "charts/glow.h"
+#include "charts/glow_painter.h"
+#include "charts/line_mask.h"
 #include "charts/line_rules.h"
 #include "charts/sample_points.h"
+#include "look/device_pixels.h"
 
 #include <QLinearGradient>
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
@@ -57,32 +62,51 @@ void drawFill(QPainter& painter, const QPainterPath& area, const AnimatedLineGra
     }
 }
 
-Glow lineGlow(const QPainterPath& line, const AnimatedLineGraph& graph, const QSizeF& canvas) {
-    return {.shape = line,
-            .pen = linePen(Qt::black, graph.lineWidth + glowExtraWidth),
-            .color = withOpacity(graph.lineColor, glowOpacity(graph.glowIntensity)),
-            .radius = glowRadius(graph.glowIntensity),
-            .visible = QRectF({0, 0}, canvas)};
+void drawLine(QPainter& painter, const QPainterPath& line, const AnimatedLineGraph& graph,
+              const QRectF& canvas) {
+    const PixelGrid grid = PixelGrid::under(painter);
+    const Picture mask = lineMask(grid, canvas, line, graph.lineWidth, lineDashes(graph.lineStyle));
+    showPicture(painter, {tinted(mask.image, graph.lineColor), mask.offset});
+}
+
+void drawGlow(QPainter& painter, const QPainterPath& line, const AnimatedLineGraph& graph,
+              const QRectF& canvas) {
+    const GlowStyle style = GlowStyle::of(graph.lineColor, graph.glowIntensity);
+    if (!style.isVisible())
+        return;
+    const QRectF area = withGlowRoom(canvas, style.radius);
+    const double width = std::max(graph.lineWidth, 0.0) + glowExtraWidth;
+    paintGlow(painter, lineMask(PixelGrid::under(painter), area, line, width), style);
+}
+
+void drawGrid(QPainter& painter, const QColor& color, const QSizeF& canvas) {
+    const auto quarters = gridLineHeights(canvas.height());
+    drawLevels(painter, color, gridLineWidth, {quarters.cbegin(), quarters.cend()}, canvas.width());
+}
+
+void drawGraph(QPainter& painter, const AnimatedLineGraph& graph, const QSizeF& size) {
+    const QRectF canvas({0, 0}, size);
+    const QList<QPointF> samples = samplePoints(graph.series(), lineGraphScale(graph.maxValue), size);
+    const QList<QPointF> points = visiblePoints(samples, 1 / devicePixelsPerPoint(painter));
+    const QPainterPath line = linePath(points, graph.lineStyle);
+    if (graph.fillGradient)
+        drawFill(painter, areaUnder(line, points, size.height()), graph, size);
+    if (graph.showGlow)
+        drawGlow(painter, line, graph, canvas);
+    drawLine(painter, line, graph, canvas);
+    drawGrid(painter, graph.gridColor, size);
 }
 
 } // namespace
 
-void AnimatedLineGraph::paint(QPainter& painter, const QRectF& bounds, GlowCache* glows) const {
+void AnimatedLineGraph::paint(QPainter& painter, const QRectF& bounds,
+                              PictureCache<AnimatedLineGraph>* cache) const {
     const QSizeF size(bounds.width(), height);
     if (series().size() < 2 || !isPaintable(size))
         return;
     const Canvas canvas(painter, centred(size, bounds));
-    const QList<QPointF> points =
-        visiblePoints(samplePoints(series(), lineGraphScale(maxValue), size), canvas.pixelWidth());
-    const QPainterPath line = linePath(points, lineStyle);
-    if (fillGradient)
-        drawFill(painter, areaUnder(line, points, size.height()), *this, size);
-    if (showGlow)
-        paintGlow(painter, lineGlow(line, *this, size), glows);
-    if (lineWidth > 0)
-        painter.strokePath(line, graphLinePen(lineColor, lineWidth, lineStyle));
-    const auto quarters = gridLineHeights(size.height());
-    drawLevels(painter, gridColor, gridLineWidth, {quarters.cbegin(), quarters.cend()}, size.width());
+    const auto draw = [&](QPainter& target) { drawGraph(target, *this, size); };
+    showKept(painter, cache, *this, QRectF({0, 0}, size), draw);
 }
 
 } // namespace orvelle

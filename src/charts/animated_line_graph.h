@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/glow_picture.h"
+#include "charts/picture_cache.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -31,7 +31,8 @@ struct AnimatedLineGraph {
 
     /// Paints a canvas as wide as `bounds` and `height` points high, centred in it, and nothing outside the
     /// canvas: negative samples disappear below its bottom edge.
-    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+    void paint(QPainter& painter, const QRectF& bounds,
+               PictureCache<AnimatedLineGraph>* cache = nullptr) const;
 
     bool operator==(const AnimatedLineGraph&) const = default;
 };

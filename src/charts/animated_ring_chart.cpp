@@ -3,14 +3,13 @@
 #include "charts/animation_rules.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
+#include "charts/glow_painter.h"
 #include "charts/label_text.h"
 #include "charts/pie_slice.h"
 #include "charts/ring_rules.h"
+#include "charts/ring_shades.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
-
-#include <QConicalGradient>
-#include <QLinearGradient>
 
 #include <algorithm>
 
@@ -35,93 +34,71 @@ QPen ringPen(const QBrush& brush, double lineWidth) {
     return {brush, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::SvgMiterJoin};
 }
 
-/// Shades clockwise from `start` at twelve o'clock to `end` at `fraction` of the turn. Half of what is left
-/// belongs to each end, for their round caps.
-QConicalGradient ringShade(const QColor& start, const QColor& end, double fraction) {
-    constexpr double hairsbreadth = 1e-4;
-    constexpr double twelveOClock = 90;
-    QConicalGradient shade(QPointF(0, 0), twelveOClock); // positions grow against the clock
-    const double middleOfGap = (1 - fraction) / 2;
-    shade.setColorAt(0, fraction < 1 ? start : end);
-    if (fraction < 1) {
-        shade.setColorAt(middleOfGap, start);
-        shade.setColorAt(std::min(middleOfGap + hairsbreadth, 1 - fraction), end);
-        shade.setColorAt(1 - fraction, end);
-    }
-    shade.setColorAt(1, start);
-    return shade;
-}
-
-/// Shades from the leading to the trailing edge of a gauge before it is turned, so from top to bottom.
-QLinearGradient gaugeShade(const QColor& leading, const QColor& trailing, double side) {
-    QLinearGradient shade(0, -side / 2, 0, side / 2);
-    shade.setColorAt(0, leading);
-    shade.setColorAt(1, trailing);
-    return shade;
-}
-
-/// Shades once around the centre, clockwise from three o'clock.
-QConicalGradient pieShade(const QColor& start, const QColor& end) {
-    QConicalGradient shade(QPointF(0, 0), 0); // positions grow against the clock
-    shade.setColorAt(0, end);
-    shade.setColorAt(1, start);
-    return shade;
-}
-
 QBrush progressBrush(const AnimatedRingChart& chart, const QColor& status) {
     switch (chart.ringStyle) {
     case RingChartStyle::fullRing:
         return ringShade(withOpacity(status, ringStartOpacity), status, clampedFraction(chart.animatedValue));
     case RingChartStyle::halfGauge:
-        return gaugeShade(withOpacity(status, gaugeStartOpacity), status, chart.size);
+        return gaugeShade({{0, withOpacity(status, gaugeStartOpacity)}, {1, status}}, chart.size);
     case RingChartStyle::arcGauge:
-        return gaugeShade(chart.baseColor, status, chart.size);
+        return gaugeShade({{0, chart.baseColor}, {1, status}}, chart.size);
     case RingChartStyle::pieChart:
         return pieShade(withOpacity(status, pieStartOpacity), status);
     }
     return {};
 }
 
-Glow progressGlow(const AnimatedRingChart& chart, const QColor& status, const QPainterPath& shape) {
-    return {.shape = shape,
-            .color = withOpacity(status, glowOpacity(chart.glowIntensity)),
-            .radius = glowRadius(chart.glowIntensity)};
+/// The rectangle of the circle and its stroke.
+QRectF inkedSquare(const AnimatedRingChart& chart) {
+    const double stroke = chart.ringStyle == RingChartStyle::pieChart ? 0 : chart.lineWidth;
+    return squareAround(chart.size + stroke);
 }
 
-void paintArc(QPainter& painter, const AnimatedRingChart& chart, GlowCache* glows) {
+void drawArc(QPainter& painter, const AnimatedRingChart& chart, const QColor& status) {
     const QRectF square = squareAround(chart.size);
     const double rotation = ringRotation(chart.ringStyle);
-    const QColor status = ringStatusColor(chart.value, chart.baseColor);
     const QPainterPath progress =
         trimmedCircle(square, ringProgress(chart.ringStyle, chart.animatedValue), rotation);
     const QPen pen = ringPen(progressBrush(chart, status), chart.lineWidth);
     painter.strokePath(trimmedCircle(square, ringTrack(chart.ringStyle), rotation),
                        ringPen(chart.trackColor, chart.lineWidth));
-    if (chart.showGlow) {
-        Glow glow = progressGlow(chart, status, progress);
-        glow.pen = pen;
-        paintGlow(painter, glow, glows);
-    }
+    if (chart.showGlow && !progress.isEmpty())
+        paintGlow(painter, inkedSquare(chart), GlowStyle::of(status, chart.glowIntensity),
+                  [&](QPainter& mask) { mask.strokePath(progress, pen); });
     painter.strokePath(progress, pen);
 }
 
-void paintPie(QPainter& painter, const AnimatedRingChart& chart, GlowCache* glows) {
+void drawPie(QPainter& painter, const AnimatedRingChart& chart, const QColor& status) {
     const QRectF square = squareAround(chart.size);
-    const QColor status = ringStatusColor(chart.value, chart.baseColor);
     const QBrush brush = progressBrush(chart, status);
     const double fraction = clampedFraction(chart.animatedValue);
     const QPainterPath slice = PieSlice{.startAngle = -90, .endAngle = fraction * 360 - 90}.path(square);
     painter.setPen(Qt::NoPen);
     painter.setBrush(chart.trackColor);
     painter.drawEllipse(square);
-    if (chart.showGlow) {
-        Glow glow = progressGlow(chart, status, slice);
-        glow.brush = brush;
-        paintGlow(painter, glow, glows);
-    }
+    if (chart.showGlow && !slice.isEmpty())
+        paintGlow(painter, inkedSquare(chart), GlowStyle::of(status, chart.glowIntensity),
+                  [&](QPainter& mask) { mask.fillPath(slice, brush); });
     painter.fillPath(slice, brush);
     painter.setBrush(withOpacity(Qt::black, hubOpacity));
     painter.drawEllipse(squareAround(chart.size * hubShare));
+}
+
+/// Everything but the labels, around the origin.
+void drawRing(QPainter& painter, const AnimatedRingChart& chart) {
+    const QColor status = ringStatusColor(chart.value, chart.baseColor);
+    if (chart.ringStyle == RingChartStyle::pieChart)
+        drawPie(painter, chart, status);
+    else if (isPaintable({chart.lineWidth, chart.lineWidth}))
+        drawArc(painter, chart, status);
+}
+
+/// The chart without what its picture does not show: the labels, which are written anew, and the scale.
+AnimatedRingChart pictureSubject(AnimatedRingChart chart) {
+    chart.label.reset();
+    chart.sublabel.reset();
+    chart.pulseScale = 1;
+    return chart;
 }
 
 /// The labels present, stacked and centred.
@@ -152,18 +129,25 @@ double AnimatedRingChart::shownScale() const {
     return isPulsing ? std::min(pulseScale, pulseLargestScale) : 1;
 }
 
-void AnimatedRingChart::paint(QPainter& painter, const QRectF& bounds, GlowCache* glows) const {
+double AnimatedRingChart::overhang() const {
+    const double stroke = ringStyle == RingChartStyle::pieChart ? 0 : lineWidth / 2;
+    const double glow = showGlow ? glowReach(glowRadius(glowIntensity)) : 0;
+    const double pulse = pulseCritical ? (pulseLargestScale - 1) * (size / 2 + stroke + glow) : 0;
+    return stroke + glow + pulse;
+}
+
+void AnimatedRingChart::paint(QPainter& painter, const QRectF& bounds,
+                              PictureCache<AnimatedRingChart>* cache) const {
     if (!isPaintable({size, size}))
         return;
+    const double glow = showGlow ? glowRadius(glowIntensity) : 0;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(bounds.center());
     painter.save();
     painter.scale(shownScale(), shownScale());
-    if (ringStyle == RingChartStyle::pieChart)
-        paintPie(painter, *this, glows);
-    else if (isPaintable({lineWidth, lineWidth}))
-        paintArc(painter, *this, glows);
+    showKept(painter, cache, pictureSubject(*this), withGlowRoom(inkedSquare(*this), glow),
+             [this](QPainter& target) { drawRing(target, *this); });
     painter.restore();
     paintLabels(painter, *this);
     painter.restore();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/glow_picture.h"
+#include "charts/picture_cache.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -36,9 +36,12 @@ struct AnimatedRingChart {
     /// The scale that is drawn: `pulseScale` while the value is critical, else 1.
     [[nodiscard]] double shownScale() const;
 
-    /// Paints in the middle of `bounds`. The stroke reaches beyond the chart's square by half its width, the
-    /// glow by `glowReach(glowRadius(glowIntensity))` more.
-    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+    /// How far stroke, glow and pulse reach beyond the chart's square on every side, points.
+    [[nodiscard]] double overhang() const;
+
+    /// Paints in the middle of `bounds`.
+    void paint(QPainter& painter, const QRectF& bounds,
+               PictureCache<AnimatedRingChart>* cache = nullptr) const;
 
     bool operator==(const AnimatedRingChart&) const = default;
 };

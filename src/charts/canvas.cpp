@@ -1,7 +1,5 @@
 #include "charts/canvas.h"
 
-#include "look/device_pixels.h"
-
 #include <algorithm>
 
 namespace orvelle {
@@ -21,10 +19,6 @@ Canvas::Canvas(QPainter& painter, const QRectF& frame)
 
 Canvas::~Canvas() {
     m_painter.restore();
-}
-
-double Canvas::pixelWidth() const {
-    return 1 / devicePixelsPerPoint(m_painter);
 }
 
 bool isPaintable(const QSizeF& size) {

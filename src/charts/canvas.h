@@ -16,9 +16,6 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    /// Width of one pixel of what is drawn on, points.
-    [[nodiscard]] double pixelWidth() const;
-
 private:
     QPainter& m_painter;
 };

@@ -1,7 +1,6 @@
 #include "charts/line_rules.h"
 
-#include "charts/canvas.h"
-
+#include <algorithm>
 #include <cmath>
 
 namespace orvelle {
@@ -72,14 +71,10 @@ QPainterPath linePath(const QList<QPointF>& points, GraphLineStyle style) {
     return path;
 }
 
-QPen graphLinePen(const QColor& color, double width, GraphLineStyle style) {
-    QPen pen = linePen(color, width);
-    if (style == GraphLineStyle::dotted) {
-        constexpr double dash = 3;
-        constexpr double gap = 4;
-        pen.setDashPattern({dash / width, gap / width}); // a pen counts dashes in its own widths
-    }
-    return pen;
+std::optional<DashPattern> lineDashes(GraphLineStyle style) {
+    if (style == GraphLineStyle::dotted)
+        return DashPattern{.dash = 3, .gap = 4};
+    return std::nullopt;
 }
 
 } // namespace orvelle

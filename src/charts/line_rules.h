@@ -4,10 +4,10 @@
 
 #include <QList>
 #include <QPainterPath>
-#include <QPen>
 #include <QPointF>
 
 #include <array>
+#include <optional>
 
 /// The geometry of line graphs. Lengths are in points; y grows downward from the canvas's top edge.
 namespace orvelle {
@@ -32,8 +32,16 @@ struct SplineControls {
 /// than two points.
 [[nodiscard]] QPainterPath linePath(const QList<QPointF>& points, GraphLineStyle style);
 
-/// How the line of a graph is stroked: dashed 3 on, 4 off for `dotted`.
-[[nodiscard]] QPen graphLinePen(const QColor& color, double width, GraphLineStyle style);
+/// Lengths along a dashed line, points.
+struct DashPattern {
+    double dash = 0;
+    double gap = 0;
+
+    bool operator==(const DashPattern&) const = default;
+};
+
+/// The dashes of a style; nothing for an unbroken line.
+[[nodiscard]] std::optional<DashPattern> lineDashes(GraphLineStyle style);
 
 /// Where the three grid lines lie: at the quarters of the height.
 [[nodiscard]] constexpr std::array<double, 3> gridLineHeights(double canvasHeight) {

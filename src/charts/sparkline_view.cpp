@@ -3,6 +3,7 @@
 #include "charts/canvas.h"
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
+#include "look/device_pixels.h"
 
 namespace orvelle {
 namespace {
@@ -19,8 +20,8 @@ void SparklineView::paint(QPainter& painter, const QRectF& bounds) const {
     if (!scale || !isPaintable({width, height}))
         return;
     const Canvas canvas(painter, centred({width, height}, bounds));
-    const QList<QPointF> points =
-        visiblePoints(samplePoints(data, *scale, {width, height}, sparklineTopInset), canvas.pixelWidth());
+    const QList<QPointF> points = visiblePoints(
+        samplePoints(data, *scale, {width, height}, sparklineTopInset), 1 / devicePixelsPerPoint(painter));
     const QPainterPath line = sparklinePath(points);
     painter.fillPath(areaUnder(line, points, height),
                      fillColor.value_or(withOpacity(lineColor, defaultFillOpacity)));

@@ -2,14 +2,14 @@
 
 #include "charts/canvas.h"
 #include "charts/glow.h"
+#include "charts/glow_painter.h"
 #include "charts/label_text.h"
 #include "charts/ring_rules.h"
+#include "charts/ring_shades.h"
 #include "charts/temperature_rules.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
 #include "settings/system_colors.h"
-
-#include <QLinearGradient>
 
 namespace orvelle {
 namespace {
@@ -26,40 +26,40 @@ QFont captionFont() {
     return systemFont(10, QFont::DemiBold);
 }
 
+QGradientStops temperatureStops() {
+    return {{0, SystemColors::green},
+            {1.0 / 3, SystemColors::yellow},
+            {2.0 / 3, SystemColors::orange},
+            {1, SystemColors::red}};
+}
+
 QPen dialPen(const QBrush& brush) {
     return {brush, strokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::SvgMiterJoin};
 }
 
-/// From green to red, leading to trailing before the dial is turned, so from top to bottom.
-QLinearGradient temperatureShade(const QRectF& dial) {
-    QLinearGradient shade(dial.topLeft(), dial.bottomLeft());
-    shade.setColorAt(0, SystemColors::green);
-    shade.setColorAt(1.0 / 3, SystemColors::yellow);
-    shade.setColorAt(2.0 / 3, SystemColors::orange);
-    shade.setColorAt(1, SystemColors::red);
-    return shade;
+QRectF dialSquare() {
+    return {-dialSize / 2, -dialSize / 2, dialSize, dialSize};
 }
 
-void paintDial(QPainter& painter, const TemperatureGauge& gauge, double shownFraction, GlowCache* glows) {
-    const QRectF dial(-dialSize / 2, -dialSize / 2, dialSize, dialSize);
-    const double rotation = ringRotation(RingChartStyle::halfGauge);
-    const auto arc = [&](const Trim& trim) { return trimmedCircle(dial, trim, rotation); };
-    const QPainterPath progress = arc(ringProgress(RingChartStyle::halfGauge, shownFraction));
-    const QPen pen = dialPen(temperatureShade(dial));
-    painter.strokePath(arc(ringTrack(RingChartStyle::halfGauge)),
+QRectF inkedSquare() {
+    constexpr double stroke = strokeWidth / 2;
+    return dialSquare().adjusted(-stroke, -stroke, stroke, stroke);
+}
+
+QPainterPath dialArc(const Trim& trim) {
+    return trimmedCircle(dialSquare(), trim, ringRotation(RingChartStyle::halfGauge));
+}
+
+/// Draws track, glow and progress around the origin.
+void drawDial(QPainter& painter, const TemperatureDial& dial) {
+    const QPainterPath progress = dialArc(ringProgress(RingChartStyle::halfGauge, dial.fraction));
+    const QPen pen = dialPen(gaugeShade(temperatureStops(), dialSize));
+    painter.strokePath(dialArc(ringTrack(RingChartStyle::halfGauge)),
                        dialPen(withOpacity(SystemColors::white, trackOpacity)));
-    if (gauge.showGlow) {
-        const QColor band = temperatureBandColor(gauge.temperature);
-        paintGlow(painter,
-                  {.shape = progress,
-                   .pen = pen,
-                   .color = withOpacity(band, glowOpacity(gauge.glowIntensity)),
-                   .radius = glowRadius(gauge.glowIntensity)},
-                  glows);
-    }
+    if (!progress.isEmpty())
+        paintGlow(painter, inkedSquare(), GlowStyle::of(dial.glowColor, dial.glowIntensity),
+                  [&](QPainter& mask) { mask.strokePath(progress, pen); });
     painter.strokePath(progress, pen);
-    drawLabel(painter, dial, temperatureReading(gauge.temperature, gauge.useFahrenheit), readingFont(),
-              isTemperatureKnown(gauge.temperature) ? LabelColors::primary : LabelColors::secondary);
 }
 
 } // namespace
@@ -72,18 +72,28 @@ double TemperatureGauge::height() const {
     return dialSize + captionSpacing + lineHeight(captionFont());
 }
 
-void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds, GlowCache* glows) const {
-    paint(painter, bounds, fraction(), glows);
+double TemperatureGauge::overhang() const {
+    return strokeWidth / 2 + (showGlow ? glowReach(glowRadius(glowIntensity)) : 0);
+}
+
+void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds) const {
+    paint(painter, bounds, fraction(), nullptr);
 }
 
 void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds, double shownFraction,
-                             GlowCache* glows) const {
+                             PictureCache<TemperatureDial>* cache) const {
     if (!isPaintable(bounds.size()))
         return;
+    const TemperatureDial dial{.fraction = shownFraction,
+                               .glowColor = temperatureBandColor(temperature),
+                               .glowIntensity = showGlow ? glowIntensity : GlowIntensity::none};
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(bounds.center().x(), bounds.top() + dialSize / 2);
-    paintDial(painter, *this, shownFraction, glows);
+    showKept(painter, cache, dial, withGlowRoom(inkedSquare(), glowRadius(dial.glowIntensity)),
+             [&](QPainter& target) { drawDial(target, dial); });
+    drawLabel(painter, dialSquare(), temperatureReading(temperature, useFahrenheit), readingFont(),
+              isTemperatureKnown(temperature) ? LabelColors::primary : LabelColors::secondary);
     const QFont font = captionFont();
     drawLabel(painter, {-bounds.width() / 2, dialSize / 2 + captionSpacing, bounds.width(), lineHeight(font)},
               label, font, LabelColors::secondary);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/glow_picture.h"
+#include "charts/picture_cache.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -9,6 +9,15 @@
 #include <QString>
 
 namespace orvelle {
+
+/// What decides how the picture of a dial in a cache looks.
+struct TemperatureDial {
+    double fraction = 0; ///< how full it is, 0 to 1
+    QColor glowColor;    ///< of the temperature's band
+    GlowIntensity glowIntensity = GlowIntensity::none;
+
+    bool operator==(const TemperatureDial&) const = default;
+};
 
 /// A temperature as a half ring from green to red, with the reading in its middle and a caption below.
 struct TemperatureGauge {
@@ -27,12 +36,16 @@ struct TemperatureGauge {
     /// Height of dial and caption together, points. Needs a QGuiApplication, as painting does.
     [[nodiscard]] double height() const;
 
+    /// How far stroke and glow reach beyond the dial on every side, points.
+    [[nodiscard]] double overhang() const;
+
     /// Paints the present temperature from the top of `bounds`, centred across its width. The dial is 70
-    /// points wide; its glow reaches beyond by `glowReach(glowRadius(glowIntensity))` and half the stroke.
-    void paint(QPainter& painter, const QRectF& bounds, GlowCache* glows = nullptr) const;
+    /// points wide.
+    void paint(QPainter& painter, const QRectF& bounds) const;
 
     /// Paints the dial filled to `shownFraction`, in the middle of an animation.
-    void paint(QPainter& painter, const QRectF& bounds, double shownFraction, GlowCache* glows) const;
+    void paint(QPainter& painter, const QRectF& bounds, double shownFraction,
+               PictureCache<TemperatureDial>* cache) const;
 
     bool operator==(const TemperatureGauge&) const = default;
 };
