@@ -17,7 +17,7 @@ struct AnimatedBar {
     double value = 0;
     double maxValue = 1;     ///< value that fills the bar; when not above 0 the bar stays empty
     double cornerRadius = 0; ///< points; pill and thin-line bars have a radius of their own
-    QColor baseColor;        ///< colour below half scale
+    QColor baseColor = {};   ///< colour below half scale
     bool showGlow = true;
     bool animate = true; ///< whether the host animates changes
     BarChartStyle barStyle = BarChartStyle::rounded;
@@ -44,8 +44,8 @@ struct AnimatedBar {
 
 /// What decides how the picture of a bar in a cache looks.
 struct BarPicture {
-    AnimatedBar bar;
-    BarLook shown;
+    AnimatedBar bar = {};
+    BarLook shown = {};
 
     bool operator==(const BarPicture&) const = default;
 };

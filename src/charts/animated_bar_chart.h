@@ -8,11 +8,11 @@ namespace orvelle {
 
 /// A row of bars for a series of values, one per element from left to right.
 struct AnimatedBarChart {
-    QList<double> values;
+    QList<double> values = {};
     double maxValue = 1;     ///< value that fills a bar to the full height
     double barSpacing = 2;   ///< points between bars; some styles ask for more
     double cornerRadius = 3; ///< kept for callers; the bars take their radius from the style
-    QColor baseColor;        ///< colour of a bar below half scale
+    QColor baseColor = {};   ///< colour of a bar below half scale
     bool showGlow = true;
     double height = 50; ///< of the chart, points
     bool animateChanges = true;
@@ -30,7 +30,8 @@ struct AnimatedBarChart {
     /// Paints the present values, and the glow beyond the chart as every bar does.
     void paint(QPainter& painter, const QRectF& bounds, PictureCache<BarPicture>* cache = nullptr) const;
 
-    /// Paints the bars as they look in the middle of an animation: one look per value, in order.
+    /// Paints the bars as they look in the middle of an animation: one look per value, in order. More bars
+    /// than two per pixel are drawn as that many, each as tall as the tallest that it stands for.
     void paint(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown,
                PictureCache<BarPicture>* cache) const;
 

@@ -12,9 +12,9 @@ namespace orvelle {
 
 /// The large graph of a metric's history in a detail panel.
 struct AnimatedLineGraph {
-    QList<double> data;       ///< oldest first, drawn left to right; nothing is drawn for fewer than two
+    QList<double> data = {};  ///< oldest first, drawn left to right; nothing is drawn for fewer than two
     double maxValue = 1;      ///< value drawn at the top edge; larger samples are drawn there too
-    QColor lineColor;         ///< of line, fill and glow
+    QColor lineColor = {};    ///< of line, fill and glow
     bool fillGradient = true; ///< whether there is a fill at all
     bool showGlow = true;     ///< whether there is a blurred glow under the line
     double height = 60;       ///< points
@@ -22,9 +22,9 @@ struct AnimatedLineGraph {
     GraphLineStyle lineStyle = GraphLineStyle::smooth;
     GraphFillStyle fillStyle = GraphFillStyle::gradient;
     GlowIntensity glowIntensity = GlowIntensity::medium;
-    QColor gridColor;           ///< of the three horizontal lines over the graph
-    QList<double> animatedData; ///< the series that is drawn; `data` is drawn while it is empty
-    double phase = 0;           ///< kept by the host; the drawing does not read it
+    QColor gridColor = {};           ///< of the three horizontal lines over the graph
+    QList<double> animatedData = {}; ///< the series that is drawn; `data` is drawn while it is empty
+    double phase = 0;                ///< kept by the host; the drawing does not read it
 
     /// The samples that are drawn.
     [[nodiscard]] const QList<double>& series() const { return animatedData.isEmpty() ? data : animatedData; }

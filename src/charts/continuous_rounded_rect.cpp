@@ -7,8 +7,11 @@
 namespace orvelle {
 namespace {
 
-/// How far beyond one radius the gradual part may begin, as a share of the radius.
-constexpr double largestSmoothing = 0.6;
+/// How far beyond one radius the gradual part may begin, as a share of the radius, and how far it then turns.
+/// Leaving the edge earlier makes the rest of the turn tighter than the circle; with these two it is at most
+/// a fifth tighter anywhere, for every share up to the largest.
+constexpr double largestSmoothing = 0.53;
+constexpr double largestTurn = 40 * std::numbers::pi / 180;
 
 /// One half of a corner, measured from the corner's point along the edge it starts on.
 ///
@@ -25,7 +28,7 @@ struct CornerHalf {
 
     CornerHalf(double radius, double room) {
         const double smoothing = std::clamp(room / radius - 1, 0.0, largestSmoothing);
-        turn = smoothing * std::numbers::pi / 4;
+        turn = largestTurn * smoothing / largestSmoothing;
         extent = radius * (1 + smoothing);
         const double tangent = std::tan(turn / 2);
         secondControl = radius * (1 - tangent);

@@ -11,7 +11,7 @@ namespace orvelle {
 
 /// A glow ready to be painted.
 struct GlowStyle {
-    QColor color;      ///< its opacity included
+    QColor color = {}; ///< its opacity included
     double radius = 0; ///< of the blur, points; its standard deviation is half of that
 
     /// The glow of a chart in `color`.

@@ -10,8 +10,8 @@ namespace orvelle {
 
 /// A bare bar that grows from the bottom of its slot; the menu bar shows one per core.
 struct MiniBar {
-    double value = 0; ///< fraction where 1 is full; more is drawn as full
-    QColor color;     ///< colour below half; yellow from there and red from three quarters
+    double value = 0;  ///< fraction where 1 is full; more is drawn as full
+    QColor color = {}; ///< colour below half; yellow from there and red from three quarters
 
     /// The look of the present value, towards which a host may animate.
     [[nodiscard]] BarLook look() const;

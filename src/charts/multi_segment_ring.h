@@ -14,14 +14,14 @@ struct MultiSegmentRing {
     struct Segment {
         QUuid id = QUuid::createUuid(); ///< fresh for every segment
         double value = 0;               ///< share of the sum of all segments
-        QColor color;
-        QString label; ///< name for callers; the ring does not draw it
+        QColor color = {};
+        QString label = {}; ///< name for callers; the ring does not draw it
     };
 
-    QList<Segment> segments; ///< drawn in order, clockwise from twelve o'clock
-    double lineWidth = 10;   ///< points
-    double size = 90;        ///< width and height, points
-    QColor trackColor;
+    QList<Segment> segments = {}; ///< drawn in order, clockwise from twelve o'clock
+    double lineWidth = 10;        ///< points
+    double size = 90;             ///< width and height, points
+    QColor trackColor = {};
     double animatedProgress =
         0; ///< 0 shows the track alone, 1 all segments; a host moves it once from 0 to 1
 

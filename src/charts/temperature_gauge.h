@@ -12,8 +12,8 @@ namespace orvelle {
 
 /// What decides how the picture of a dial in a cache looks.
 struct TemperatureDial {
-    double fraction = 0; ///< how full it is, 0 to 1
-    QColor glowColor;    ///< of the temperature's band
+    double fraction = 0;   ///< how full it is, 0 to 1
+    QColor glowColor = {}; ///< of the temperature's band
     GlowIntensity glowIntensity = GlowIntensity::none;
 
     bool operator==(const TemperatureDial&) const = default;
@@ -21,12 +21,12 @@ struct TemperatureDial {
 
 /// A temperature as a half ring from green to red, with the reading in its middle and a caption below.
 struct TemperatureGauge {
-    QString label;
+    QString label = {};
     double temperature = 0; ///< degrees Celsius; 0 or below means that there is no reading
     double maxTemp = 110;   ///< degrees Celsius at which the dial is full
-    QString icon;           ///< name of a symbol for callers; the gauge does not draw it
+    QString icon = {};      ///< name of a symbol for callers; the gauge does not draw it
     bool useFahrenheit = false;
-    QColor baseColor; ///< kept for callers; the dial has colours of its own
+    QColor baseColor = {}; ///< kept for callers; the dial has colours of its own
     GlowIntensity glowIntensity = GlowIntensity::medium;
     bool showGlow = true;
 
