@@ -22,9 +22,9 @@ struct AnimatedLineGraph {
     GraphLineStyle lineStyle = GraphLineStyle::smooth;
     GraphFillStyle fillStyle = GraphFillStyle::gradient;
     GlowIntensity glowIntensity = GlowIntensity::medium;
-    QColor gridColor = {};           ///< of the three horizontal lines over the graph
-    QList<double> animatedData = {}; ///< the series that is drawn; `data` is drawn while it is empty
-    double phase = 0;                ///< kept by the host; the drawing does not read it
+    QColor gridColor = Qt::transparent; ///< of the three horizontal lines over the graph
+    QList<double> animatedData = {};    ///< the series that is drawn; `data` is drawn while it is empty
+    double phase = 0;                   ///< kept by the host; the drawing does not read it
 
     /// The samples that are drawn.
     [[nodiscard]] const QList<double>& series() const { return animatedData.isEmpty() ? data : animatedData; }

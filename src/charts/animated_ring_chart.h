@@ -14,11 +14,11 @@ namespace orvelle {
 
 /// One fraction as a ring, a gauge or a pie, with labels in its middle.
 struct AnimatedRingChart {
-    double value = 0;       ///< fraction 0 to 1; what lies outside is drawn as empty or full
-    double lineWidth = 10;  ///< of track and progress, points
-    double size = 90;       ///< width and height of the chart, points
-    QColor baseColor = {};  ///< colour while the value is below 0.6
-    QColor trackColor = {}; ///< colour of what is not filled
+    double value = 0;                    ///< fraction 0 to 1; what lies outside is drawn as empty or full
+    double lineWidth = 10;               ///< of track and progress, points
+    double size = 90;                    ///< width and height of the chart, points
+    QColor baseColor = {};               ///< colour while the value is below 0.6
+    QColor trackColor = Qt::transparent; ///< colour of what is not filled
     bool showGlow = true;
     bool pulseCritical = false; ///< whether the ring pulses from `criticalThreshold` up
     double criticalThreshold = 0.9;

@@ -21,7 +21,7 @@ struct MultiSegmentRing {
     QList<Segment> segments = {}; ///< drawn in order, clockwise from twelve o'clock
     double lineWidth = 10;        ///< points
     double size = 90;             ///< width and height, points
-    QColor trackColor = {};
+    QColor trackColor = Qt::transparent;
     double animatedProgress =
         0; ///< 0 shows the track alone, 1 all segments; a host moves it once from 0 to 1
 

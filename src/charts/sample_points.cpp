@@ -17,8 +17,8 @@ void appendExtremes(QList<QPointF>& kept, const QList<QPointF>& points, qsizetyp
     const auto [top, bottom] = std::minmax_element(begin + first, begin + last + 1, higher);
     std::array<qsizetype, 4> indices{first, top - begin, bottom - begin, last};
     std::ranges::sort(indices);
-    const auto repeated = std::ranges::unique(indices);
-    for (auto index = indices.begin(); index != repeated.begin(); ++index)
+    const auto end = std::unique(indices.begin(), indices.end());
+    for (auto index = indices.begin(); index != end; ++index)
         kept.append(points[*index]);
 }
 
