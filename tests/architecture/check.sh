@@ -32,8 +32,9 @@ forbid() {
 
 allow core/sources core/sources/
 allow core core/ settings/settings_store.h settings/styles.h
-allow platform/linux core/sources/ platform/linux/ platform/host.h
-allow platform/darwin core/sources/ platform/darwin/ platform/host.h
+allow platform/names platform/names/
+allow platform/linux core/sources/ platform/linux/ platform/names/ platform/host.h
+allow platform/darwin core/sources/ platform/darwin/ platform/names/ platform/host.h
 allow platform/fixed core/sources/ platform/fixed/
 allow settings settings/
 allow look look/ settings/

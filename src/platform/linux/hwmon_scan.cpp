@@ -2,7 +2,7 @@
 
 #include "platform/linux/directory.h"
 #include "platform/linux/hwmon_rules.h"
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 #include "platform/linux/sysfs.h"
 #include "platform/linux/text.h"
 

@@ -1,7 +1,7 @@
 #include "platform/linux/linux_volumes.h"
 
 #include "platform/linux/host_root.h"
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 #include "platform/linux/volume_choice.h"
 #include "platform/linux/volume_labels.h"
 

@@ -1,6 +1,6 @@
 #include "platform/linux/process_stat.h"
 
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 #include "platform/linux/text.h"
 
 #include <array>

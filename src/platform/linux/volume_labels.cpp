@@ -2,7 +2,7 @@
 
 #include "platform/linux/directory.h"
 #include "platform/linux/escapes.h"
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 
 namespace orvelle::linux_platform {
 namespace {

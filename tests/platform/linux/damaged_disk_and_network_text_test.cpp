@@ -3,9 +3,9 @@
 #include "platform/linux/interface_addresses.h"
 #include "platform/linux/interface_state.h"
 #include "platform/linux/net_dev.h"
-#include "platform/linux/sanitize.h"
 #include "platform/linux/volume_choice.h"
 #include "platform/linux/volume_space.h"
+#include "platform/names/sanitize.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 
 #include <optional>
 
-namespace orvelle::linux_platform {
+namespace orvelle {
 namespace {
 
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD"; // U+FFFD
@@ -65,20 +65,25 @@ bool changesDirection(char32_t code) {
 
 } // namespace
 
-std::string sanitizedName(std::string_view name) {
-    std::string sanitized;
-    sanitized.reserve(name.size());
+void assignSanitized(std::string& target, std::string_view name) {
+    target.clear();
+    target.reserve(name.size());
     while (!name.empty()) {
         const std::optional<Character> character = firstCharacter(name);
         if (!character)
-            sanitized += replacementCharacter;
+            target += replacementCharacter;
         else if (isControl(character->code))
-            sanitized += ' ';
+            target += ' ';
         else if (!changesDirection(character->code))
-            sanitized += character->bytes;
+            target += character->bytes;
         name.remove_prefix(character ? character->bytes.size() : 1);
     }
+}
+
+std::string sanitizedName(std::string_view name) {
+    std::string sanitized;
+    assignSanitized(sanitized, name);
     return sanitized;
 }
 
-} // namespace orvelle::linux_platform
+} // namespace orvelle

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace orvelle::linux_platform {
+namespace orvelle {
 
 /// A name from the kernel made fit to be shown: valid UTF-8 on one line. Names of mounts, interfaces,
 /// processes and devices may hold any byte, also such as would break a row in two or turn the text around
@@ -11,4 +11,7 @@ namespace orvelle::linux_platform {
 /// characters that change the direction of the text are left out. Any other name is returned as it is.
 [[nodiscard]] std::string sanitizedName(std::string_view name);
 
-} // namespace orvelle::linux_platform
+/// The same into `target`, whose memory is used again where it is large enough. `name` is not part of it.
+void assignSanitized(std::string& target, std::string_view name);
+
+} // namespace orvelle

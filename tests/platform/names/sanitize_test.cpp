@@ -1,9 +1,19 @@
-#include "platform/linux/sanitize.h"
+#include "platform/names/sanitize.h"
 
 #include <gtest/gtest.h>
 
-namespace orvelle::linux_platform {
+namespace orvelle {
 namespace {
+
+TEST(AssignSanitized, ReplacesWhatWasThereAndUsesItsMemoryAgain) {
+    std::string name = "a name that is too long to be stored in the string itself";
+    const char* const memory = name.data();
+    assignSanitized(name, "another\nname that is stored beside the string");
+    EXPECT_EQ(name, "another name that is stored beside the string");
+    EXPECT_EQ(name.data(), memory);
+    assignSanitized(name, "");
+    EXPECT_EQ(name, "");
+}
 
 TEST(SanitizedName, LeavesAnOrdinaryNameAsItIs) {
     EXPECT_EQ(sanitizedName(""), "");
@@ -68,4 +78,4 @@ TEST(SanitizedName, SurvivesAMegabyteOfAnything) {
 }
 
 } // namespace
-} // namespace orvelle::linux_platform
+} // namespace orvelle
