@@ -10,7 +10,7 @@ desktop_packages=(fonts-dejavu-core libxcb-cursor0)
 # A display of our own, for a machine without one.
 virtual_display_packages=(xvfb openbox imagemagick xauth x11-utils)
 # `locales` brings localedef: numbers are tested under a locale with a decimal comma.
-test_packages=(libgtest-dev xdotool x11-xserver-utils wmctrl locales)
+test_packages=(libgtest-dev gobjc++ xdotool x11-xserver-utils wmctrl locales)
 
 is_installed() {
   dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null | grep -qx installed

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/sources/memory_source.h"
+#include "platform/darwin/references.h"
+
+namespace orvelle::darwin_platform {
+
+/// Answers from the host's virtual-memory statistics, {CTL_HW, HW_MEMSIZE} and {CTL_VM, VM_SWAPUSAGE}.
+///
+/// The counters are handed over as the kernel gives them. It counts a file-backed page in the cache and also
+/// among the active or inactive pages, so a machine that keeps very much of its memory for files can bring
+/// the pressure rule to its limit.
+class DarwinMemorySource final : public MemorySource {
+public:
+    /// Physical memory and swap are 0 where only they cannot be read; nothing when the page counters cannot.
+    [[nodiscard]] std::optional<MemoryReading> read() override;
+
+private:
+    /// Kept, because each `mach_host_self` adds a reference that has to be given back.
+    OwnedPort m_host{mach_host_self()};
+};
+
+} // namespace orvelle::darwin_platform

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/sources/network_source.h"
+
+namespace orvelle::darwin_platform {
+
+/// Answers from `getifaddrs`, one entry for each of the list's. The byte counters are the 32-bit ones of the
+/// link-layer entries, which wrap at 4 GiB.
+class DarwinNetworkSource final : public NetworkSource {
+public:
+    /// An entry of an interface that is down or a loopback tells no address and no bytes: nobody asks for
+    /// them. An entry without a name or an address stops the process.
+    [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override;
+};
+
+} // namespace orvelle::darwin_platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/sources/processor_source.h"
+#include "platform/darwin/references.h"
+
+namespace orvelle::darwin_platform {
+
+/// Answers from the host's processor statistics, the load averages and {CTL_KERN, KERN_BOOTTIME}.
+class DarwinProcessorSource final : public ProcessorSource {
+public:
+    /// The four counters of each processor in the kernel's order. They are signed 32-bit numbers that never
+    /// should be negative: one that is (at 100 ticks a second a state needs 248 days to get there) stops the
+    /// process.
+    [[nodiscard]] std::optional<std::vector<CoreTicks>> readTicks() override;
+    /// An average that the system leaves out is 0.
+    [[nodiscard]] std::optional<std::array<double, 3>> readLoadAverages() override;
+    [[nodiscard]] std::optional<std::int64_t> readBootTime() override;
+
+private:
+    /// Kept, because each `mach_host_self` adds a reference that has to be given back.
+    OwnedPort m_host{mach_host_self()};
+};
+
+} // namespace orvelle::darwin_platform

@@ -1,0 +1,29 @@
+#include "platform/darwin/darwin_smc_user_client.h"
+
+#include "platform/darwin/registry.h"
+
+namespace orvelle::darwin_platform {
+
+bool DarwinSMCUserClient::open() {
+    const OwnedIOObject service = findService("AppleSMC");
+    if (!service)
+        return false;
+    constexpr std::uint32_t connectionType = 0;
+    io_connect_t connection = IO_OBJECT_NULL;
+    if (IOServiceOpen(service.get(), mach_task_self(), connectionType, &connection) != KERN_SUCCESS)
+        return false;
+    m_connection = OwnedConnection(connection);
+    return true;
+}
+
+bool DarwinSMCUserClient::callStructMethod(std::uint32_t selector, const SMCParameterBlock& input,
+                                           SMCParameterBlock& output, std::size_t& outputSize) {
+    return IOConnectCallStructMethod(m_connection.get(), selector, &input, sizeof input, &output,
+                                     &outputSize) == KERN_SUCCESS;
+}
+
+void DarwinSMCUserClient::close() {
+    m_connection = OwnedConnection();
+}
+
+} // namespace orvelle::darwin_platform

@@ -1,0 +1,73 @@
+#include "platform/darwin/mounted_volumes.h"
+
+#include "platform/names/sanitize.h"
+
+#include <Foundation/Foundation.h>
+
+#include <array>
+
+// Compiled with manual reference counting.
+namespace orvelle::darwin_platform {
+namespace {
+
+/// Gives back at its end every object that Foundation lent while it lived. Not the main loop's own pool,
+/// because a program without a window has none.
+class ReleasePool {
+  public:
+    ReleasePool() = default;
+    ~ReleasePool() { [m_pool release]; }
+    ReleasePool(const ReleasePool&) = delete;
+    ReleasePool& operator=(const ReleasePool&) = delete;
+
+  private:
+    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
+};
+
+NSNumber* numberIn(NSDictionary* values, NSString* key) {
+    const id value = [values objectForKey:key];
+    return [value isKindOfClass:[NSNumber class]] ? value : nil;
+}
+
+std::optional<std::string> stringIn(NSDictionary* values, NSString* key) {
+    const id value = [values objectForKey:key];
+    const char* const text = [value isKindOfClass:[NSString class]] ? [value UTF8String] : nullptr;
+    return text != nullptr ? std::optional<std::string>(sanitizedName(text)) : std::nullopt;
+}
+
+std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
+    NSDictionary* const values = [url resourceValuesForKeys:keys error:nullptr];
+    const char* const path = [[url path] UTF8String];
+    if (values == nil || path == nullptr)
+        return std::nullopt;
+    // What is absent answers 0 and false, as every message to nil does.
+    MountedVolume volume;
+    volume.path = sanitizedName(path);
+    volume.name = stringIn(values, NSURLVolumeNameKey);
+    volume.isLocal = [numberIn(values, NSURLVolumeIsLocalKey) boolValue];
+    volume.totalBytes = [numberIn(values, NSURLVolumeTotalCapacityKey) longLongValue];
+    volume.freeBytes = [numberIn(values, NSURLVolumeAvailableCapacityForImportantUsageKey) longLongValue];
+    return volume;
+}
+
+} // namespace
+
+std::optional<std::vector<MountedVolume>> readMountedVolumes() {
+    const ReleasePool pool;
+    const std::array<id, 5> keyList{NSURLVolumeNameKey, NSURLVolumeTotalCapacityKey,
+                                    NSURLVolumeAvailableCapacityForImportantUsageKey, NSURLVolumeIsLocalKey,
+                                    NSURLVolumeIsInternalKey};
+    NSArray* const keys = [NSArray arrayWithObjects:keyList.data() count:keyList.size()];
+    NSArray* const urls = [[NSFileManager defaultManager]
+        mountedVolumeURLsIncludingResourceValuesForKeys:keys
+                                                options:NSVolumeEnumerationSkipHiddenVolumes];
+    if (urls == nil)
+        return std::nullopt;
+    std::vector<MountedVolume> volumes;
+    for (NSUInteger index = 0; index < [urls count]; ++index) {
+        if (std::optional<MountedVolume> volume = mountedVolume([urls objectAtIndex:index], keys))
+            volumes.push_back(*std::move(volume));
+    }
+    return volumes;
+}
+
+} // namespace orvelle::darwin_platform

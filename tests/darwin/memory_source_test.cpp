@@ -1,0 +1,76 @@
+#include "core/memory_monitor.h"
+#include "darwin/typical_machine.h"
+
+namespace orvelle {
+namespace {
+
+class DarwinMemorySourceTest : public DarwinTest {};
+
+TEST_F(DarwinMemorySourceTest, AsksThreeQuestionsInTheirOrder) {
+    EXPECT_EQ(host().memory->read(), typicalMemoryReading());
+    EXPECT_EQ(takeSystemCalls(),
+              (std::vector<std::string>{"sysctl hw.memsize", "host_statistics64", "sysctl vm.swapusage"}));
+}
+
+TEST_F(DarwinMemorySourceTest, WithoutPageCountersSwapIsNotAskedFor) {
+    simulated::kernel().failCallsTo("host_statistics64");
+    EXPECT_FALSE(host().memory->read());
+    EXPECT_EQ(takeSystemCalls(), (std::vector<std::string>{"sysctl hw.memsize", "host_statistics64"}));
+}
+
+TEST_F(DarwinMemorySourceTest, AKernelWithALongerRecordFillsWhatThisOneHolds) {
+    machine().pages.wordCount = 40;
+    EXPECT_EQ(host().memory->read(), typicalMemoryReading());
+}
+
+TEST_F(DarwinMemorySourceTest, AShorterRecordCountsAsLongAsItHoldsEveryCounterThatIsUsed) {
+    machine().pages.wordCount = 35;
+    EXPECT_EQ(host().memory->read(), typicalMemoryReading());
+    for (const std::uint32_t wordCount : {34u, 15u, 0u}) {
+        machine().pages.wordCount = wordCount;
+        EXPECT_FALSE(host().memory->read()) << wordCount;
+    }
+}
+
+TEST_F(DarwinMemorySourceTest, ValuesOfAnotherSizeAreZero) {
+    machine().setSysctl(simulated::physicalMemoryName, std::uint32_t{1});
+    machine().setSysctl(simulated::swapUsageName, std::array<std::uint64_t, 5>{9, 9, 9, 9, 9});
+    MemoryReading expected = typicalMemoryReading();
+    expected.physicalMemory = 0;
+    expected.swapTotal = 0;
+    expected.swapUsed = 0;
+    EXPECT_EQ(host().memory->read(), expected);
+}
+
+TEST_F(DarwinMemorySourceTest, NoSwapInUseIsZeros) {
+    machine().setSysctl(simulated::swapUsageName, std::array<std::uint64_t, 4>{});
+    EXPECT_EQ(host().memory->read()->swapTotal, 0u);
+    EXPECT_EQ(host().memory->read()->swapUsed, 0u);
+}
+
+TEST_F(DarwinMemorySourceTest, ANegativeMemorySizeStopsTheProcessInTheMonitor) {
+    machine().setSysctl(simulated::physicalMemoryName, std::int64_t{-1});
+    EXPECT_EQ(host().memory->read()->physicalMemory, -1);
+    EXPECT_DEATH(MemoryMonitor(*host().memory).update(), "conversion out of range");
+}
+
+TEST_F(DarwinMemorySourceTest, TheLargestCountersDoNotReachTheMonitorsLimits) {
+    constexpr std::uint32_t most = 0xffffffff;
+    machine().pages = {.free = most, .active = most, .inactive = most, .wired = most, .compressor = most};
+    MemoryMonitor monitor(*host().memory);
+    monitor.update();
+    EXPECT_EQ(monitor.info().used, 8 * gibibyte);
+    EXPECT_EQ(monitor.info().free, std::uint64_t{most} * 16384);
+}
+
+TEST_F(DarwinMemorySourceTest, ThePublishedRecordFollowsFromTheCounters) {
+    MemoryMonitor monitor(*host().memory);
+    monitor.update();
+    constexpr std::uint64_t page = 16384;
+    EXPECT_EQ(monitor.info().cached, 1600 * page);
+    EXPECT_EQ(monitor.info().used, (5000 + 4000 + 2000 + 500 - 1600) * page);
+    EXPECT_EQ(monitor.info().total, 8 * gibibyte);
+}
+
+} // namespace
+} // namespace orvelle

@@ -1,0 +1,96 @@
+#include "core/cpu_monitor.h"
+#include "darwin/typical_machine.h"
+
+namespace orvelle {
+namespace {
+
+using simulated::kernel;
+
+class DarwinProcessorSourceTest : public DarwinTest {
+protected:
+    std::optional<std::vector<CoreTicks>> readTicks() { return host().processor->readTicks(); }
+};
+
+TEST_F(DarwinProcessorSourceTest, TakesFourCountersAProcessorInTheKernelsOrder) {
+    EXPECT_EQ(readTicks(), (std::vector<CoreTicks>{{.user = 100, .system = 50, .idle = 800, .nice = 10},
+                                                   {.user = 200, .system = 60, .idle = 700, .nice = 20}}));
+    EXPECT_EQ(takeSystemCalls(), std::vector<std::string>{"host_processor_info"});
+}
+
+TEST_F(DarwinProcessorSourceTest, TheWholeCycleTakesThreeCalls) {
+    CPUMonitor monitor(*host().processor, host().now);
+    EXPECT_EQ(takeSystemCalls(), std::vector<std::string>{"host_processor_info"});
+    monitor.updateUsage();
+    monitor.updateLoadAverages();
+    monitor.updateUptime();
+    EXPECT_EQ(takeSystemCalls(),
+              (std::vector<std::string>{"host_processor_info", "getloadavg 3", "sysctl kern.boottime"}));
+}
+
+TEST_F(DarwinProcessorSourceTest, NoProcessorsInAValidArrayAreAnEmptyList) {
+    machine().processors = {.count = 0};
+    EXPECT_EQ(readTicks(), std::vector<CoreTicks>{});
+}
+
+TEST_F(DarwinProcessorSourceTest, ASuccessWithoutAnArrayIsAFailedRead) {
+    machine().processors.hasArray = false;
+    EXPECT_FALSE(readTicks());
+}
+
+TEST_F(DarwinProcessorSourceTest, AnArrayTooShortForItsProcessorsIsAFailedReadAndStillReleased) {
+    machine().processors.words.pop_back();
+    EXPECT_FALSE(readTicks());
+}
+
+TEST_F(DarwinProcessorSourceTest, WordsBeyondTheLastProcessorAreNotReadButReleased) {
+    machine().processors.words.insert(machine().processors.words.end(), 3, -1);
+    EXPECT_EQ(readTicks()->size(), 2u);
+}
+
+TEST_F(DarwinProcessorSourceTest, TheLargestCounterIsStillACounter) {
+    machine().processors = {.count = 1, .words = {0x7fffffff, 0, 0x7fffffff, 0x7fffffff}};
+    EXPECT_EQ(readTicks()->at(0), (CoreTicks{.user = 0x7fffffff, .idle = 0x7fffffff, .nice = 0x7fffffff}));
+}
+
+TEST_F(DarwinProcessorSourceTest, ACounterThatWrappedBelowZeroStopsTheProcess) {
+    for (const std::size_t counter : {0u, 1u, 2u, 3u, 7u}) {
+        machine() = simulated::Machine(typicalMachine());
+        machine().processors.words[counter] = -1;
+        EXPECT_DEATH(static_cast<void>(readTicks()), "tick counter is negative");
+        EXPECT_DEATH(CPUMonitor(*host().processor, host().now), "tick counter is negative");
+    }
+}
+
+TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorAsItIs) {
+    CPUMonitor monitor(*host().processor, host().now);
+    machine().processors = {.count = 1, .words = {90, 80, 810, 10}};
+    monitor.updateUsage();
+    ASSERT_EQ(monitor.coreUsages().size(), 1);
+    EXPECT_EQ(monitor.coreUsages()[0], (CPUCoreUsage{.id = 0, .user = 0, .system = 0.75, .idle = 0.25}));
+}
+
+TEST_F(DarwinProcessorSourceTest, OneHostPortServesAllReadings) {
+    for (int reading = 0; reading < 3; ++reading)
+        EXPECT_TRUE(readTicks());
+    EXPECT_EQ(kernel().live().ports, 2u) << "one for the processors and one for the memory";
+    EXPECT_EQ(kernel().live().pages, 0u);
+}
+
+TEST_F(DarwinProcessorSourceTest, AnAverageThatIsLeftOutIsZero) {
+    machine().loadAverages = {4.5};
+    EXPECT_EQ(host().processor->readLoadAverages(), (std::array<double, 3>{4.5, 0, 0}));
+}
+
+TEST_F(DarwinProcessorSourceTest, TheBootTimeIsTheWholeSeconds) {
+    EXPECT_EQ(host().processor->readBootTime(), 1767225600);
+}
+
+TEST_F(DarwinProcessorSourceTest, ABootTimeOfAnotherSizeIsAFailedRead) {
+    machine().setSysctl(simulated::bootTimeName, std::int64_t{1767225600});
+    EXPECT_FALSE(host().processor->readBootTime());
+    machine().setSysctl(simulated::bootTimeName, std::array<std::int64_t, 3>{1767225600});
+    EXPECT_FALSE(host().processor->readBootTime());
+}
+
+} // namespace
+} // namespace orvelle
