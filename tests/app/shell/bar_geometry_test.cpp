@@ -116,7 +116,7 @@ TEST(StrutFor, IsKeptWhenTwoScreensShowTheSame) {
 }
 
 TEST(ItemBounds, StandSideBySideFlushRight) {
-    const QList<QRectF> bounds = itemBounds({60, 70, 90}, 1000);
+    const QList<QRectF> bounds = itemBounds({60, 70, 90}, 1000, 1);
     ASSERT_EQ(bounds.size(), 3);
     EXPECT_EQ(bounds[2], QRectF(1000 - barRightMarginPoints - 90, 0, 90, 22));
     EXPECT_EQ(bounds[1].right(), bounds[2].left());
@@ -124,12 +124,26 @@ TEST(ItemBounds, StandSideBySideFlushRight) {
     EXPECT_EQ(bounds[0].width(), 60);
 }
 
+TEST(ItemBounds, MeetOnWholePixelsAtFractionalScales) {
+    for (const double pixelsPerPoint : {1.25, 1.5, 1.75}) {
+        const QList<QRectF> bounds = itemBounds({60, 45, 65, 50}, 853, pixelsPerPoint);
+        for (qsizetype index = 0; index < bounds.size(); ++index) {
+            const double leftPixels = bounds[index].left() * pixelsPerPoint;
+            EXPECT_NEAR(leftPixels, std::round(leftPixels), 1e-9);
+            if (index > 0) {
+                EXPECT_DOUBLE_EQ(bounds[index].left(), bounds[index - 1].right());
+            }
+        }
+        EXPECT_NEAR(bounds.last().right(), 853 - barRightMarginPoints, 0.51 / pixelsPerPoint);
+    }
+}
+
 TEST(ItemBounds, AreNoneWithoutItems) {
-    EXPECT_TRUE(itemBounds({}, 1000).isEmpty());
+    EXPECT_TRUE(itemBounds({}, 1000, 1).isEmpty());
 }
 
 TEST(ItemBounds, KeepTheLastItemVisibleInABarThatIsTooNarrow) {
-    const QList<QRectF> bounds = itemBounds({60, 70}, 100);
+    const QList<QRectF> bounds = itemBounds({60, 70}, 100, 1);
     EXPECT_EQ(bounds[1].right(), 100 - barRightMarginPoints);
     EXPECT_LT(bounds[0].left(), 0);
 }

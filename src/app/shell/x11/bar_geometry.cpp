@@ -70,14 +70,18 @@ std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QS
                     .endX = std::min(bar.right(), rootSize.width() - 1)};
 }
 
-QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth) {
+QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint) {
+    const auto onWholePixel = [pixelsPerPoint](double position) {
+        return std::round(position * pixelsPerPoint) / pixelsPerPoint;
+    };
     const double total = std::accumulate(lengths.begin(), lengths.end(), 0.0);
     double left = barWidth - barRightMarginPoints - total;
     QList<QRectF> bounds;
     bounds.reserve(lengths.size());
     for (const double length : lengths) {
-        bounds.append(QRectF(left, 0, length, barHeightPoints));
-        left += length;
+        const double right = left + length;
+        bounds.append(QRectF(QPointF(onWholePixel(left), 0), QPointF(onWholePixel(right), barHeightPoints)));
+        left = right;
     }
     return bounds;
 }

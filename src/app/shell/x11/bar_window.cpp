@@ -2,10 +2,10 @@
 
 #include "app/shell/x11/bar_geometry.h"
 
-#include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
-#include <algorithm>
+#include <utility>
 
 namespace orvelle {
 namespace {
@@ -18,11 +18,12 @@ constexpr QColor barBottomLine(0, 0, 0);
 BarWindow::BarWindow() {
     setTitle(QStringLiteral("Orvelle"));
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+    connect(this, &QWindow::screenChanged, this, &BarWindow::layOut); // its scale may be another
 }
 
 BarItem& BarWindow::addItem(const QString& identifier, double length) {
     m_items.push_back(std::make_unique<BarItem>(
-        identifier, length, [this](const BarItem& item) { update(item.bounds().toAlignedRect()); }));
+        identifier, length, [this](const BarItem& item) { repaintSoon(item.bounds().toAlignedRect()); }));
     layOut();
     if (m_items.size() == 1)
         Q_EMIT emptyChanged();
@@ -40,27 +41,51 @@ void BarWindow::layOut() {
     QList<double> lengths;
     for (const auto& item : m_items)
         lengths.append(item->length());
-    const QList<QRectF> bounds = itemBounds(lengths, width());
+    const QList<QRectF> bounds = itemBounds(lengths, width(), devicePixelRatio());
     for (std::size_t index = 0; index < m_items.size(); ++index)
         m_items[index]->setBounds(bounds[static_cast<qsizetype>(index)]);
-    update();
+    repaintSoon(QRect(QPoint(0, 0), size()));
 }
 
-void BarWindow::resizeEvent(QResizeEvent* event) {
-    QRasterWindow::resizeEvent(event);
+void BarWindow::resizeEvent(QResizeEvent* /*event*/) {
     layOut();
 }
 
-void BarWindow::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    painter.setClipRegion(event->region());
-    painter.fillRect(event->rect(), barBackground);
+void BarWindow::paintEvent(QPaintEvent* /*event*/) {
+    // The event's region is in local coordinates on some platforms only, so everything is painted.
+    m_pending = QRegion();
+    repaint(QRect(QPoint(0, 0), size()));
+}
+
+void BarWindow::repaintSoon(const QRect& rectangle) {
+    if (m_pending.isEmpty())
+        QMetaObject::invokeMethod(this, &BarWindow::repaintPending, Qt::QueuedConnection);
+    m_pending += rectangle;
+}
+
+void BarWindow::repaintPending() {
+    const QRegion region = std::exchange(m_pending, QRegion());
+    // A window that is not on the screen is painted whole when it comes there.
+    if (isExposed() && !region.isEmpty())
+        repaint(region);
+}
+
+void BarWindow::repaint(const QRegion& region) {
+    m_picture.resize(size());
+    m_picture.beginPaint(region);
+    QPainter painter(m_picture.paintDevice());
+    painter.setClipRegion(region);
+    painter.fillRect(region.boundingRect(), barBackground);
     const double linePoints = 1 / devicePixelRatio();
     painter.fillRect(QRectF(0, height() - linePoints, width(), linePoints), barBottomLine);
     for (const auto& item : m_items) {
-        if (event->region().intersects(item->bounds().toAlignedRect()))
+        if (region.intersects(item->bounds().toAlignedRect()))
             paintItem(painter, *item);
     }
+    painter.end();
+    m_picture.endPaint();
+    m_picture.flush(region);
+    Q_EMIT painted();
 }
 
 void BarWindow::paintItem(QPainter& painter, const BarItem& item) const {
@@ -70,14 +95,6 @@ void BarWindow::paintItem(QPainter& painter, const BarItem& item) const {
     painter.setClipRect(item.bounds(), Qt::IntersectClip);
     item.view()->paint(painter, item.bounds());
     painter.restore();
-}
-
-bool BarWindow::event(QEvent* event) {
-    const bool handled = QRasterWindow::event(event);
-    const bool paintsNow = event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
-    if (paintsNow && isExposed() && !m_items.empty())
-        Q_EMIT painted();
-    return handled;
 }
 
 } // namespace orvelle

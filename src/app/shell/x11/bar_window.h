@@ -2,7 +2,8 @@
 
 #include "app/shell/x11/bar_item.h"
 
-#include <QRasterWindow>
+#include <QBackingStore>
+#include <QWindow>
 
 #include <memory>
 #include <vector>
@@ -11,7 +12,10 @@ namespace orvelle {
 
 /// The strip at the top of the screen: it lays the items out and paints them. It knows neither where it
 /// stands nor the window manager; that is the work of `BarPlacement`.
-class BarWindow : public QRasterWindow {
+///
+/// What changes is painted in the same turn of the event loop, which costs one wake-up of the process for
+/// each new sample. Qt's update requests would add a second one, because they wait for 5 ms.
+class BarWindow : public QWindow {
     Q_OBJECT
 
 public:
@@ -31,13 +35,18 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    bool event(QEvent* event) override;
 
 private:
     void layOut();
+    /// Has the rectangle, in points, painted when the present event has been handled.
+    void repaintSoon(const QRect& rectangle);
+    void repaintPending();
+    void repaint(const QRegion& region);
     void paintItem(QPainter& painter, const BarItem& item) const;
 
     std::vector<std::unique_ptr<BarItem>> m_items;
+    QBackingStore m_picture{this};
+    QRegion m_pending;
 };
 
 } // namespace orvelle
