@@ -38,6 +38,11 @@ std::optional<QString> prepareDesktop() {
         return QStringLiteral("Orvelle cannot reach the X display \"%1\".").arg(display);
     if (platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", "xcb");
+    // With shared pictures Qt asks the server before each repaint whether it has read the last one, which
+    // wakes two threads. Few pixels change here, so sending them is cheaper: one wake-up per sample instead
+    // of three.
+    if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
+        qputenv("QT_XCB_NO_MITSHM", "1");
     return std::nullopt;
 }
 
