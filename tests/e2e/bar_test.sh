@@ -33,13 +33,14 @@ endOrvelle() {
 }
 
 barIsAt() { [[ $(geometry "$bar") == "$1" ]]; }
-strutIs() { [[ $(property "$bar" _NET_WM_STRUT_PARTIAL) == "0, 0, $1, 0, 0, 0, 0, 0, 0, $2, 0, 0" ]]; }
+strutIs() { [[ $(property "$bar" _NET_WM_STRUT_PARTIAL) == "0, 0, $1, 0, 0, 0, 0, 0, $2, $3, 0, 0" ]]; }
 workAreaIs() { [[ $(rootProperty _NET_WORKAREA) == "$1, "* ]]; }
 
-# expectBar GEOMETRY STRUT_HEIGHT LAST_COLUMN
+# expectBar GEOMETRY STRUT_HEIGHT LAST_COLUMN [FIRST_COLUMN]
 expectBar() {
     waitUntil "the bar is at $1" barIsAt "$1" || geometry "$bar"
-    waitUntil "the bar reserves $2 pixels" strutIs "$2" "$3" || property "$bar" _NET_WM_STRUT_PARTIAL
+    waitUntil "the bar reserves $2 pixels" strutIs "$2" "${4:-0}" "$3" ||
+        property "$bar" _NET_WM_STRUT_PARTIAL
 }
 
 # The first column of the bar that shows something other than its background.
@@ -126,6 +127,15 @@ testScreenSize() {
     expectBar "0,0 1280x22" 22 1279
 }
 
+testPrimaryScreen() {
+    xrandr --setmonitor '*right' 640/169x800/211+640+0 none >/dev/null
+    xrandr --setmonitor left 640/169x800/211+0+0 screen >/dev/null
+    expectBar "640,0 640x22" 22 1279 640
+    xrandr --delmonitor left
+    xrandr --delmonitor right
+    expectBar "0,0 1280x22" 22 1279
+}
+
 testWindowManagerRestart() {
     kill "$windowManagerPid"
     wait "$windowManagerPid"
@@ -192,6 +202,7 @@ testMaximizedWindow
 testVisibility
 testPanelAbove
 testScreenSize
+testPrimaryScreen
 testWindowManagerRestart
 testClosedByTheWindowManager
 endOrvelle TERM

@@ -10,6 +10,7 @@ failures=0
 # Ends what the test started, and only that.
 cleanUp() {
     local pid
+    disown -a # the shell would announce each of them
     for pid in "${ownedPids[@]}"; do
         kill -KILL "$pid" 2>/dev/null
     done
