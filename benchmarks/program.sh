@@ -38,7 +38,8 @@ voluntary_switches() { cat "/proc/$process"/task/*/status | awk '/^voluntary/ {s
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$process/stat"; }
 memory_kilobytes() { awk -v name="$1:" '$1 == name {print $2}' "/proc/$process/smaps_rollup"; }
 
-start_virtual_display 1280x800
+start_x_server 1280x800
+start_window_manager
 starts=()
 for _ in 1 2 3 4 5 6 7; do
   start_program

@@ -19,7 +19,8 @@ trap finish EXIT
 
 echo "No display here: showing Orvelle on a virtual one."
 mkdir -p "$pictures"
-start_virtual_display 1280x800
+start_x_server 1280x800
+start_window_manager
 # A plain desktop behind the bar, so that its edge can be seen.
 xsetroot -solid '#3a4a5c' 2>/dev/null || true
 

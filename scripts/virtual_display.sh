@@ -1,14 +1,8 @@
-# Sourced by what drives the program without a display: an X server with a window manager of its own.
-# start_virtual_display WIDTHxHEIGHT sets DISPLAY; both processes end with the script that sourced this file.
+# Sourced by what drives the program without a display: an X server and a window manager of its own. Each function
+# leaves the process in a variable; `stop_virtual_display` ends both, and only them.
 
-virtual_display_processes=()
-
-stop_virtual_display() {
-  local process
-  for process in "${virtual_display_processes[@]}"; do kill "$process" 2>/dev/null || true; done
-  for process in "${virtual_display_processes[@]}"; do wait "$process" 2>/dev/null || true; done
-  virtual_display_processes=()
-}
+x_server_process=""
+window_manager_process=""
 
 # wait_until SECONDS COMMAND...: tries the command every tenth of a second.
 wait_until() {
@@ -19,16 +13,32 @@ wait_until() {
   done
 }
 
-start_virtual_display() {
+# start_x_server WIDTHxHEIGHT: sets DISPLAY to a server on a number that the server itself found free.
+start_x_server() {
   local number_file
   number_file=$(mktemp)
   Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
-  virtual_display_processes+=($!)
-  wait_until 20 test -s "$number_file" || { echo "the virtual display did not start" >&2; return 1; }
-  DISPLAY=":$(cat "$number_file")"
+  x_server_process=$!
+  wait_until 20 test -s "$number_file" || { echo "the X server did not start" >&2; return 1; }
+  DISPLAY=:$(<"$number_file")
   export DISPLAY
   rm -f "$number_file"
+}
+
+window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
+start_window_manager() {
   openbox --sm-disable >/dev/null 2>&1 &
-  virtual_display_processes+=($!)
-  wait_until 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
+  window_manager_process=$!
+  wait_until 20 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }
+}
+
+stop_virtual_display() {
+  local process
+  for process in $window_manager_process $x_server_process; do
+    kill "$process" 2>/dev/null || true
+    wait "$process" 2>/dev/null || true
+  done
+  window_manager_process=""
+  x_server_process=""
 }

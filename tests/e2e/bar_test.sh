@@ -137,9 +137,9 @@ testPrimaryScreen() {
 }
 
 testWindowManagerRestart() {
-    kill "$windowManagerPid"
-    wait "$windowManagerPid"
-    startWindowManager
+    kill "$window_manager_process"
+    wait "$window_manager_process"
+    start_window_manager
     expectBar "0,0 1280x22" 22 1279
     waitUntil "a new window manager reserves the space" workAreaIs "0, 22, 1280, 778"
 }
@@ -173,11 +173,11 @@ testPanelPresentAtStart() {
 }
 
 testWithoutWindowManager() {
-    kill "$windowManagerPid"
-    wait "$windowManagerPid"
+    kill "$window_manager_process"
+    wait "$window_manager_process"
     startOrvelle
     waitUntil "the bar stands at the top without a window manager" barIsAt "0,0 1280x22"
-    startWindowManager
+    start_window_manager
     waitUntil "the bar becomes a dock when a window manager starts" workAreaIs "0, 22, 1280, 778"
     waitUntil "the bar is still shown" barIsShown
     endOrvelle TERM
@@ -195,8 +195,7 @@ testWithoutDisplay() {
     [[ $message == *":9999"* ]] || fail "an unreachable display is named, not: $message"
 }
 
-startServer 1280x800
-startWindowManager
+start_x_server 1280x800 && start_window_manager || exit 1
 testDock
 testMaximizedWindow
 testVisibility

@@ -1,5 +1,7 @@
 # An X server and a window manager of the test's own. Sourced by the end-to-end tests.
 
+source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
+
 readonly skipped=77
 readonly patienceSeconds=15
 
@@ -14,6 +16,7 @@ cleanUp() {
     for pid in "${ownedPids[@]}"; do
         kill -KILL "$pid" 2>/dev/null
     done
+    stop_virtual_display
     wait 2>/dev/null
     rm -rf "$workDirectory"
 }
@@ -28,27 +31,6 @@ requireTools() {
         fi
     done
 }
-
-# startServer WIDTHxHEIGHT: sets DISPLAY to a server on a number that the server itself found free.
-startServer() {
-    local numberFile=$workDirectory/display
-    : >"$numberFile"
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$numberFile" 2>"$workDirectory/server.log" &
-    serverPid=$!
-    ownedPids+=("$serverPid")
-    waitUntil "the X server starts" test -s "$numberFile" || exit 1
-    DISPLAY=:$(<"$numberFile")
-    export DISPLAY
-}
-
-startWindowManager() {
-    openbox >"$workDirectory/openbox.log" 2>&1 &
-    windowManagerPid=$!
-    ownedPids+=("$windowManagerPid")
-    waitUntil "the window manager starts" windowManagerRuns || exit 1
-}
-
-windowManagerRuns() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
 # waitUntil DESCRIPTION COMMAND...: polls; a failure is reported with the description and counted.
 waitUntil() {

@@ -90,7 +90,7 @@ void tellPlacesApart(std::vector<HwmonChip>& chips) {
     for (HwmonChip& chip : chips) {
         const int count = ++counts[{chip.name, chip.device.place}];
         if (count > 1)
-            chip.device.place += "#" + std::to_string(count);
+            chip.device.place.append("#").append(std::to_string(count));
     }
 }
 

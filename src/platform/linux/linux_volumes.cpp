@@ -1,9 +1,9 @@
 #include "platform/linux/linux_volumes.h"
 
 #include "platform/linux/host_root.h"
-#include "platform/names/sanitize.h"
 #include "platform/linux/volume_choice.h"
 #include "platform/linux/volume_labels.h"
+#include "platform/names/sanitize.h"
 
 #include <algorithm>
 #include <array>
@@ -60,7 +60,11 @@ bool LinuxVolumes::choose() {
     m_volumes.clear();
     m_nextToMeasure = 0;
     const auto isFile = [this](const Mount& mount) { return isSingleFile(mount); };
-    for (const Mount& mount : chosenVolumes(parseMountinfo(*text), hidden, isFile)) {
+    std::vector<Mount> mounts = chosenVolumes(parseMountinfo(*text), hidden, isFile);
+    // In a changed root directory (chroot) the kernel lists no mount at "/", yet there is one.
+    if (std::ranges::find(mounts, "/", &Mount::path) == mounts.end())
+        mounts.insert(mounts.begin(), Mount{.root = "/", .path = "/", .fileSystem = {}, .source = {}});
+    for (const Mount& mount : mounts) {
         MountedVolume published;
         published.path = sanitizedName(mount.path);
         published.name = labels.labelOf(mount);

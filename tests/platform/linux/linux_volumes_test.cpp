@@ -37,6 +37,13 @@ TEST_F(LinuxVolumesTest, TellsNothingOfTheHost) {
     EXPECT_EQ(volumes.read(), Volumes{}); // though the host has a "/" with its space
 }
 
+TEST_F(LinuxVolumesTest, ListsTheRootDirectoryAlsoWhereTheKernelListsNoMountOfIt) {
+    tree.write("proc/self/mountinfo", "22 27 0:21 / /proc rw - proc proc rw\n");
+    tree.write("statfs", "/ 1000 400\n");
+    EXPECT_EQ(volumes.read(),
+              (Volumes{{.path = "/", .isLocal = true, .totalBytes = 1000, .freeBytes = 400}}));
+}
+
 TEST_F(LinuxVolumesTest, FollowsATreeThatChanges) {
     tree.write("proc/self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n");
     tree.write("statfs", "/ 1000 400\n/mnt 50 5\n");
