@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+
+namespace orvelle {
+
+/// Lays the files of `overlay` over the tree `target`, which may be empty: what both have becomes that of the
+/// overlay. Symbolic links are copied as they are, wherever they lead.
+inline void layOver(const std::filesystem::path& target, const std::filesystem::path& overlay) {
+    namespace fs = std::filesystem;
+    fs::create_directories(target);
+    for (const fs::directory_entry& entry : fs::directory_iterator(overlay)) {
+        const fs::path copy = target / entry.path().filename();
+        if (!entry.is_symlink() && entry.is_directory()) {
+            layOver(copy, entry.path());
+            continue;
+        }
+        fs::remove(copy);
+        if (entry.is_symlink())
+            fs::copy_symlink(entry.path(), copy);
+        else
+            fs::copy_file(entry.path(), copy);
+    }
+}
+
+/// The tree of a recorded machine at its second moment: its folder `1` with its folder `2` laid over it,
+/// which holds only what has changed since.
+inline void assembleSecondMoment(const std::filesystem::path& target, const std::filesystem::path& machine) {
+    layOver(target, machine / "1");
+    layOver(target, machine / "2");
+}
+
+} // namespace orvelle
