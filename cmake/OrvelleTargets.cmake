@@ -2,6 +2,7 @@
 
 option(ORVELLE_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
 option(ORVELLE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(ORVELLE_BUILD_FUZZERS "Build a fuzzer for every parser of outside text (clang only)" OFF)
 
 add_library(orvelle_build_flags INTERFACE)
 target_include_directories(orvelle_build_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -13,6 +14,10 @@ if(ORVELLE_SANITIZE)
   target_compile_options(orvelle_build_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orvelle_build_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(ORVELLE_BUILD_FUZZERS)
+  target_compile_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # orvelle_library(NAME SOURCES... LINK...): a static library of one folder.

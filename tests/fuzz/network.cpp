@@ -1,0 +1,47 @@
+#include "parsers.h"
+#include "platform/linux/interface_addresses.h"
+#include "platform/linux/interface_state.h"
+#include "platform/linux/net_dev.h"
+#include "platform/linux/text.h"
+#include "require.h"
+
+namespace orvelle::fuzz {
+
+using namespace linux_platform;
+
+void fuzzNetDev(std::string_view text) {
+    std::uint64_t sumIn = 0;
+    std::uint64_t sumOut = 0;
+    for (const InterfaceCounters& counters : parseNetDev(text)) {
+        requireWithin(text, counters.name);
+        require(!counters.name.empty() && counters.name.find('/') == std::string_view::npos,
+                "a name can be a directory's");
+        require(counters.bytesIn <= ~sumIn && counters.bytesOut <= ~sumOut, "sums fit into 64 bits");
+        sumIn += counters.bytesIn;
+        sumOut += counters.bytesOut;
+    }
+}
+
+void fuzzAddresses(std::string_view text) {
+    std::string written;
+    const std::vector<InterfaceAddress> addresses = parseAddresses(text);
+    for (const InterfaceAddress& address : addresses) {
+        require(!address.text.empty(), "an address has a text");
+        written += address.interfaceName + ' ' + address.text + '\n';
+    }
+    require(parseAddresses(written) == addresses, "an address that was read is read again as it is");
+}
+
+/// The first line is the text of `flags`, the rest that of `operstate`.
+void fuzzInterfaceState(std::string_view text) {
+    const std::string_view flags = takeLine(text);
+    const InterfaceState state = interfaceState("eth0", flags, text);
+    require(!state.isPort, "what makes a port stands in neither text");
+    require(!state.isLoopback || interfaceState("eth0", flags, std::nullopt).isLoopback,
+            "the flags alone tell a loopback");
+    require(!state.isUp || interfaceState("eth0", flags, std::nullopt).isUp,
+            "an operational state sets nothing up");
+    require(interfaceState("lo", std::nullopt, text).isLoopback, "without flags the name tells a loopback");
+}
+
+} // namespace orvelle::fuzz

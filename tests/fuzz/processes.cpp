@@ -1,0 +1,38 @@
+#include "parsers.h"
+#include "platform/linux/process_clock.h"
+#include "platform/linux/process_search.h"
+#include "platform/linux/process_stat.h"
+#include "require.h"
+
+namespace orvelle::fuzz {
+
+using namespace linux_platform;
+
+void fuzzProcessStat(std::string_view text) {
+    const std::optional<ProcessStat> stat = parseProcessStat(text);
+    if (!stat)
+        return;
+    requireWithin(text, stat->comm);
+    require(!isRunning(*stat) || stat->threadCount > 0, "a process that runs has a task");
+    static_cast<void>(isKernelThread(*stat));
+    requireShowable(processName({}, stat->comm));
+}
+
+void fuzzExecutablePath(std::string_view text) {
+    const std::string name = processName(text, "comm");
+    require(!name.empty(), "a process with a short name has a name");
+    requireShowable(name);
+}
+
+void fuzzNewestPid(std::string_view text) {
+    if (const auto pid = parseNewestPid(text))
+        require(*pid > 0 && *pid <= largestPid, "a pid is one that the kernel hands out");
+}
+
+void fuzzNamespaceStatus(std::string_view text) {
+    const bool isFirst = showsOwnNamespace(text, 42);
+    const bool isSecond = showsOwnNamespace(text, 43);
+    require(!isFirst || !isSecond, "a process has one pid in its own namespace");
+}
+
+} // namespace orvelle::fuzz
