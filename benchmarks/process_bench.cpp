@@ -3,6 +3,7 @@
 #include "platform/linux/process_files.h"
 #include "report.h"
 #include "samplers.h"
+#include "system_calls.h"
 
 #include <fmt/format.h>
 
@@ -10,7 +11,6 @@
 #include <functional>
 #include <iostream>
 #include <memory>
-#include <sstream>
 #include <thread>
 #include <unistd.h>
 
@@ -99,25 +99,14 @@ std::vector<ProgramCost> measureCosts(const std::string& self, const std::filesy
     return costs;
 }
 
-/// All calls that strace counted in a run of our sampler.
+/// All calls of a run of our sampler.
 std::optional<double> countCalls(const std::string& self, const std::filesystem::path& folder, int samples) {
-    const std::string file = folder / "strace.txt";
-    if (!runToEnd({"strace", "-c", "-f", "-U", "calls,name", "-o", file, self, "sample",
-                   std::to_string(samples), (folder / "counts.txt").string()}))
-        return std::nullopt;
-    std::ifstream table(file);
-    for (std::string line; std::getline(table, line);) {
-        double calls = 0;
-        if (line.ends_with(" total") && std::istringstream(line) >> calls)
-            return calls;
-    }
-    return std::nullopt;
+    return countSystemCalls({self, "sample", std::to_string(samples), (folder / "counts.txt").string()},
+                            folder / "strace.txt");
 }
 
 /// A run of many samples less one of a single sample leaves what a sample costs without the start.
 std::optional<SystemCalls> measureSystemCalls(const std::string& self, const std::filesystem::path& folder) {
-    if (!findCommand("strace"))
-        return std::nullopt;
     constexpr int more = 10;
     const std::optional<double> one = countCalls(self, folder, 1);
     const std::optional<double> many = countCalls(self, folder, 1 + more);
