@@ -10,6 +10,12 @@
 #include <set>
 
 namespace orvelle::fuzz {
+
+/// How the framework names a parser.
+void PrintTo(const Parser& parser, std::ostream* stream) {
+    *stream << parser.name;
+}
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -4,9 +4,18 @@
 #include "platform/linux/process_stat.h"
 #include "require.h"
 
+#include <algorithm>
+
 namespace orvelle::fuzz {
 
 using namespace linux_platform;
+
+namespace {
+
+/// More characters than the longest number has.
+constexpr std::size_t mostCut = 24;
+
+} // namespace
 
 void fuzzProcessStat(std::string_view text) {
     const std::optional<ProcessStat> stat = parseProcessStat(text);
@@ -16,6 +25,10 @@ void fuzzProcessStat(std::string_view text) {
     require(!isRunning(*stat) || stat->threadCount > 0, "a process that runs has a task");
     static_cast<void>(isKernelThread(*stat));
     requireShowable(processName({}, stat->comm));
+    for (std::size_t missing = 1; missing <= std::min(mostCut, text.size()); ++missing) {
+        const std::optional<ProcessStat> cut = parseProcessStat(text.substr(0, text.size() - missing));
+        require(!cut || cut->comm != stat->comm || *cut == *stat, "a number that is cut off is not taken");
+    }
 }
 
 void fuzzExecutablePath(std::string_view text) {
