@@ -19,12 +19,14 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_monitor.start();
+    connect(&m_settings, &SettingsStore::updateIntervalChanged, &m_monitor, &SystemMonitor::restart);
     setupStatusItems();
     snapshotVisibility();
     startRefreshTimer();
 }
 
 void AppDelegate::applicationWillTerminate() {
+    disconnect(&m_settings, nullptr, &m_monitor, nullptr);
     m_monitor.stop();
     m_refreshTimer.reset();
 }

@@ -31,7 +31,8 @@ public:
                 StatusBar& statusBar, QObject* parent = nullptr);
     ~AppDelegate() override;
 
-    /// Samples once, shows the items and starts both timers.
+    /// Samples once, shows the items and starts both timers. From now on a changed interval restarts the
+    /// sampling, whoever changed it.
     void applicationDidFinishLaunching();
     /// Stops both timers; the items stay as they are.
     void applicationWillTerminate();

@@ -12,6 +12,9 @@
 namespace orvelle {
 namespace {
 
+static_assert(AppDelegate::redrawInterval == std::chrono::seconds(2));
+static_assert(AppDelegate::visibilityInterval == std::chrono::seconds(3));
+
 class AppDelegateTest : public ::testing::Test {
 protected:
     void showAll(bool shown) {
@@ -38,12 +41,9 @@ protected:
 };
 
 TEST_F(AppDelegateTest, KnowsTheModulesInTheirFixedOrderAndLengths) {
-    const QList<std::pair<QString, double>> expected{{QStringLiteral("cpu"), 60},
-                                                     {QStringLiteral("memory"), 70},
-                                                     {QStringLiteral("network"), 90},
-                                                     {QStringLiteral("disk"), 45},
-                                                     {QStringLiteral("battery"), 65},
-                                                     {QStringLiteral("sensor"), 50}};
+    const QList<std::pair<QString, double>> expected{
+        {QStringLiteral("cpu"), 60},  {QStringLiteral("memory"), 70},  {QStringLiteral("network"), 90},
+        {QStringLiteral("disk"), 45}, {QStringLiteral("battery"), 65}, {QStringLiteral("sensor"), 50}};
     QList<std::pair<QString, double>> known;
     for (const Module& module : modules())
         known.append({module.key, module.length});
@@ -85,6 +85,16 @@ TEST_F(AppDelegateTest, StopsBothTimersWhenTheProgramEnds) {
     delegate.applicationWillTerminate();
     EXPECT_FALSE(monitor.activeInterval());
     EXPECT_FALSE(delegate.isRefreshing());
+}
+
+TEST_F(AppDelegateTest, AChangedIntervalTakesEffectAtOnceWhileTheProgramRuns) {
+    delegate.applicationDidFinishLaunching();
+    settings.setUpdateInterval(10);
+    EXPECT_EQ(monitor.activeInterval(), 10);
+    EXPECT_EQ(monitor.updateCycleCount(), 2);
+    delegate.applicationWillTerminate();
+    settings.setUpdateInterval(5);
+    EXPECT_FALSE(monitor.activeInterval());
 }
 
 TEST_F(AppDelegateTest, KeepsTheItemsWhileNoVisibilityChanges) {
