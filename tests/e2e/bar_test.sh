@@ -9,8 +9,8 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr xrdb wmctrl import convert
 
-export XDG_CONFIG_HOME=$workDirectory/config QT_FORCE_STDERR_LOGGING=1
-unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+unset ${!QT_@} WAYLAND_DISPLAY
+export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 
 # startOrvelle [NAME=VALUE...]: sets orvellePid and bar, the id of the shown bar.
@@ -145,8 +145,10 @@ testWindowManagerRestart() {
 }
 
 testClosedByTheWindowManager() {
-    wmctrl -i -c "$bar"
-    waitUntil "a bar that was closed returns" barIsShown
+    local closed=$bar
+    "$client" close "$closed"
+    barWasReplaced() { barIsShown && [[ $bar != "$closed" ]]; }
+    waitUntil "a bar that was closed returns" barWasReplaced
     expectBar "0,0 1280x22" 22 1279
 }
 
@@ -205,6 +207,7 @@ testPrimaryScreen
 testWindowManagerRestart
 testClosedByTheWindowManager
 endOrvelle TERM
+testScale 22 QT_QPA_PLATFORM=wayland
 testScale 33 QT_SCALE_FACTOR=1.5
 testScale 44 QT_SCALE_FACTOR=2
 echo "Xft.dpi: 144" | xrdb -merge

@@ -13,8 +13,9 @@ failures=0
 cleanUp() {
     local pid
     disown -a # the shell would announce each of them
-    for pid in "${ownedPids[@]}"; do
-        kill -KILL "$pid" 2>/dev/null
+    # Of the children that still run only: a number that was given back may be another's by now.
+    for pid in $(jobs -rp); do
+        [[ " ${ownedPids[*]} " != *" $pid "* ]] || kill -KILL "$pid" 2>/dev/null
     done
     stop_virtual_display
     wait 2>/dev/null

@@ -3,6 +3,7 @@
 //
 //   x11_client window
 //   x11_client panel HEIGHT      (pixels)
+//   x11_client close WINDOW      asks a window to close, and ends
 
 #include <xcb/xcb.h>
 
@@ -40,12 +41,29 @@ void becomePanel(xcb_connection_t* connection, xcb_window_t window, std::uint32_
     set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, height, 0, 0, 0, 0, 0, 0, width - 1, 0, 0});
 }
 
+/// Asks a window to close, as the button in a title bar does (ICCCM, section 4.2.8.1).
+void askToClose(xcb_connection_t* connection, xcb_window_t window) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom(connection, "WM_PROTOCOLS");
+    message.data.data32[0] = atom(connection, "WM_DELETE_WINDOW");
+    xcb_send_event(connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
+    xcb_flush(connection);
+}
+
 } // namespace
 
 int main(int argumentCount, char** arguments) {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     if (argumentCount < 2 || xcb_connection_has_error(connection) != 0)
         return EXIT_FAILURE;
+    if (std::string_view(arguments[1]) == "close" && argumentCount == 3) {
+        askToClose(connection, static_cast<xcb_window_t>(std::strtoul(arguments[2], nullptr, 0)));
+        xcb_disconnect(connection);
+        return EXIT_SUCCESS;
+    }
     const bool isPanel = std::string_view(arguments[1]) == "panel" && argumentCount == 3;
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const std::uint16_t width = isPanel ? screen->width_in_pixels : 400;

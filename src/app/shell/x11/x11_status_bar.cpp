@@ -25,7 +25,9 @@ std::unique_ptr<StatusBar> makeStatusBar() {
 std::optional<QString> prepareDesktop() {
     // Whoever names another platform knows what it needs; off-screen, for one, needs no display.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (!platform.isEmpty() && !platform.startsWith("xcb"))
+    // A session may ask all its programs for Wayland; its XWayland serves the bar.
+    const bool wantsX11 = platform.isEmpty() || platform.contains("xcb") || platform.startsWith("wayland");
+    if (!wantsX11)
         return std::nullopt;
     // Only X11 lets a program place a bar; Wayland sessions offer it through XWayland.
     const QString display = qEnvironmentVariable("DISPLAY");
@@ -36,7 +38,7 @@ std::optional<QString> prepareDesktop() {
     xcb_disconnect(connection);
     if (failed)
         return QStringLiteral("Orvelle cannot reach the X display \"%1\".").arg(display);
-    if (platform.isEmpty())
+    if (!platform.startsWith("xcb"))
         qputenv("QT_QPA_PLATFORM", "xcb");
     // With shared pictures Qt asks the server before each repaint whether it has read the last one, which
     // wakes two threads. Few pixels change here, so sending them is cheaper: one wake-up per sample instead
