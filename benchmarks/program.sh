@@ -6,9 +6,11 @@ set -euo pipefail
 orvelle=$1
 source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
 settings=$(mktemp -d)
+unset ${!QT_@} WAYLAND_DISPLAY
+export XDG_RUNTIME_DIR=$settings
 process=""
 finish() {
-  [ -z "$process" ] || kill "$process" 2>/dev/null || true
+  [ -z "$process" ] || end_program
   stop_virtual_display
   rm -rf "$settings"
 }
@@ -29,7 +31,7 @@ start_program() {
 }
 
 end_program() {
-  kill "$process"
+  kill "$process" || true
   wait "$process" || true
   process=""
 }

@@ -6,25 +6,27 @@ build_packages=(
   qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" libfmt-dev libxcb1-dev bootstrap-icons
 )
 # What the program needs to draw text and to meet a display, where the desktop does not bring it already.
-desktop_packages=(fonts-dejavu-core libxcb-cursor0)
+desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)
 # A display of our own, for a machine without one.
-virtual_display_packages=(xvfb openbox imagemagick xauth x11-utils)
-# `locales` brings localedef: numbers are tested under a locale with a decimal comma.
-test_packages=(libgtest-dev gobjc++ xdotool x11-xserver-utils wmctrl locales)
+virtual_display_packages=(xvfb openbox imagemagick x11-xserver-utils)
+# `locales` brings the sources of the locale with a decimal comma under which numbers are tested.
+test_packages=(libgtest-dev gobjc++ xdotool wmctrl locales)
 
-is_installed() {
-  dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null | grep -qx installed
+# Prints those of the given packages that are installed, one a line.
+installed_packages() {
+  dpkg-query -W -f='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^installed //p' || true
 }
 
-# Prints the packages of the given list that are missing, one a line.
+# Prints the entries of the given list of which no name is installed, one a line. One query serves them all.
 missing_packages() {
-  local entry name chosen
+  local entry name installed found
+  installed=" $(installed_packages ${*//|/ } | tr '\n' ' ') "
   for entry in "$@"; do
-    chosen=""
+    found=""
     for name in ${entry//|/ }; do
-      if is_installed "$name"; then chosen=installed; break; fi
+      [[ $installed != *" $name "* ]] || found=yes
     done
-    [ "$chosen" = installed ] || printf '%s\n' "$entry"
+    [ -n "$found" ] || printf '%s\n' "$entry"
   done
 }
 
@@ -41,20 +43,21 @@ known_name() {
 install_packages() {
   local why=$1; shift
   local missing as_root=() names=() entry
+  if ! command -v dpkg-query >/dev/null; then
+    echo "orvelle: packages cannot be looked up here; needed $why: $*" >&2
+    return 0
+  fi
   mapfile -t missing < <(missing_packages "$@")
   [ ${#missing[@]} -gt 0 ] || return 0
-  if ! command -v apt-get >/dev/null; then
-    echo "orvelle: please install these packages by your system's means: ${missing[*]}" >&2
-    return 1
-  fi
+  echo "orvelle: installing ${missing[*]} ($why)"
   if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || { echo "orvelle: run as root, or install sudo, to install: ${missing[*]}" >&2; return 1; }
+    command -v sudo >/dev/null || { echo "orvelle: run as root, or install sudo, to install them" >&2; return 1; }
     as_root=(sudo)
     echo "orvelle: sudo may ask for your password, to install packages with apt"
   fi
-  "${as_root[@]}" apt-get update -q >/dev/null || return 1
+  # One broken source of packages need not matter: the installation decides.
+  "${as_root[@]}" apt-get update -q >/dev/null || echo "orvelle: the package lists could not all be renewed" >&2
   for entry in "${missing[@]}"; do names+=("$(known_name "$entry")"); done
-  echo "orvelle: installing ${names[*]} ($why)"
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "${names[@]}" >/dev/null
+    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "${names[@]}" >/dev/null
 }
