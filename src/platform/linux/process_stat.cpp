@@ -1,7 +1,7 @@
 #include "platform/linux/process_stat.h"
 
-#include "platform/names/sanitize.h"
 #include "platform/linux/text.h"
+#include "platform/names/sanitize.h"
 
 #include <array>
 
@@ -9,6 +9,8 @@ namespace orvelle::linux_platform {
 namespace {
 
 constexpr std::uint64_t kernelThreadFlag = 0x00200000; // PF_KTHREAD
+
+constexpr std::string_view unshowableName = "\xEF\xBF\xBD"; // U+FFFD
 
 /// Numbers of the fields after the short name, as proc.rst and proc(5) count them.
 enum Field : std::size_t {
@@ -80,7 +82,10 @@ std::string processName(std::string_view executablePath, std::string_view comm) 
         executablePath.remove_suffix(removedMark.size());
     // Without any slash npos + 1 is 0, and the whole text is the name.
     std::string name = sanitizedName(executablePath.substr(executablePath.rfind('/') + 1));
-    return name.empty() ? sanitizedName(comm) : name;
+    if (name.empty())
+        name = sanitizedName(comm);
+    // A process without a name is not listed, and none may hide behind characters that show nothing.
+    return name.empty() && !comm.empty() ? std::string(unshowableName) : name;
 }
 
 } // namespace orvelle::linux_platform

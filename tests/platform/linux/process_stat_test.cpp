@@ -150,5 +150,10 @@ TEST(ProcessName, IsFitToBeShown) {
     EXPECT_EQ(processName("/bin/\xE2\x80\xAE", "short"), "short");
 }
 
+TEST(ProcessName, OfCharactersThatShowNothingDoesNotHideTheProcess) {
+    EXPECT_EQ(processName("", "\xE2\x80\xAE\xE2\x81\xA6"), "\xEF\xBF\xBD");
+    EXPECT_EQ(processName("/bin/\xE2\x80\xAE", "\xE2\x80\xAE"), "\xEF\xBF\xBD");
+}
+
 } // namespace
 } // namespace orvelle::linux_platform
