@@ -77,10 +77,11 @@ BarRow barRow(qsizetype count, double width, double spacing) {
         return {};
     const auto slotCount = static_cast<double>(count);
     const double slotWidth = (width - spacing * (slotCount - 1)) / slotCount;
-    if (slotWidth > 0)
+    const double asWideAsGaps = width / (2 * slotCount - 1);
+    const double leastWidth = std::min(smallestBarWidth, asWideAsGaps);
+    if (slotWidth >= leastWidth)
         return {slotWidth, spacing};
-    const double halfPitch = width / (2 * slotCount - 1);
-    return {halfPitch, halfPitch};
+    return {leastWidth, (width - leastWidth * slotCount) / (slotCount - 1)};
 }
 
 double barWidth(BarChartStyle style, double slotWidth) {

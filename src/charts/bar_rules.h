@@ -12,6 +12,9 @@ namespace orvelle {
 /// No bar is lower than this, so that an idle one still shows.
 inline constexpr double smallestBarHeight = 1.0;
 
+/// Gaps shrink rather than make bars narrower than this: a hairline of a bar cannot be seen.
+inline constexpr double smallestBarWidth = 1.0;
+
 /// How full a bar is, 0 to 1; 0 when `maxValue` is not above 0 or the value is not a number.
 [[nodiscard]] double barFillRatio(double value, double maxValue);
 
@@ -34,7 +37,7 @@ struct BarRow {
 };
 
 /// `count` slots of equal width with gaps of `spacing` that together fill `width`. Where the gaps leave the
-/// slots no width, slots and gaps become equally wide, so that every bar still shows.
+/// slots less than `smallestBarWidth`, the gaps shrink, at most until slots and gaps are equally wide.
 [[nodiscard]] BarRow barRow(qsizetype count, double width, double spacing);
 
 /// Width of the bar that a style draws in a slot of `slotWidth`.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace orvelle {
@@ -114,6 +115,17 @@ TEST(BarRow, ShrinksTheGapsRatherThanLoseBars) {
     EXPECT_GT(row.slotWidth, 0);
     EXPECT_DOUBLE_EQ(row.slotWidth, row.gap);
     EXPECT_NEAR(200 * row.slotWidth + 199 * row.gap, 288, 1e-9);
+}
+
+TEST(BarRow, ShrinksTheGapsRatherThanDrawHairlines) {
+    const BarRow row = barRow(24, 72, 3); // the gaps would leave an eighth of a point
+    EXPECT_DOUBLE_EQ(row.slotWidth, 1);
+    EXPECT_NEAR(24 * row.slotWidth + 23 * row.gap, 72, 1e-9);
+    for (qsizetype count = 1; count < 300; ++count) {
+        const BarRow any = barRow(count, 288, 3);
+        EXPECT_GE(any.slotWidth, std::min(1.0, 288.0 / static_cast<double>(2 * count - 1))) << count;
+        EXPECT_LE(any.gap, 3) << count;
+    }
 }
 
 TEST(BarRow, IsEmptyWithoutBars) {
