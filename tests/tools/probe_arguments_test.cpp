@@ -5,21 +5,21 @@
 namespace orvelle {
 namespace {
 
-std::variant<ProbeArguments, UsageError> parsed(const char* arguments) {
+std::variant<SamplingPlan, UsageError> parsed(const char* arguments) {
     QStringList list{QStringLiteral("orvelle-probe")};
     list += QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return parseProbeArguments(list);
 }
 
 TEST(ProbeArguments, WithoutAnySamplesThisMachineTwiceThreeSecondsApart) {
-    const auto arguments = std::get<ProbeArguments>(parsed(""));
+    const auto arguments = std::get<SamplingPlan>(parsed(""));
     EXPECT_TRUE(arguments.roots.isEmpty());
     EXPECT_EQ(arguments.stepSeconds, 3);
     EXPECT_EQ(arguments.cycles, 2);
 }
 
 TEST(ProbeArguments, RootsKeepTheirOrder) {
-    const auto arguments = std::get<ProbeArguments>(parsed("--root b --root a --step 0.5"));
+    const auto arguments = std::get<SamplingPlan>(parsed("--root b --root a --step 0.5"));
     EXPECT_EQ(arguments.roots, (QStringList{QStringLiteral("b"), QStringLiteral("a")}));
     EXPECT_EQ(arguments.stepSeconds, 0.5);
 }

@@ -1,5 +1,6 @@
 // orvelle-probe: prints what the monitors publish as one JSON object, for tests and bug reports.
 
+#include "probe/probe_arguments.h"
 #include "probe/probe_session.h"
 
 #include <QCoreApplication>
@@ -24,7 +25,7 @@ int main(int argumentCount, char** argumentValues) {
     const auto arguments = orvelle::parseProbeArguments(QCoreApplication::arguments());
     if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
         return fail(error->message, exitUsage);
-    const auto result = orvelle::probe(std::get<orvelle::ProbeArguments>(arguments));
+    const auto result = orvelle::probe(std::get<orvelle::SamplingPlan>(arguments));
     if (const auto* error = std::get_if<orvelle::UnreadableRoot>(&result))
         return fail(error->message, exitUnreadable);
     const QByteArray text = QJsonDocument(std::get<QJsonObject>(result)).toJson();

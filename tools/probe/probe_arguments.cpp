@@ -18,7 +18,7 @@ UsageError usageError(const QString& reason) {
 
 } // namespace
 
-std::variant<ProbeArguments, UsageError> parseProbeArguments(const QStringList& commandLine) {
+std::variant<SamplingPlan, UsageError> parseProbeArguments(const QStringList& commandLine) {
     const QCommandLineOption root(QStringLiteral("root"), {}, QStringLiteral("DIR"));
     const QCommandLineOption step(QStringLiteral("step"), {}, QStringLiteral("SECONDS"), QStringLiteral("3"));
     const QCommandLineOption cycles(QStringLiteral("cycles"), {}, QStringLiteral("N"), QStringLiteral("2"));
@@ -30,18 +30,18 @@ std::variant<ProbeArguments, UsageError> parseProbeArguments(const QStringList& 
         return usageError(
             QStringLiteral("Unexpected argument \"%1\"").arg(parser.positionalArguments().first()));
 
-    ProbeArguments arguments{.roots = parser.values(root)};
+    SamplingPlan plan{.roots = parser.values(root)};
     bool isNumber = false;
-    arguments.stepSeconds = parser.value(step).toDouble(&isNumber);
-    if (!isNumber || !(arguments.stepSeconds > 0) || arguments.stepSeconds > maximumStepSeconds)
+    plan.stepSeconds = parser.value(step).toDouble(&isNumber);
+    if (!isNumber || !(plan.stepSeconds > 0) || plan.stepSeconds > maximumStepSeconds)
         return usageError(
             QStringLiteral("--step takes seconds above 0 and up to %1").arg(maximumStepSeconds));
-    arguments.cycles = parser.value(cycles).toInt(&isNumber);
-    if (!isNumber || arguments.cycles < 1 || arguments.cycles > maximumCycles)
+    plan.cycles = parser.value(cycles).toInt(&isNumber);
+    if (!isNumber || plan.cycles < 1 || plan.cycles > maximumCycles)
         return usageError(QStringLiteral("--cycles takes a number from 1 to %1").arg(maximumCycles));
-    if (parser.isSet(cycles) && !arguments.roots.isEmpty())
+    if (parser.isSet(cycles) && !plan.roots.isEmpty())
         return usageError(QStringLiteral("--cycles does not go with --root: each root is one cycle"));
-    return arguments;
+    return plan;
 }
 
 } // namespace orvelle

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# snapshot_program_test.sh SNAPSHOT: exit statuses and files of the real program, without any display.
+set -uo pipefail
+snapshot=$1
+directory=$(mktemp -d)
+trap 'rm -rf "$directory"' EXIT
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+failures=0
+
+complain() { echo "$1" >&2; failures=$((failures + 1)); }
+
+expect() { # expect STATUS PATTERN ARGUMENT...
+  local status=$1 pattern=$2 output; shift 2
+  output=$("$snapshot" "$@" 2>&1); local actual=$?
+  if [ $actual -ne "$status" ] || ! grep -q -- "$pattern" <<<"$output"; then
+    complain "orvelle-snapshot $*: status $actual (wanted $status), output: $output"
+  fi
+}
+
+expect_pictures() { # expect_pictures DIRECTORY SCALE
+  local name
+  for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items; do
+    head -c 4 "$1/$name@$2.png" | grep -q PNG || complain "$1/$name@$2.png is missing or no picture"
+  done
+}
+
+mkdir "$directory/empty"
+expect 0 '' "$directory/replayed" --scale 1.5 --root "$directory/empty" --root "$directory/empty"
+expect_pictures "$directory/replayed" 1.5
+expect 0 '' "$directory/here"
+expect_pictures "$directory/here" 1
+expect 1 'Cannot read the directory' "$directory/none" --root "$directory/missing"
+[ ! -e "$directory/none" ] || complain "a directory was made though there is nothing to paint"
+expect 1 'Cannot make the directory' /dev/null/pictures --root "$directory/empty"
+expect 2 'usage:'
+expect 2 'usage:' one two
+expect 2 'usage:' "$directory/none" --scale 0
+expect 2 'usage:' "$directory/none" --wrong
+exit $((failures > 0))

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace orvelle {
+
+/// Why a command line cannot be taken, for a person to read.
+struct UsageError {
+    QString message;
+};
+
+} // namespace orvelle

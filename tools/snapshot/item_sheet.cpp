@@ -1,0 +1,41 @@
+#include "app/modules.h"
+#include "settings/system_colors.h"
+#include "snapshot/sheets.h"
+#include "snapshot/style_cases.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double barHeight = 22;
+
+SheetCell itemCell(const Module& module, MenuBarDisplayStyle style, SystemMonitor& monitor,
+                   FreshSettings& settings) {
+    const auto paint = [&module, style, &monitor, &settings](QPainter& painter, const QRectF& frame) {
+        // The place of the item shows whether its content is centred and fits.
+        painter.fillRect(frame, QColor(255, 255, 255, 15));
+        settings.store.setMenuBarDisplayStyle(style);
+        const ModuleContext context{monitor, settings.store, settings.themes};
+        module.makeMenuBarView(context)->paint(painter, frame);
+    };
+    return {.caption = module.key, .size = {module.length, barHeight}, .paint = paint};
+}
+
+} // namespace
+
+Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings) {
+    Sheet sheet{.name = QStringLiteral("menu-bar-items"), .rows = {}, .backgrounds = {SheetBackground::dark}};
+    for (const MenuBarDisplayStyle style : everyCase<MenuBarDisplayStyle>()) {
+        SheetRow row{.title = caseName(style), .cells = {}};
+        for (const Module& module : modules())
+            row.cells.append(itemCell(module, style, monitor, settings));
+        sheet.rows.append(row);
+    }
+    return sheet;
+}
+
+QList<Sheet> chartSheets() {
+    return {barChartSheet(),  miniBarSheet(),     lineGraphSheet(),       sparklineSheet(),
+            ringChartSheet(), segmentRingSheet(), temperatureGaugeSheet()};
+}
+
+} // namespace orvelle

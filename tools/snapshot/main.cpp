@@ -1,0 +1,64 @@
+// orvelle-snapshot: paints every view into picture files, without a window.
+
+#include "common/sampling.h"
+#include "core/system_monitor.h"
+#include "snapshot/sheet_file.h"
+#include "snapshot/sheets.h"
+#include "snapshot/snapshot_arguments.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+
+namespace orvelle {
+namespace {
+
+constexpr int exitFailed = 1;
+constexpr int exitUsage = 2;
+
+int fail(const QString& message, int status) {
+    std::fprintf(stderr, "orvelle-snapshot: %s\n", qUtf8Printable(message));
+    return status;
+}
+
+/// Nothing is shown, so a display is used only for the desktop's fonts, where there is one.
+void choosePlatform() {
+    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+    if (!isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+/// Of this machine a few moments are taken in quick succession, so that its histories show something.
+SamplingPlan planFor(const QStringList& roots) {
+    if (roots.isEmpty())
+        return {.roots = {}, .stepSeconds = 0.25, .cycles = 9};
+    return {.roots = roots};
+}
+
+int paintSheets(const SnapshotArguments& arguments) {
+    FreshSettings settings;
+    const auto sampled = sampledMonitor(planFor(arguments.roots), settings.store);
+    if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
+        return fail(error->message, exitFailed);
+    SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
+    const QList<Sheet> sheets = chartSheets() << menuBarItemSheet(monitor, settings);
+    if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
+        return fail(*error, exitFailed);
+    return 0;
+}
+
+} // namespace
+} // namespace orvelle
+
+int main(int argumentCount, char** argumentValues) {
+    QStringList commandLine;
+    for (int index = 0; index < argumentCount; ++index)
+        commandLine.append(QString::fromLocal8Bit(argumentValues[index]));
+    const auto arguments = orvelle::parseSnapshotArguments(commandLine);
+    if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
+        return orvelle::fail(error->message, orvelle::exitUsage);
+    orvelle::choosePlatform();
+    int programNameOnly = 1;
+    const QGuiApplication application(programNameOnly, argumentValues);
+    return orvelle::paintSheets(std::get<orvelle::SnapshotArguments>(arguments));
+}
