@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# bless.sh: takes the pictures as they are painted now as the golden ones. Look at what git shows as changed
+# before you commit it.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/../.."
+
+[ -f build/asan/build.ninja ] || cmake --preset asan >/dev/null
+cmake --build --preset asan --target test_golden_pictures -- --quiet
+ORVELLE_BLESS=1 ctest --preset asan -R '^test_golden_pictures$'
+git status --short tests/golden
