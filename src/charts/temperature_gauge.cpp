@@ -14,7 +14,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double dialSize = 70;
+constexpr double dialSize = TemperatureGauge::dialSize;
 constexpr double strokeWidth = 6;
 constexpr double trackOpacity = 0.08;
 constexpr double captionSpacing = 6;

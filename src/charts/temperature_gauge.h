@@ -21,6 +21,8 @@ struct TemperatureDial {
 
 /// A temperature as a half ring from green to red, with the reading in its middle and a caption below.
 struct TemperatureGauge {
+    static constexpr double dialSize = 70; ///< width and height of the dial, points
+
     QString label = {};
     double temperature = 0; ///< degrees Celsius; 0 or below means that there is no reading
     double maxTemp = 110;   ///< degrees Celsius at which the dial is full
@@ -39,8 +41,7 @@ struct TemperatureGauge {
     /// How far stroke and glow reach beyond the dial on every side, points.
     [[nodiscard]] double overhang() const;
 
-    /// Paints the present temperature from the top of `bounds`, centred across its width. The dial is 70
-    /// points wide.
+    /// Paints the present temperature from the top of `bounds`, centred across its width.
     void paint(QPainter& painter, const QRectF& bounds) const;
 
     /// Paints the dial filled to `shownFraction`, in the middle of an animation.

@@ -1,0 +1,17 @@
+#include "charts/quick/chart_types.h"
+
+void qml_register_types_Orvelle_Charts(); // written by the build
+
+namespace orvelle {
+
+void registerChartTypes() {
+    qml_register_types_Orvelle_Charts();
+}
+
+Motion* MotionSingleton::create(QQmlEngine* /*engine*/, QJSEngine* /*scriptEngine*/) {
+    Motion& motion = Motion::shared();
+    QJSEngine::setObjectOwnership(&motion, QJSEngine::CppOwnership);
+    return &motion;
+}
+
+} // namespace orvelle

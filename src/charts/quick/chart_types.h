@@ -1,0 +1,24 @@
+#pragma once
+
+#include "charts/motion.h"
+
+#include <QQmlEngine>
+
+namespace orvelle {
+
+/// Makes the charts known to QML as the module `Orvelle.Charts`. Called once, before the first engine; a
+/// static library does not register its types by itself.
+void registerChartTypes();
+
+/// The switch and the clock of all motion, to QML.
+struct MotionSingleton {
+    Q_GADGET
+    QML_FOREIGN(orvelle::Motion)
+    QML_NAMED_ELEMENT(Motion)
+    QML_SINGLETON
+
+public:
+    static Motion* create(QQmlEngine* engine, QJSEngine* scriptEngine);
+};
+
+} // namespace orvelle

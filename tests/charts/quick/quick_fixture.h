@@ -1,0 +1,69 @@
+#pragma once
+
+#include "charts/quick/chart_item.h"
+#include "support/manual_motion.h"
+
+#include <QQuickWindow>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace orvelle {
+
+/// A window on the software scene graph, as the panels have it, with items that move by the test's own time.
+class QuickFixture : public ::testing::Test, protected ManualMotion {
+protected:
+    static constexpr int framesWithinWait = 100; ///< milliseconds; a frame that is due takes some 10
+
+    QuickFixture() {
+        window.setColor(Qt::black);
+        window.resize(200, 120);
+        QObject::connect(&window, &QQuickWindow::afterRendering, &window, [this] { ++frames; });
+    }
+
+    /// A new item in the window, 100 x 50 points at (40, 30). The test sets it up before the window is shown.
+    template <typename Item>
+    [[nodiscard]] std::unique_ptr<Item> placed() {
+        auto item = std::make_unique<Item>(motion);
+        item->setParentItem(window.contentItem());
+        item->setPosition({40, 30});
+        item->setSize({100, 50});
+        return item;
+    }
+
+    void showWindow() {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_EQ(window.rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
+        waitForFrame();
+    }
+    /// Waits until what has changed is on the screen.
+    void waitForFrame() {
+        const int before = frames;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return frames > before; })) << "nothing was repainted";
+        waitUntilQuiet();
+    }
+    /// Waits until no frame follows the ones before.
+    void waitUntilQuiet() {
+        int before = -1;
+        while (before != frames) {
+            before = frames;
+            QTest::qWait(framesWithinWait / 2);
+        }
+    }
+    /// How many frames are painted while the test lets no time pass.
+    [[nodiscard]] int framesWhenLeftAlone() {
+        waitUntilQuiet();
+        const int before = frames;
+        QTest::qWait(framesWithinWait);
+        return frames - before;
+    }
+
+    [[nodiscard]] QColor colorAt(int x, int y) { return window.grabWindow().pixelColor(x, y); }
+
+    QQuickWindow window;
+    int frames = 0; ///< painted so far
+};
+
+} // namespace orvelle
