@@ -5,6 +5,9 @@
 
 #include <QLoggingCategory>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace orvelle {
 namespace {
 
@@ -33,6 +36,10 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
 }
 
 int OrvelleApp::run() {
+    if (!becomeOnlyInstance()) {
+        std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
+        return EXIT_SUCCESS;
+    }
     m_delegate.applicationDidFinishLaunching();
     return QGuiApplication::exec();
 }

@@ -18,7 +18,8 @@ public:
     /// found. The arguments name the program and nothing else; both must outlive the object.
     OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart);
 
-    /// Runs until the program is told to end; returns its exit status.
+    /// Runs until the program is told to end; returns its exit status. Ends at once, and well, when the
+    /// program runs on this desktop already.
     [[nodiscard]] int run();
 
 private:

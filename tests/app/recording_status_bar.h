@@ -23,7 +23,11 @@ public:
             view = std::move(newView);
             ++viewCount;
         }
+        void setClickHandler(std::function<void(ClickButton)> handler) override {
+            click = std::move(handler);
+        }
 
+        std::function<void(ClickButton)> click;
         std::shared_ptr<const StatusItemView> view;
         int viewCount = 0; ///< how often a view was set
 

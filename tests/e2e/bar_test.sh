@@ -144,6 +144,14 @@ testWindowManagerRestart() {
     waitUntil "a new window manager reserves the space" workAreaIs "0, 22, 1280, 778"
 }
 
+testSecondStart() {
+    local message
+    message=$("$orvelle" 2>&1)
+    expectEqual "a second start ends with status" 0 $?
+    [[ $message == *"already running"* ]] || fail "a second start says that the program runs, not: $message"
+    waitUntil "the first one's bar is still shown" barIsShown
+}
+
 testClosedByTheWindowManager() {
     local closed=$bar
     "$client" close "$closed"
@@ -205,6 +213,7 @@ testPanelAbove
 testScreenSize
 testPrimaryScreen
 testWindowManagerRestart
+testSecondStart
 testClosedByTheWindowManager
 endOrvelle TERM
 testScale 22 QT_QPA_PLATFORM=wayland

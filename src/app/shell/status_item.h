@@ -2,9 +2,13 @@
 
 #include "app/shell/status_item_view.h"
 
+#include <functional>
 #include <memory>
 
 namespace orvelle {
+
+/// The button of a mouse that a click is made with; others are ignored.
+enum class ClickButton { left, right };
 
 /// One entry of the desktop's status bar: a fixed length, filled with a picture. The bar owns it.
 class StatusItem {
@@ -19,6 +23,9 @@ public:
 
     /// Replaces the picture and repaints this item alone.
     virtual void setView(std::shared_ptr<const StatusItemView> view) = 0;
+
+    /// Called when a button that was pressed on the item is let go on it. The handler may remove the item.
+    virtual void setClickHandler(std::function<void(ClickButton)> handler) = 0;
 };
 
 } // namespace orvelle

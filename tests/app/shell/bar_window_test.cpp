@@ -111,6 +111,93 @@ TEST_F(BarWindowTest, KeepsAViewInsideItsItem) {
     EXPECT_EQ(colorAt(right.bounds().right() + 2), colorAt(10));
 }
 
+class BarClickTest : public BarWindowTest {
+protected:
+    BarClickTest() {
+        cpu.setClickHandler([this](ClickButton button) { clicks.append({QStringLiteral("cpu"), button}); });
+        memory.setClickHandler([this](ClickButton button) {
+            clicks.append({QStringLiteral("memory"), button});
+        });
+    }
+    static QPoint middle(const BarItem& item) { return item.bounds().center().toPoint(); }
+
+    BarItem& cpu = bar.addItem(QStringLiteral("cpu"), 60);
+    BarItem& memory = bar.addItem(QStringLiteral("memory"), 70);
+    QList<std::pair<QString, ClickButton>> clicks;
+};
+
+TEST_F(BarClickTest, ReachesTheItemUnderThePointerWithItsButton) {
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, middle(cpu));
+    QTest::mouseClick(&bar, Qt::RightButton, {}, middle(memory));
+    const QList<std::pair<QString, ClickButton>> expected{{QStringLiteral("cpu"), ClickButton::left},
+                                                          {QStringLiteral("memory"), ClickButton::right}};
+    EXPECT_EQ(clicks, expected);
+}
+
+TEST_F(BarClickTest, ReachesAnItemAtItsEdges) {
+    const QRect bounds = cpu.bounds().toRect();
+    for (const QPoint& corner : {bounds.topLeft() + QPoint(1, 0), bounds.bottomRight()})
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, corner);
+    EXPECT_EQ(clicks.size(), 2);
+    EXPECT_EQ(clicks.constLast().first, QStringLiteral("cpu"));
+}
+
+TEST_F(BarClickTest, IsNothingBesideTheItemsAndWithOtherButtons) {
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::mouseClick(&bar, Qt::MiddleButton, {}, middle(cpu));
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(BarClickTest, IsMadeWhenTheButtonIsLetGo) {
+    QTest::mousePress(&bar, Qt::LeftButton, {}, middle(cpu));
+    EXPECT_TRUE(cpu.isHighlighted());
+    EXPECT_TRUE(clicks.isEmpty());
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, middle(cpu));
+    EXPECT_FALSE(cpu.isHighlighted());
+    EXPECT_EQ(clicks.size(), 1);
+}
+
+TEST_F(BarClickTest, IsTakenBackWhenTheButtonIsLetGoElsewhere) {
+    QTest::mousePress(&bar, Qt::LeftButton, {}, middle(cpu));
+    QTest::mouseMove(&bar, middle(memory));
+    EXPECT_FALSE(cpu.isHighlighted());
+    QTest::mouseMove(&bar, middle(cpu));
+    EXPECT_TRUE(cpu.isHighlighted());
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, middle(memory));
+    EXPECT_FALSE(cpu.isHighlighted());
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(BarClickTest, SurvivesAnItemThatIsRemovedWhileHeldDown) {
+    QTest::mousePress(&bar, Qt::LeftButton, {}, middle(memory));
+    bar.removeItem(memory);
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, QPoint(350, 10));
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(BarClickTest, SurvivesAHandlerThatRemovesItsItem) {
+    bool clicked = false;
+    memory.setClickHandler([this, &clicked](ClickButton) {
+        bar.removeItem(memory);
+        clicked = true;
+    });
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, middle(memory));
+    EXPECT_TRUE(clicked);
+}
+
+TEST_F(BarClickTest, PaintsAPlateBehindAnItemThatIsHeldDown) {
+    cpu.setView(red);
+    showBar();
+    const auto plateColor = [this] {
+        return bar.screen()->grabWindow(bar.winId()).toImage().pixelColor(middle(memory));
+    };
+    const QColor before = plateColor();
+    QTest::mousePress(&bar, Qt::LeftButton, {}, middle(memory));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return plateColor().lightness() > before.lightness() + 20; }));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, middle(memory));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return plateColor() == before; }));
+}
+
 TEST_F(BarWindowTest, PaintsNothingForAnItemWithoutAView) {
     bar.addItem(QStringLiteral("cpu"), 60);
     bool painted = false;

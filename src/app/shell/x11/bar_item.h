@@ -5,6 +5,7 @@
 #include <QRectF>
 
 #include <functional>
+#include <utility>
 
 namespace orvelle {
 
@@ -24,6 +25,18 @@ public:
         m_changed(*this);
     }
 
+    void setClickHandler(std::function<void(ClickButton)> handler) override {
+        m_clickHandler = std::move(handler);
+    }
+    [[nodiscard]] const std::function<void(ClickButton)>& clickHandler() const { return m_clickHandler; }
+
+    /// Whether the item is shown as held down by the mouse.
+    [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
+    void setHighlighted(bool highlighted) {
+        if (std::exchange(m_isHighlighted, highlighted) != highlighted)
+            m_changed(*this);
+    }
+
     /// The picture; null before the first one is set.
     [[nodiscard]] const StatusItemView* view() const { return m_view.get(); }
 
@@ -36,7 +49,9 @@ private:
     double m_length;
     std::function<void(const BarItem&)> m_changed;
     std::shared_ptr<const StatusItemView> m_view;
+    std::function<void(ClickButton)> m_clickHandler;
     QRectF m_bounds;
+    bool m_isHighlighted = false;
 };
 
 } // namespace orvelle

@@ -1,5 +1,7 @@
 #include "app/shell/x11/bar_placement.h"
 
+#include "app/shell/x11/x11_connection.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
@@ -12,11 +14,6 @@ namespace {
 /// Screens, docks and window managers change in bursts; this long after the first sign of one the bar moves.
 /// It also bounds the cost of a dispute with another program that moves its dock out of the way.
 constexpr std::chrono::milliseconds burstDuration{50};
-
-xcb_connection_t* xcbConnection() {
-    const auto* application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return application == nullptr ? nullptr : application->connection();
-}
 
 std::vector<QRect> pixelsOfScreensOtherThan(const QScreen& screen) {
     std::vector<QRect> others;

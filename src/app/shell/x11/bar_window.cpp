@@ -2,9 +2,12 @@
 
 #include "app/shell/x11/bar_geometry.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace orvelle {
@@ -12,6 +15,33 @@ namespace {
 
 constexpr QColor barBackground(30, 30, 32);
 constexpr QColor barBottomLine(0, 0, 0);
+
+/// The plate behind an item that is held down: a rounded rectangle that leaves a point free on every side.
+constexpr QColor highlightColor(255, 255, 255, 46);
+constexpr double highlightMargin = 1;
+constexpr double highlightRadius = 4;
+
+void paintHighlight(QPainter& painter, const QRectF& bounds) {
+    const QRectF plate =
+        bounds.adjusted(highlightMargin, highlightMargin, -highlightMargin, -highlightMargin);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(highlightColor);
+    painter.drawRoundedRect(plate, highlightRadius, highlightRadius);
+    painter.restore();
+}
+
+std::optional<ClickButton> clickButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return ClickButton::left;
+    case Qt::RightButton:
+        return ClickButton::right;
+    default:
+        return std::nullopt;
+    }
+}
 
 } // namespace
 
@@ -31,10 +61,44 @@ BarItem& BarWindow::addItem(const QString& identifier, double length) {
 }
 
 void BarWindow::removeItem(const StatusItem& item) {
+    if (m_pressedItem == &item)
+        m_pressedItem = nullptr;
     std::erase_if(m_items, [&item](const auto& present) { return present.get() == &item; });
     layOut();
     if (m_items.empty())
         Q_EMIT emptyChanged();
+}
+
+BarItem* BarWindow::itemAt(const QPointF& position) const {
+    const auto found = std::ranges::find_if(
+        m_items, [&position](const auto& item) { return item->bounds().contains(position); });
+    return found == m_items.end() ? nullptr : found->get();
+}
+
+void BarWindow::mousePressEvent(QMouseEvent* event) {
+    if (m_pressedItem != nullptr || !clickButton(event->button()))
+        return;
+    m_pressedItem = itemAt(event->position());
+    m_pressedButton = event->button();
+    if (m_pressedItem != nullptr)
+        m_pressedItem->setHighlighted(true);
+}
+
+void BarWindow::mouseMoveEvent(QMouseEvent* event) {
+    if (m_pressedItem != nullptr)
+        m_pressedItem->setHighlighted(itemAt(event->position()) == m_pressedItem);
+}
+
+void BarWindow::mouseReleaseEvent(QMouseEvent* event) {
+    const std::optional<ClickButton> button = clickButton(event->button());
+    if (m_pressedItem == nullptr || event->button() != m_pressedButton || !button)
+        return;
+    BarItem& item = *std::exchange(m_pressedItem, nullptr);
+    item.setHighlighted(false);
+    // A copy, because the handler may remove the item and itself with it.
+    const std::function<void(ClickButton)> handler = item.clickHandler();
+    if (itemAt(event->position()) == &item && handler)
+        handler(*button);
 }
 
 void BarWindow::layOut() {
@@ -89,11 +153,12 @@ void BarWindow::repaint(const QRegion& region) {
 }
 
 void BarWindow::paintItem(QPainter& painter, const BarItem& item) const {
-    if (item.view() == nullptr)
-        return;
     painter.save();
     painter.setClipRect(item.bounds(), Qt::IntersectClip);
-    item.view()->paint(painter, item.bounds());
+    if (item.isHighlighted())
+        paintHighlight(painter, item.bounds());
+    if (item.view() != nullptr)
+        item.view()->paint(painter, item.bounds());
     painter.restore();
 }
 

@@ -25,6 +25,8 @@ public:
     BarItem& addItem(const QString& identifier, double length);
     void removeItem(const StatusItem& item);
     [[nodiscard]] bool isEmpty() const { return m_items.empty(); }
+    /// The item at a position in points from the bar's upper left corner; null between and beside them.
+    [[nodiscard]] BarItem* itemAt(const QPointF& position) const;
 
 Q_SIGNALS:
     /// The first item came or the last one went.
@@ -35,6 +37,9 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void layOut();
@@ -45,6 +50,8 @@ private:
     void paintItem(QPainter& painter, const BarItem& item) const;
 
     std::vector<std::unique_ptr<BarItem>> m_items;
+    BarItem* m_pressedItem = nullptr; ///< where a button went down that has not been let go yet
+    Qt::MouseButton m_pressedButton = Qt::NoButton;
     QBackingStore m_picture{this};
     QRegion m_pending;
 };

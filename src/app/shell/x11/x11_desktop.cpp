@@ -1,8 +1,8 @@
 #include "app/shell/x11/x11_desktop.h"
 
-#include <cstdlib>
+#include "app/shell/x11/x11_connection.h"
+
 #include <limits>
-#include <memory>
 #include <string_view>
 
 namespace orvelle {
@@ -12,18 +12,6 @@ namespace {
 constexpr std::uint32_t maximumPropertyWords = 4096;
 
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
-
-struct FreeReply {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <class Reply>
-using ReplyPointer = std::unique_ptr<Reply, FreeReply>;
-
-/// Owns a reply; empty when the request failed, as it does for a window that has just gone.
-template <class Reply>
-ReplyPointer<Reply> takeReply(Reply* reply) {
-    return ReplyPointer<Reply>(reply);
-}
 
 /// A root window is at most 65535 pixels wide, so a wider claim means "to the edge".
 int pixelCount(std::uint32_t value) {

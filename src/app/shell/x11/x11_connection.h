@@ -1,0 +1,25 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace orvelle {
+
+struct FreeReply {
+    void operator()(void* reply) const { std::free(reply); }
+};
+template <class Reply>
+using ReplyPointer = std::unique_ptr<Reply, FreeReply>;
+
+/// Owns a reply; empty when the request failed, as it does for a window that has just gone.
+template <class Reply>
+ReplyPointer<Reply> takeReply(Reply* reply) {
+    return ReplyPointer<Reply>(reply);
+}
+
+/// Qt's connection to the X server; null off X11. Needs the application object.
+[[nodiscard]] xcb_connection_t* xcbConnection();
+
+} // namespace orvelle
