@@ -1,48 +1,77 @@
 #include "settings/settings_file.h"
 
-#include "settings/ini_text.h"
+#include "settings/plain_ini.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QLockFile>
 
+#include <chrono>
 #include <utility>
 
 namespace orvelle {
+namespace {
+
+constexpr std::chrono::milliseconds longestLockWait{500};
+
+bool isFolderWritable(const QString& filePath) {
+    return QFileInfo(QFileInfo(filePath).path()).isWritable();
+}
+
+/// QSettings waits for its lock without end: for a stopped program, and for what is no file at all.
+bool isLockFree(const QString& filePath) {
+    const QString lockPath = filePath + QStringLiteral(".lock");
+    const QFileInfo lock(lockPath);
+    if (!lock.exists() && !lock.isSymLink())
+        return true;
+    return lock.isFile() && QLockFile(lockPath).tryLock(longestLockWait);
+}
+
+/// Whether saving should succeed. Values that QSettings fails to save stay pending in it for good, also when
+/// someone edits the file meanwhile, so as much as possible is found out before it is given any.
+bool canSave(const QSettings& settings) {
+    const QString path = settings.fileName();
+    const QFileInfo file(path);
+    return settings.isWritable() && isFolderWritable(path) &&
+           (!file.isSymLink() || isFolderWritable(file.symLinkTarget())) && isLockFree(path);
+}
+
+} // namespace
 
 SettingsFile::SettingsFile(QString filePath)
     : m_filePath(std::move(filePath)) {}
 
 std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
-    const std::optional<QByteArray> text = readText();
-    if (!text)
+    const std::unique_ptr<QSettings> settings = open();
+    if (!settings)
         return std::nullopt;
-    return IniText::parse(*text, keys);
+    StoredValues values;
+    for (const QString& key : keys) {
+        if (settings->contains(key))
+            values.insert(key, settings->value(key));
+    }
+    return values;
 }
 
 bool SettingsFile::write(const StoredValues& values) {
-    const std::optional<QByteArray> text = readText();
-    if (!text || !QDir().mkpath(QFileInfo(m_filePath).path()))
+    const std::unique_ptr<QSettings> settings = open();
+    if (!settings || !canSave(*settings))
         return false;
-    const QByteArray newText = IniText::withValues(*text, values);
-    QSaveFile file(m_filePath);
-    return newText.size() <= maximumSize && file.open(QIODevice::WriteOnly) &&
-           file.write(newText) == newText.size() && file.commit();
+    for (auto value = values.begin(); value != values.end(); ++value)
+        settings->setValue(value.key(), value->toString());
+    settings->sync();
+    return settings->status() == QSettings::NoError;
 }
 
-std::optional<QByteArray> SettingsFile::readText() const {
-    const QFileInfo info(m_filePath);
-    if (!info.exists())
-        return QByteArray();
+std::unique_ptr<QSettings> SettingsFile::open() const {
+    const QFileInfo file(m_filePath);
     // Opening a pipe or a device could wait for ever.
-    QFile file(m_filePath);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return std::nullopt;
-    QByteArray text = file.read(maximumSize + 1);
-    if (text.size() > maximumSize || file.error() != QFileDevice::NoError)
-        return std::nullopt;
-    return text;
+    if (file.exists() && !(file.isFile() && file.isReadable()))
+        return nullptr;
+    // A new one each time: its status never returns from an error.
+    auto settings = std::make_unique<QSettings>(m_filePath, PlainIni::format());
+    // QSettings would go on with a file that it could not read as with an empty one, and replace it.
+    const bool isRead = file.size() == 0 || !settings->allKeys().isEmpty();
+    return settings->status() == QSettings::NoError && isRead ? std::move(settings) : nullptr;
 }
 
 } // namespace orvelle

@@ -2,16 +2,18 @@
 
 #include "settings/settings_storage.h"
 
+class QSettings;
+
 namespace orvelle {
 
-/// Settings in an ini file (see `IniText`), which is replaced as a whole at each write, so that no reader and
+/// Settings in a file of plain ini text (see `PlainIni`), kept by QSettings: it locks the file while it
+/// writes, merges the values into what the file then holds and replaces it as a whole, so that no reader and
 /// no power cut ever sees half of it. A missing file is an empty one; its folder is created when first
 /// needed.
+///
+/// QSettings sees that another program wrote the file by its size and its time in milliseconds.
 class SettingsFile : public SettingsStorage {
 public:
-    /// A larger file was not written by this program: it is neither read nor replaced.
-    static constexpr qint64 maximumSize = qint64{1} << 20;
-
     explicit SettingsFile(QString filePath);
 
     /// Nothing when something other than a readable file of a sensible size stands in the file's place.
@@ -20,7 +22,8 @@ public:
     [[nodiscard]] QString filePath() const override { return m_filePath; }
 
 private:
-    [[nodiscard]] std::optional<QByteArray> readText() const;
+    /// Null when the file cannot be read.
+    [[nodiscard]] std::unique_ptr<QSettings> open() const;
 
     QString m_filePath;
 };

@@ -1,16 +1,22 @@
+#include "settings/plain_ini.h"
 #include "settings/settings_file.h"
 #include "settings/temporary_settings.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 
+#include <chrono>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace orvelle {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class SettingsFileTest : public ::testing::Test {
 protected:
@@ -36,10 +42,10 @@ TEST_F(SettingsFileTest, MissingFoldersAreCreatedByTheFirstWrite) {
 
 TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
     const QByteArray line = "a=1\n";
-    settings.writeInPlace(line + QByteArray(SettingsFile::maximumSize - line.size(), ';'));
+    settings.writeInPlace(line + QByteArray(PlainIni::maximumSize - line.size(), ';'));
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}}));
 
-    const QByteArray tooLarge = line + QByteArray(SettingsFile::maximumSize - line.size() + 1, ';');
+    const QByteArray tooLarge = line + QByteArray(PlainIni::maximumSize - line.size() + 1, ';');
     settings.writeInPlace(tooLarge);
     EXPECT_EQ(read(), std::nullopt);
     EXPECT_FALSE(write());
@@ -47,10 +53,66 @@ TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
 }
 
 TEST_F(SettingsFileTest, AFileIsNotWrittenPastTheLargestSize) {
-    const QByteArray full(SettingsFile::maximumSize, '#');
+    const QByteArray full(PlainIni::maximumSize, '#');
     settings.writeInPlace(full);
     EXPECT_FALSE(write());
     EXPECT_EQ(settings.text(), full);
+}
+
+TEST_F(SettingsFileTest, AnEditThatKeepsTheSizeIsReadAndKept) {
+    settings.writeInPlace("a=1\nb=1\n");
+    EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}}));
+    std::this_thread::sleep_for(5ms); // the file's time is compared in milliseconds
+    settings.writeInPlace("a=2\nb=1\n");
+    EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"2"_s}}));
+    std::this_thread::sleep_for(5ms);
+    settings.writeInPlace("a=2\nb=2\n");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(settings.text(), "[General]\na=true\nb=2\n");
+}
+
+TEST_F(SettingsFileTest, ProgramsThatWriteAtOnceKeepEachOthersValues) {
+    const auto writeKeys = [this](QChar name) {
+        for (int number = 0; number < 20; ++number) {
+            while (!file.write({{name + QString::number(number), u"x"_s}}))
+                continue;
+        }
+    };
+    const pid_t other = ::fork();
+    ASSERT_GE(other, 0);
+    writeKeys(other == 0 ? u'a' : u'b');
+    if (other == 0)
+        ::_exit(0);
+    int status = 0;
+    ASSERT_EQ(::waitpid(other, &status, 0), other);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(settings.text().count("=x\n"), 40) << settings.text().toStdString();
+}
+
+TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
+    settings.writeInPlace("a=1\n");
+    const QString lockPath = settings.path() + u".lock"_s;
+    ASSERT_TRUE(QDir().mkpath(lockPath));
+    EXPECT_FALSE(write());
+    ASSERT_TRUE(QDir().rmdir(lockPath));
+    ASSERT_EQ(::mkfifo(lockPath.toLocal8Bit().constData(), 0600), 0);
+    EXPECT_FALSE(write());
+    ASSERT_TRUE(QFile::remove(lockPath));
+    ASSERT_TRUE(QFile::link(u"/nonexistent"_s, lockPath));
+    EXPECT_FALSE(write());
+    ASSERT_TRUE(QFile::remove(lockPath));
+    EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}})) << "what failed is forgotten";
+    EXPECT_EQ(settings.text(), "a=1\n");
+    EXPECT_TRUE(write());
+}
+
+TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
+    QLockFile lock(settings.path() + u".lock"_s);
+    ASSERT_TRUE(lock.lock());
+    EXPECT_FALSE(write());
+    EXPECT_EQ(read(), StoredValues());
+    lock.unlock();
+    EXPECT_TRUE(write());
 }
 
 TEST_F(SettingsFileTest, AFolderInTheFilesPlaceIsNeitherReadNorReplaced) {

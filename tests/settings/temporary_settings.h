@@ -1,13 +1,16 @@
 #pragma once
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace orvelle {
 
-/// A settings file in a folder of its own, which vanishes with the test.
+/// A settings file in a folder of its own, which vanishes with the test. It is kept in memory where there is
+/// a place for that: each write waits for the disk.
 class TemporarySettings {
 public:
     [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("orvelle.conf")); }
@@ -34,7 +37,12 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    [[nodiscard]] static QString parentFolder() {
+        const QString memory = QStringLiteral("/dev/shm");
+        return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+    }
+
+    QTemporaryDir m_folder{parentFolder() + QStringLiteral("/orvelle-settings-XXXXXX")};
 };
 
 } // namespace orvelle
