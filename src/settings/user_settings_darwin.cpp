@@ -8,30 +8,35 @@ namespace {
 /// The user-defaults domain of the program, through QSettings' native format.
 class UserDefaults : public SettingsStorage {
 public:
-    UserDefaults() { m_settings.setFallbacksEnabled(false); }
-
     std::optional<StoredValues> read(const QStringList& keys) override {
-        m_settings.sync();
+        const std::unique_ptr<QSettings> settings = open();
+        settings->sync();
         StoredValues values;
         for (const QString& key : keys) {
-            if (m_settings.contains(key))
-                values.insert(key, m_settings.value(key));
+            if (settings->contains(key))
+                values.insert(key, settings->value(key));
         }
         return values;
     }
 
     bool write(const StoredValues& values) override {
+        const std::unique_ptr<QSettings> settings = open();
         for (auto value = values.begin(); value != values.end(); ++value)
-            m_settings.setValue(value.key(), value.value());
-        m_settings.sync();
-        return m_settings.status() == QSettings::NoError;
+            settings->setValue(value.key(), value.value());
+        settings->sync();
+        return settings->status() == QSettings::NoError;
     }
 
-    QString filePath() const override { return m_settings.fileName(); }
+    QString filePath() const override { return open()->fileName(); }
 
 private:
-    QSettings m_settings{QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("orvelle"),
-                         QStringLiteral("orvelle")};
+    /// A new one each time: its status never returns from an error.
+    static std::unique_ptr<QSettings> open() {
+        auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                                    QStringLiteral("orvelle"), QStringLiteral("orvelle"));
+        settings->setFallbacksEnabled(false);
+        return settings;
+    }
 };
 
 } // namespace
