@@ -1,14 +1,9 @@
 #include "platform/linux/linux_memory_source.h"
 
+#include "platform/linux/directory.h"
 #include "platform/linux/text.h"
 
 namespace orvelle::linux_platform {
-namespace {
-
-/// Whether ZFS or a zram device exists changes rarely, so only every tenth reading looks for them.
-constexpr unsigned readingsPerSearch = 10;
-
-} // namespace
 
 LinuxMemorySource::LinuxMemorySource(std::filesystem::path root, std::uint64_t pageSize)
     : m_root(std::move(root))
@@ -16,7 +11,7 @@ LinuxMemorySource::LinuxMemorySource(std::filesystem::path root, std::uint64_t p
     , m_meminfo(m_root / "proc/meminfo", KeptFile::Layout::single) {}
 
 std::optional<MemoryReading> LinuxMemorySource::read() {
-    if (m_readCount++ % readingsPerSearch == 0)
+    if (m_searchPace.isSearchDue())
         findRareFiles();
     const std::optional<std::string_view> text = m_meminfo.read();
     const std::optional<Meminfo> meminfo = text ? parseMeminfo(*text) : std::nullopt;
@@ -34,9 +29,10 @@ void LinuxMemorySource::findRareFiles() {
         m_arcStatistics.emplace(arcStatistics, KeptFile::Layout::single);
 
     m_zramStatistics.clear();
-    for (const auto& device : std::filesystem::directory_iterator(m_root / "sys/block", ignored)) {
-        if (device.path().filename().string().starts_with("zram"))
-            m_zramStatistics.emplace_back(device.path() / "mm_stat", KeptFile::Layout::single);
+    for (const std::string& device : namesIn(m_root / "sys/block")) {
+        if (device.starts_with("zram"))
+            m_zramStatistics.emplace_back(m_root / "sys/block" / device / "mm_stat",
+                                          KeptFile::Layout::single);
     }
 }
 

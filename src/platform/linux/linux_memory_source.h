@@ -3,6 +3,7 @@
 #include "core/sources/memory_source.h"
 #include "platform/linux/kept_file.h"
 #include "platform/linux/meminfo.h"
+#include "platform/linux/search_pace.h"
 
 #include <vector>
 
@@ -25,7 +26,7 @@ private:
     KeptFile m_meminfo;
     std::optional<KeptFile> m_arcStatistics;
     std::vector<KeptFile> m_zramStatistics;
-    unsigned m_readCount = 0;
+    SearchPace m_searchPace; ///< whether ZFS or a compressed RAM disk exists changes rarely
 };
 
 } // namespace orvelle::linux_platform

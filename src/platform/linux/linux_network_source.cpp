@@ -37,10 +37,10 @@ std::optional<std::vector<InterfaceEntry>> LinuxNetworkSource::read() {
     std::vector<InterfaceEntry> entries;
     for (const InterfaceCounters& counters : interfaces) {
         const KnownInterface& known = m_known.find(counters.name)->second;
-        if (known.state.isPort)
-            continue;
         InterfaceEntry entry;
         entry.name = sanitizedName(counters.name);
+        if (known.state.isPort || entry.name.empty())
+            continue;
         entry.isUp = known.state.isUp;
         entry.isLoopback = known.state.isLoopback;
         for (const InterfaceAddress& address : known.addresses)

@@ -8,7 +8,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// No machine has more memory than this (8 EiB); a larger figure is nonsense and is cut here, which keeps
+/// No machine has more memory than this (4 EiB); a larger figure is nonsense and is cut here, which keeps
 /// every later sum and product of byte counts within 64 bits.
 constexpr std::uint64_t maximumBytes = std::uint64_t{1} << 62;
 
@@ -114,17 +114,25 @@ MemoryReading memoryReading(const Meminfo& meminfo, const MemoryBesideMeminfo& b
     // The pressure rule takes the cache off twice. Held memory includes the purgeable part of the ARC, while
     // the active file pages are added to active below, so used = held - purgeable must stay >= purgeable +
     // external.
-    const std::uint64_t held =
+    std::uint64_t held =
         reading.wiredPages + reading.compressorPages + reading.activePages + reading.inactivePages;
     const std::uint64_t arcAboveMinimum = saturatingSubtract(beside.arcSize, beside.arcMinimum) / pageSize;
-    reading.purgeablePages = std::min({arcAboveMinimum, reading.wiredPages, held / 2});
+    reading.purgeablePages = std::min(arcAboveMinimum, reading.wiredPages);
+    // What of it is more than half of everything held cannot be shown as cache, so it is shown as free.
+    const std::uint64_t cutArc = saturatingSubtract(2 * reading.purgeablePages, held);
+    reading.purgeablePages -= cutArc;
+    reading.wiredPages -= cutArc;
+    held -= cutArc;
+    roomLeft += cutArc;
     const std::uint64_t mostExternal = held - 2 * reading.purgeablePages;
     reading.externalPages = take(std::min(meminfo.activeFile, mostExternal * pageSize));
     reading.activePages += reading.externalPages;
 
     const std::uint64_t cutFile = saturatingSubtract(meminfo.activeFile, reading.externalPages * pageSize);
-    const std::uint64_t available = saturatingAdd(saturatingAdd(meminfo.free, meminfo.inactiveFile),
-                                                  saturatingAdd(meminfo.reclaimableSlab, cutFile));
+    std::uint64_t available = 0;
+    for (const std::uint64_t part : {meminfo.free, meminfo.inactiveFile, meminfo.reclaimableSlab, cutFile,
+                                     saturatingMultiply(cutArc, pageSize)})
+        available = saturatingAdd(available, part);
     reading.freePages = take(available);
     reading.swapTotal = meminfo.swapTotal;
     reading.swapUsed = saturatingSubtract(meminfo.swapTotal, meminfo.swapFree);

@@ -7,7 +7,7 @@ namespace orvelle::linux_platform {
 namespace {
 
 /// Mounts within mounts beyond this depth are taken for a damaged text.
-constexpr int deepestNesting = 256;
+constexpr int deepestNesting = 32;
 
 /// File systems without a block device of their own that answer a look-up from memory or local disks.
 constexpr std::array<std::string_view, 8> localFileSystems{"bcachefs", "btrfs",  "devtmpfs", "overlay",

@@ -3,7 +3,6 @@
 #include "platform/linux/text.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvelle::linux_platform {
 namespace {
@@ -26,6 +25,16 @@ CoreTicks ticksFrom(std::string_view line) {
             .nice = bounded(nice)};
 }
 
+/// More than any scheduler could run; also keeps out the largest double, which stands for what no double
+/// holds.
+constexpr double maximumLoad = 1e9;
+
+/// Nothing for a time before 1970 or beyond the year 9999.
+std::optional<std::int64_t> plausibleBootTime(std::optional<std::int64_t> seconds) {
+    constexpr std::int64_t endOfYear9999 = 253402300799;
+    return seconds && *seconds >= 0 && *seconds <= endOfYear9999 ? seconds : std::nullopt;
+}
+
 /// `cpu0`, `cpu17`, but not `cpu`, which sums them all.
 bool isCoreLabel(std::string_view label) {
     return label.size() > 3 && label.starts_with("cpu") && label[3] >= '0' && label[3] <= '9';
@@ -41,7 +50,7 @@ std::optional<ProcStat> parseProcStat(std::string_view text) {
         if (isCoreLabel(label))
             stat.cores.push_back(ticksFrom(line));
         else if (label == "btime")
-            stat.bootTime = takeNumber<std::int64_t>(line);
+            stat.bootTime = plausibleBootTime(takeNumber<std::int64_t>(line));
     }
     if (stat.cores.empty())
         return std::nullopt;
@@ -52,7 +61,7 @@ std::optional<std::array<double, 3>> parseLoadAverages(std::string_view text) {
     std::array<double, 3> averages{};
     for (double& average : averages) {
         const std::optional<double> value = takeNumber<double>(text);
-        if (!value || !std::isfinite(*value) || *value < 0)
+        if (!value || !(*value >= 0) || *value > maximumLoad)
             return std::nullopt;
         average = *value;
     }

@@ -74,8 +74,10 @@ HiddenPaths hiddenPathsInFstab(std::string_view fstab) {
         if (line.starts_with('#'))
             continue;
         takeWord(line); // the device
-        const std::string_view path = takeWord(line);
-        takeWord(line); // the file system
+        std::string_view path = takeWord(line);
+        while (path.size() > 1 && path.ends_with('/'))
+            path.remove_suffix(1); // the kernel lists mounts without it
+        takeWord(line);            // the file system
         std::string_view options = takeWord(line);
         while (!options.empty()) {
             if (takeUntil(options, ',') == "x-gvfs-hide")

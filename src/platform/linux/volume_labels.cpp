@@ -36,8 +36,10 @@ std::optional<std::string> VolumeLabels::labelOf(const Mount& mount) const {
          {linkedName(m_root / "sys/dev/block" / number), source.filename().string(),
           linkedName(m_root / source.relative_path())}) {
         const auto position = m_labelsByDevice.find(device);
-        if (position != m_labelsByDevice.end())
-            return sanitizedName(position->second);
+        if (position == m_labelsByDevice.end())
+            continue;
+        std::string label = sanitizedName(position->second);
+        return label.empty() ? std::nullopt : std::optional(std::move(label));
     }
     return std::nullopt;
 }

@@ -121,7 +121,24 @@ TEST(MemoryReading, ZfsOwningNearlyAllMemoryIsSurvived) {
     const Meminfo meminfo{.total = 1000 * megabyte, .free = 10 * megabyte, .activeFile = 100 * megabyte};
     const MemoryReading reading = memoryReading(meminfo, {.arcSize = 900 * megabyte}, pageSize);
     expectPartsWithinTotal(reading);
-    EXPECT_EQ(published(reading).used, 450 * megabyte);
+    const auto info = published(reading);
+    EXPECT_EQ(info.used, 0u); // all of it can be given back
+    EXPECT_EQ(info.free, 1000 * megabyte);
+}
+
+TEST(MemoryReading, ALargeZfsCacheThatCanBeGivenBackIsNotUsedMemory) {
+    constexpr std::uint64_t gigabyte = 1024 * megabyte;
+    const Meminfo meminfo{.total = 64 * gigabyte,
+                          .free = 20 * gigabyte,
+                          .activeAnonymous = 4 * gigabyte,
+                          .activeFile = gigabyte / 4,
+                          .inactiveFile = gigabyte / 4,
+                          .unreclaimableSlab = gigabyte};
+    EXPECT_EQ(published(memoryReading(meminfo, {}, pageSize)).used, 5 * gigabyte);
+    for (std::uint64_t arc = 2; arc <= 38; arc += 4) {
+        const MemoryBesideMeminfo beside{.arcSize = arc * gigabyte, .arcMinimum = 2 * gigabyte};
+        EXPECT_EQ(published(memoryReading(meminfo, beside, pageSize)).used, 7 * gigabyte) << arc;
+    }
 }
 
 TEST(MemoryReading, NoSwapAndMoreFreeThanTotalSwapAreZeroUsed) {

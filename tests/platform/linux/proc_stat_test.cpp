@@ -60,12 +60,17 @@ TEST(ProcStat, NonsenseNumbersStayWithinTheBoundOfASource) {
     EXPECT_EQ(stat->cores[0].nice, 0u);
 }
 
+TEST(ProcStat, ABootTimeThatCannotBeIsNothing) {
+    for (const char* time : {"-5", "9223372036854775807", "x"})
+        EXPECT_EQ(parseProcStat(std::string("cpu0 1 1 1 1\nbtime ") + time + "\n")->bootTime, std::nullopt) << time;
+}
+
 TEST(LoadAverages, AreTheFirstThreeNumbers) {
     EXPECT_EQ(parseLoadAverages("1.50 1.25 1.00 3/977 4321\n"), (std::array<double, 3>{1.5, 1.25, 1}));
 }
 
 TEST(LoadAverages, AreNothingWhenOneIsMissingOrNoNumber) {
-    for (const char* text : {"", "1.0 2.0", "1.0 x 2.0", "nan 1 1", "inf 1 1", "-1 0 0"})
+    for (const char* text : {"", "1.0 2.0", "1.0 x 2.0", "nan 1 1", "inf 1 1", "-1 0 0", "1e-400 0 0", "1e300 0 0"})
         EXPECT_FALSE(parseLoadAverages(text)) << text;
 }
 

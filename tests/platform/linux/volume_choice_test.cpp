@@ -147,7 +147,7 @@ TEST(VolumeChoice, ManagesTenThousandMounts) {
 TEST(FileSystemTable, HidesWhatItMarks) {
     EXPECT_EQ(hiddenPathsInFstab("# /dev/sda9 /commented ext4 x-gvfs-hide\n"
                                  "/dev/sda2 /mnt/My\\040Disk ext4 defaults,x-gvfs-hide,noatime 0 2\n"
-                                 "\t/dev/sda3\t/tabs\text4\tx-gvfs-hide\n"
+                                 "\t/dev/sda3\t/tabs/\text4\tx-gvfs-hide\n"
                                  "/dev/sda4 /shown ext4 x-gvfs-show,x-gvfs-hidden 0 2\n"
                                  "/dev/sda5 /short\n"
                                  "\n"),
