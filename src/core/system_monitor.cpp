@@ -3,7 +3,6 @@
 #include "core/checked.h"
 #include "settings/settings_store.h"
 
-#include <QCoreApplication>
 #include <QThread>
 
 #include <algorithm>
@@ -65,8 +64,7 @@ void SystemMonitor::restart() {
 }
 
 void SystemMonitor::updateCycle() {
-    const QCoreApplication* application = QCoreApplication::instance();
-    if (application != nullptr && QThread::currentThread() != application->thread())
+    if (QThread::currentThread() != thread())
         qFatal("An update cycle must run on the main thread");
 
     m_cpu.updateUsage();

@@ -73,14 +73,43 @@ TEST_F(SystemMonitorTest, AMachineThatAnswersNothingIsSurvived) {
     EXPECT_TRUE(monitor.cpu().usageHistory().isEmpty());
 }
 
-TEST_F(SystemMonitorTest, TheBatteryIsSampledBeforeTheSensors) {
-    QStringList order;
-    QObject::connect(&monitor.battery(), &BatteryMonitor::batteryChanged, &monitor,
-                     [&] { order << QStringLiteral("battery"); });
-    QObject::connect(&monitor.sensor(), &SensorMonitor::fansChanged, &monitor,
-                     [&] { order << QStringLiteral("sensor"); });
+TEST_F(SystemMonitorTest, SamplesEveryMonitorInAFixedOrderBeforeItAnnouncesTheChange) {
+    machine.processor->ticks = std::vector<CoreTicks>(1);
+    machine.processor->bootTime = 1;
+    machine.memory->reading = MemoryReading{.pageSize = 1, .physicalMemory = 100};
+    machine.disk->counters = std::vector<DiskCounters>{{.bytesRead = 1}};
+    machine.network->entries = std::vector<InterfaceEntry>{{.name = "eth0", .isUp = true}};
+    monitor.updateCycle(); // the disk's speed needs a baseline
     monitor.updateCycle();
-    EXPECT_EQ(order, (QStringList{QStringLiteral("battery"), QStringLiteral("sensor")}));
+    monitor.updateCycle();
+    machine.clock.advance(std::chrono::seconds(3));
+
+    QStringList order;
+    const auto note = [&order, this](auto* object, auto signal, const char* name) {
+        QObject::connect(object, signal, &monitor, [&order, name] { order << QLatin1String(name); });
+    };
+    note(&monitor.cpu(), &CPUMonitor::coreUsagesChanged, "usage");
+    note(&monitor.cpu(), &CPUMonitor::loadAverage1Changed, "load");
+    note(&monitor.cpu(), &CPUMonitor::uptimeChanged, "uptime");
+    note(&monitor.memory(), &MemoryMonitor::infoChanged, "memory");
+    note(&monitor.disk(), &DiskMonitor::volumesChanged, "volumes");
+    note(&monitor.disk(), &DiskMonitor::readHistoryChanged, "disk");
+    note(&monitor.network(), &NetworkMonitor::interfacesChanged, "network");
+    note(&monitor.battery(), &BatteryMonitor::batteryChanged, "battery");
+    note(&monitor.sensor(), &SensorMonitor::fansChanged, "sensor");
+    note(&monitor.process(), &ProcessMonitor::topCPUProcessesChanged, "process");
+    note(&monitor, &SystemMonitor::changed, "changed");
+    monitor.updateCycle();
+    EXPECT_EQ(order.join(QLatin1Char(' ')),
+              QStringLiteral("usage load uptime memory volumes disk network battery sensor process changed"));
+}
+
+TEST_F(SystemMonitorTest, TheTimerRunsOneCycleEachTime) {
+    monitor.start();
+    auto* timer = monitor.findChild<QTimer*>();
+    ASSERT_NE(timer, nullptr);
+    ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
+    EXPECT_EQ(monitor.updateCycleCount(), 2);
 }
 
 TEST_F(SystemMonitorTest, TheSensorsBehindAControllerAreConnectedInTheFirstCycle) {
