@@ -47,7 +47,7 @@ std::unique_ptr<SystemMonitor> replayRoots(const SamplingPlan& plan, const Setti
 std::variant<std::unique_ptr<SystemMonitor>, UnreadableRoot> sampledMonitor(const SamplingPlan& plan,
                                                                             const SettingsStore& settings) {
     for (const QString& root : plan.roots) {
-        if (!QFileInfo(root).isDir() || !QDir(root).isReadable())
+        if (!QFileInfo(root).isDir() || !QFileInfo(root).isExecutable() || !QDir(root).isReadable())
             return UnreadableRoot{QStringLiteral("Cannot read the directory \"%1\"").arg(root)};
     }
     return plan.roots.isEmpty() ? sampleThisMachine(plan, settings) : replayRoots(plan, settings);

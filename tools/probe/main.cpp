@@ -7,10 +7,11 @@
 #include <QJsonDocument>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
-constexpr int exitUnreadable = 1;
+constexpr int exitUnreadable = 1; // or unwritable
 constexpr int exitUsage = 2;
 
 int fail(const QString& message, int status) {
@@ -29,6 +30,7 @@ int main(int argumentCount, char** argumentValues) {
     if (const auto* error = std::get_if<orvelle::UnreadableRoot>(&result))
         return fail(error->message, exitUnreadable);
     const QByteArray text = QJsonDocument(std::get<QJsonObject>(result)).toJson();
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
-    return 0;
+    const auto size = static_cast<std::size_t>(text.size());
+    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    return isWritten ? EXIT_SUCCESS : fail(QStringLiteral("Cannot write the result"), exitUnreadable);
 }

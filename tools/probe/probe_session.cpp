@@ -4,10 +4,14 @@
 #include "probe/monitor_json.h"
 #include "settings/settings_store.h"
 
+#include <QTemporaryDir>
+
 namespace orvelle {
 
 std::variant<QJsonObject, UnreadableRoot> probe(const SamplingPlan& plan) {
-    const SettingsStore settings;
+    // Sampling asks no more of the settings than their defaults, so the user's own are left alone.
+    const QTemporaryDir directory;
+    const SettingsStore settings(directory.filePath(QStringLiteral("settings.conf")));
     const auto sampled = sampledMonitor(plan, settings);
     if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
         return *error;
