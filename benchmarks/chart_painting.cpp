@@ -1,42 +1,16 @@
 #include "charts/animated_bar_chart.h"
 #include "charts/animated_line_graph.h"
 #include "charts/animated_ring_chart.h"
+#include "paint_cost.h"
 #include "settings/system_colors.h"
 
-#include <QGuiApplication>
 #include <QImage>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
-#include <functional>
-#include <limits>
 
-/// Prints how much processor time it takes to paint the charts: once with changed data, once only repainted.
-/// Start it with QT_QPA_PLATFORM=offscreen from a release build.
-namespace orvelle {
+namespace orvelle::bench {
 namespace {
-
-double processorMilliseconds() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-/// The least time of many: whatever else the machine does only ever adds to it.
-double leastMilliseconds(const std::function<void()>& paint) {
-    constexpr int rounds = 60;
-    constexpr int paintsPerRound = 5;
-    double least = std::numeric_limits<double>::infinity();
-    for (int round = 0; round < rounds; ++round) {
-        const double start = processorMilliseconds();
-        for (int count = 0; count < paintsPerRound; ++count)
-            paint();
-        least = std::min(least, (processorMilliseconds() - start) / paintsPerRound);
-    }
-    return least;
-}
 
 /// `Cache` is the kind of cache that `paint` takes.
 template <typename Cache, typename Paint>
@@ -48,8 +22,7 @@ void measure(const char* name, double pixelsPerPoint, const Paint& paint) {
     Cache kept;
     const double changed = leastMilliseconds([&] { paint(painter, static_cast<Cache*>(nullptr)); });
     const double repainted = leastMilliseconds([&] { paint(painter, &kept); });
-    std::printf("%-28s %gx   changed %6.3f ms   repainted %6.3f ms\n", name, pixelsPerPoint, changed,
-                repainted);
+    std::printf("| %s, %gx | %.3f | %.3f |\n", name, pixelsPerPoint, changed, repainted);
 }
 
 QList<double> samples(int count) {
@@ -104,10 +77,11 @@ void measureAll(double pixelsPerPoint) {
 }
 
 } // namespace
-} // namespace orvelle
 
-int main(int argumentCount, char** arguments) {
-    const QGuiApplication application(argumentCount, arguments);
-    orvelle::measureAll(1);
-    orvelle::measureAll(2);
+void printChartCosts() {
+    std::puts("| chart, milliseconds | with changed data | repainted |\n| --- | --- | --- |");
+    for (const double pixelsPerPoint : {1.0, 2.0})
+        measureAll(pixelsPerPoint);
 }
+
+} // namespace orvelle::bench

@@ -1,0 +1,59 @@
+#include "app/modules.h"
+#include "common/example_machines.h"
+#include "core/system_monitor.h"
+#include "paint_cost.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+#include <QImage>
+#include <QMetaEnum>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace orvelle::bench {
+namespace {
+
+constexpr double barHeight = 22;
+
+/// What a redraw of the bar does: builds the view of each module anew and paints it in its place.
+void paintItems(QPainter& painter, std::span<const Module> shown, const ModuleContext& context) {
+    double left = 0;
+    for (const Module& module : shown) {
+        module.makeMenuBarView(context)->paint(painter, {left, 0, module.length, barHeight});
+        left += module.length;
+    }
+}
+
+double costOf(std::span<const Module> shown, const ModuleContext& context, double pixelsPerPoint) {
+    double length = 0;
+    for (const Module& module : shown)
+        length += module.length;
+    QImage image((QSizeF(length, barHeight) * pixelsPerPoint).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(pixelsPerPoint);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    return leastMilliseconds([&] { paintItems(painter, shown, context); });
+}
+
+} // namespace
+
+void printItemCosts() {
+    const QTemporaryDir folder;
+    SettingsStore settings(folder.filePath(QStringLiteral("orvelle.conf")));
+    const ThemeManager themes(settings);
+    const auto monitor = exampleMonitor(ExampleMachine::laptop, settings);
+    const ModuleContext context{*monitor, settings, themes};
+    std::puts("| menu bar, milliseconds | two items, 1x | six items, 1x | six items, 2x |\n"
+              "| --- | --- | --- | --- |");
+    const QMetaEnum styles = QMetaEnum::fromType<MenuBarDisplayStyle>();
+    for (int index = 0; index < styles.keyCount(); ++index) {
+        settings.setMenuBarDisplayStyle(static_cast<MenuBarDisplayStyle>(styles.value(index)));
+        std::printf("| %s | %.3f | %.3f | %.3f |\n", styles.key(index),
+                    costOf(modules().first(2), context, 1), costOf(modules(), context, 1),
+                    costOf(modules(), context, 2));
+    }
+    std::puts("");
+}
+
+} // namespace orvelle::bench
