@@ -1,9 +1,12 @@
 #include "app/app_delegate.h"
 
+#include "app/context_menu_entries.h"
 #include "app/throttle.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
+
+#include <QCoreApplication>
 
 namespace orvelle {
 
@@ -33,6 +36,8 @@ void AppDelegate::applicationWillTerminate() {
 
 void AppDelegate::setupStatusItems() {
     m_cancellables.clear();
+    if (m_contextMenu != nullptr)
+        m_contextMenu->close(); // the item above it goes
     for (StatusItem* item : std::as_const(m_statusItems))
         m_statusBar.removeItem(*item);
     m_statusItems.clear();
@@ -45,6 +50,7 @@ void AppDelegate::setupStatusItems() {
 void AppDelegate::createStatusItem(const Module& module) {
     StatusItem& item = m_statusBar.addItem(module.key, module.length);
     m_statusItems.insert(module.key, &item);
+    item.setClickHandler([this, &item](ClickButton button) { statusItemClicked(item, button); });
 
     const auto redraw = [this, &item, makeView = module.makeMenuBarView] {
         item.setView(makeView({m_monitor, m_settings, m_themes}));
@@ -56,6 +62,21 @@ void AppDelegate::createStatusItem(const Module& module) {
     // What the user chooses is seen at once. The theme is one of the settings, and has changed by then.
     connect(&m_settings, &SettingsStore::changed, throttle.get(), redraw);
     m_cancellables.push_back(std::move(throttle));
+}
+
+void AppDelegate::statusItemClicked(StatusItem& item, ClickButton button) {
+    if (button == ClickButton::right)
+        showContextMenu(item);
+}
+
+void AppDelegate::showContextMenu(const StatusItem& item) {
+    if (m_contextMenu == nullptr)
+        m_contextMenu = m_statusBar.makeContextMenu();
+    m_contextMenu->show(item, contextMenuEntries(nullptr, &AppDelegate::quitApp));
+}
+
+void AppDelegate::quitApp() {
+    QCoreApplication::quit();
 }
 
 AppDelegate::Visibility AppDelegate::currentVisibility() const {

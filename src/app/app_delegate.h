@@ -41,6 +41,12 @@ public:
     /// time.
     void checkVisibility();
 
+    /// What a click on an item does: a right click opens its menu.
+    void statusItemClicked(StatusItem& item, ClickButton button);
+    void showContextMenu(const StatusItem& item);
+    /// Ends the program.
+    static void quitApp();
+
     /// The items that exist now, by module key.
     [[nodiscard]] const QMap<QString, StatusItem*>& statusItems() const { return m_statusItems; }
     /// Whether the settings are being re-checked.
@@ -62,6 +68,7 @@ private:
     StatusBar& m_statusBar;
     /// One per item; what an item is subscribed to ends with it.
     std::vector<std::unique_ptr<Throttle>> m_cancellables;
+    std::unique_ptr<ContextMenu> m_contextMenu; ///< null before the first right click
     std::unique_ptr<QTimer> m_refreshTimer;
     Visibility m_previousVisibility;
 };

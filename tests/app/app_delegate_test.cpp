@@ -190,5 +190,39 @@ TEST_F(AppDelegateTest, DropsAHeldRedrawWhenTheItemsAreRebuilt) {
     EXPECT_EQ(bar.items.front()->viewCount, before);
 }
 
+TEST_F(AppDelegateTest, OpensTheMenuUnderTheItemThatIsClickedWithTheRightButton) {
+    delegate.applicationDidFinishLaunching();
+    bar.calls.clear();
+    bar.items.front()->click(ClickButton::right);
+    bar.items.back()->click(ClickButton::right);
+    EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("menu cpu"),
+                                      QStringLiteral("menu ") + bar.items.back()->identifier()}));
+}
+
+TEST_F(AppDelegateTest, NeverOpensTheMenuOnALeftClick) {
+    delegate.applicationDidFinishLaunching();
+    bar.calls.clear();
+    bar.items.front()->click(ClickButton::left);
+    EXPECT_TRUE(bar.calls.isEmpty());
+}
+
+TEST_F(AppDelegateTest, ClosesTheMenuBeforeItsItemIsRemoved) {
+    delegate.applicationDidFinishLaunching();
+    bar.items.front()->click(ClickButton::right);
+    bar.calls.clear();
+    settings.setShowMemory(!settings.showMemory());
+    delegate.checkVisibility();
+    EXPECT_EQ(bar.calls.value(0), QStringLiteral("close menu"));
+}
+
+TEST_F(AppDelegateTest, EndsTheProgramFromTheMenu) {
+    delegate.applicationDidFinishLaunching();
+    bar.items.front()->click(ClickButton::right);
+    ASSERT_EQ(bar.menuEntries.size(), 1U);
+    EXPECT_EQ(bar.menuEntries.front().title, QStringLiteral("Quit Orvelle"));
+    QTimer::singleShot(0, &bar, bar.menuEntries.front().action);
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
 } // namespace
 } // namespace orvelle

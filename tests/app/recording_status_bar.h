@@ -36,6 +36,23 @@ public:
         double m_length;
     };
 
+    class Menu final : public ContextMenu {
+    public:
+        explicit Menu(RecordingStatusBar& bar)
+            : m_bar(bar) {}
+        void show(const StatusItem& item, std::vector<MenuEntry> entries) override {
+            m_bar.calls.append(QStringLiteral("menu ") + item.identifier());
+            m_bar.menuEntries = std::move(entries);
+        }
+        void close() override {
+            m_bar.calls.append(QStringLiteral("close menu"));
+            m_bar.menuEntries.clear();
+        }
+
+    private:
+        RecordingStatusBar& m_bar;
+    };
+
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
         calls.append(QStringLiteral("add ") + identifier);
         items.push_back(std::make_unique<Item>(identifier, length));
@@ -46,6 +63,10 @@ public:
         std::erase_if(items, [&item](const auto& present) { return present.get() == &item; });
     }
 
+    [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override {
+        return std::make_unique<Menu>(*this);
+    }
+
     [[nodiscard]] QStringList identifiers() const {
         QStringList identifiers;
         for (const auto& item : items)
@@ -54,6 +75,7 @@ public:
     }
 
     std::vector<std::unique_ptr<Item>> items; ///< present now, from left to right
+    std::vector<MenuEntry> menuEntries;       ///< of the menu that is shown
     QStringList calls;
 };
 

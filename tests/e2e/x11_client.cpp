@@ -1,5 +1,6 @@
 // Another program on the same desktop, for the end-to-end tests: an ordinary window, or a panel that reserves
-// the top of the screen. It prints its window's id once it is mapped, and stays until it is ended.
+// the top of the screen. It prints its window's id once it is mapped and "pressed" for each press of a mouse
+// button on it, and stays until it is ended.
 //
 //   x11_client window
 //   x11_client panel HEIGHT      (pixels)
@@ -7,6 +8,7 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -68,18 +70,23 @@ int main(int argumentCount, char** arguments) {
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const std::uint16_t width = isPanel ? screen->width_in_pixels : 400;
     const auto height = static_cast<std::uint16_t>(isPanel ? std::atoi(arguments[2]) : 300);
-    const std::uint32_t color = 0x3070A0;
+    const std::array<std::uint32_t, 2> values{0x3070A0, XCB_EVENT_MASK_BUTTON_PRESS}; // background, events
 
     const xcb_window_t window = xcb_generate_id(connection);
     xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, width, height, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_BACK_PIXEL, &color);
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual,
+                      XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
     if (isPanel)
         becomePanel(connection, window, width, height);
     xcb_map_window(connection, window);
     xcb_flush(connection);
     std::printf("0x%x\n", window);
     std::fflush(stdout);
-    while (std::unique_ptr<xcb_generic_event_t, FreeReply>(xcb_wait_for_event(connection)))
-        continue;
+    while (const std::unique_ptr<xcb_generic_event_t, FreeReply> event{xcb_wait_for_event(connection)}) {
+        if (event->response_type == XCB_BUTTON_PRESS) {
+            std::puts("pressed");
+            std::fflush(stdout);
+        }
+    }
     return EXIT_SUCCESS;
 }

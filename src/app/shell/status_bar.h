@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shell/status_item.h"
+#include "app/shell/context_menu.h"
 
 #include <QObject>
 
@@ -18,6 +18,9 @@ public:
 
     /// Destroys the item; those to its left move right to close the gap. A bar without items shows nothing.
     virtual void removeItem(StatusItem& item) = 0;
+
+    /// A menu, not shown yet, for the items of this bar, which must outlive it.
+    [[nodiscard]] virtual std::unique_ptr<ContextMenu> makeContextMenu() = 0;
 
 Q_SIGNALS:
     /// The items have been painted for the first time since the program started.

@@ -75,6 +75,13 @@ BarItem* BarWindow::itemAt(const QPointF& position) const {
     return found == m_items.end() ? nullptr : found->get();
 }
 
+QRectF BarWindow::desktopBounds(const StatusItem& item) const {
+    const auto found =
+        std::ranges::find_if(m_items, [&item](const auto& present) { return present.get() == &item; });
+    Q_ASSERT(found != m_items.end());
+    return (*found)->bounds().translated(position());
+}
+
 void BarWindow::mousePressEvent(QMouseEvent* event) {
     if (m_pressedItem != nullptr || !clickButton(event->button()))
         return;

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_items.empty(); }
     /// The item at a position in points from the bar's upper left corner; null between and beside them.
     [[nodiscard]] BarItem* itemAt(const QPointF& position) const;
+    /// Where one of the bar's items stands, in points of the desktop.
+    [[nodiscard]] QRectF desktopBounds(const StatusItem& item) const;
 
 Q_SIGNALS:
     /// The first item came or the last one went.

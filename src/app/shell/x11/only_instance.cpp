@@ -1,8 +1,6 @@
 #include "app/shell/desktop.h"
 #include "app/shell/x11/x11_connection.h"
 
-#include <string_view>
-
 namespace orvelle {
 namespace {
 
@@ -23,19 +21,16 @@ bool becomeOnlyInstance() {
     xcb_connection_t* connection = xcbConnection();
     if (connection == nullptr)
         return true;
-    constexpr std::string_view name = "_ORVELLE_INSTANCE";
-    const auto atom = takeReply(xcb_intern_atom_reply(
-        connection, xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
-        nullptr));
-    if (!atom)
+    const xcb_atom_t instance = internAtom(connection, "_ORVELLE_INSTANCE");
+    if (instance == XCB_ATOM_NONE)
         return true;
     // Nobody else may ask between the question and the claim.
     xcb_grab_server(connection);
     const auto owner = takeReply(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr));
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, instance), nullptr));
     const bool isOnly = !owner || owner->owner == XCB_WINDOW_NONE;
     if (isOnly)
-        xcb_set_selection_owner(connection, createHiddenWindow(connection), atom->atom, XCB_CURRENT_TIME);
+        xcb_set_selection_owner(connection, createHiddenWindow(connection), instance, XCB_CURRENT_TIME);
     xcb_ungrab_server(connection);
     xcb_flush(connection);
     return isOnly;

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace orvelle {
 
@@ -21,5 +22,8 @@ ReplyPointer<Reply> takeReply(Reply* reply) {
 
 /// Qt's connection to the X server; null off X11. Needs the application object.
 [[nodiscard]] xcb_connection_t* xcbConnection();
+
+/// The number of a name; XCB_ATOM_NONE when the server does not answer.
+[[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);
 
 } // namespace orvelle

@@ -1,6 +1,7 @@
 #include "app/shell/x11/x11_status_bar.h"
 
 #include "app/shell/desktop.h"
+#include "app/shell/x11/x11_context_menu.h"
 
 namespace orvelle {
 
@@ -16,6 +17,10 @@ StatusItem& X11StatusBar::addItem(const QString& identifier, double length) {
 
 void X11StatusBar::removeItem(StatusItem& item) {
     m_window.removeItem(item);
+}
+
+std::unique_ptr<ContextMenu> X11StatusBar::makeContextMenu() {
+    return std::make_unique<X11ContextMenu>(m_window);
 }
 
 std::unique_ptr<StatusBar> makeStatusBar() {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/shell/context_menu.h"
+
+#include <QRasterWindow>
+
+#include <optional>
+
+namespace orvelle {
+
+/// A menu's picture, and what the mouse and the keys choose in it. Where it stands and when it closes is the
+/// work of `TransientWindow`.
+class MenuWindow : public QRasterWindow {
+    Q_OBJECT
+
+public:
+    MenuWindow();
+
+    void setEntries(std::vector<MenuEntry> entries);
+    [[nodiscard]] const std::vector<MenuEntry>& entries() const { return m_entries; }
+    /// The size, in points, that shows every entry whole.
+    [[nodiscard]] QSize wantedSize() const;
+    /// The entry that Enter would choose.
+    [[nodiscard]] std::optional<std::size_t> current() const { return m_current; }
+
+Q_SIGNALS:
+    void chosen(std::size_t index);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void setCurrent(std::optional<std::size_t> index);
+    [[nodiscard]] std::optional<std::size_t> entryAt(const QPointF& position) const;
+    void paintRow(QPainter& painter, std::size_t index, const QRect& row) const;
+
+    std::vector<MenuEntry> m_entries;
+    std::optional<std::size_t> m_current;
+};
+
+} // namespace orvelle

@@ -1,0 +1,87 @@
+#include "app/shell/x11/transient_window.h"
+
+#include "app/shell/x11/pointer_presses.h"
+#include "app/shell/x11/transient_geometry.h"
+#include "app/shell/x11/x11_connection.h"
+
+#include <QCursor>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWindow>
+
+namespace orvelle {
+namespace {
+
+bool desktopComposesWindows() {
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return false;
+    const auto owner = takeReply(xcb_get_selection_owner_reply(
+        connection, xcb_get_selection_owner(connection, internAtom(connection, "_NET_WM_CM_S0")), nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+} // namespace
+
+TransientWindow::TransientWindow(QWindow& window)
+    : m_window(window) {
+    // Not a popup, whose grab would take the click that closes it away from what was clicked.
+    m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    m_window.installEventFilter(this);
+    connect(&m_window, &QWindow::activeChanged, this, &TransientWindow::activeChanged);
+    connect(&m_window, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible)
+            close();
+    });
+}
+
+TransientWindow::~TransientWindow() = default;
+
+bool TransientWindow::paintsItsCorners() const {
+    return m_window.requestedFormat().hasAlpha() && desktopComposesWindows();
+}
+
+void TransientWindow::show(QScreen& screen, const QRect& geometry) {
+    m_window.setScreen(&screen);
+    // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
+    // step is 2 pixels.
+    m_window.setBaseSize(geometry.size());
+    m_window.setGeometry(geometry);
+    m_window.setMask(paintsItsCorners() ? QRegion() : roundedRegion(geometry.size(), cornerRadiusPoints));
+    m_wasActive = false;
+    m_presses = std::make_unique<PointerPresses>();
+    connect(m_presses.get(), &PointerPresses::pressed, this, &TransientWindow::pressed);
+    m_window.show();
+    m_window.requestActivate();
+}
+
+void TransientWindow::close() {
+    if (!isShown())
+        return;
+    m_presses.release()->deleteLater(); // it may be what asks for this
+    m_window.hide();
+    Q_EMIT closed();
+}
+
+void TransientWindow::pressed() {
+    const QPoint position = QCursor::pos();
+    if (!m_window.geometry().contains(position) && !(m_isSpared && m_isSpared(position)))
+        close();
+}
+
+void TransientWindow::activeChanged() {
+    if (m_window.isActive())
+        m_wasActive = true;
+    else if (m_wasActive)
+        close();
+}
+
+bool TransientWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        close();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orvelle

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+#include <functional>
+#include <memory>
+
+class QScreen;
+class QWindow;
+
+namespace orvelle {
+
+class PointerPresses;
+
+/// Makes a window transient: it opens over the others with the keyboard in it and closes with Escape, when
+/// another window gets the keyboard, and when a mouse button goes down outside of it, which takes nothing
+/// from what was clicked. Its corners are rounded. Main thread only.
+class TransientWindow : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr int cornerRadiusPoints = 10;
+
+    /// The window must outlive the object and must not have been shown. Where it is partly transparent and
+    /// the desktop composes its windows it paints its corners itself; else they are cut off.
+    explicit TransientWindow(QWindow& window);
+    ~TransientWindow() override;
+
+    /// Presses at positions, in points of the desktop, for which this holds do not close the window.
+    void setSpared(std::function<bool(const QPoint&)> isSpared) { m_isSpared = std::move(isSpared); }
+
+    /// `geometry` is in points of the desktop.
+    void show(QScreen& screen, const QRect& geometry);
+    void close();
+    [[nodiscard]] bool isShown() const { return m_presses != nullptr; }
+
+Q_SIGNALS:
+    void closed();
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void pressed();
+    void activeChanged();
+    [[nodiscard]] bool paintsItsCorners() const;
+
+    QWindow& m_window;
+    std::function<bool(const QPoint&)> m_isSpared;
+    bool m_wasActive = false;
+    std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
+};
+
+} // namespace orvelle

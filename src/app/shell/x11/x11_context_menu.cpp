@@ -1,0 +1,31 @@
+#include "app/shell/x11/x11_context_menu.h"
+
+#include "app/shell/x11/transient_geometry.h"
+
+#include <QScreen>
+
+namespace orvelle {
+
+X11ContextMenu::X11ContextMenu(const BarWindow& bar)
+    : m_bar(bar) {
+    QObject::connect(&m_window, &MenuWindow::chosen, &m_transient,
+                     [this](std::size_t index) { choose(index); });
+}
+
+void X11ContextMenu::show(const StatusItem& item, std::vector<MenuEntry> entries) {
+    close();
+    m_window.setEntries(std::move(entries));
+    QScreen& screen = *m_bar.screen();
+    m_transient.show(screen,
+                     menuGeometry(m_bar.desktopBounds(item), m_window.wantedSize(), screen.geometry()));
+}
+
+void X11ContextMenu::choose(std::size_t index) {
+    // A copy, because the action may end the menu.
+    const std::function<void()> action = m_window.entries().at(index).action;
+    close();
+    if (action)
+        action();
+}
+
+} // namespace orvelle

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/shell/x11/bar_window.h"
+#include "app/shell/x11/menu_window.h"
+#include "app/shell/x11/transient_window.h"
+
+namespace orvelle {
+
+/// The menu of an item in the program's own bar.
+class X11ContextMenu final : public ContextMenu {
+public:
+    explicit X11ContextMenu(const BarWindow& bar);
+
+    void show(const StatusItem& item, std::vector<MenuEntry> entries) override;
+    void close() override { m_transient.close(); }
+
+private:
+    void choose(std::size_t index);
+
+    const BarWindow& m_bar;
+    MenuWindow m_window;
+    TransientWindow m_transient{m_window};
+};
+
+} // namespace orvelle

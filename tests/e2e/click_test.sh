@@ -1,0 +1,134 @@
+#!/bin/bash
+# The real program in a real X server: what clicks on its items do.
+#
+#   click_test.sh ORVELLE X11_CLIENT
+
+orvelle=$1
+client=$2
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool import convert
+
+export XDG_CONFIG_HOME=$workDirectory/config QT_FORCE_STDERR_LOGGING=1
+unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+
+windowIsShown() { [[ -n $(xdotool search --onlyvisible --name "$1" 2>/dev/null) ]]; }
+menuIsShown() { windowIsShown '^Orvelle menu$'; }
+menuIsHidden() { ! menuIsShown; }
+menuHasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(menuWindow)" ]]; }
+menuWindow() { xdotool search --onlyvisible --name '^Orvelle menu$' | tail -1; }
+
+# startOrvelle SCALE
+startOrvelle() {
+    QT_SCALE_FACTOR=$1 "$orvelle" 2>"$workDirectory/orvelle.log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    scale=$1
+    waitUntil "the bar appears" windowIsShown '^Orvelle$' || cat "$workDirectory/orvelle.log"
+}
+
+# expectEnd DESCRIPTION: the program ends by itself, with status 0.
+expectEnd() {
+    programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
+    waitUntil "$1" programIsGone || return
+    wait "$orvellePid"
+    expectEqual "the program ends with status" 0 $?
+}
+
+# clickAt BUTTON X Y: in points of a screen at the origin.
+clickAt() { xdotool mousemove "$(pixels "$2")" "$(pixels "$3")" click "$1"; }
+pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
+
+# The last item's middle, in points from the left.
+lastItemMiddle() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale - 8 - 30 }'; }
+
+openMenu() {
+    clickAt 3 "$(lastItemMiddle)" 11
+    waitUntil "a right click opens the menu" menuIsShown
+    waitUntil "the menu has the keyboard" menuHasTheKeyboard
+}
+
+menuIsInside() {
+    local left top width height
+    IFS=', x' read -r left top width height < <(geometry "$(menuWindow)")
+    ((left >= 0 && left + width <= 1280 && top >= $(pixels 22) && top <= $(pixels 22) + 1 && height > 0))
+}
+
+# keepPicture NAME: for whoever wants to see what was tested.
+keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
+
+testMenu() {
+    openMenu
+    waitUntil "the menu stands below the bar, on the screen" menuIsInside || geometry "$(menuWindow)"
+    keepPicture "menu-$scale"
+    xdotool key Escape
+    waitUntil "Escape closes the menu" menuIsHidden
+}
+
+testLeftClick() {
+    clickAt 1 "$(lastItemMiddle)" 11
+    sleep 0.3
+    expectEqual "a left click opens no menu" "" "$(menuWindow 2>/dev/null)"
+}
+
+testClickElsewhere() {
+    local window
+    "$client" window >"$workDirectory/window" &
+    local pid=$!
+    ownedPids+=("$pid")
+    waitUntil "another window opens" test -s "$workDirectory/window"
+    window=$(<"$workDirectory/window")
+    waitUntil "the other window is shown" test -n "$(geometry "$window")"
+    openMenu
+    local left top
+    IFS=', x' read -r left top _ < <(geometry "$window")
+    xdotool mousemove $((left + 20)) $((top + 20)) click 1
+    waitUntil "a click on another window closes the menu" menuIsHidden
+    wasClicked() { grep -q pressed "$workDirectory/window"; }
+    waitUntil "and reaches that window" wasClicked
+    kill "$pid"
+    wait "$pid" 2>/dev/null
+}
+
+testClickOnDesktop() {
+    openMenu
+    clickAt 2 300 "$(awk -v scale="$scale" 'BEGIN { printf "%d", 700 / scale }')"
+    waitUntil "a click on the bare desktop closes the menu" menuIsHidden
+    xdotool key Escape # the window manager may have opened a menu of its own
+}
+
+testClickOnBar() {
+    openMenu
+    clickAt 1 100 11
+    waitUntil "a click on the empty bar closes the menu" menuIsHidden
+}
+
+testQuit() {
+    openMenu
+    xdotool key "$@"
+    expectEnd "the keys $* in the menu end the program"
+}
+
+testQuitWithTheMouse() {
+    openMenu
+    local left top
+    IFS=', x' read -r left top _ < <(geometry "$(menuWindow)")
+    xdotool mousemove $((left + 30)) $((top + $(pixels 17))) click 1
+    expectEnd "a click on the entry ends the program"
+}
+
+start_x_server 1280x800 && start_window_manager || exit 1
+startOrvelle 1
+testMenu
+testLeftClick
+testClickElsewhere
+testClickOnDesktop
+testClickOnBar
+testQuit ctrl+q
+startOrvelle 1.5
+testMenu
+testQuit Down Return
+startOrvelle 2
+testMenu
+testQuitWithTheMouse
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
