@@ -65,7 +65,7 @@ void TransientWindow::close() {
 
 void TransientWindow::pressed() {
     const QPoint position = QCursor::pos();
-    if (!m_window.geometry().contains(position) && !(m_isSpared && m_isSpared(position)))
+    if (!m_window.geometry().contains(position))
         close();
 }
 

@@ -27,9 +27,6 @@ public:
     explicit TransientWindow(QWindow& window);
     ~TransientWindow() override;
 
-    /// Presses at positions, in points of the desktop, for which this holds do not close the window.
-    void setSpared(std::function<bool(const QPoint&)> isSpared) { m_isSpared = std::move(isSpared); }
-
     /// `geometry` is in points of the desktop.
     void show(QScreen& screen, const QRect& geometry);
     void close();
@@ -45,7 +42,6 @@ private:
     [[nodiscard]] bool paintsItsCorners() const;
 
     QWindow& m_window;
-    std::function<bool(const QPoint&)> m_isSpared;
     bool m_wasActive = false;
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
 };
