@@ -40,7 +40,7 @@ allow settings settings/
 allow look look/ settings/
 allow charts charts/ look/ settings/
 allow app/formatters app/formatters/
-allow app/shell app/shell/ look/ settings/
+allow app/shell app/shell/ charts/ look/ settings/
 allow app/menu_bar_items app/menu_bar_items/ app/formatters/ app/shell/status_item_view.h charts/ core/ look/ settings/
 allow panels panels/ app/formatters/ charts/ core/ look/ settings/
 allow settings_ui settings_ui/ app/formatters/ charts/ look/ settings/

@@ -18,6 +18,16 @@ double coreLoad(const CPUMonitor::CoreUsage& core) {
     return core.user + core.system;
 }
 
+ItemPart coreBars(const QList<BarLook>& bars) {
+    const double width = coreBarsWidth(bars.size());
+    const auto paint = [bars](QPainter& painter, const QRectF& frame) {
+        const QList<QRectF> places = coreBarSlots(bars.size());
+        for (qsizetype core = 0; core < bars.size(); ++core)
+            MiniBar::paint(painter, places.at(core).translated(frame.topLeft()), bars.at(core));
+    };
+    return {.size = {width, coreBarsHeight}, .rigidWidth = width, .paint = paint};
+}
+
 } // namespace
 
 CPUMenuBarItem::CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings,
@@ -27,20 +37,35 @@ CPUMenuBarItem::CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& s
     , m_themes(themes) {}
 
 void CPUMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, body());
+    paintWithBars(painter, bounds, bars().looks);
+}
+
+void CPUMenuBarItem::paintWithBars(QPainter& painter, const QRectF& bounds,
+                                   const QList<BarLook>& shown) const {
+    paintCentred(painter, bounds, body(shown));
+}
+
+EasedBars CPUMenuBarItem::bars() const {
+    if (m_settings.menuBarDisplayStyle() != MenuBarDisplayStyle::miniBars)
+        return {};
+    const QColor color = m_themes.cpuColor(m_settings);
+    EasedBars bars{.looks = {}, .fullLength = coreBarsHeight};
+    for (const CPUMonitor::CoreUsage& core : m_monitor.coreUsages())
+        bars.looks.append(MiniBar{.value = coreLoad(core), .color = color}.look());
+    return bars;
 }
 
 QString CPUMenuBarItem::accessibleText() const {
     return QStringLiteral("CPU %1").arg(formatPercent(m_monitor.totalUsage()));
 }
 
-ItemPart CPUMenuBarItem::body() const {
+ItemPart CPUMenuBarItem::body(const QList<BarLook>& bars) const {
     const QColor color = m_themes.cpuColor(m_settings);
     const ItemPart icon = iconPart(u"cpu", color);
     const ItemPart usage = valuePart(formatPercent(m_monitor.totalUsage()));
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return row({icon, coreBars(color)}, spacing);
+        return row({icon, coreBars(bars)}, spacing);
     case MenuBarDisplayStyle::textOnly:
         return usage;
     case MenuBarDisplayStyle::iconAndText:
@@ -51,19 +76,6 @@ ItemPart CPUMenuBarItem::body() const {
         break;
     }
     return row({icon, coreDots(color)}, spacing);
-}
-
-ItemPart CPUMenuBarItem::coreBars(const QColor& color) const {
-    const QList<CPUMonitor::CoreUsage> cores = m_monitor.coreUsages();
-    const double width = coreBarsWidth(cores.size());
-    const auto paint = [cores, color](QPainter& painter, const QRectF& frame) {
-        const QList<QRectF> bars = coreBarSlots(cores.size());
-        for (qsizetype core = 0; core < cores.size(); ++core) {
-            MiniBar{.value = coreLoad(cores.at(core)), .color = color}.paint(
-                painter, bars.at(core).translated(frame.topLeft()));
-        }
-    };
-    return {.size = {width, coreBarsHeight}, .rigidWidth = width, .paint = paint};
 }
 
 ItemPart CPUMenuBarItem::coreDots(const QColor& color) const {

@@ -16,11 +16,12 @@ public:
     CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
     void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] EasedBars bars() const override;
+    void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override;
     [[nodiscard]] QString accessibleText() const override;
 
 private:
-    [[nodiscard]] ItemPart body() const;
-    [[nodiscard]] ItemPart coreBars(const QColor& color) const;
+    [[nodiscard]] ItemPart body(const QList<BarLook>& bars) const;
     [[nodiscard]] ItemPart coreDots(const QColor& color) const;
 
     const CPUMonitor& m_monitor;

@@ -7,6 +7,8 @@
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 
+#include <algorithm>
+
 namespace orvelle {
 namespace {
 
@@ -26,20 +28,32 @@ MemoryMenuBarItem::MemoryMenuBarItem(const MemoryMonitor& monitor, const Setting
     , m_themes(themes) {}
 
 void MemoryMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, body());
+    paintWithBars(painter, bounds, bars().looks);
+}
+
+void MemoryMenuBarItem::paintWithBars(QPainter& painter, const QRectF& bounds,
+                                      const QList<BarLook>& shown) const {
+    paintCentred(painter, bounds, body(shown.value(0)));
+}
+
+EasedBars MemoryMenuBarItem::bars() const {
+    if (m_settings.menuBarDisplayStyle() != MenuBarDisplayStyle::miniBars)
+        return {};
+    const double level = std::min(usedFraction(m_monitor.info()), 1.0);
+    return {.looks = {{level, m_themes.memoryColor(m_settings)}}, .fullLength = barSize.width()};
 }
 
 QString MemoryMenuBarItem::accessibleText() const {
     return QStringLiteral("Memory %1").arg(formatPercent(usedFraction(m_monitor.info())));
 }
 
-ItemPart MemoryMenuBarItem::body() const {
+ItemPart MemoryMenuBarItem::body(const BarLook& bar) const {
     const QColor color = m_themes.memoryColor(m_settings);
     const double used = usedFraction(m_monitor.info());
     const ItemPart icon = iconPart(u"memorychip", color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return row({icon, levelBarPart(barSize, barCornerRadius, used, color),
+        return row({icon, levelBarPart(barSize, barCornerRadius, bar.ratio, bar.color),
                     valuePart(formatPercent(used), smallValueFontSize)},
                    spacing);
     case MenuBarDisplayStyle::textOnly:

@@ -17,10 +17,13 @@ public:
                       const ThemeManager& themes);
 
     void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] EasedBars bars() const override;
+    void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override;
     [[nodiscard]] QString accessibleText() const override;
 
 private:
-    [[nodiscard]] ItemPart body() const;
+    /// `bar` is drawn in the style that has one.
+    [[nodiscard]] ItemPart body(const BarLook& bar) const;
 
     const MemoryMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -73,6 +73,27 @@ TEST_F(CPUMenuBarItemTest, ABarIsAsHighAsItsCoreIsBusyAndShowsTheModulesColour) 
     EXPECT_EQ(shown.pixelColor(insideFirstBar, bottom - 13).alpha(), 0);
 }
 
+TEST_F(CPUMenuBarItemTest, PaintsTheBarsThatItIsGivenInTheMiddleOfAChange) {
+    run({0.4, 1});
+    const QList<BarLook> bars = item().bars().looks;
+    EXPECT_EQ(bars, (QList<BarLook>{{0.4, color()}, {1, SystemColors::red}}));
+    EXPECT_EQ(item().bars().fullLength, 14);
+    const QList<BarLook> moving{{0.8, Qt::magenta}, {0.2, Qt::magenta}};
+    const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
+        item().paintWithBars(painter, {0, 0, length, barHeight}, moving);
+    });
+    EXPECT_GT(countPixels(shown, Qt::magenta), 0);
+    EXPECT_EQ(countPixels(shown, SystemColors::red), 0);
+}
+
+TEST_F(CPUMenuBarItemTest, HasBarsToMoveInTheStyleOfBarsAlone) {
+    run({0.4, 1});
+    for (const MenuBarDisplayStyle style : allDisplayStyles) {
+        settings.setMenuBarDisplayStyle(style);
+        EXPECT_EQ(item().bars().looks.size(), style == MenuBarDisplayStyle::miniBars ? 2 : 0);
+    }
+}
+
 TEST_F(CPUMenuBarItemTest, WithoutCoresTheBarsAndDotsTakeNoRoom) {
     source.ticks = std::vector<CoreTicks>();
     monitor.emplace(source, clock.reader());

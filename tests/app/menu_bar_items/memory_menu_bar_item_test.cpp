@@ -41,6 +41,27 @@ TEST_F(MemoryMenuBarItemTest, MiniBarsShowsIconBarAndSmallText) {
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, length));
 }
 
+TEST_F(MemoryMenuBarItemTest, PaintsTheLevelThatItIsGivenInTheMiddleOfAChange) {
+    use(42);
+    EXPECT_EQ(item.bars().looks, (QList<BarLook>{{0.42, color()}}));
+    EXPECT_EQ(item.bars().fullLength, 28);
+    const ItemPart expected = row({icon(), levelBarPart({28, 8}, 3, 0.2, Qt::magenta),
+                                   valuePart(QStringLiteral("42%"), 10)}, // the text does not wait
+                                  3);
+    const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
+        item.paintWithBars(painter, {0, 0, length, barHeight}, {{0.2, Qt::magenta}});
+    });
+    EXPECT_EQ(shown, picture(expected, length));
+}
+
+TEST_F(MemoryMenuBarItemTest, HasALevelToMoveInTheStyleOfBarsAlone) {
+    use(42);
+    for (const MenuBarDisplayStyle style : allDisplayStyles) {
+        settings.setMenuBarDisplayStyle(style);
+        EXPECT_EQ(item.bars().looks.size(), style == MenuBarDisplayStyle::miniBars ? 1 : 0);
+    }
+}
+
 TEST_F(MemoryMenuBarItemTest, TextOnlyShowsTheUsedShareAlone) {
     use(7);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(valuePart(QStringLiteral("7.0%")), length));

@@ -1,5 +1,6 @@
 #include "app/shell/x11/bar_geometry.h"
 #include "app/shell/x11/bar_window.h"
+#include "support/manual_motion.h"
 
 #include <QScreen>
 #include <QTest>
@@ -26,7 +27,31 @@ private:
     int& m_paintCount;
 };
 
-class BarWindowTest : public ::testing::Test {
+/// One bar that fills its bounds from below, in a picture 20 points high.
+class LevelView final : public StatusItemView {
+public:
+    LevelView(double level, int& paintCount)
+        : m_level(level)
+        , m_paintCount(paintCount) {}
+
+    void paint(QPainter& painter, const QRectF& bounds) const override {
+        paintWithBars(painter, bounds, bars().looks);
+    }
+    void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override {
+        painter.fillRect(bounds.adjusted(0, bounds.height() * (1 - shown.at(0).ratio), 0, 0), Qt::red);
+        ++m_paintCount;
+    }
+    [[nodiscard]] EasedBars bars() const override {
+        return {.looks = {{m_level, Qt::red}}, .fullLength = 20};
+    }
+    [[nodiscard]] QString accessibleText() const override { return QStringLiteral("level"); }
+
+private:
+    double m_level;
+    int& m_paintCount;
+};
+
+class BarWindowTest : public ::testing::Test, protected ManualMotion {
 protected:
     BarWindowTest() { bar.setGeometry(0, 0, 400, barHeightPoints); }
 
@@ -36,7 +61,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([this] { return leftCount > 0; }));
     }
 
-    BarWindow bar;
+    BarWindow bar{motion};
     int leftCount = 0;
     int rightCount = 0;
     std::shared_ptr<StatusItemView> red = std::make_shared<FilledView>(Qt::red, leftCount);
@@ -92,6 +117,48 @@ TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseViewChanged) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return rightCount > rightBefore; }));
     EXPECT_EQ(rightCount, rightBefore + 1);
     EXPECT_EQ(leftCount, leftBefore);
+}
+
+TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseBarsMoveAndOnlyWhileTheyDo) {
+    BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
+    BarItem& right = bar.addItem(QStringLiteral("memory"), 70);
+    left.setView(red);
+    right.setView(std::make_shared<LevelView>(0.1, rightCount));
+    showBar();
+    EXPECT_FALSE(motion.isRunning());
+    const int leftBefore = leftCount;
+
+    right.setView(std::make_shared<LevelView>(0.9, rightCount));
+    EXPECT_TRUE(motion.isRunning());
+    for (int step = 0; step < 4; ++step) {
+        const int before = rightCount;
+        pass(0.04);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return rightCount > before; }));
+    }
+    pass(0.3);
+    EXPECT_FALSE(motion.isRunning());
+    QTest::qWait(50);
+    const int settledCount = rightCount;
+    QTest::qWait(100);
+    EXPECT_EQ(rightCount, settledCount);
+    EXPECT_EQ(leftCount, leftBefore);
+}
+
+TEST_F(BarWindowTest, DoesNotMoveBarsWhileItIsHidden) {
+    BarItem& item = bar.addItem(QStringLiteral("memory"), 70);
+    item.setView(std::make_shared<LevelView>(0.1, leftCount));
+    item.setView(std::make_shared<LevelView>(0.9, leftCount));
+    EXPECT_FALSE(motion.isRunning());
+}
+
+TEST_F(BarWindowTest, ForgetsTheBarsOfARemovedItem) {
+    BarItem& item = bar.addItem(QStringLiteral("memory"), 70);
+    item.setView(std::make_shared<LevelView>(0.1, leftCount));
+    showBar();
+    item.setView(std::make_shared<LevelView>(0.9, leftCount));
+    EXPECT_TRUE(motion.isRunning());
+    bar.removeItem(item);
+    EXPECT_FALSE(motion.isRunning());
 }
 
 TEST_F(BarWindowTest, KeepsAViewInsideItsItem) {

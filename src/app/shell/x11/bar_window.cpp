@@ -45,15 +45,18 @@ std::optional<ClickButton> clickButton(Qt::MouseButton button) {
 
 } // namespace
 
-BarWindow::BarWindow() {
+BarWindow::BarWindow(Motion& motion)
+    : m_motion(motion) {
     setTitle(QStringLiteral("Orvelle"));
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     connect(this, &QWindow::screenChanged, this, &BarWindow::layOut); // its scale may be another
 }
 
 BarItem& BarWindow::addItem(const QString& identifier, double length) {
-    m_items.push_back(std::make_unique<BarItem>(
-        identifier, length, [this](const BarItem& item) { repaintSoon(item.bounds().toAlignedRect()); }));
+    m_items.push_back(
+        std::make_unique<BarItem>(identifier, length, *this, m_motion, [this](const BarItem& item) {
+            repaintSoon(item.bounds().toAlignedRect());
+        }));
     layOut();
     if (m_items.size() == 1)
         Q_EMIT emptyChanged();
@@ -164,8 +167,7 @@ void BarWindow::paintItem(QPainter& painter, const BarItem& item) const {
     painter.setClipRect(item.bounds(), Qt::IntersectClip);
     if (item.isHighlighted())
         paintHighlight(painter, item.bounds());
-    if (item.view() != nullptr)
-        item.view()->paint(painter, item.bounds());
+    item.paint(painter);
     painter.restore();
 }
 
