@@ -2,6 +2,7 @@
 
 #include "settings/plain_ini.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 
@@ -41,13 +42,18 @@ SettingsFile::SettingsFile(QString filePath)
     : m_filePath(std::move(filePath)) {}
 
 std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
-    const std::unique_ptr<QSettings> settings = open();
-    if (!settings)
+    if (!isFileOrMissing())
+        return std::nullopt;
+    // Read past QSettings, which keeps what it read before while the file's size and time are the same: a
+    // file system's clock is coarse enough for a quick edit of equal size to go unnoticed.
+    QFile file(m_filePath);
+    QSettings::SettingsMap stored;
+    if (QFileInfo::exists(m_filePath) && !(file.open(QIODevice::ReadOnly) && PlainIni::read(file, stored)))
         return std::nullopt;
     StoredValues values;
     for (const QString& key : keys) {
-        if (settings->contains(key))
-            values.insert(key, settings->value(key));
+        if (const auto value = stored.constFind(key); value != stored.constEnd())
+            values.insert(key, *value);
     }
     return values;
 }
@@ -62,15 +68,19 @@ bool SettingsFile::write(const StoredValues& values) {
     return settings->status() == QSettings::NoError;
 }
 
-std::unique_ptr<QSettings> SettingsFile::open() const {
+bool SettingsFile::isFileOrMissing() const {
     const QFileInfo file(m_filePath);
     // Opening a pipe or a device could wait for ever.
-    if (file.exists() && !(file.isFile() && file.isReadable()))
+    return !file.exists() || (file.isFile() && file.isReadable());
+}
+
+std::unique_ptr<QSettings> SettingsFile::open() const {
+    if (!isFileOrMissing())
         return nullptr;
     // A new one each time: its status never returns from an error.
     auto settings = std::make_unique<QSettings>(m_filePath, PlainIni::format());
     // QSettings would go on with a file that it could not read as with an empty one, and replace it.
-    const bool isRead = file.size() == 0 || !settings->allKeys().isEmpty();
+    const bool isRead = QFileInfo(m_filePath).size() == 0 || !settings->allKeys().isEmpty();
     return settings->status() == QSettings::NoError && isRead ? std::move(settings) : nullptr;
 }
 

@@ -10,8 +10,6 @@ namespace orvelle {
 /// writes, merges the values into what the file then holds and replaces it as a whole, so that no reader and
 /// no power cut ever sees half of it. A missing file is an empty one; its folder is created when first
 /// needed.
-///
-/// QSettings sees that another program wrote the file by its size and its time in milliseconds.
 class SettingsFile : public SettingsStorage {
 public:
     explicit SettingsFile(QString filePath);
@@ -22,6 +20,8 @@ public:
     [[nodiscard]] QString filePath() const override { return m_filePath; }
 
 private:
+    /// Whether the path leads to a readable file or to nothing.
+    [[nodiscard]] bool isFileOrMissing() const;
     /// Null when the file cannot be read.
     [[nodiscard]] std::unique_ptr<QSettings> open() const;
 
