@@ -148,16 +148,17 @@ QImage blurredAlpha(const QImage& alpha, double sigma) {
 
 QImage tinted(const QImage& alpha, const QColor& color) {
     std::array<QRgb, 256> shades{};
+    const QRgb opaque = color.rgb();
     for (std::size_t opacity = 0; opacity < shades.size(); ++opacity) {
-        QColor shade = color;
-        shade.setAlphaF(color.alphaF() * static_cast<float>(opacity) / 255.0F);
-        shades[opacity] = qPremultiply(shade.rgba());
+        const auto shade = static_cast<int>(std::lround(color.alphaF() * static_cast<float>(opacity)));
+        shades[opacity] = qPremultiply(qRgba(qRed(opaque), qGreen(opaque), qBlue(opaque), shade));
     }
     QImage image(alpha.size(), QImage::Format_ARGB32_Premultiplied);
+    const int width = alpha.width();
     for (int y = 0; y < alpha.height(); ++y) {
         const uchar* opacities = alpha.constScanLine(y);
         auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < alpha.width(); ++x)
+        for (int x = 0; x < width; ++x)
             pixels[x] = shades[opacities[x]];
     }
     return image;

@@ -32,11 +32,6 @@ QColor withOpacity(const QColor& color, double opacity) {
     return result;
 }
 
-QPen linePen(const QColor& color, double width) {
-    const double usableWidth = width > 0 ? std::min(width, largestSide) : 0;
-    return {color, usableWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
-
 QRectF centred(const QSizeF& size, const QRectF& bounds) {
     QRectF result({0, 0}, size);
     result.moveCenter(bounds.center());

@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QPainter>
-#include <QPen>
 #include <QRectF>
 
 namespace orvelle {
@@ -26,9 +25,6 @@ private:
 
 /// `color` with its opacity multiplied by `opacity`.
 [[nodiscard]] QColor withOpacity(const QColor& color, double opacity);
-
-/// A pen with round caps and joins, as every line of a graph is drawn.
-[[nodiscard]] QPen linePen(const QColor& color, double width);
 
 /// The rectangle of `size` whose centre is that of `bounds`.
 [[nodiscard]] QRectF centred(const QSizeF& size, const QRectF& bounds);

@@ -1,6 +1,8 @@
 #include "charts/sparkline_view.h"
 
+#include "charts/blur.h"
 #include "charts/canvas.h"
+#include "charts/line_mask.h"
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
 #include "look/device_pixels.h"
@@ -25,8 +27,8 @@ void SparklineView::paint(QPainter& painter, const QRectF& bounds) const {
     const QPainterPath line = sparklinePath(points);
     painter.fillPath(areaUnder(line, points, height),
                      fillColor.value_or(withOpacity(lineColor, defaultFillOpacity)));
-    if (lineWidth > 0)
-        painter.strokePath(line, linePen(lineColor, lineWidth));
+    const Picture mask = lineMask(PixelGrid::under(painter), {0, 0, width, height}, line, lineWidth);
+    showPicture(painter, {tinted(mask.image, lineColor), mask.offset});
 }
 
 QList<SparklineView> DualSparklineView::layers() const {
