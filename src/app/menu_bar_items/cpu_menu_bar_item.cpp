@@ -5,14 +5,27 @@
 #include "app/menu_bar_items/item_drawings.h"
 #include "charts/mini_bar.h"
 #include "core/cpu_monitor.h"
+#include "look/device_pixels.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
 
 constexpr double spacing = 3;
 constexpr QSizeF historySize(32, 12);
+
+/// Moves the bar's sides to whole device pixels, because a gap of one pixel that lies between two is not
+/// seen. Where bars or gaps are narrower than a pixel, they stay where they are.
+QRectF onWholePixels(const QPainter& painter, const QRectF& bar, double gap) {
+    if (std::min(bar.width(), gap) * devicePixelsPerPoint(painter) < 1)
+        return bar;
+    const double left = snappedToDevicePixels(painter, bar.topLeft()).x();
+    const double right = snappedToDevicePixels(painter, bar.topRight()).x();
+    return {left, bar.top(), right - left, bar.height()};
+}
 
 double coreLoad(const CPUMonitor::CoreUsage& core) {
     return core.user + core.system;
@@ -22,8 +35,11 @@ ItemPart coreBars(const QList<BarLook>& bars) {
     const double width = coreBarsWidth(bars.size());
     const auto paint = [bars](QPainter& painter, const QRectF& frame) {
         const QList<QRectF> places = coreBarSlots(bars.size());
-        for (qsizetype core = 0; core < bars.size(); ++core)
-            MiniBar::paint(painter, places.at(core).translated(frame.topLeft()), bars.at(core));
+        const double gap = bars.size() > 1 ? places.at(1).left() - places.at(0).right() : 1;
+        for (qsizetype core = 0; core < bars.size(); ++core) {
+            const QRectF place = places.at(core).translated(frame.topLeft());
+            MiniBar::paint(painter, onWholePixels(painter, place, gap), bars.at(core));
+        }
     };
     return {.size = {width, coreBarsHeight}, .rigidWidth = width, .paint = paint};
 }
