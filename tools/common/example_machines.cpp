@@ -17,8 +17,8 @@ constexpr std::uint64_t gigabyte = 1'000'000'000;
 struct Character {
     int coreCount = 8;
     int cycles = 24;
-    int calmPercent = 12; ///< of load at the least
-    int swingPercent = 80;
+    int calmPercent = 8; ///< of load at the least
+    int swingPercent = 66;
     std::uint64_t usedMemoryPercent = 38;
     std::uint64_t downloadRate = 0;
     std::uint64_t uploadRate = 0;
