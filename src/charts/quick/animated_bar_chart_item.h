@@ -10,7 +10,7 @@ namespace orvelle {
 
 /// Shows an `AnimatedBarChart`. The height and the colour of a bar follow its value by a spring; bars that
 /// are new stand at their value from the start.
-class AnimatedBarChartItem : public ChartItem {
+class AnimatedBarChartItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedBarChart)
     Q_PRIVATE_PROPERTY(chart(), QList<double> values MEMBER values NOTIFY changed)

@@ -7,7 +7,7 @@
 namespace orvelle {
 
 /// Shows an `AnimatedLineGraph`. The line eases from the series that it showed to a new one.
-class AnimatedLineGraphItem : public ChartItem {
+class AnimatedLineGraphItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedLineGraph)
     Q_PRIVATE_PROPERTY(chart(), QList<double> data MEMBER data NOTIFY changed)

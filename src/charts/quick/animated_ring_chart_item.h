@@ -10,7 +10,7 @@ namespace orvelle {
 
 /// Shows an `AnimatedRingChart` in the middle of the item. It fills when it is first shown, eases to another
 /// value, and pulses while that is critical.
-class AnimatedRingChartItem : public ChartItem {
+class AnimatedRingChartItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedRingChart)
     Q_PRIVATE_PROPERTY(chart(), double value MEMBER value NOTIFY changed)

@@ -16,8 +16,8 @@ class ChartCanvas;
 /// back it shows the newest values.
 ///
 /// Each item has the fields of its chart as properties. moc reads and writes them in place: that is what
-/// `Q_PRIVATE_PROPERTY` stands for. A style is written with its namespace, for moc to find the names that QML
-/// sets it by. The fields `width` and `height` are those of the item.
+/// `Q_PRIVATE_PROPERTY` stands for. The styles and this base are written with their namespace, because moc
+/// and the tools of QML do not look names up. The fields `width` and `height` are those of the item.
 class ChartItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS

@@ -7,7 +7,7 @@
 namespace orvelle {
 
 /// Shows a `MiniBar`, which eases to another value.
-class MiniBarItem : public ChartItem {
+class MiniBarItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(MiniBar)
     Q_PRIVATE_PROPERTY(chart(), double value MEMBER value NOTIFY changed)

@@ -10,7 +10,7 @@ namespace orvelle {
 
 /// Shows a `MultiSegmentRing` in the middle of the item. It opens when it is first shown; other segments show
 /// at once.
-class MultiSegmentRingItem : public ChartItem {
+class MultiSegmentRingItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(MultiSegmentRing)
     /// Objects with the fields `value` (a number), `color` and `label` (a text).

@@ -6,7 +6,7 @@
 namespace orvelle {
 
 /// Shows a `SparklineView` of the item's size. It never moves.
-class SparklineViewItem : public ChartItem {
+class SparklineViewItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(SparklineView)
     Q_PRIVATE_PROPERTY(chart(), QList<double> data MEMBER data NOTIFY changed)
@@ -33,7 +33,7 @@ private:
 };
 
 /// Shows a `DualSparklineView` of the item's size. It never moves.
-class DualSparklineViewItem : public ChartItem {
+class DualSparklineViewItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(DualSparklineView)
     Q_PRIVATE_PROPERTY(chart(), QList<double> topData MEMBER topData NOTIFY changed)

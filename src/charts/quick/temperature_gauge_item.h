@@ -8,7 +8,7 @@ namespace orvelle {
 
 /// Shows a `TemperatureGauge` from the top of the item, centred across its width. The dial eases to another
 /// temperature; the reading changes at once.
-class TemperatureGaugeItem : public ChartItem {
+class TemperatureGaugeItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(TemperatureGauge)
     Q_PRIVATE_PROPERTY(chart(), QString label MEMBER label NOTIFY changed)
