@@ -3,10 +3,16 @@
 
 build_packages=(
   g++ cmake ninja-build pkg-config
-  qt6-base-dev qt6-declarative-dev "qt6-svg-dev|libqt6svg6-dev" libfmt-dev libxcb1-dev bootstrap-icons
+  qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
+  "qt6-svg-dev|libqt6svg6-dev" libfmt-dev libxcb1-dev bootstrap-icons
 )
 # What the program needs to draw text and to meet a display, where the desktop does not bring it already.
 desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)
+# The modules that the panels' QML imports when they are opened.
+qml_packages=(
+  qml6-module-qtquick qml6-module-qtquick-layouts qml6-module-qtquick-window
+  qml6-module-qtqml qml6-module-qtqml-workerscript
+)
 # A display of our own, for a machine without one.
 virtual_display_packages=(xvfb openbox imagemagick x11-xserver-utils)
 # `locales` brings the sources of the locale with a decimal comma under which numbers are tested.

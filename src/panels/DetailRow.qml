@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+/// A label, and its value at the end of the row.
+RowLayout {
+    id: row
+
+    required property string label
+    required property string value
+    property real labelSize: 11
+
+    Layout.fillWidth: true
+    spacing: 8
+
+    PanelText {
+        text: row.label
+        size: row.labelSize
+        color: Look.secondaryLabel
+    }
+    PanelText {
+        text: row.value
+        color: Look.valueLabel
+        horizontalAlignment: Text.AlignRight
+        Layout.fillWidth: true
+    }
+}

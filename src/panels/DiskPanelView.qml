@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+PanelBody {
+    id: panel
+
+    required property DiskMonitor disk
+    readonly property var io: disk.diskIO
+    readonly property color moduleColor: colors.disk
+
+    PanelHeader {
+        symbol: "internaldrive"
+        title: "Disk"
+        moduleColor: panel.moduleColor
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 6
+        SectionTitle { text: "VOLUMES" }
+        Repeater {
+            objectName: "volumes"
+            model: RecordModel {
+                key: "id"
+                records: panel.disk.volumes
+            }
+            delegate: VolumeCard {
+                required property var record
+                volume: record
+                moduleColor: panel.moduleColor
+            }
+        }
+    }
+    PanelDivider {}
+    RowLayout {
+        spacing: 12
+        SpeedBlock {
+            symbol: "arrow.down.circle.fill"
+            label: "Read"
+            directionColor: panel.themeManager.currentTheme.diskReadColor
+            speed: panel.io.readSpeed
+            speedSize: 14
+        }
+        SpeedBlock {
+            symbol: "arrow.up.circle.fill"
+            label: "Write"
+            directionColor: panel.themeManager.currentTheme.diskWriteColor
+            speed: panel.io.writeSpeed
+            speedSize: 14
+        }
+    }
+    PanelDivider {}
+    RateGraphs {
+        objectName: "graphs"
+        settings: panel.settings
+        themeManager: panel.themeManager
+        title: "I/O ACTIVITY"
+        firstName: "Read"
+        firstData: panel.disk.readHistory
+        firstColor: panel.themeManager.currentTheme.diskReadColor
+        secondName: "Write"
+        secondData: panel.disk.writeHistory
+        secondColor: panel.themeManager.currentTheme.diskWriteColor
+        graphHeight: 50
+    }
+    PanelDivider {}
+    RowLayout {
+        PanelText {
+            text: "Total Read: " + PanelRules.byteSizeText(panel.io.bytesRead)
+            size: 9
+            color: Look.secondaryLabel
+            Layout.fillWidth: true
+        }
+        PanelText {
+            text: "Total Written: " + PanelRules.byteSizeText(panel.io.bytesWritten)
+            size: 9
+            color: Look.secondaryLabel
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+/// A network interface and its present speeds.
+RowLayout {
+    id: row
+
+    required property var info
+    required property color moduleColor
+
+    Layout.fillWidth: true
+    spacing: 6
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: info.displayName
+
+    Item {
+        implicitWidth: 14
+        implicitHeight: symbol.implicitHeight
+        Symbol {
+            id: symbol
+            objectName: "symbol"
+            anchors.centerIn: parent
+            name: PanelRules.interfaceSymbol(row.info.name)
+            fontSize: 9
+            color: Look.faded(row.moduleColor, 0.7)
+        }
+    }
+    PanelText {
+        text: row.info.displayName
+        size: 10
+        color: Look.valueLabel
+        Layout.fillWidth: true
+    }
+    PanelText {
+        text: "\u2193 " + PanelRules.formatRate(row.info.downloadSpeed)
+        size: 9
+        monospaced: true
+        color: Look.secondaryLabel
+        horizontalAlignment: Text.AlignRight
+        Layout.preferredWidth: 68 // speeds stand below each other
+    }
+    PanelText {
+        text: "\u2191 " + PanelRules.formatRate(row.info.uploadSpeed)
+        size: 9
+        monospaced: true
+        color: Look.secondaryLabel
+        horizontalAlignment: Text.AlignRight
+        Layout.preferredWidth: 68
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+/// A part of the memory: its colour, its name and its size.
+RowLayout {
+    id: item
+
+    required property string name
+    required property color swatchColor
+    required property real bytes
+
+    spacing: 6
+
+    Rectangle {
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
+        color: item.swatchColor
+    }
+    PanelText {
+        text: item.name
+        size: 10
+        color: Look.secondaryLabel
+        Layout.preferredWidth: 70
+    }
+    PanelText {
+        text: PanelRules.byteSizeText(item.bytes)
+        size: 10
+        color: Look.valueLabel
+        Accessible.name: item.name + " " + text
+    }
+}

@@ -1,0 +1,134 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+PanelBody {
+    id: panel
+
+    required property MemoryMonitor memory
+    required property ProcessMonitor process
+    readonly property var info: memory.info
+    readonly property real pressure: PanelRules.pressureFraction(info)
+    readonly property color moduleColor: colors.memory
+
+    PanelHeader {
+        symbol: "memorychip"
+        title: "Memory"
+        moduleColor: panel.moduleColor
+        PanelText {
+            objectName: "usedOfTotal"
+            text: PanelRules.byteSizeText(panel.info.used) + " / " + PanelRules.byteSizeText(panel.info.total)
+            size: 12
+            weight: Font.Medium
+            monospaced: true
+            color: panel.moduleColor
+        }
+    }
+    PanelDivider {}
+    RowLayout {
+        spacing: 24
+        Layout.margins: 6
+        MemoryRing {
+            settings: panel.settings
+            info: panel.info
+            moduleColor: panel.moduleColor
+        }
+        ColumnLayout {
+            spacing: 6
+            MemoryLegendItem {
+                name: "Active"
+                swatchColor: panel.moduleColor
+                bytes: panel.info.active
+            }
+            MemoryLegendItem {
+                name: "Wired"
+                swatchColor: Look.faded(Look.red, 0.8)
+                bytes: panel.info.wired
+            }
+            MemoryLegendItem {
+                name: "Compressed"
+                swatchColor: Look.orange
+                bytes: panel.info.compressed
+            }
+            MemoryLegendItem {
+                name: "Cached"
+                swatchColor: Look.faded(Look.cyan, 0.6)
+                bytes: panel.info.cached
+            }
+            MemoryLegendItem {
+                name: "Free"
+                swatchColor: Look.faded(Look.white, 0.3) // brighter than in the ring, to be seen at this size
+                bytes: panel.info.free
+            }
+        }
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 6
+        RowLayout {
+            SectionTitle {
+                text: "MEMORY PRESSURE"
+                Layout.fillWidth: true
+            }
+            Rectangle {
+                implicitWidth: badge.implicitWidth + 2 * 6
+                implicitHeight: badge.implicitHeight + 2 * 2
+                radius: 4
+                color: Look.faded(badge.color, 0.15)
+                PanelText {
+                    id: badge
+                    objectName: "pressureBadge"
+                    anchors.centerIn: parent
+                    text: PanelRules.pressureBadgeText(panel.pressure)
+                    size: 9
+                    weight: Font.Bold
+                    color: PanelRules.pressureBadgeColor(panel.pressure)
+                    Accessible.name: "Memory pressure " + text
+                }
+            }
+        }
+        HistoryGraph {
+            objectName: "history"
+            Layout.preferredHeight: 50
+            settings: panel.settings
+            themeManager: panel.themeManager
+            data: panel.memory.pressureHistory
+            lineColor: PanelRules.pressureGraphColor(panel.pressure, panel.moduleColor)
+            Accessible.name: "Memory pressure history"
+        }
+    }
+    PanelDivider {}
+    RowLayout {
+        spacing: 4
+        PanelText {
+            text: "Swap Used"
+            color: Look.secondaryLabel
+            Layout.fillWidth: true
+        }
+        PanelText {
+            objectName: "swapUsed"
+            text: PanelRules.byteSizeText(panel.info.swapUsed)
+            weight: Font.Medium
+            monospaced: true
+            color: Look.valueLabel
+        }
+        PanelText {
+            text: "of"
+            color: Look.secondaryLabel
+        }
+        PanelText {
+            text: PanelRules.byteSizeText(panel.info.swapTotal)
+            weight: Font.Medium
+            monospaced: true
+            color: Look.valueLabel
+        }
+    }
+    PanelDivider {}
+    ProcessListView {
+        objectName: "processes"
+        title: "Top Memory Consumers"
+        processes: panel.process.topMemoryProcesses
+        mode: ProcessListView.DisplayMode.Memory
+        accentColor: panel.moduleColor
+    }
+}

@@ -1,0 +1,74 @@
+import QtQuick
+import Orvelle.Charts
+import Orvelle.Panels
+
+/// How the memory is divided, or how much of it is used, by the style of the settings.
+Item {
+    id: ring
+
+    required property SettingsStore settings
+    required property var info
+    required property color moduleColor
+    readonly property real used: PanelRules.usedFraction(info)
+    readonly property bool showsParts: PanelRules.showsParts(settings.ringChartStyle)
+
+    implicitWidth: 90
+    implicitHeight: 90
+
+    Accessible.role: Accessible.Chart
+    Accessible.name: "Memory " + PanelRules.formatPercent(used) + " used"
+
+    Loader {
+        objectName: "ring"
+        anchors.fill: parent
+        sourceComponent: ring.showsParts ? parts : share
+    }
+    Component {
+        id: parts
+        MultiSegmentRing {
+            lineWidth: 10
+            size: 90
+            trackColor: Look.faded(Look.white, 0.05)
+            segments: [
+                { value: ring.info.wired, color: Look.faded(Look.red, 0.8), label: "Wired" },
+                { value: ring.info.active, color: ring.moduleColor, label: "Active" },
+                { value: ring.info.compressed, color: Look.orange, label: "Compressed" },
+                { value: ring.info.cached, color: Look.faded(Look.cyan, 0.6), label: "Cached" },
+                { value: ring.info.free, color: Look.faded(Look.white, 0.08), label: "Free" }
+            ]
+            children: Column {
+                anchors.centerIn: parent
+                PanelText {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: PanelRules.formatPercent(ring.used)
+                    size: 16
+                    weight: Font.Bold
+                }
+                PanelText {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: "Used"
+                    size: 8
+                    color: Look.secondaryLabel
+                }
+            }
+        }
+    }
+    Component {
+        id: share
+        AnimatedRingChart {
+            value: ring.used
+            lineWidth: 10
+            size: 90
+            baseColor: ring.moduleColor
+            trackColor: Look.faded(Look.white, 0.08)
+            showGlow: PanelRules.hasGlow(ring.settings.glowIntensity)
+            pulseCritical: true
+            criticalThreshold: 0.9
+            label: PanelRules.formatPercent(ring.used)
+            sublabel: "Used"
+            ringStyle: ring.settings.ringChartStyle
+            glowIntensity: ring.settings.glowIntensity
+            animationSpeed: ring.settings.animationSpeed
+        }
+    }
+}

@@ -1,0 +1,94 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+PanelBody {
+    id: panel
+
+    required property NetworkMonitor network
+    readonly property color moduleColor: colors.network
+
+    spacing: 12
+
+    PanelHeader {
+        symbol: "network"
+        title: "Network"
+        moduleColor: panel.moduleColor
+    }
+    PanelDivider {}
+    RowLayout {
+        spacing: 12
+        SpeedBlock {
+            symbol: "arrow.down.circle.fill"
+            label: "Download"
+            directionColor: panel.themeManager.currentTheme.networkDownloadColor
+            speed: panel.network.totalDownloadSpeed
+        }
+        SpeedBlock {
+            symbol: "arrow.up.circle.fill"
+            label: "Upload"
+            directionColor: panel.themeManager.currentTheme.networkUploadColor
+            speed: panel.network.totalUploadSpeed
+        }
+    }
+    PanelDivider {}
+    RateGraphs {
+        objectName: "graphs"
+        settings: panel.settings
+        themeManager: panel.themeManager
+        title: "BANDWIDTH"
+        firstName: "Download"
+        firstData: panel.network.downloadHistory
+        firstColor: panel.themeManager.currentTheme.networkDownloadColor
+        secondName: "Upload"
+        secondData: panel.network.uploadHistory
+        secondColor: panel.themeManager.currentTheme.networkUploadColor
+        graphHeight: 60
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 6
+        AddressRow {
+            label: "IPv4"
+            address: panel.network.primaryIPv4
+            selectionColor: panel.moduleColor
+        }
+        AddressRow {
+            label: "IPv6"
+            address: panel.network.primaryIPv6
+            addressSize: 10
+            selectionColor: panel.moduleColor
+        }
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 6
+        SectionTitle { text: "INTERFACES" }
+        Repeater {
+            objectName: "interfaces"
+            model: RecordModel {
+                key: "name"
+                records: panel.network.interfaces
+            }
+            delegate: InterfaceRow {
+                required property var record
+                info: record
+                moduleColor: panel.moduleColor
+            }
+        }
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 4
+        DetailRow {
+            label: "Total Downloaded"
+            labelSize: 10
+            value: PanelRules.byteSizeText(panel.network.totalBytesIn)
+        }
+        DetailRow {
+            label: "Total Uploaded"
+            labelSize: 10
+            value: PanelRules.byteSizeText(panel.network.totalBytesOut)
+        }
+    }
+}

@@ -1,0 +1,30 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+Item {
+    Layout.fillWidth: true
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 6
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "powerplug.fill"
+            fontSize: 24
+            color: Look.green
+        }
+        PanelText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "No Battery Detected"
+            size: 12
+        }
+        PanelText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "This Mac is running on AC power"
+            size: 10
+            color: Look.secondaryLabel
+        }
+    }
+}

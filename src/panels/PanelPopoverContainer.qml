@@ -1,0 +1,60 @@
+import QtQuick
+import Orvelle.Panels
+
+/// The frame of every panel: the content, which scrolls where it is high, above a footer with the button that
+/// opens the settings.
+FocusScope {
+    id: container
+
+    required property ThemeManager themeManager
+    required property Item content
+    signal openSettings()
+
+    width: 320
+    height: 500
+    focus: true
+
+    readonly property Item focusedItem: Window.activeFocusItem
+    onFocusedItemChanged: {
+        for (let item = focusedItem; item !== null; item = item.parent) {
+            if (item === content)
+                scroller.reveal(focusedItem);
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: container.themeManager.currentTheme.backgroundColor
+    }
+    PanelScroller {
+        id: scroller
+        objectName: "scroller"
+        width: parent.width
+        anchors.top: parent.top
+        anchors.bottom: divider.top
+        content: container.content
+        focus: true
+    }
+    PanelDivider {
+        id: divider
+        width: parent.width
+        anchors.bottom: footer.top
+    }
+    Item {
+        id: footer
+        objectName: "footer"
+        width: parent.width
+        height: button.height + 2 * 8
+        anchors.bottom: parent.bottom
+
+        SettingsButton {
+            id: button
+            objectName: "settingsButton"
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            focusColor: container.themeManager.currentTheme.accentColor
+            onPressed: container.openSettings()
+        }
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick
+import Orvelle.Panels
+
+/// A short help text beside what the pointer rests on.
+Rectangle {
+    id: tooltip
+
+    required property string text
+    required property bool isWanted
+
+    visible: false
+    width: label.implicitWidth + 12
+    height: label.implicitHeight + 6
+    radius: 4
+    color: Look.tooltip
+    border.width: 1
+    border.color: Look.separator
+
+    onIsWantedChanged: if (!isWanted) visible = false
+
+    Timer {
+        interval: 700
+        running: tooltip.isWanted
+        onTriggered: tooltip.visible = true
+    }
+    PanelText {
+        id: label
+        anchors.centerIn: parent
+        text: tooltip.text
+    }
+}

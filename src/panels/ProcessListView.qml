@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Panels
+
+/// The heaviest processes, in the order in which they are given.
+ColumnLayout {
+    id: view
+
+    enum DisplayMode { CPU, Memory }
+
+    required property string title
+    required property var processes
+    required property int mode
+    required property color accentColor
+    readonly property real maxValue: PanelRules.processBarScale(processes, mode)
+
+    Layout.fillWidth: true
+    spacing: 2
+
+    PanelText {
+        text: view.title.toUpperCase()
+        weight: Font.DemiBold
+        color: Look.secondaryLabel
+        Accessible.role: Accessible.Heading
+        Accessible.name: view.title
+    }
+    Repeater {
+        objectName: "rows"
+        model: RecordModel {
+            key: "pid"
+            records: view.processes
+        }
+        delegate: ProcessRow {
+            required property var record
+            process: record
+            mode: view.mode
+            accentColor: view.accentColor
+            maxValue: view.maxValue
+        }
+    }
+}

@@ -1,0 +1,22 @@
+import QtQuick
+import Orvelle.Charts
+import Orvelle.Panels
+
+TemperatureGauge {
+    id: gauge
+
+    required property SettingsStore settings
+    required property string title
+    required property real celsius
+
+    label: title
+    temperature: celsius
+    maxTemp: 110
+    icon: "cpu"
+    useFahrenheit: settings.useFahrenheit
+    glowIntensity: settings.glowIntensity
+    showGlow: PanelRules.hasGlow(settings.glowIntensity)
+
+    Accessible.role: Accessible.Chart
+    Accessible.name: title + " " + PanelRules.formatTemperature(celsius, settings.useFahrenheit)
+}

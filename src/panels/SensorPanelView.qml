@@ -1,0 +1,76 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Charts
+import Orvelle.Panels
+
+PanelBody {
+    id: panel
+
+    required property SensorMonitor sensor
+    readonly property color moduleColor: colors.sensor
+
+    spacing: 12
+
+    PanelHeader {
+        symbol: "thermometer"
+        title: "Sensors"
+        moduleColor: panel.moduleColor
+    }
+    PanelDivider {}
+    RowLayout {
+        Layout.alignment: Qt.AlignHCenter
+        spacing: 20
+        SensorGauge {
+            objectName: "cpuGauge"
+            title: "CPU"
+            celsius: panel.sensor.cpuTemperature
+            settings: panel.settings
+            baseColor: panel.moduleColor
+        }
+        SensorGauge {
+            objectName: "gpuGauge"
+            title: "GPU"
+            celsius: panel.sensor.gpuTemperature
+            settings: panel.settings
+            baseColor: Look.orange
+        }
+    }
+    PanelDivider {}
+    TemperatureHistory {
+        sensor: panel.sensor
+        settings: panel.settings
+        themeManager: panel.themeManager
+        moduleColor: panel.moduleColor
+    }
+    PanelDivider {}
+    ColumnLayout {
+        spacing: 4
+        SectionTitle { text: "ALL SENSORS" }
+        PanelText {
+            objectName: "placeholder"
+            visible: panel.sensor.sensors.length === 0
+            text: "No sensor data available"
+            size: 10
+            color: Look.secondaryLabel
+            topPadding: 8
+            bottomPadding: 8
+        }
+        Repeater {
+            objectName: "sensors"
+            model: RecordModel {
+                key: "key"
+                records: panel.sensor.sensors
+            }
+            delegate: SensorRow {
+                required property var record
+                sensor: record
+                useFahrenheit: panel.settings.useFahrenheit
+            }
+        }
+    }
+    PanelDivider {}
+    FanList {
+        fans: panel.sensor.fans
+        moduleColor: panel.moduleColor
+    }
+}

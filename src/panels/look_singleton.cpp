@@ -1,0 +1,21 @@
+#include "panels/look_singleton.h"
+
+#include "look/fonts.h"
+
+namespace orvelle {
+
+QColor Look::faded(const QColor& color, double opacity) {
+    QColor result = color;
+    result.setAlphaF(static_cast<float>(opacity));
+    return result;
+}
+
+QFont Look::systemFont(double size, int weight) {
+    return orvelle::systemFont(size, static_cast<QFont::Weight>(weight));
+}
+
+QFont Look::monospacedFont(double size, int weight) {
+    return monospacedSystemFont(size, static_cast<QFont::Weight>(weight));
+}
+
+} // namespace orvelle

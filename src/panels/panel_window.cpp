@@ -1,0 +1,16 @@
+#include "panels/panel_window.h"
+
+#include <QQuickItem>
+
+namespace orvelle {
+
+void PanelWindow::setPanel(QQuickItem& panel, QVariantMap frameProperties) {
+    frameProperties.insert(QStringLiteral("content"), QVariant::fromValue(&panel));
+    setInitialProperties(frameProperties);
+    setSource(QUrl(QStringLiteral("qrc:/Orvelle/Panels/PanelPopoverContainer.qml")));
+    setResizeMode(SizeRootObjectToView);
+    if (rootObject() != nullptr)
+        connect(rootObject(), SIGNAL(openSettings()), this, SLOT(openSettings()));
+}
+
+} // namespace orvelle

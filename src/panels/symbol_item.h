@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QQuickPaintedItem>
+
+namespace orvelle {
+
+/// Shows a symbol by its name, as tall as a line of text of its size. It is a picture beside a text that says
+/// the same, so assistive programs do not see it.
+class SymbolItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(Symbol)
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY changed REQUIRED)
+    Q_PROPERTY(double fontSize MEMBER m_fontSize NOTIFY changed REQUIRED)
+    Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed REQUIRED)
+
+public:
+    explicit SymbolItem(QQuickItem* parent = nullptr);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void refresh();
+
+    QString m_name;
+    double m_fontSize = 0;
+    int m_weight = QFont::Normal;
+    QColor m_color;
+};
+
+} // namespace orvelle

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "core/system_monitor.h"
+#include "panels/panel_factory.h"
+#include "platform/fixed/fixed_machine.h"
+#include "settings/settings_store.h"
+#include "settings/system_colors.h"
+#include "settings/theme_manager.h"
+
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace orvelle {
+
+/// A machine by script, and its panels. A warning of Qt or QML while a panel lives fails the test.
+class PanelFixture : public ::testing::Test {
+protected:
+    PanelFixture() { s_previousHandler = qInstallMessageHandler(&PanelFixture::failOnMessage); }
+    ~PanelFixture() override { qInstallMessageHandler(s_previousHandler); }
+
+    /// Samples the machine, which was set up before, some times.
+    void sample(int times = 1) {
+        for (int count = 0; count < times; ++count) {
+            monitor.updateCycle();
+            machine.clock.advance(std::chrono::seconds(3));
+        }
+    }
+
+    /// Shows the panel of a module. Never null when it could be made.
+    QQuickView* show(const char16_t* key) {
+        panel = factory.makePanel(key);
+        if (panel == nullptr) {
+            ADD_FAILURE() << "no panel was made";
+            return nullptr;
+        }
+        panel->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel.get()));
+        QTest::qWait(20);
+        return panel.get();
+    }
+
+    /// The item inside the panel with this object name; a failure when there is none.
+    [[nodiscard]] QQuickItem* item(const char* name) const {
+        QQuickItem* found = find(panel->contentItem(), QString::fromLatin1(name));
+        if (found == nullptr)
+            ADD_FAILURE() << "no item is called " << name;
+        return found;
+    }
+    [[nodiscard]] QString textOf(const char* name) const {
+        const QQuickItem* found = item(name);
+        return found != nullptr ? found->property("text").toString() : QString();
+    }
+    /// A colour as pixels have it: eight bits each.
+    [[nodiscard]] static QColor asShown(const QColor& color) { return QColor::fromRgba(color.rgba()); }
+    [[nodiscard]] QColor colorOf(const char* name, const char* property = "color") const {
+        const QQuickItem* found = item(name);
+        return found != nullptr ? asShown(found->property(property).value<QColor>()) : QColor();
+    }
+    /// Every text that can be seen, from top to bottom as the items stand in the tree.
+    [[nodiscard]] QStringList shownTexts() const {
+        QStringList texts;
+        collectTexts(panel->contentItem(), texts);
+        return texts;
+    }
+    [[nodiscard]] bool shows(const char16_t* text) const {
+        return shownTexts().contains(QString::fromUtf16(text));
+    }
+
+    /// No text reaches out of the panel's width, and what the panel holds ends above the footer.
+    void expectNothingIsCutOff() const {
+        const QQuickItem* scroller = item("scroller");
+        const QQuickItem* footer = item("footer");
+        ASSERT_TRUE(scroller != nullptr && footer != nullptr);
+        EXPECT_LE(scroller->y() + scroller->height(), footer->y());
+        EXPECT_TRUE(scroller->clip());
+        expectInside(panel->contentItem(), panel->width());
+    }
+
+    QTemporaryDir folder;
+    SettingsStore settings{folder.filePath(QStringLiteral("settings.ini"))};
+    ThemeManager themes{settings};
+    FixedMachine machine;
+    SystemMonitor monitor{machine.sources(), settings};
+    int settingsOpened = 0;
+    PanelFactory factory{{.monitor = monitor, .settings = settings, .themes = themes, .openSettings = [this] {
+                              ++settingsOpened;
+                          }}};
+    std::unique_ptr<QQuickView> panel;
+
+private:
+    static void failOnMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            ADD_FAILURE() << "a message: " << message.toStdString();
+        s_previousHandler(type, context, message);
+    }
+
+    static QQuickItem* find(QQuickItem* root, const QString& name) {
+        if (root->objectName() == name)
+            return root;
+        for (QQuickItem* child : root->childItems()) {
+            if (QQuickItem* found = find(child, name))
+                return found;
+        }
+        return nullptr;
+    }
+    static void collectTexts(const QQuickItem* root, QStringList& texts) {
+        if (!root->isVisible())
+            return;
+        if (const QVariant text = root->property("text");
+            text.isValid() && (root->inherits("QQuickText") || root->inherits("QQuickTextInput")))
+            texts.append(text.toString());
+        for (const QQuickItem* child : root->childItems())
+            collectTexts(child, texts);
+    }
+    static void expectInside(const QQuickItem* root, double width) {
+        if (!root->isVisible())
+            return;
+        const QRectF place = root->mapRectToScene({0, 0, root->width(), root->height()});
+        if (root->inherits("QQuickText") || root->inherits("QQuickTextInput")) {
+            EXPECT_GE(place.left(), 0) << root->property("text").toString().toStdString();
+            EXPECT_LE(place.right(), width) << root->property("text").toString().toStdString();
+        }
+        for (const QQuickItem* child : root->childItems())
+            expectInside(child, width);
+    }
+
+    static inline QtMessageHandler s_previousHandler = nullptr;
+};
+
+} // namespace orvelle
