@@ -20,12 +20,25 @@ if(ORVELLE_BUILD_FUZZERS)
   target_link_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# orvelle_library(NAME SOURCES... LINK...): a static library of one folder.
+# The windows need Qt Quick, which costs 7 MB of memory and is not needed for the bar. On Linux they are a module
+# that the program loads when the first one opens; elsewhere the program is linked with them.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  set(ORVELLE_LOADS_WINDOWS ON)
+else()
+  set(ORVELLE_LOADS_WINDOWS OFF)
+endif()
+
+# orvelle_library(NAME [COMMON] SOURCES... LINK...): a library of one folder. COMMON is for what both the program
+# and a module that it loads use: there must be one of it in the process, so it is shared where modules are loaded.
 # A folder with headers only is declared with no compiled source and becomes an interface library.
 function(orvelle_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "COMMON" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  set(kind STATIC)
+  if(ARG_COMMON AND ORVELLE_LOADS_WINDOWS)
+    set(kind SHARED)
+  endif()
   if(ARG_SOURCES)
-    add_library(${name} STATIC ${ARG_SOURCES})
+    add_library(${name} ${kind} ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC orvelle_build_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
   else()
     add_library(${name} INTERFACE)
