@@ -10,13 +10,13 @@
 
 namespace orvelle {
 
-AppDelegate::AppDelegate(SystemMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes,
-                         StatusBar& statusBar, QObject* parent)
+AppDelegate::AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
+                         AppSurroundings surroundings, QObject* parent)
     : QObject(parent)
+    , m_surroundings(std::move(surroundings))
     , m_monitor(monitor)
     , m_settings(settings)
-    , m_themes(themes)
-    , m_statusBar(statusBar) {}
+    , m_themes(themes) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -34,12 +34,19 @@ void AppDelegate::applicationWillTerminate() {
     m_refreshTimer.reset();
 }
 
+void AppDelegate::applicationShouldHandleReopen() {
+    checkVisibility(); // a module may have been switched on a moment ago
+    if (m_statusItems.isEmpty())
+        openSettings();
+}
+
 void AppDelegate::setupStatusItems() {
     m_cancellables.clear();
+    m_popovers.clear();
     if (m_contextMenu != nullptr)
         m_contextMenu->close(); // the item above it goes
     for (StatusItem* item : std::as_const(m_statusItems))
-        m_statusBar.removeItem(*item);
+        m_surroundings.statusBar.removeItem(*item);
     m_statusItems.clear();
     for (const Module& module : modules()) {
         if ((m_settings.*module.isShown)())
@@ -48,9 +55,13 @@ void AppDelegate::setupStatusItems() {
 }
 
 void AppDelegate::createStatusItem(const Module& module) {
-    StatusItem& item = m_statusBar.addItem(module.key, module.length);
+    StatusItem& item = m_surroundings.statusBar.addItem(module.key, module.length);
     m_statusItems.insert(module.key, &item);
     item.setClickHandler([this, &item](ClickButton button) { statusItemClicked(item, button); });
+    m_popovers.insert_or_assign(module.key,
+                                m_surroundings.statusBar.makePopover([this, key = module.key](double radius) {
+                                    return views() ? views()->makePanel(QString(key), radius) : nullptr;
+                                }));
 
     const auto redraw = [this, &item, makeView = module.makeMenuBarView] {
         item.setView(makeView({m_monitor, m_settings, m_themes}));
@@ -64,15 +75,58 @@ void AppDelegate::createStatusItem(const Module& module) {
     m_cancellables.push_back(std::move(throttle));
 }
 
-void AppDelegate::statusItemClicked(StatusItem& item, ClickButton button) {
+void AppDelegate::statusItemClicked(const StatusItem& item, ClickButton button) {
     if (button == ClickButton::right)
         showContextMenu(item);
+    else
+        togglePopover(item);
+}
+
+void AppDelegate::togglePopover(const StatusItem& item) {
+    const auto found = m_popovers.find(item.identifier());
+    if (found == m_popovers.end())
+        return;
+    Popover& popover = *found->second;
+    closePopoversExcept(&popover);
+    if (popover.isShown())
+        popover.close();
+    else
+        popover.show(item);
+}
+
+void AppDelegate::closePopoversExcept(const Popover* kept) {
+    for (const auto& [key, popover] : m_popovers) {
+        if (popover.get() != kept && popover->isShown())
+            popover->close();
+    }
+}
+
+bool AppDelegate::isPopoverShown(const QString& key) const {
+    const auto found = m_popovers.find(key);
+    return found != m_popovers.end() && found->second->isShown();
 }
 
 void AppDelegate::showContextMenu(const StatusItem& item) {
+    closePopoversExcept(nullptr);
     if (m_contextMenu == nullptr)
-        m_contextMenu = m_statusBar.makeContextMenu();
-    m_contextMenu->show(item, contextMenuEntries(nullptr, &AppDelegate::quitApp));
+        m_contextMenu = m_surroundings.statusBar.makeContextMenu();
+    m_contextMenu->show(item, contextMenuEntries([this] { openSettings(); }, &AppDelegate::quitApp));
+}
+
+void AppDelegate::openSettings() {
+    if (m_settingsWindow == nullptr && views() != nullptr) {
+        if (std::unique_ptr<QWindow> content = views()->makeSettings())
+            m_settingsWindow = m_surroundings.makeSettingsWindow(std::move(content));
+    }
+    if (m_settingsWindow != nullptr)
+        m_settingsWindow->bringForward();
+}
+
+Views* AppDelegate::views() {
+    if (m_views == nullptr)
+        m_views = m_surroundings.loadViews(
+            {m_monitor, m_settings, m_themes, [this] { openSettings(); }, &AppDelegate::quitApp});
+    return m_views.get();
 }
 
 void AppDelegate::quitApp() {

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "app/modules.h"
+#include "app/shell/settings_window.h"
 #include "app/shell/status_bar.h"
+#include "app/views/views.h"
 
 #include <QMap>
 #include <QObject>
 #include <QTimer>
 
 #include <chrono>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -15,8 +18,16 @@ namespace orvelle {
 
 class Throttle;
 
-/// Runs the program: it starts the sampling, keeps one status item for each module that the settings show and
-/// redraws them when there are new values. Main thread only.
+/// What the delegate asks of the desktop and of the windows' contents.
+struct AppSurroundings {
+    StatusBar& statusBar;
+    std::function<std::unique_ptr<Views>(const ViewContext&)> loadViews;
+    std::function<std::unique_ptr<SettingsWindow>(std::unique_ptr<QWindow>)> makeSettingsWindow;
+};
+
+/// Runs the program: it starts the sampling, keeps one status item with its panel for each module that the
+/// settings show, redraws the items when there are new values, and owns the settings window. Main thread
+/// only.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -27,8 +38,8 @@ public:
     static constexpr std::chrono::milliseconds visibilityInterval{3000};
 
     /// Everything that is passed must outlive the delegate.
-    AppDelegate(SystemMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes,
-                StatusBar& statusBar, QObject* parent = nullptr);
+    AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
+                AppSurroundings surroundings, QObject* parent = nullptr);
     ~AppDelegate() override;
 
     /// Samples once, shows the items and starts both timers. From now on a changed interval restarts the
@@ -37,18 +48,28 @@ public:
     /// Stops both timers; the items stay as they are.
     void applicationWillTerminate();
 
+    /// What a second start of the program does: who has hidden every module gets the settings, which can show
+    /// them again.
+    void applicationShouldHandleReopen();
+
     /// Recreates all items, in their fixed order, when a module has been switched on or off since the last
     /// time.
     void checkVisibility();
 
-    /// What a click on an item does: a right click opens its menu.
-    void statusItemClicked(StatusItem& item, ClickButton button);
+    /// What a click on an item does: a right click opens its menu, a left one its panel.
+    void statusItemClicked(const StatusItem& item, ClickButton button);
+    /// Opens the panel of an item, in place of another one's, or closes it when it is open.
+    void togglePopover(const StatusItem& item);
     void showContextMenu(const StatusItem& item);
+    /// Opens the settings window, or brings it before the others.
+    void openSettings();
     /// Ends the program.
     static void quitApp();
 
     /// The items that exist now, by module key.
     [[nodiscard]] const QMap<QString, StatusItem*>& statusItems() const { return m_statusItems; }
+    /// Whether the panel of this module is open.
+    [[nodiscard]] bool isPopoverShown(const QString& key) const;
     /// Whether the settings are being re-checked.
     [[nodiscard]] bool isRefreshing() const { return m_refreshTimer != nullptr; }
 
@@ -57,19 +78,24 @@ private:
 
     void setupStatusItems();
     void createStatusItem(const Module& module);
+    void closePopoversExcept(const Popover* kept);
+    [[nodiscard]] Views* views();
     [[nodiscard]] Visibility currentVisibility() const;
     void snapshotVisibility();
     void startRefreshTimer();
 
+    AppSurroundings m_surroundings;
+    std::unique_ptr<Views> m_views; ///< null before the first window opens; it outlives their contents
     QMap<QString, StatusItem*> m_statusItems;
+    std::map<QString, std::unique_ptr<Popover>> m_popovers; ///< by module key, one for each item
     SystemMonitor& m_monitor;
-    const SettingsStore& m_settings;
-    const ThemeManager& m_themes;
-    StatusBar& m_statusBar;
+    SettingsStore& m_settings;
+    ThemeManager& m_themes;
     /// One per item; what an item is subscribed to ends with it.
     std::vector<std::unique_ptr<Throttle>> m_cancellables;
     std::unique_ptr<ContextMenu> m_contextMenu; ///< null before the first right click
     std::unique_ptr<QTimer> m_refreshTimer;
+    std::unique_ptr<SettingsWindow> m_settingsWindow; ///< null before it is first asked for
     Visibility m_previousVisibility;
 };
 

@@ -4,8 +4,7 @@
 
 namespace orvelle {
 
-/// The menu that a right click on any item opens. Without `openSettings` there is only the way to end the
-/// program.
+/// The menu that a right click on any item opens.
 [[nodiscard]] std::vector<MenuEntry> contextMenuEntries(std::function<void()> openSettings,
                                                         std::function<void()> quitApp);
 

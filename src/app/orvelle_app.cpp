@@ -23,7 +23,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_themes(m_settings)
     , m_monitor(makeHostSources(), m_settings)
     , m_statusBar(makeStatusBar())
-    , m_delegate(m_monitor, m_settings, m_themes, *m_statusBar) {
+    , m_delegate(m_monitor, m_settings, m_themes, {*m_statusBar, &loadViews, &makeSettingsWindow}) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Orvelle"));
     // The bar may be empty and every window closed; the program stays.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -36,10 +36,13 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
 }
 
 int OrvelleApp::run() {
-    if (!becomeOnlyInstance()) {
+    m_onlyInstance = becomeOnlyInstance();
+    if (m_onlyInstance == nullptr) {
         std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
         return EXIT_SUCCESS;
     }
+    QObject::connect(m_onlyInstance.get(), &OnlyInstance::startedAgain, &m_delegate,
+                     &AppDelegate::applicationShouldHandleReopen);
     m_delegate.applicationDidFinishLaunching();
     return QGuiApplication::exec();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app_delegate.h"
+#include "app/shell/only_instance.h"
 #include "app/termination_signals.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
@@ -33,6 +34,7 @@ private:
     ThemeManager m_themes;
     SystemMonitor m_monitor;
     std::unique_ptr<StatusBar> m_statusBar;
+    std::unique_ptr<OnlyInstance> m_onlyInstance; ///< null before run()
     AppDelegate m_delegate;
 };
 

@@ -8,6 +8,7 @@ FocusScope {
 
     required property ThemeManager themeManager
     required property Item content
+    required property real cornerRadius
     signal openSettings()
 
     width: 320
@@ -24,7 +25,10 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
+        radius: container.cornerRadius
         color: container.themeManager.currentTheme.backgroundColor
+        border.width: radius > 0 ? 1 / Screen.devicePixelRatio : 0
+        border.color: Look.separator
     }
     PanelScroller {
         id: scroller

@@ -82,7 +82,7 @@ QQmlEngine& PanelFactory::engine() {
     return *m_engine;
 }
 
-std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key) {
+std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double cornerRadius) {
     std::optional<PanelRecipe> recipe = recipeOf(key, m_context.monitor);
     if (!recipe)
         return nullptr;
@@ -101,7 +101,10 @@ std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key) {
     }
     auto window = std::make_unique<PanelWindow>(engine(), m_context.openSettings);
     panel->setParent(window.get());
-    window->setPanel(*panel, {{QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes)}});
+    if (cornerRadius > 0)
+        window->makeTranslucent();
+    window->setPanel(*panel, {{QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes)},
+                              {QStringLiteral("cornerRadius"), cornerRadius}});
     window->resize(panelSize);
     return window;
 }

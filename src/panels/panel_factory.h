@@ -33,9 +33,9 @@ public:
     PanelFactory(const PanelFactory&) = delete;
     PanelFactory& operator=(const PanelFactory&) = delete;
 
-    /// The panel of the module with this key in a window of its own, not shown yet; null for a key that no
-    /// module has.
-    [[nodiscard]] std::unique_ptr<QQuickView> makePanel(QStringView key);
+    /// The panel of the module with this key in a window of its own, not shown yet, with its corners rounded
+    /// by so many points; null for a key that no module has.
+    [[nodiscard]] std::unique_ptr<QQuickView> makePanel(QStringView key, double cornerRadius = 0);
 
 private:
     [[nodiscard]] QQmlEngine& engine();

@@ -4,6 +4,13 @@
 
 namespace orvelle {
 
+void PanelWindow::makeTranslucent() {
+    QSurfaceFormat translucent = requestedFormat();
+    translucent.setAlphaBufferSize(8);
+    setFormat(translucent);
+    setColor(Qt::transparent);
+}
+
 void PanelWindow::setPanel(QQuickItem& panel, QVariantMap frameProperties) {
     frameProperties.insert(QStringLiteral("content"), QVariant::fromValue(&panel));
     setInitialProperties(frameProperties);

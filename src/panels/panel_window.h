@@ -15,6 +15,9 @@ public:
         : QQuickView(&engine, nullptr)
         , m_openSettings(std::move(openSettings)) {}
 
+    /// Lets what is behind the window be seen where nothing is painted, as in its corners. Before it is
+    /// shown.
+    void makeTranslucent();
     /// Shows `panel` in the frame that every panel has. The properties are those of the frame.
     void setPanel(QQuickItem& panel, QVariantMap frameProperties);
 

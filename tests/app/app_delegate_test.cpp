@@ -15,6 +15,36 @@ namespace {
 static_assert(AppDelegate::redrawInterval == std::chrono::seconds(2));
 static_assert(AppDelegate::visibilityInterval == std::chrono::seconds(3));
 
+/// Makes empty windows and records for what.
+class RecordedViews final : public Views {
+public:
+    explicit RecordedViews(QStringList& calls)
+        : m_calls(calls) {}
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
+        m_calls.append(QStringLiteral("%1 panel %2").arg(key).arg(cornerRadius));
+        return std::make_unique<QWindow>();
+    }
+    [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
+        m_calls.append(QStringLiteral("settings"));
+        return std::make_unique<QWindow>();
+    }
+
+private:
+    QStringList& m_calls;
+};
+
+class RecordedSettingsWindow final : public SettingsWindow {
+public:
+    RecordedSettingsWindow(std::unique_ptr<QWindow> content, QStringList& calls)
+        : m_content(std::move(content))
+        , m_calls(calls) {}
+    void bringForward() override { m_calls.append(QStringLiteral("forward")); }
+
+private:
+    std::unique_ptr<QWindow> m_content;
+    QStringList& m_calls;
+};
+
 class AppDelegateTest : public ::testing::Test {
 protected:
     void showAll(bool shown) {
@@ -37,7 +67,23 @@ protected:
     ThemeManager themes{settings};
     SystemMonitor monitor{makeHostSources(), settings};
     RecordingStatusBar bar;
-    AppDelegate delegate{monitor, settings, themes, bar};
+    /// What the delegate asked of the views and of the settings window, in order.
+    QStringList windowCalls;
+    std::optional<ViewContext> context;
+    bool canLoadViews = true;
+    AppDelegate delegate{monitor,
+                         settings,
+                         themes,
+                         {bar,
+                          [this](const ViewContext& given) -> std::unique_ptr<Views> {
+                              windowCalls.append(QStringLiteral("load"));
+                              context.emplace(given);
+                              return canLoadViews ? std::make_unique<RecordedViews>(windowCalls) : nullptr;
+                          },
+                          [this](std::unique_ptr<QWindow> content) {
+                              return std::make_unique<RecordedSettingsWindow>(std::move(content),
+                                                                              windowCalls);
+                          }}};
 };
 
 TEST_F(AppDelegateTest, KnowsTheModulesInTheirFixedOrderAndLengths) {
@@ -199,11 +245,95 @@ TEST_F(AppDelegateTest, OpensTheMenuUnderTheItemThatIsClickedWithTheRightButton)
                                       QStringLiteral("menu ") + bar.items.back()->identifier()}));
 }
 
-TEST_F(AppDelegateTest, NeverOpensTheMenuOnALeftClick) {
+TEST_F(AppDelegateTest, OpensAPanelAndNoMenuOnALeftClick) {
     delegate.applicationDidFinishLaunching();
     bar.calls.clear();
+    EXPECT_TRUE(windowCalls.isEmpty()); // the windows are not loaded before they are needed
     bar.items.front()->click(ClickButton::left);
+    EXPECT_EQ(bar.calls, QStringList{QStringLiteral("open cpu")});
+    EXPECT_EQ(windowCalls, (QStringList{QStringLiteral("load"), QStringLiteral("cpu panel 7")}));
+    EXPECT_TRUE(delegate.isPopoverShown(QStringLiteral("cpu")));
+    EXPECT_FALSE(delegate.isPopoverShown(QStringLiteral("memory")));
+}
+
+TEST_F(AppDelegateTest, ClosesAPanelOnTheSecondClick) {
+    delegate.applicationDidFinishLaunching();
+    bar.calls.clear();
+    for (int count = 0; count < 3; ++count)
+        bar.items.front()->click(ClickButton::left);
+    EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("open cpu"), QStringLiteral("close cpu"),
+                                      QStringLiteral("open cpu")}));
+    EXPECT_EQ(windowCalls.size(), 2); // the content is made once
+}
+
+TEST_F(AppDelegateTest, ShowsOnePanelAtATime) {
+    delegate.applicationDidFinishLaunching();
+    bar.calls.clear();
+    bar.items[0]->click(ClickButton::left);
+    bar.items[1]->click(ClickButton::left);
+    EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("open cpu"), QStringLiteral("close cpu"),
+                                      QStringLiteral("open memory")}));
+    EXPECT_EQ(windowCalls.filter(QStringLiteral("load")).size(), 1);
+}
+
+TEST_F(AppDelegateTest, ClosesThePanelBeforeTheMenuOpens) {
+    delegate.applicationDidFinishLaunching();
+    bar.items[0]->click(ClickButton::left);
+    bar.calls.clear();
+    bar.items[0]->click(ClickButton::right);
+    EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("close cpu"), QStringLiteral("menu cpu")}));
+    EXPECT_FALSE(delegate.isPopoverShown(QStringLiteral("cpu")));
+}
+
+TEST_F(AppDelegateTest, MakesThePanelsAnewWithTheItems) {
+    delegate.applicationDidFinishLaunching();
+    bar.items[0]->click(ClickButton::left);
+    settings.setShowMemory(!settings.showMemory());
+    delegate.checkVisibility();
+    EXPECT_FALSE(delegate.isPopoverShown(QStringLiteral("cpu")));
+    windowCalls.clear();
+    bar.items[0]->click(ClickButton::left);
+    EXPECT_EQ(windowCalls, QStringList{QStringLiteral("cpu panel 7")});
+}
+
+TEST_F(AppDelegateTest, IgnoresAClickOnAnItemThatItDoesNotKnow) {
+    delegate.applicationDidFinishLaunching();
+    const RecordingStatusBar::Item stranger(QStringLiteral("clock"), 40);
+    bar.calls.clear();
+    delegate.togglePopover(stranger);
     EXPECT_TRUE(bar.calls.isEmpty());
+}
+
+TEST_F(AppDelegateTest, GoesOnWithoutWindowsThatCannotBeLoaded) {
+    canLoadViews = false;
+    delegate.applicationDidFinishLaunching();
+    bar.items[0]->click(ClickButton::left);
+    delegate.openSettings();
+    EXPECT_FALSE(windowCalls.contains(QStringLiteral("forward")));
+    canLoadViews = true;
+    delegate.openSettings();
+    EXPECT_EQ(windowCalls.last(), QStringLiteral("forward"));
+}
+
+TEST_F(AppDelegateTest, OpensOneSettingsWindowHoweverItIsAskedFor) {
+    delegate.applicationDidFinishLaunching();
+    delegate.openSettings();
+    EXPECT_EQ(windowCalls,
+              (QStringList{QStringLiteral("load"), QStringLiteral("settings"), QStringLiteral("forward")}));
+    windowCalls.clear();
+    context->openSettings(); // the button in a panel
+    bar.items.front()->click(ClickButton::right);
+    bar.menuEntries.front().action();
+    EXPECT_EQ(windowCalls, (QStringList{QStringLiteral("forward"), QStringLiteral("forward")}));
+}
+
+TEST_F(AppDelegateTest, ASecondStartOpensTheSettingsOnlyWhenNothingIsShown) {
+    delegate.applicationDidFinishLaunching();
+    delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(windowCalls.isEmpty());
+    showAll(false);
+    delegate.applicationShouldHandleReopen();
+    EXPECT_EQ(windowCalls.last(), QStringLiteral("forward"));
 }
 
 TEST_F(AppDelegateTest, ClosesTheMenuBeforeItsItemIsRemoved) {
@@ -218,9 +348,9 @@ TEST_F(AppDelegateTest, ClosesTheMenuBeforeItsItemIsRemoved) {
 TEST_F(AppDelegateTest, EndsTheProgramFromTheMenu) {
     delegate.applicationDidFinishLaunching();
     bar.items.front()->click(ClickButton::right);
-    ASSERT_EQ(bar.menuEntries.size(), 1U);
-    EXPECT_EQ(bar.menuEntries.front().title, QStringLiteral("Quit Orvelle"));
-    QTimer::singleShot(0, &bar, bar.menuEntries.front().action);
+    ASSERT_EQ(bar.menuEntries.size(), 3U);
+    EXPECT_EQ(bar.menuEntries.back().title, QStringLiteral("Quit Orvelle"));
+    QTimer::singleShot(0, &bar, bar.menuEntries.back().action);
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 

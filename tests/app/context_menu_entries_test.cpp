@@ -22,11 +22,5 @@ TEST(ContextMenuEntries, AreSettingsASeparatorAndQuit) {
     EXPECT_EQ(calls, (QStringList{QStringLiteral("settings"), QStringLiteral("quit")}));
 }
 
-TEST(ContextMenuEntries, AreQuitAloneWithoutSettings) {
-    const std::vector<MenuEntry> entries = contextMenuEntries(nullptr, [] {});
-    ASSERT_EQ(entries.size(), 1U);
-    EXPECT_EQ(entries[0].title, QStringLiteral("Quit Orvelle"));
-}
-
 } // namespace
 } // namespace orvelle

@@ -3,6 +3,7 @@
 #include "app/shell/status_bar.h"
 
 #include <QStringList>
+#include <QWindow>
 
 #include <algorithm>
 #include <vector>
@@ -12,6 +13,8 @@ namespace orvelle {
 /// A status bar without a desktop: it holds the items and records what is asked of it.
 class RecordingStatusBar final : public StatusBar {
 public:
+    static constexpr double cornerRadius = 7; ///< that is asked of every popover's content
+
     class Item final : public StatusItem {
     public:
         Item(QString identifier, double length)
@@ -34,6 +37,32 @@ public:
     private:
         QString m_identifier;
         double m_length;
+    };
+
+    class Panel final : public Popover {
+    public:
+        Panel(RecordingStatusBar& bar, PopoverContent makeContent)
+            : m_bar(bar)
+            , m_makeContent(std::move(makeContent)) {}
+        [[nodiscard]] bool isShown() const override { return m_isShown; }
+        void show(const StatusItem& item) override {
+            m_bar.calls.append(QStringLiteral("open ") + item.identifier());
+            if (m_content == nullptr)
+                m_content = m_makeContent(cornerRadius);
+            m_identifier = item.identifier();
+            m_isShown = true;
+        }
+        void close() override {
+            m_bar.calls.append(QStringLiteral("close ") + m_identifier);
+            m_isShown = false;
+        }
+
+    private:
+        RecordingStatusBar& m_bar;
+        PopoverContent m_makeContent;
+        std::unique_ptr<QWindow> m_content;
+        QString m_identifier;
+        bool m_isShown = false;
     };
 
     class Menu final : public ContextMenu {
@@ -63,6 +92,9 @@ public:
         std::erase_if(items, [&item](const auto& present) { return present.get() == &item; });
     }
 
+    [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override {
+        return std::make_unique<Panel>(*this, std::move(makeContent));
+    }
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override {
         return std::make_unique<Menu>(*this);
     }

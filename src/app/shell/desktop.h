@@ -1,6 +1,11 @@
 #pragma once
 
+#include "app/shell/login_item.h"
+#include "app/shell/only_instance.h"
+#include "app/shell/settings_window.h"
 #include "app/shell/status_bar.h"
+
+#include <QWindow>
 
 #include <optional>
 
@@ -11,11 +16,17 @@ namespace orvelle {
 /// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
 [[nodiscard]] std::optional<QString> prepareDesktop();
 
-/// Whether this process is from now on the only one of the program on its desktop, until it ends; false when
-/// another one is. Needs the application object.
-[[nodiscard]] bool becomeOnlyInstance();
+/// Makes this process the only one of the program on its desktop. Null when another one is, which has then
+/// been told. Needs the application object.
+[[nodiscard]] std::unique_ptr<OnlyInstance> becomeOnlyInstance();
 
 /// The bar of this desktop, empty and not yet shown. Needs the application object.
 [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar();
+
+/// The settings window, not shown yet, around a content that has not been shown.
+[[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content);
+
+/// The login item of this program for the present user.
+[[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem();
 
 } // namespace orvelle

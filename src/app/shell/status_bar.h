@@ -1,12 +1,18 @@
 #pragma once
 
 #include "app/shell/context_menu.h"
+#include "app/shell/popover.h"
 
 #include <QObject>
+#include <QWindow>
 
 #include <memory>
 
 namespace orvelle {
+
+/// Makes what a popover shows, 320 x 500 points, with its corners rounded by so many points; null when it
+/// cannot be made.
+using PopoverContent = std::function<std::unique_ptr<QWindow>(double cornerRadius)>;
 
 /// The strip of the desktop that holds the status items, flush right. Main thread only.
 class StatusBar : public QObject {
@@ -18,6 +24,9 @@ public:
 
     /// Destroys the item; those to its left move right to close the gap. A bar without items shows nothing.
     virtual void removeItem(StatusItem& item) = 0;
+
+    /// A popover, not shown yet, for the items of this bar, which must outlive it.
+    [[nodiscard]] virtual std::unique_ptr<Popover> makePopover(PopoverContent makeContent) = 0;
 
     /// A menu, not shown yet, for the items of this bar, which must outlive it.
     [[nodiscard]] virtual std::unique_ptr<ContextMenu> makeContextMenu() = 0;

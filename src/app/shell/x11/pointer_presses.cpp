@@ -55,6 +55,9 @@ void selectEvents(xcb_connection_t* connection, std::uint32_t mask) {
     xcb_flush(connection);
 }
 
+/// One selection serves all that listen.
+int listenerCount = 0;
+
 bool isWheel(std::uint32_t button) {
     return button >= 4 && button <= 7;
 }
@@ -69,7 +72,8 @@ PointerPresses::PointerPresses() {
     if (extension == nullptr || extension->present == 0)
         return;
     m_extension = extension->major_opcode;
-    selectEvents(connection, 1U << rawButtonPressEvent);
+    if (++listenerCount == 1)
+        selectEvents(connection, 1U << rawButtonPressEvent);
     qGuiApp->installNativeEventFilter(this);
 }
 
@@ -77,7 +81,8 @@ PointerPresses::~PointerPresses() {
     if (m_extension == 0)
         return;
     qGuiApp->removeNativeEventFilter(this);
-    if (xcb_connection_t* connection = xcbConnection())
+    xcb_connection_t* connection = xcbConnection();
+    if (--listenerCount == 0 && connection != nullptr)
         selectEvents(connection, 0);
 }
 

@@ -9,7 +9,7 @@ namespace orvelle {
 
 /// Tells of every press of a mouse button on the desktop while it exists, also of those that are meant for
 /// other programs, which receive them all the same: it listens to the pointing devices themselves and grabs
-/// nothing. Silent where the server cannot tell. At most one instance exists. Main thread only.
+/// nothing. Silent where the server cannot tell. Main thread only.
 class PointerPresses : public QObject, private QAbstractNativeEventFilter {
     Q_OBJECT
 

@@ -22,6 +22,13 @@ QRect menuGeometry(const QRectF& item, const QSize& size, const QRect& screen) {
         size};
 }
 
+QRect popoverGeometry(const QRectF& item, const QSize& size, const QRect& screen) {
+    const int top = static_cast<int>(std::ceil(item.bottom())) + screenMarginPoints;
+    const int room = screen.top() + screen.height() - screenMarginPoints - top;
+    return {keptOnScreen(item.center().x() - size.width() / 2.0, size.width(), screen), top, size.width(),
+            std::clamp(room, 1, size.height())};
+}
+
 QRegion roundedRegion(const QSize& size, int radius) {
     QRegion region(0, radius, size.width(), size.height() - 2 * radius);
     for (int row = 0; row < radius; ++row) {

@@ -14,6 +14,10 @@ inline constexpr int screenMarginPoints = 4;
 /// the screen. It begins below the item even where there is no room for it.
 [[nodiscard]] QRect menuGeometry(const QRectF& item, const QSize& size, const QRect& screen);
 
+/// A popover of that size: centred below the item, moved as far as it needs to stay on the screen, and less
+/// high than wanted on a low screen.
+[[nodiscard]] QRect popoverGeometry(const QRectF& item, const QSize& size, const QRect& screen);
+
 /// A rectangle of that size at the origin with rounded corners, made of whole points.
 [[nodiscard]] QRegion roundedRegion(const QSize& size, int radius);
 

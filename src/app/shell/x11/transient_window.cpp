@@ -41,7 +41,8 @@ bool TransientWindow::paintsItsCorners() const {
     return m_window.requestedFormat().hasAlpha() && desktopComposesWindows();
 }
 
-void TransientWindow::show(QScreen& screen, const QRect& geometry) {
+void TransientWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spared) {
+    m_spared = spared;
     m_window.setScreen(&screen);
     // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
     // step is 2 pixels.
@@ -65,7 +66,7 @@ void TransientWindow::close() {
 
 void TransientWindow::pressed() {
     const QPoint position = QCursor::pos();
-    if (!m_window.geometry().contains(position))
+    if (!m_window.geometry().contains(position) && !m_spared.contains(position))
         close();
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QPoint>
+#include <QRectF>
 
-#include <functional>
 #include <memory>
 
 class QScreen;
@@ -27,8 +26,8 @@ public:
     explicit TransientWindow(QWindow& window);
     ~TransientWindow() override;
 
-    /// `geometry` is in points of the desktop.
-    void show(QScreen& screen, const QRect& geometry);
+    /// Both rectangles are in points of the desktop. A press in `spared` does not close the window.
+    void show(QScreen& screen, const QRect& geometry, const QRectF& spared = {});
     void close();
     [[nodiscard]] bool isShown() const { return m_presses != nullptr; }
 
@@ -42,6 +41,7 @@ private:
     [[nodiscard]] bool paintsItsCorners() const;
 
     QWindow& m_window;
+    QRectF m_spared;
     bool m_wasActive = false;
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
 };

@@ -2,6 +2,7 @@
 
 #include "app/shell/desktop.h"
 #include "app/shell/x11/x11_context_menu.h"
+#include "app/shell/x11/x11_popover.h"
 
 namespace orvelle {
 
@@ -17,6 +18,10 @@ StatusItem& X11StatusBar::addItem(const QString& identifier, double length) {
 
 void X11StatusBar::removeItem(StatusItem& item) {
     m_window.removeItem(item);
+}
+
+std::unique_ptr<Popover> X11StatusBar::makePopover(PopoverContent makeContent) {
+    return std::make_unique<X11Popover>(m_window, std::move(makeContent));
 }
 
 std::unique_ptr<ContextMenu> X11StatusBar::makeContextMenu() {

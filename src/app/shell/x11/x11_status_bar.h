@@ -15,6 +15,7 @@ public:
 
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override;
     void removeItem(StatusItem& item) override;
+    [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
 
 private:

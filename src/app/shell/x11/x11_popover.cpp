@@ -1,0 +1,36 @@
+#include "app/shell/x11/x11_popover.h"
+
+#include "app/shell/x11/transient_geometry.h"
+
+#include <QScreen>
+
+namespace orvelle {
+
+X11Popover::X11Popover(const BarWindow& bar, PopoverContent makeContent)
+    : m_bar(bar)
+    , m_makeContent(std::move(makeContent)) {}
+
+bool X11Popover::makeWindow() {
+    if (m_window == nullptr)
+        m_window = m_makeContent(TransientWindow::cornerRadiusPoints);
+    if (m_window == nullptr)
+        return false;
+    m_size = m_window->size();
+    m_transient.emplace(*m_window);
+    return true;
+}
+
+void X11Popover::show(const StatusItem& item) {
+    if (!m_transient && !makeWindow())
+        return;
+    QScreen& screen = *m_bar.screen();
+    const QRectF bounds = m_bar.desktopBounds(item);
+    m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
+}
+
+void X11Popover::close() {
+    if (m_transient)
+        m_transient->close();
+}
+
+} // namespace orvelle
