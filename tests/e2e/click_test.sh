@@ -126,7 +126,7 @@ testClickOnBar
 testQuit ctrl+q
 startOrvelle 1.5
 testMenu
-testQuit Down Return
+testQuit Down Down Return
 startOrvelle 2
 testMenu
 testQuitWithTheMouse

@@ -24,7 +24,8 @@ bool desktopComposesWindows() {
 } // namespace
 
 TransientWindow::TransientWindow(QWindow& window)
-    : m_window(window) {
+    : m_window(window)
+    , m_fade(window) {
     // Not a popup, whose grab would take the click that closes it away from what was clicked.
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     m_window.installEventFilter(this);
@@ -52,7 +53,7 @@ void TransientWindow::show(QScreen& screen, const QRect& geometry, const QRectF&
     m_wasActive = false;
     m_presses = std::make_unique<PointerPresses>();
     connect(m_presses.get(), &PointerPresses::pressed, this, &TransientWindow::pressed);
-    m_window.show();
+    m_fade.show(desktopComposesWindows());
     m_window.requestActivate();
 }
 
@@ -60,7 +61,7 @@ void TransientWindow::close() {
     if (!isShown())
         return;
     m_presses.release()->deleteLater(); // it may be what asks for this
-    m_window.hide();
+    m_fade.hide(m_window.isVisible() && desktopComposesWindows());
     Q_EMIT closed();
 }
 

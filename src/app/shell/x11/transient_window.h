@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/shell/x11/window_fade.h"
+
 #include <QObject>
 #include <QRectF>
 
@@ -14,7 +16,8 @@ class PointerPresses;
 
 /// Makes a window transient: it opens over the others with the keyboard in it and closes with Escape, when
 /// another window gets the keyboard, and when a mouse button goes down outside of it, which takes nothing
-/// from what was clicked. Its corners are rounded. Main thread only.
+/// from what was clicked. Its corners are rounded, and where the
+/// desktop composes its windows it appears and disappears softly. Main thread only.
 class TransientWindow : public QObject {
     Q_OBJECT
 
@@ -41,6 +44,7 @@ private:
     [[nodiscard]] bool paintsItsCorners() const;
 
     QWindow& m_window;
+    WindowFade m_fade;
     QRectF m_spared;
     bool m_wasActive = false;
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
