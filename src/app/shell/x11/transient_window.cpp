@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <utility>
+
 namespace orvelle {
 namespace {
 
@@ -44,6 +46,7 @@ bool TransientWindow::paintsItsCorners() const {
 
 void TransientWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spared) {
     m_spared = spared;
+    m_isPainted = m_window.isExposed();
     m_window.setScreen(&screen);
     // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
     // step is 2 pixels.
@@ -79,6 +82,9 @@ void TransientWindow::activeChanged() {
 }
 
 bool TransientWindow::eventFilter(QObject* watched, QEvent* event) {
+    // The window paints when it handles the event, which is after this filter.
+    if (event->type() == QEvent::Expose && m_window.isExposed() && !std::exchange(m_isPainted, true))
+        QMetaObject::invokeMethod(this, &TransientWindow::painted, Qt::QueuedConnection);
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         close();
         return true;

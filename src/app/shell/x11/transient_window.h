@@ -36,6 +36,8 @@ public:
 
 Q_SIGNALS:
     void closed();
+    /// The first picture since the window opened is on the screen.
+    void painted();
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,6 +49,7 @@ private:
     WindowFade m_fade;
     QRectF m_spared;
     bool m_wasActive = false;
+    bool m_isPainted = false;
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
 };
 

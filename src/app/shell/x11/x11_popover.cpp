@@ -2,9 +2,17 @@
 
 #include "app/shell/x11/transient_geometry.h"
 
+#include <QElapsedTimer>
+#include <QLoggingCategory>
 #include <QScreen>
 
 namespace orvelle {
+namespace {
+
+/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
+Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
+
+} // namespace
 
 X11Popover::X11Popover(const BarWindow& bar, PopoverContent makeContent)
     : m_bar(bar)
@@ -21,8 +29,16 @@ bool X11Popover::makeWindow() {
 }
 
 void X11Popover::show(const StatusItem& item) {
+    QElapsedTimer sinceCall;
+    sinceCall.start();
     if (!m_transient && !makeWindow())
         return;
+    const auto logPainted = [sinceCall, name = item.identifier()] {
+        qCDebug(openLog, "the %s panel was painted %.1f ms after it was asked for", qPrintable(name),
+                static_cast<double>(sinceCall.nsecsElapsed()) / 1e6);
+    };
+    QObject::connect(&*m_transient, &TransientWindow::painted, &*m_transient, logPainted,
+                     Qt::SingleShotConnection);
     QScreen& screen = *m_bar.screen();
     const QRectF bounds = m_bar.desktopBounds(item);
     m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
