@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A label and an address that can be selected and copied.
@@ -14,7 +15,7 @@ RowLayout {
     Layout.fillWidth: true
     spacing: 8
 
-    PanelText {
+    PlainText {
         text: row.label
         color: Look.secondaryLabel
     }

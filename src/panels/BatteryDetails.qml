@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// What the battery panel shows of a battery.
@@ -21,19 +22,19 @@ ColumnLayout {
         symbol: "battery.100"
         title: "Battery"
         moduleColor: details.moduleColor
-        PanelText {
+        PlainText {
             objectName: "state"
             text: PanelRules.powerStateText(details.info.isCharging, details.info.isFullyCharged)
             size: 12
             color: Look.valueLabel
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         RowLayout {
             spacing: 4
-            PanelText {
+            PlainText {
                 objectName: "charge"
                 text: details.info.currentCapacity + "%"
                 size: 24
@@ -47,7 +48,7 @@ ColumnLayout {
                 fontSize: 11
                 color: Look.yellow
             }
-            PanelText {
+            PlainText {
                 objectName: "mark"
                 visible: details.info.isCharging || details.isFull
                 text: details.isFull ? "Fully Charged" : "Charging"
@@ -63,7 +64,7 @@ ColumnLayout {
         }
         RowLayout {
             spacing: 4
-            PanelText {
+            PlainText {
                 objectName: "time"
                 text: PanelRules.formatTimeRemaining(details.info.isCharging ? details.info.timeToFull
                                                                              : details.info.timeToEmpty)
@@ -75,7 +76,7 @@ ColumnLayout {
                 fontSize: 9
                 color: Look.secondaryLabel
             }
-            PanelText {
+            PlainText {
                 objectName: "power"
                 text: PanelRules.measureText(details.info.wattage, 1, "W")
                 monospaced: true
@@ -84,7 +85,7 @@ ColumnLayout {
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "CHARGE HISTORY" }
@@ -98,7 +99,7 @@ ColumnLayout {
             Accessible.name: "Charge history"
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 4
         DetailRow {
@@ -118,7 +119,7 @@ ColumnLayout {
             value: details.info.cycleCount
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         RowLayout {
@@ -126,7 +127,7 @@ ColumnLayout {
                 text: "BATTERY HEALTH"
                 Layout.fillWidth: true
             }
-            PanelText {
+            PlainText {
                 objectName: "health"
                 text: PanelRules.formatPercent(details.info.health)
                 weight: Font.DemiBold
@@ -137,7 +138,7 @@ ColumnLayout {
             fraction: details.info.health
             fillColor: details.healthColor
         }
-        PanelText {
+        PlainText {
             text: "Design: " + details.info.designCapacity + " mAh | Max: " + details.info.maxCapacity + " mAh"
             size: 9
             color: Look.secondaryLabel

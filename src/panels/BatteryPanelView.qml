@@ -1,4 +1,5 @@
 import QtQuick
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {

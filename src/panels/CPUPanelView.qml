@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -14,7 +15,7 @@ PanelBody {
         symbol: "cpu"
         title: "CPU"
         moduleColor: panel.moduleColor
-        PanelText {
+        PlainText {
             objectName: "totalUsage"
             text: PanelRules.percentText(panel.cpu.totalUsage * 100)
             size: 18
@@ -22,7 +23,7 @@ PanelBody {
             color: panel.moduleColor
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "PER CORE" }
@@ -55,7 +56,7 @@ PanelBody {
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "HISTORY (60s)" }
@@ -69,7 +70,7 @@ PanelBody {
             Accessible.name: "Usage history"
         }
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         Layout.fillWidth: true
         spacing: 12
@@ -89,7 +90,7 @@ PanelBody {
             value: panel.cpu.coreUsages.length
         }
     }
-    PanelDivider {}
+    Divider {}
     ProcessListView {
         objectName: "processes"
         title: "Top Processes"

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A label, and its value at the end of the row.
@@ -13,12 +14,12 @@ RowLayout {
     Layout.fillWidth: true
     spacing: 8
 
-    PanelText {
+    PlainText {
         text: row.label
         size: row.labelSize
         color: Look.secondaryLabel
     }
-    PanelText {
+    PlainText {
         text: row.value
         color: Look.valueLabel
         horizontalAlignment: Text.AlignRight

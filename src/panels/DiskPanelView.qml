@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -14,7 +15,7 @@ PanelBody {
         title: "Disk"
         moduleColor: panel.moduleColor
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "VOLUMES" }
@@ -31,7 +32,7 @@ PanelBody {
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         spacing: 12
         SpeedBlock {
@@ -49,7 +50,7 @@ PanelBody {
             speedSize: 14
         }
     }
-    PanelDivider {}
+    Divider {}
     RateGraphs {
         objectName: "graphs"
         settings: panel.settings
@@ -63,15 +64,15 @@ PanelBody {
         secondColor: panel.themeManager.currentTheme.diskWriteColor
         graphHeight: 50
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
-        PanelText {
+        PlainText {
             text: "Total Read: " + PanelRules.byteSizeText(panel.io.bytesRead)
             size: 9
             color: Look.secondaryLabel
             Layout.fillWidth: true
         }
-        PanelText {
+        PlainText {
             text: "Total Written: " + PanelRules.byteSizeText(panel.io.bytesWritten)
             size: 9
             color: Look.secondaryLabel

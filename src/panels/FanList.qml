@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// The fans, whose icons turn with them. One timer turns all icons: twenty steps a second look like turning

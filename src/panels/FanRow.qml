@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A fan, its icon turned, and its speed.
@@ -23,13 +24,13 @@ RowLayout {
         color: row.moduleColor
         rotation: PanelRules.displayedFanAngle(row.baseAngle, row.fan.speed)
     }
-    PanelText {
+    PlainText {
         id: name
         text: "Fan " + row.fan.index
         color: Look.valueLabel
         Layout.fillWidth: true
     }
-    PanelText {
+    PlainText {
         id: speed
         objectName: "speed"
         text: row.fan.speed + " RPM"

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A line graph in the style of the settings.

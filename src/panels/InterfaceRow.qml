@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A network interface and its present speeds.
@@ -27,13 +28,13 @@ RowLayout {
             color: Look.faded(row.moduleColor, 0.7)
         }
     }
-    PanelText {
+    PlainText {
         text: row.info.displayName
         size: 10
         color: Look.valueLabel
         Layout.fillWidth: true
     }
-    PanelText {
+    PlainText {
         text: "\u2193 " + PanelRules.formatRate(row.info.downloadSpeed)
         size: 9
         monospaced: true
@@ -41,7 +42,7 @@ RowLayout {
         horizontalAlignment: Text.AlignRight
         Layout.preferredWidth: 68 // speeds stand below each other
     }
-    PanelText {
+    PlainText {
         text: "\u2191 " + PanelRules.formatRate(row.info.uploadSpeed)
         size: 9
         monospaced: true

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A colour and what it stands for: a dot beside areas, a stroke beside lines.
@@ -19,7 +20,7 @@ RowLayout {
         color: item.swatchColor
         Layout.alignment: Qt.AlignVCenter
     }
-    PanelText {
+    PlainText {
         text: item.text
         size: item.isLine ? 9 : 10
         color: Look.secondaryLabel

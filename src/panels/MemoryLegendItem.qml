@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A part of the memory: its colour, its name and its size.
@@ -18,13 +19,13 @@ RowLayout {
         radius: 3
         color: item.swatchColor
     }
-    PanelText {
+    PlainText {
         text: item.name
         size: 10
         color: Look.secondaryLabel
         Layout.preferredWidth: 70
     }
-    PanelText {
+    PlainText {
         text: PanelRules.byteSizeText(item.bytes)
         size: 10
         color: Look.valueLabel

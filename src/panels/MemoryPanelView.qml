@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -15,7 +16,7 @@ PanelBody {
         symbol: "memorychip"
         title: "Memory"
         moduleColor: panel.moduleColor
-        PanelText {
+        PlainText {
             objectName: "usedOfTotal"
             text: PanelRules.byteSizeText(panel.info.used) + " / " + PanelRules.byteSizeText(panel.info.total)
             size: 12
@@ -24,7 +25,7 @@ PanelBody {
             color: panel.moduleColor
         }
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         spacing: 24
         Layout.margins: 6
@@ -42,27 +43,27 @@ PanelBody {
             }
             MemoryLegendItem {
                 name: "Wired"
-                swatchColor: Look.faded(Look.red, 0.8)
+                swatchColor: MemoryColors.wired
                 bytes: panel.info.wired
             }
             MemoryLegendItem {
                 name: "Compressed"
-                swatchColor: Look.orange
+                swatchColor: MemoryColors.compressed
                 bytes: panel.info.compressed
             }
             MemoryLegendItem {
                 name: "Cached"
-                swatchColor: Look.faded(Look.cyan, 0.6)
+                swatchColor: MemoryColors.cached
                 bytes: panel.info.cached
             }
             MemoryLegendItem {
                 name: "Free"
-                swatchColor: Look.faded(Look.white, 0.3) // brighter than in the ring, to be seen at this size
+                swatchColor: MemoryColors.freeInLegend
                 bytes: panel.info.free
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         RowLayout {
@@ -75,7 +76,7 @@ PanelBody {
                 implicitHeight: badge.implicitHeight + 2 * 2
                 radius: 4
                 color: Look.faded(badge.color, 0.15)
-                PanelText {
+                PlainText {
                     id: badge
                     objectName: "pressureBadge"
                     anchors.centerIn: parent
@@ -97,33 +98,33 @@ PanelBody {
             Accessible.name: "Memory pressure history"
         }
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         spacing: 4
-        PanelText {
+        PlainText {
             text: "Swap Used"
             color: Look.secondaryLabel
             Layout.fillWidth: true
         }
-        PanelText {
+        PlainText {
             objectName: "swapUsed"
             text: PanelRules.byteSizeText(panel.info.swapUsed)
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel
         }
-        PanelText {
+        PlainText {
             text: "of"
             color: Look.secondaryLabel
         }
-        PanelText {
+        PlainText {
             text: PanelRules.byteSizeText(panel.info.swapTotal)
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel
         }
     }
-    PanelDivider {}
+    Divider {}
     ProcessListView {
         objectName: "processes"
         title: "Top Memory Consumers"

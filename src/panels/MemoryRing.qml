@@ -1,5 +1,6 @@
 import QtQuick
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// How the memory is divided, or how much of it is used, by the style of the settings.
@@ -28,23 +29,23 @@ Item {
         MultiSegmentRing {
             lineWidth: 10
             size: 90
-            trackColor: Look.faded(Look.white, 0.05)
+            trackColor: Look.partsTrack
             segments: [
-                { value: ring.info.wired, color: Look.faded(Look.red, 0.8), label: "Wired" },
+                { value: ring.info.wired, color: MemoryColors.wired, label: "Wired" },
                 { value: ring.info.active, color: ring.moduleColor, label: "Active" },
-                { value: ring.info.compressed, color: Look.orange, label: "Compressed" },
-                { value: ring.info.cached, color: Look.faded(Look.cyan, 0.6), label: "Cached" },
-                { value: ring.info.free, color: Look.faded(Look.white, 0.08), label: "Free" }
+                { value: ring.info.compressed, color: MemoryColors.compressed, label: "Compressed" },
+                { value: ring.info.cached, color: MemoryColors.cached, label: "Cached" },
+                { value: ring.info.free, color: MemoryColors.freeInRing, label: "Free" }
             ]
             children: Column {
                 anchors.centerIn: parent
-                PanelText {
+                PlainText {
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: PanelRules.formatPercent(ring.used)
                     size: 16
                     weight: Font.Bold
                 }
-                PanelText {
+                PlainText {
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: "Used"
                     size: 8
@@ -60,7 +61,7 @@ Item {
             lineWidth: 10
             size: 90
             baseColor: ring.moduleColor
-            trackColor: Look.faded(Look.white, 0.08)
+            trackColor: Look.track
             showGlow: PanelRules.hasGlow(ring.settings.glowIntensity)
             pulseCritical: true
             criticalThreshold: 0.9

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -15,7 +16,7 @@ PanelBody {
         title: "Network"
         moduleColor: panel.moduleColor
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         spacing: 12
         SpeedBlock {
@@ -31,7 +32,7 @@ PanelBody {
             speed: panel.network.totalUploadSpeed
         }
     }
-    PanelDivider {}
+    Divider {}
     RateGraphs {
         objectName: "graphs"
         settings: panel.settings
@@ -45,7 +46,7 @@ PanelBody {
         secondColor: panel.themeManager.currentTheme.networkUploadColor
         graphHeight: 60
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         AddressRow {
@@ -60,7 +61,7 @@ PanelBody {
             selectionColor: panel.moduleColor
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "INTERFACES" }
@@ -77,7 +78,7 @@ PanelBody {
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 4
         DetailRow {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 Item {
@@ -15,12 +16,12 @@ Item {
             fontSize: 24
             color: Look.green
         }
-        PanelText {
+        PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: "No Battery Detected"
             size: 12
         }
-        PanelText {
+        PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: "This Mac is running on AC power"
             size: 10

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// The module's symbol and name; what stands beside them is placed at the end of the row.
@@ -19,7 +20,7 @@ RowLayout {
         weight: Font.DemiBold
         color: header.moduleColor
     }
-    PanelText {
+    PlainText {
         text: header.title
         size: 14
         weight: Font.Bold

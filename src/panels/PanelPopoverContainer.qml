@@ -1,4 +1,5 @@
 import QtQuick
+import Orvelle.Look
 import Orvelle.Panels
 
 /// The frame of every panel: the content, which scrolls where it is high, above a footer with the button that
@@ -30,7 +31,7 @@ FocusScope {
         border.width: radius > 0 ? 1 / Screen.devicePixelRatio : 0
         border.color: Look.separator
     }
-    PanelScroller {
+    Scroller {
         id: scroller
         objectName: "scroller"
         width: parent.width
@@ -39,7 +40,7 @@ FocusScope {
         content: container.content
         focus: true
     }
-    PanelDivider {
+    Divider {
         id: divider
         width: parent.width
         anchors.bottom: footer.top

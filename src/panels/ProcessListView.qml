@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// The heaviest processes, in the order in which they are given.
@@ -17,7 +18,7 @@ ColumnLayout {
     Layout.fillWidth: true
     spacing: 2
 
-    PanelText {
+    PlainText {
         text: view.title.toUpperCase()
         weight: Font.DemiBold
         color: Look.secondaryLabel

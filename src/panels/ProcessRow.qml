@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A process: its name, a bar that compares it with the heaviest, and its value.
@@ -33,11 +34,11 @@ RowLayout {
     }
     Component.onCompleted: isComplete = true
 
-    PanelText {
+    PlainText {
         id: name
         text: row.process.name
         weight: Font.Medium
-        color: Look.faded(Look.white, 0.9)
+        color: Look.nameLabel
         Layout.preferredWidth: 90
         Layout.maximumWidth: 90
     }
@@ -46,7 +47,7 @@ RowLayout {
         Layout.fillWidth: true
         implicitHeight: 8
         radius: 2
-        color: Look.faded(Look.white, 0.06)
+        color: Look.listTrack
 
         Rectangle {
             objectName: "fill"
@@ -60,7 +61,7 @@ RowLayout {
             }
         }
     }
-    PanelText {
+    PlainText {
         id: value
         text: PanelRules.processValueText(row.process, row.mode)
         size: 10

@@ -1,5 +1,6 @@
 import QtQuick
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 TemperatureGauge {

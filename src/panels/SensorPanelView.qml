@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvelle.Charts
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -16,7 +17,7 @@ PanelBody {
         title: "Sensors"
         moduleColor: panel.moduleColor
     }
-    PanelDivider {}
+    Divider {}
     RowLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: 20
@@ -35,18 +36,18 @@ PanelBody {
             baseColor: Look.orange
         }
     }
-    PanelDivider {}
+    Divider {}
     TemperatureHistory {
         sensor: panel.sensor
         settings: panel.settings
         themeManager: panel.themeManager
         moduleColor: panel.moduleColor
     }
-    PanelDivider {}
+    Divider {}
     ColumnLayout {
         spacing: 4
         SectionTitle { text: "ALL SENSORS" }
-        PanelText {
+        PlainText {
             objectName: "placeholder"
             visible: panel.sensor.sensors.length === 0
             text: "No sensor data available"
@@ -68,7 +69,7 @@ PanelBody {
             }
         }
     }
-    PanelDivider {}
+    Divider {}
     FanList {
         fans: panel.sensor.fans
         moduleColor: panel.moduleColor

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A sensor and its temperature.
@@ -15,13 +16,13 @@ RowLayout {
     Accessible.role: Accessible.ListItem
     Accessible.name: sensor.name + " " + value.text
 
-    PanelText {
+    PlainText {
         text: row.sensor.name
         size: 10
-        color: Look.faded(Look.white, 0.7)
+        color: Look.itemLabel
         Layout.fillWidth: true
     }
-    PanelText {
+    PlainText {
         id: value
         objectName: "value"
         text: PanelRules.formatTemperature(row.sensor.value, row.useFahrenheit)

@@ -1,4 +1,5 @@
 import QtQuick
+import Orvelle.Look
 import Orvelle.Panels
 
 Item {
@@ -22,8 +23,11 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 6
-        color: Look.faded(Look.white, tap.pressed ? 0.16 : hover.hovered ? 0.08 : 0)
-        border.width: button.activeFocus ? 1 : 0
+        color: tap.pressed ? Look.pressed : hover.hovered ? Look.hovered : Look.clear
+    }
+    FocusRing {
+        control: button
+        radius: 6
         border.color: button.focusColor
     }
     Symbol {
@@ -38,7 +42,7 @@ Item {
         id: tap
         onTapped: button.pressed()
     }
-    PanelTooltip {
+    Tooltip {
         id: tooltip
         text: "Open Orvelle Settings"
         isWanted: hover.hovered && !tap.pressed

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// The present speed in one direction.
@@ -23,13 +24,13 @@ ColumnLayout {
             fontSize: 10
             color: block.directionColor
         }
-        PanelText {
+        PlainText {
             text: block.label
             size: 10
             color: Look.secondaryLabel
         }
     }
-    PanelText {
+    PlainText {
         text: PanelRules.formatRate(block.speed)
         size: block.speedSize
         weight: Font.DemiBold

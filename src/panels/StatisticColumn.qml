@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A label above its value.
@@ -11,11 +12,11 @@ ColumnLayout {
 
     spacing: 2
 
-    PanelText {
+    PlainText {
         text: column.label
         color: Look.secondaryLabel
     }
-    PanelText {
+    PlainText {
         text: column.value
         monospaced: true
         color: Look.valueLabel

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A track that is filled to a fraction.
@@ -12,7 +13,7 @@ Rectangle {
     Layout.fillWidth: true
     implicitHeight: 6
     radius: 3
-    color: Look.faded(Look.white, 0.08)
+    color: Look.track
 
     Rectangle {
         objectName: "fill"

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Look
 import Orvelle.Panels
 
 /// A mounted volume: its name, how full it is, and its sizes.
@@ -14,7 +15,7 @@ Rectangle {
     Layout.fillWidth: true
     implicitHeight: rows.implicitHeight + 2 * 8
     radius: 6
-    color: Look.faded(Look.white, 0.03)
+    color: Look.card
 
     Accessible.role: Accessible.ListItem
     Accessible.name: volume.name + " " + PanelRules.formatPercent(used)
@@ -34,11 +35,11 @@ Rectangle {
                 fontSize: 11
                 color: Look.secondaryLabel
             }
-            PanelText {
+            PlainText {
                 text: card.volume.name
                 Layout.fillWidth: true
             }
-            PanelText {
+            PlainText {
                 objectName: "percent"
                 text: PanelRules.formatPercent(card.used)
                 weight: Font.DemiBold
@@ -52,14 +53,14 @@ Rectangle {
         }
         RowLayout {
             spacing: 6
-            PanelText {
+            PlainText {
                 text: PanelRules.byteSizeText(PanelRules.volumeUsedBytes(card.volume)) + " used"
                 size: 9
                 color: Look.secondaryLabel
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
             }
-            PanelText {
+            PlainText {
                 text: PanelRules.byteSizeText(card.volume.freeSpace) + " free"
                 size: 9
                 color: Look.secondaryLabel
@@ -67,7 +68,7 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
             }
-            PanelText {
+            PlainText {
                 text: PanelRules.byteSizeText(card.volume.totalSpace) + " total"
                 size: 9
                 color: Look.secondaryLabel

@@ -2,6 +2,7 @@
 
 #include "charts/quick/chart_types.h"
 #include "core/system_monitor.h"
+#include "panels/panel_types.h"
 #include "panels/panel_window.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
@@ -12,14 +13,6 @@
 
 #include <optional>
 #include <utility>
-
-void qml_register_types_Orvelle_Panels(); // written by the build
-
-/// A static library does not register what it holds by itself. The macro must stand outside all namespaces.
-static void registerPanels() {
-    //  Q_INIT_RESOURCE(qmlcache_orvelle_panels);
-    qml_register_types_Orvelle_Panels();
-}
 
 namespace orvelle {
 namespace {
@@ -55,31 +48,13 @@ std::optional<PanelRecipe> recipeOf(QStringView key, SystemMonitor& monitor) {
     return std::nullopt;
 }
 
-/// What is done once in the life of the program, whatever number of factories it has.
-void prepareQuick() {
-    static bool isPrepared = false;
-    if (std::exchange(isPrepared, true))
-        return;
-    // No graphics processor is woken for a few charts, and no driver loaded.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    registerChartTypes();
-    registerPanels();
-}
-
 } // namespace
 
-PanelFactory::PanelFactory(PanelContext context)
-    : m_context(std::move(context)) {}
-
-PanelFactory::~PanelFactory() = default;
-
-QQmlEngine& PanelFactory::engine() {
-    if (!m_engine) {
-        prepareQuick();
-        m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath(QStringLiteral("qrc:/"));
-    }
-    return *m_engine;
+PanelFactory::PanelFactory(QQmlEngine& engine, PanelContext context)
+    : m_engine(engine)
+    , m_context(std::move(context)) {
+    registerChartTypes();
+    registerPanelTypes();
 }
 
 std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double cornerRadius) {
@@ -90,7 +65,7 @@ std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double corn
     properties.insert(QStringLiteral("settings"), QVariant::fromValue(&m_context.settings));
     properties.insert(QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes));
 
-    QQmlComponent component(&engine(), QUrl(QStringLiteral("qrc:/Orvelle/Panels/%1.qml").arg(recipe->file)));
+    QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/Orvelle/Panels/%1.qml").arg(recipe->file)));
     // A component that is not ready must not be asked to create anything.
     auto* panel = component.isReady()
                       ? qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties))
@@ -99,7 +74,7 @@ std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double corn
         qWarning("%s", qUtf8Printable(component.errorString()));
         return nullptr;
     }
-    auto window = std::make_unique<PanelWindow>(engine(), m_context.openSettings);
+    auto window = std::make_unique<PanelWindow>(m_engine, m_context.openSettings);
     panel->setParent(window.get());
     if (cornerRadius > 0)
         window->makeTranslucent();

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "core/system_monitor.h"
-#include "settings/settings_store.h"
-#include "settings/theme_manager.h"
 
 #include <QQmlEngine>
 
-/// The monitors and the settings, which the program makes and QML only uses, and the records that they
-/// publish, to QML: the panels declare what they need by these types.
+/// The monitors, which the program makes and QML only uses, and the records that they publish, to QML: the
+/// panels declare what they need by these types.
 namespace orvelle {
+
+/// Makes the panels known to QML as the module `Orvelle.Panels`. A static library does not register its types
+/// by itself. Called again it does nothing.
+void registerPanelTypes();
 
 struct CPUMonitorInQml {
     Q_GADGET
@@ -56,20 +58,6 @@ struct ProcessMonitorInQml {
     Q_GADGET
     QML_FOREIGN(orvelle::ProcessMonitor)
     QML_NAMED_ELEMENT(ProcessMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct SettingsStoreInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::SettingsStore)
-    QML_NAMED_ELEMENT(SettingsStore)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct ThemeManagerInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::ThemeManager)
-    QML_NAMED_ELEMENT(ThemeManager)
     QML_UNCREATABLE("The program makes it.")
 };
 
@@ -125,12 +113,6 @@ struct ProcessInfoInQml {
     Q_GADGET
     QML_FOREIGN(orvelle::ProcessInfo)
     QML_VALUE_TYPE(processInfo)
-};
-
-struct AppThemeInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::AppTheme)
-    QML_VALUE_TYPE(appTheme)
 };
 
 } // namespace orvelle

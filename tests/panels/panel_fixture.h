@@ -1,12 +1,14 @@
 #pragma once
 
 #include "core/system_monitor.h"
+#include "look/quick/quick_engine.h"
 #include "panels/panel_factory.h"
 #include "platform/fixed/fixed_machine.h"
 #include "settings/settings_store.h"
 #include "settings/system_colors.h"
 #include "settings/theme_manager.h"
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QTest>
@@ -84,7 +86,9 @@ protected:
     FixedMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
     int settingsOpened = 0;
-    PanelFactory factory{{.monitor = monitor, .settings = settings, .themes = themes, .openSettings = [this] {
+    std::unique_ptr<QQmlEngine> engine = makeEngine();
+    PanelFactory factory{*engine,
+                         {.monitor = monitor, .settings = settings, .themes = themes, .openSettings = [this] {
                               ++settingsOpened;
                           }}};
     std::unique_ptr<QQuickView> panel;

@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Makes the charts known to QML as the module `Orvelle.Charts`. Called once, before the first engine; a
-/// static library does not register its types by itself.
+/// Makes the charts known to QML as the module `Orvelle.Charts`. A static library does not register its types
+/// by itself. Called again it does nothing.
 void registerChartTypes();
 
 /// The switch and the clock of all motion, to QML.

@@ -1,4 +1,4 @@
-#include "panels/look_singleton.h"
+#include "look/quick/look_singleton.h"
 
 #include "look/fonts.h"
 

@@ -1,5 +1,5 @@
 import QtQuick
-import Orvelle.Panels
+import Orvelle.Look
 
 /// Shows an item that may be higher than there is room, with a mark of where one is. Keys move it too.
 Flickable {
@@ -56,6 +56,6 @@ Flickable {
         width: 4
         height: Math.max(20, (scroller.height - 6) * scroller.visibleArea.heightRatio)
         radius: 2
-        color: Look.faded(Look.white, 0.25)
+        color: Look.scrollMark
     }
 }

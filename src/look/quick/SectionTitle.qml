@@ -1,7 +1,7 @@
 import QtQuick
-import Orvelle.Panels
+import Orvelle.Look
 
-PanelText {
+PlainText {
     size: 10
     weight: Font.DemiBold
     color: Look.secondaryLabel

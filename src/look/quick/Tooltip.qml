@@ -1,5 +1,5 @@
 import QtQuick
-import Orvelle.Panels
+import Orvelle.Look
 
 /// A short help text beside what the pointer rests on.
 Rectangle {
@@ -23,7 +23,7 @@ Rectangle {
         running: tooltip.isWanted
         onTriggered: tooltip.visible = true
     }
-    PanelText {
+    PlainText {
         id: label
         anchors.centerIn: parent
         text: tooltip.text

@@ -1,4 +1,4 @@
-#include "panels/symbol_item.h"
+#include "look/quick/symbol_item.h"
 
 #include "look/symbols.h"
 

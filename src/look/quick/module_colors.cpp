@@ -1,4 +1,4 @@
-#include "panels/module_colors.h"
+#include "look/quick/module_colors.h"
 
 namespace orvelle {
 

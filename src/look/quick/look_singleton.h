@@ -9,7 +9,7 @@
 
 namespace orvelle {
 
-/// The desktop's colours and fonts by role, to QML. No other place of the panels names a colour, apart from
+/// The desktop's colours and fonts by role, to QML. No other place of the windows names a colour, apart from
 /// the modules' and the theme's.
 class Look : public QObject {
     Q_OBJECT
@@ -24,7 +24,16 @@ class Look : public QObject {
     Q_PROPERTY(QColor clear READ clear CONSTANT)
     Q_PROPERTY(QColor primaryLabel READ primaryLabel CONSTANT)
     Q_PROPERTY(QColor secondaryLabel READ secondaryLabel CONSTANT)
+    Q_PROPERTY(QColor nameLabel READ nameLabel CONSTANT)
     Q_PROPERTY(QColor valueLabel READ valueLabel CONSTANT)
+    Q_PROPERTY(QColor itemLabel READ itemLabel CONSTANT)
+    Q_PROPERTY(QColor track READ track CONSTANT)
+    Q_PROPERTY(QColor listTrack READ listTrack CONSTANT)
+    Q_PROPERTY(QColor partsTrack READ partsTrack CONSTANT)
+    Q_PROPERTY(QColor card READ card CONSTANT)
+    Q_PROPERTY(QColor hovered READ hovered CONSTANT)
+    Q_PROPERTY(QColor pressed READ pressed CONSTANT)
+    Q_PROPERTY(QColor scrollMark READ scrollMark CONSTANT)
     Q_PROPERTY(QColor separator READ separator CONSTANT)
     Q_PROPERTY(QColor tooltip READ tooltip CONSTANT)
 
@@ -38,10 +47,28 @@ public:
     [[nodiscard]] static QColor clear() { return Qt::transparent; }
     [[nodiscard]] static QColor primaryLabel() { return LabelColors::primary; }
     [[nodiscard]] static QColor secondaryLabel() { return LabelColors::secondary; }
+    /// Names that lead a row.
+    [[nodiscard]] static QColor nameLabel() { return whiteAt(0.9); }
     /// Values of the second rank.
-    [[nodiscard]] static QColor valueLabel() { return faded(SystemColors::white, 0.8); }
+    [[nodiscard]] static QColor valueLabel() { return whiteAt(0.8); }
+    /// Names in a long list, where the values matter more.
+    [[nodiscard]] static QColor itemLabel() { return whiteAt(0.7); }
+
+    /// The empty part of a bar or a ring.
+    [[nodiscard]] static QColor track() { return whiteAt(0.08); }
+    /// The same of the many bars of a list.
+    [[nodiscard]] static QColor listTrack() { return whiteAt(0.06); }
+    /// The same of a ring whose parts fill it, one of which stands for what is empty.
+    [[nodiscard]] static QColor partsTrack() { return whiteAt(0.05); }
+    /// The ground of a card on the window's own.
+    [[nodiscard]] static QColor card() { return whiteAt(0.03); }
+    /// The ground of a control under the pointer, and of one that is held down.
+    [[nodiscard]] static QColor hovered() { return whiteAt(0.08); }
+    [[nodiscard]] static QColor pressed() { return whiteAt(0.16); }
+    /// Shows where one is in what scrolls.
+    [[nodiscard]] static QColor scrollMark() { return whiteAt(0.25); }
     /// The lines between sections.
-    [[nodiscard]] static QColor separator() { return faded(SystemColors::white, 0.35); }
+    [[nodiscard]] static QColor separator() { return whiteAt(0.35); }
 
     /// The ground of a help text: dark under every theme.
     [[nodiscard]] static QColor tooltip() { return SystemColors::grey.darker(300); }
@@ -52,6 +79,9 @@ public:
     /// Fonts of a size in points; the weight is one of QML's `Font` weights.
     Q_INVOKABLE [[nodiscard]] static QFont systemFont(double size, int weight);
     Q_INVOKABLE [[nodiscard]] static QFont monospacedFont(double size, int weight);
+
+private:
+    [[nodiscard]] static QColor whiteAt(double opacity) { return faded(SystemColors::white, opacity); }
 };
 
 } // namespace orvelle

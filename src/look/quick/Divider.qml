@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Orvelle.Panels
+import Orvelle.Look
 
 Rectangle {
     Layout.fillWidth: true

@@ -1,5 +1,5 @@
 import QtQuick
-import Orvelle.Panels
+import Orvelle.Look
 
 /// One line of text that is never read as markup: names come from outside.
 Text {

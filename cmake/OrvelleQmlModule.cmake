@@ -1,0 +1,32 @@
+# How every folder of QML is built into its library.
+
+# Where the tools for QML find all modules, each in the folder of its name.
+set(ORVELLE_QML_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
+
+# orvelle_qml_module(TARGET URI [IMPORTS...] [SINGLETONS...] [QML_FILES...]): makes the library, which was declared
+# before, the QML module of that name. Its files are compiled ahead of time. A static library does not register its
+# types by itself: it needs a function of its own for that, such as `registerLookTypes`.
+function(orvelle_qml_module target uri)
+  cmake_parse_arguments(ARG "" "" "IMPORTS;SINGLETONS;QML_FILES" ${ARGN})
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Quick)
+  string(REPLACE "." "/" folder ${uri})
+  target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}) # for the registration
+  set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+  qt_add_qml_module(${target}
+    URI ${uri}
+    VERSION 1.0
+    OUTPUT_DIRECTORY ${ORVELLE_QML_DIRECTORY}/${folder}
+    NO_PLUGIN
+    DEPENDENCIES QtQuick
+    IMPORTS ${ARG_IMPORTS}
+    QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
+
+  # What the QML compiler writes is not ours to keep free of warnings, nor to search for faults.
+  set(generated_options -w)
+  if(ORVELLE_SANITIZE)
+    list(APPEND generated_options -O0 -fno-sanitize=all)
+  endif()
+  get_target_property(generated_sources ${target} SOURCES)
+  list(FILTER generated_sources INCLUDE REGEX "/\\.rcc/qmlcache/")
+  set_source_files_properties(${generated_sources} PROPERTIES COMPILE_OPTIONS "${generated_options}")
+endfunction()

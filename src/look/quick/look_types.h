@@ -1,0 +1,35 @@
+#pragma once
+
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+#include <QQmlEngine>
+
+namespace orvelle {
+
+/// Makes what all windows share known to QML as the module `Orvelle.Look`: `makeEngine` calls it. A static
+/// library does not register its types by itself. Called again it does nothing.
+void registerLookTypes();
+
+/// The settings and the themes, which the program makes and QML only uses.
+struct SettingsStoreInQml {
+    Q_GADGET
+    QML_FOREIGN(orvelle::SettingsStore)
+    QML_NAMED_ELEMENT(SettingsStore)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ThemeManagerInQml {
+    Q_GADGET
+    QML_FOREIGN(orvelle::ThemeManager)
+    QML_NAMED_ELEMENT(ThemeManager)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct AppThemeInQml {
+    Q_GADGET
+    QML_FOREIGN(orvelle::AppTheme)
+    QML_VALUE_TYPE(appTheme)
+};
+
+} // namespace orvelle

@@ -1,0 +1,18 @@
+#include "look/quick/quick_engine.h"
+
+#include "look/quick/look_types.h"
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+namespace orvelle {
+
+std::unique_ptr<QQmlEngine> makeEngine() {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    registerLookTypes();
+    auto engine = std::make_unique<QQmlEngine>();
+    engine->addImportPath(QStringLiteral("qrc:/")); // where the modules are embedded
+    return engine;
+}
+
+} // namespace orvelle
