@@ -1,8 +1,12 @@
 #!/usr/bin/env bash
-# check.sh SOURCE_DIRECTORY: fails on an arrow that points the wrong way, and on a question about the operating
-# system outside the folder of that system. docs/architecture.md has the picture.
+# check.sh SOURCE_DIRECTORY QT_HEADER_DIRECTORY: fails on an arrow that points the wrong way, on a module of Qt
+# where it does not belong, and on a question about the operating system outside the folder of that system.
+# docs/architecture.md has the picture. The second directory holds QtCore, QtGui and so on: the one in which there
+# is a QColor tells which module <QColor> belongs to.
 set -euo pipefail
+shopt -s nullglob
 source_directory=$1
+qt_headers=$2
 status=0
 
 complain() {
@@ -10,48 +14,102 @@ complain() {
   status=1
 }
 
-# allow FOLDER PATTERN...: files below FOLDER may include project headers only from places that begin with one
-# of the patterns. Longer folder names are checked on their own as well, so a parent lists what its children need.
-allow() {
-  local folder=$1; shift
-  local allowed line
-  allowed=$(printf '|%s' "$@")
-  while IFS= read -r line; do
-    complain "wrong arrow from $folder: $line"
-  done < <(grep -rnE '#include "[a-z_]+/' "$source_directory/src/$folder" --include='*.h' --include='*.cpp' --include='*.mm' 2>/dev/null |
-           grep -vE "#include \"(${allowed:1})" || true)
+# room FILES MODULES HEADERS [BUT]: the C++ files below src whose path begins with FILES may include the headers of
+# these MODULES of Qt and the project's headers whose path begins with HEADERS, but not with BUT. All are regular
+# expressions; the first room that fits a file is the one it lives in.
+room_files=() room_modules=() room_headers=() room_but=()
+room() {
+  room_files+=("$1") room_modules+=("$2") room_headers+=("$3") room_but+=("${4:-$none}")
+}
+none='-'
+gui='Core|Gui'
+quick='Core|Gui|Qml|Quick'
+store='settings/(settings_store|styles)\.h'
+themes='settings/(app_theme|hex_color|system_colors|theme_manager)\.'
+
+room 'core/sources/'         "$none"      'core/sources/'
+room 'core/'                 'Core'       "core/|$store"
+room 'platform/names/'       "$none"      'platform/names/'
+room 'platform/linux/'       "$none"      'core/sources/|platform/(linux/|names/|host\.h)'
+room 'platform/darwin/'      "$none"      'core/sources/|platform/(darwin/|names/|host\.h)'
+room 'platform/fixed/'       "$none"      'core/sources/|platform/fixed/'
+room 'platform/[^/]*$'       "$none"      'core/sources/|platform/[^/]*$'
+room "$themes"               "$gui"       'settings/'
+room 'settings/'             'Core'       'settings/' "$themes"
+room 'look/quick/'           "$quick|Svg" 'look/|settings/'
+room 'look/'                 "$gui|Svg"   'look/[^/]*$|settings/'
+room 'charts/quick/'         "$quick"     'charts/|look/|settings/'
+room 'charts/'               "$gui"       'charts/[^/]*$|look/[^/]*$|settings/'
+room 'app/formatters/'       'Core'       'app/formatters/'
+room 'app/menu_bar_items/'   "$gui"       'app/(menu_bar_items/|formatters/|shell/status_item_view\.h)|charts/[^/]*$|core/|look/[^/]*$|settings/'
+room 'app/shell/x11/'        "$gui"       'app/shell/([^/]*$|x11/)|charts/[^/]*$|look/[^/]*$|settings/'
+room 'app/shell/tray/'       "$gui|DBus"  'app/shell/([^/]*$|tray/)|charts/[^/]*$|look/[^/]*$|settings/'
+room 'app/shell/macos/'      "$gui"       'app/shell/([^/]*$|macos/)|charts/[^/]*$|look/[^/]*$|settings/'
+room 'app/shell/'            "$gui"       'app/shell/[^/]*$|charts/[^/]*$|look/[^/]*$|settings/'
+room 'app/views/'            "$quick"     'app/(views|formatters)/|panels/|settings_ui/|charts/|core/|look/|settings/'
+room 'app/'                  "$gui"       'app/([^/]*$|(menu_bar_items|formatters)/|shell/[^/]*$|views/views\.h)|charts/[^/]*$|core/|look/[^/]*$|settings/|platform/host\.h'
+room 'panels/'               "$quick"     'panels/|app/formatters/|charts/|core/|look/|settings/'
+room 'settings_ui/'          "$quick"     'settings_ui/|app/formatters/|charts/|look/|settings/'
+
+find_room() { # FILE: leaves its number in room_number
+  for ((room_number = 0; room_number < ${#room_files[@]}; ++room_number)); do
+    [[ $1 =~ ^(${room_files[room_number]}) ]] && return
+  done
+  return 1
 }
 
-# forbid FOLDER PATTERN WHY
-forbid() {
-  local line
-  while IFS= read -r line; do
-    complain "$3: $line"
-  done < <(grep -rnE "$2" "$source_directory/src/$1" --include='*.h' --include='*.cpp' --include='*.mm' 2>/dev/null || true)
+find_module() { # HEADER: leaves Core, Gui and so on in module, nothing when the header is not of Qt
+  local found=()
+  module=
+  if [[ $1 =~ ^Qt([A-Za-z0-9]+)/ ]]; then
+    module=${BASH_REMATCH[1]}
+  elif [[ $1 =~ ^[Qq][A-Za-z0-9_.]+$ ]]; then
+    [[ $1 == Q* ]] && module='of unknown module'
+    found=("$qt_headers"/Qt*/"$1")
+    [[ ${#found[@]} -gt 0 && ${found[0]} =~ /Qt([A-Za-z0-9]+)/[^/]*$ ]] && module=${BASH_REMATCH[1]}
+  fi
+  return 0
 }
 
-allow core/sources core/sources/
-allow core core/ settings/settings_store.h settings/styles.h
-allow platform/names platform/names/
-allow platform/linux core/sources/ platform/linux/ platform/names/ platform/host.h
-allow platform/darwin core/sources/ platform/darwin/ platform/names/ platform/host.h
-allow platform/fixed core/sources/ platform/fixed/
-allow settings settings/
-allow look look/ settings/
-allow charts charts/ look/ settings/
-allow app/formatters app/formatters/
-allow app/shell app/shell/ charts/ look/ settings/
-allow app/menu_bar_items app/menu_bar_items/ app/formatters/ app/shell/status_item_view.h charts/ core/ look/ settings/
-allow panels panels/ app/formatters/ charts/ core/ look/ settings/
-allow settings_ui settings_ui/ app/formatters/ charts/ look/ settings/
-forbid core/sources '#include <Q' 'the seam knows no Qt'
-forbid core '#include <(QGui|QtGui|QtQml|QtQuick|QColor|QPainter|QImage|QWindow|QQml|QQuick|QFont)' 'core uses Qt Core alone'
-forbid core '#include "core/.*platform' 'core knows no platform'
+judge() { # FILE HEADER KIND: KIND is the character in front of the header
+  if [[ $2 =~ (^|/)\.\.?(/|$) ]]; then
+    complain "relative include: $1: $2"
+  elif [[ $2 =~ ^($folders)/ && $3 == '<' ]]; then
+    complain "angle include of the project's own: $1: $2"
+  elif [[ $2 =~ ^($folders)/ ]]; then
+    [[ $2 =~ ^(${room_headers[room_number]}) && ! $2 =~ ^(${room_but[room_number]}) ]] ||
+      complain "wrong arrow: $1: $2"
+  elif [[ $3 == '"' ]]; then
+    complain "include without its folder: $1: $2"
+  else
+    find_module "$2"
+    [[ -z $module || $module =~ ^(${room_modules[room_number]})$ ]] || complain "Qt $module: $1: $2"
+  fi
+}
 
-# The shells under app/shell and the folders under platform are chosen by the build.
-while IFS= read -r line; do
-  complain "operating-system question outside the platform folders: $line"
-done < <(grep -rnE '#[[:space:]]*(if|ifdef|ifndef|elif).*(__APPLE__|__linux__|Q_OS_|_WIN32)' \
-         "$source_directory/src" "$source_directory/tools" 2>/dev/null | grep -vE '/src/platform/(linux|darwin)/' || true)
+find_lines() { # PATTERN FOLDER...: FILE:NUMBER:LINE of each line in C++ and QML that has the pattern
+  (cd "$source_directory" && grep -rnE "$@" --include='*.h' --include='*.cpp' --include='*.mm' --include='*.qml') || true
+}
+
+folders=$(cd "$source_directory/src" && printf '%s|' */ | tr -d /)
+folders=${folders%|}
+
+while IFS= read -r found; do
+  file=${found%%:*}
+  file=${file#src/}
+  if ! find_room "$file"; then
+    complain "no rule for this folder: $file"
+  elif [[ $found =~ (include|import)[[:space:]]*([\"\<])([^\"\>]*)[\"\>] ]]; then
+    judge "$file" "${BASH_REMATCH[3]}" "${BASH_REMATCH[2]}"
+  else
+    complain "include that cannot be judged: $file: ${found##*[[:space:]]}"
+  fi
+done < <(find_lines '^[[:space:]]*#[[:space:]]*(include|import)' src)
+
+# Which system it is, is decided by the build: it chooses the folders below platform and app/shell.
+systems='\<(__(APPLE|MACH|ANDROID)__|__(gnu_)?(linux|unix)(__)?|__(Free|Net|Open)BSD__|TARGET_OS_[A-Z]+|Q_OS_[A-Z0-9]+|_WIN(32|64)|QSysInfo|Qt\.platform)\>'
+while IFS= read -r found; do
+  complain "question about the operating system: $found"
+done < <(find_lines "$systems" src tools)
 
 exit $status
