@@ -7,6 +7,7 @@
 #include <algorithm>
 
 namespace orvelle::linux_platform {
+
 std::optional<double> temperatureFrom(std::optional<std::int64_t> thousandths) {
     if (!thousandths)
         return std::nullopt;
@@ -86,7 +87,7 @@ void LinuxSensorSource::search() {
     std::ranges::sort(folderNames);
     if (folderNames == m_folderNames && !m_hasLostChannel) {
         for (Chip& chip : m_chips) {
-            chip.sleepGuard.renewIdleTime();
+            chip.sleepGuard.lookAgain();
             for (Temperature& temperature : chip.temperatures)
                 temperature.channel.isSilent = false;
             for (Channel& fan : chip.fans)

@@ -11,6 +11,15 @@ namespace {
 /// Nobody waits longer for a disk to stop; it keeps nonsense out of the sums of times.
 constexpr std::int64_t longestIdleMilliseconds = std::int64_t{24} * 3600 * 1000;
 
+/// The file that tells whether the device is awake; nothing while it has no runtime power management.
+std::optional<KeptFile> statusFile(const std::filesystem::path& powerFolder) {
+    KeptFile status(powerFolder / "runtime_status", KeptFile::Layout::value);
+    const std::optional<std::string_view> text = status.read();
+    if (!text || trimmed(*text) == "unsupported")
+        return std::nullopt;
+    return status;
+}
+
 bool isAsleep(KeptFile& status) {
     const std::string_view text = trimmed(status.read().value_or(std::string_view()));
     return text == "suspended" || text == "suspending";
@@ -27,18 +36,14 @@ std::chrono::milliseconds idleTime(const std::filesystem::path& powerFolder) {
 } // namespace
 
 SleepGuard::SleepGuard(const std::vector<std::filesystem::path>& powerFolders) {
-    for (const std::filesystem::path& folder : powerFolders) {
-        KeptFile status(folder / "runtime_status", KeptFile::Layout::value);
-        const std::optional<std::string_view> text = status.read();
-        if (text && trimmed(*text) != "unsupported")
-            m_managed.push_back({.folder = folder, .status = std::move(status)});
-    }
-    renewIdleTime();
+    for (const std::filesystem::path& folder : powerFolders)
+        m_devices.push_back({.folder = folder, .status = std::nullopt});
+    lookAgain();
 }
 
 SleepGuard::Advice SleepGuard::adviceAt(std::chrono::steady_clock::time_point now) {
-    for (Managed& device : m_managed) {
-        if (isAsleep(device.status))
+    for (Device& device : m_devices) {
+        if (device.status && isAsleep(*device.status))
             return Advice::avoid;
     }
     // Twice the idle time leaves room for the device to fall asleep in between, so that one which is still
@@ -49,10 +54,14 @@ SleepGuard::Advice SleepGuard::adviceAt(std::chrono::steady_clock::time_point no
     return Advice::read;
 }
 
-void SleepGuard::renewIdleTime() {
+void SleepGuard::lookAgain() {
     m_idleTime = {};
-    for (const Managed& device : m_managed)
-        m_idleTime = std::max(m_idleTime, idleTime(device.folder));
+    for (Device& device : m_devices) {
+        if (!device.status)
+            device.status = statusFile(device.folder);
+        if (device.status)
+            m_idleTime = std::max(m_idleTime, idleTime(device.folder));
+    }
 }
 
 } // namespace orvelle::linux_platform

@@ -28,17 +28,17 @@ public:
     /// What to do now. Being told to read counts as having read.
     [[nodiscard]] Advice adviceAt(std::chrono::steady_clock::time_point now);
 
-    /// Looks again at how the device is told to save power, which the user may change at any time.
-    void renewIdleTime();
+    /// Looks again whether the devices have runtime power management, which a driver may switch on late, and
+    /// how they are told to save power, which the user may change at any time.
+    void lookAgain();
 
 private:
-    /// A device that has runtime power management.
-    struct Managed {
+    struct Device {
         std::filesystem::path folder;
-        KeptFile status;
+        std::optional<KeptFile> status; ///< nothing without runtime power management
     };
 
-    std::vector<Managed> m_managed;
+    std::vector<Device> m_devices;
     std::chrono::milliseconds m_idleTime{0};
     std::optional<std::chrono::steady_clock::time_point> m_lastReading;
 };

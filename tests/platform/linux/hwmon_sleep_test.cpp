@@ -80,6 +80,17 @@ TEST_F(HwmonSleepTest, ADeviceIsGivenTimeToFallAsleepAndShowsItsLastValuesMeanwh
     EXPECT_EQ(source.readGPUTemperature(), 60.0);
 }
 
+TEST_F(HwmonSleepTest, ADeviceThatLearnsToSleepLaterIsLeftAsleepFromTheNextSearchOn) {
+    tree.write(gpuStatus, "unsupported\n");
+    LinuxSensorSource source(tree.root());
+    EXPECT_EQ(sensorCount(source), 2u);
+    tree.write(gpuStatus, "suspended\n");
+    std::size_t count = 2;
+    for (int sample = 0; sample < 10; ++sample)
+        count = sensorCount(source);
+    EXPECT_EQ(count, 1u);
+}
+
 TEST_F(HwmonSleepTest, ASleepingDiskIsNotOpenedThoughItsControllerIsAwake) {
     const std::string disk = "pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0";
     tree.device("pci0000:00/0000:00:17.0", "pci");

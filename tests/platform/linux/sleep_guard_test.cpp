@@ -56,8 +56,22 @@ TEST_F(SleepGuardTest, ADeviceThatIsToldToStayAwakeIsReadEveryTime) {
     EXPECT_EQ(awake.adviceAt(start), Advice::read);
     EXPECT_EQ(awake.adviceAt(start + 1s), Advice::read);
     tree.write("power/control", "auto\n");
-    awake.renewIdleTime();
+    awake.lookAgain();
     EXPECT_EQ(awake.adviceAt(start + 2s), Advice::wait);
+}
+
+TEST_F(SleepGuardTest, PowerManagementThatComesLaterIsFoundByLookingAgain) {
+    for (const char* before : {"", "unsupported\n"}) {
+        tree.remove("power");
+        if (*before != 0)
+            tree.write("power/runtime_status", before);
+        SleepGuard late = guard();
+        tree.write("power/runtime_status", "suspended\n");
+        EXPECT_EQ(late.adviceAt(start), Advice::read)
+            << "a device is not asked whether it can sleep each time";
+        late.lookAgain();
+        EXPECT_EQ(late.adviceAt(start), Advice::avoid) << before;
+    }
 }
 
 TEST_F(SleepGuardTest, AnIdleTimeThatIsNoTimeIsNone) {
