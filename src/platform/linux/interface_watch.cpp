@@ -38,6 +38,8 @@ void InterfaceWatch::close() {
     if (m_socket >= 0)
         ::close(m_socket);
     m_socket = -1;
+    // The next call is then due to open another.
+    m_callsWithoutSocket = 0;
 }
 
 bool InterfaceWatch::mayHaveChanged() {

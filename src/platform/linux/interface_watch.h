@@ -5,6 +5,7 @@ namespace orvelle::linux_platform {
 /// Tells when the running system's interfaces or addresses may have changed, so that they need not be asked
 /// for at each sample: the kernel announces changes on a routing socket (rtnetlink(7)). Asking costs one
 /// system call while nothing changes. Where no such socket can be had, every tenth question is answered yes.
+/// A socket that fails is replaced, with a yes for what it may have missed.
 class InterfaceWatch {
 public:
     InterfaceWatch() = default;

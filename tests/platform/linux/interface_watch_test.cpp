@@ -80,5 +80,19 @@ TEST(InterfaceWatch, TellsOfAChangeOnceAndIsQuietElse) {
     EXPECT_EQ(outcome, asExpected);
 }
 
+TEST(InterfaceWatch, ReplacesASocketThatFailsAndAnswersYesForWhatWasMissed) {
+    const int watched = ::dup(STDIN_FILENO); // the number that the watch's socket gets
+    ::close(watched);
+    InterfaceWatch watch;
+    ASSERT_TRUE(watch.mayHaveChanged());
+    int ends[2];
+    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends), 0);
+    ASSERT_EQ(::dup2(ends[0], watched), watched);
+    ::close(ends[0]);
+    ::close(ends[1]);
+    EXPECT_TRUE(watch.mayHaveChanged()) << "the socket has failed";
+    EXPECT_TRUE(watch.mayHaveChanged()) << "another one is opened at once";
+}
+
 } // namespace
 } // namespace orvelle::linux_platform
