@@ -14,7 +14,7 @@ namespace {
 /// The choice is made anew after so many readings in any case: a label may be written without a mount.
 constexpr unsigned readingsPerChoice = 20;
 
-/// Up to so many volumes are measured at each reading; of more, a tenth in turn.
+/// Up to so many volumes are measured at each reading; of more, so many in turn that none waits longer.
 constexpr std::size_t leastMeasured = 4;
 constexpr std::size_t longestTurn = 10;
 
@@ -38,7 +38,8 @@ std::optional<std::vector<MountedVolume>> LinuxVolumes::read() {
     if (!m_isHost)
         measureFromTree();
     else
-        measure(mustChoose ? m_volumes.size() : std::max(leastMeasured, m_volumes.size() / longestTurn));
+        measure(mustChoose ? m_volumes.size()
+                           : std::max(leastMeasured, (m_volumes.size() + longestTurn - 1) / longestTurn));
 
     std::vector<MountedVolume> measured;
     for (const Volume& volume : m_volumes) {

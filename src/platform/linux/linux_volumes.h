@@ -9,8 +9,9 @@ namespace orvelle::linux_platform {
 
 /// The mounted volumes: chosen from `proc/self/mountinfo`, hidden by `etc/fstab`, named by
 /// `dev/disk/by-label`. On the running system the choice is made anew when the kernel announces a change of
-/// the mounts, and their space is asked of the kernel; in another tree everything is read each time, the
-/// space from its file `statfs`.
+/// the mounts, and their space is asked of the kernel: of up to four volumes at each reading, of more in
+/// turn, so that what is told of one is up to ten readings old. In another tree everything is read each time,
+/// the space from its file `statfs`.
 class LinuxVolumes {
 public:
     explicit LinuxVolumes(std::filesystem::path root);
