@@ -10,7 +10,6 @@ namespace orvelle {
 namespace {
 
 constexpr double maximumUsagePercent = 800;
-constexpr double nanosecondsPerSecond = 1'000'000'000;
 
 /// A process and its usage, before it is known whether it is published.
 struct Candidate {
@@ -30,7 +29,7 @@ double cpuUsageBetween(const ProcessTimes& previous, const ProcessTimes& current
     const std::uint64_t used =
         checkedAdd(counterDelta(current.userNanoseconds, previous.userNanoseconds),
                    counterDelta(current.systemNanoseconds, previous.systemNanoseconds));
-    const double percent = static_cast<double>(used) / nanosecondsPerSecond / elapsedSeconds * 100;
+    const double percent = static_cast<double>(used) / double{nanosecondsPerSecond} / elapsedSeconds * 100;
     return std::min(percent, maximumUsagePercent);
 }
 

@@ -7,6 +7,8 @@
 
 namespace orvelle {
 
+inline constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
+
 /// One process as it is now. Each time is at most `maximumNanoseconds`, so that their sums cannot overflow.
 struct ProcessRecord {
     static constexpr std::uint64_t maximumNanoseconds = std::uint64_t{1} << 62; ///< 146 years

@@ -12,4 +12,13 @@ std::vector<std::string> namesIn(const std::filesystem::path& directory) {
     return names;
 }
 
+bool existsUnfollowed(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+}
+
+bool isEntryName(std::string_view name) {
+    return !name.empty() && name != "." && name != "..";
+}
+
 } // namespace orvelle::linux_platform

@@ -1,5 +1,6 @@
 #include "platform/linux/diskstats.h"
 
+#include "platform/linux/directory.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>
@@ -9,11 +10,6 @@ namespace {
 
 /// The unit of the counters, whatever the disk's own sectors are.
 constexpr std::uint64_t bytesPerSector = 512;
-
-/// Each device is a directory in sysfs.
-bool isPossibleName(std::string_view name) {
-    return !name.empty() && name != "." && name != "..";
-}
 
 /// Cuts off digits, at least one, at the start of `name`.
 bool skipDigits(std::string_view& name) {
@@ -50,7 +46,7 @@ std::vector<BlockDeviceCounters> parseDiskstats(std::string_view text) {
         takeWord(line); // writes completed
         takeWord(line); // writes merged
         const auto sectorsWritten = takeNumber<std::uint64_t>(line);
-        if (!sectorsRead || !sectorsWritten || !isPossibleName(name))
+        if (!sectorsRead || !sectorsWritten || !isEntryName(name))
             continue;
         devices.push_back({name,
                            {.bytesRead = saturatingMultiply(*sectorsRead, bytesPerSector),

@@ -1,6 +1,7 @@
 #include "platform/linux/hwmon_device.h"
 
 #include "platform/linux/sysfs.h"
+#include "platform/linux/text.h"
 
 #include <algorithm>
 
@@ -14,10 +15,6 @@ struct Subsystem {
     std::string name;
     bool isBus = false; ///< a bus gives its devices addresses, a class only numbers them
 };
-
-bool isNumber(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
 
 /// Domain, bus, device and function in hexadecimal: "0000:01:00.0".
 bool isPCIAddress(std::string_view name) {
@@ -53,7 +50,7 @@ bool isController(const Subsystem& subsystem) {
 /// depends on what was found before it; the adapter itself, "i2c-11", adds nothing.
 std::string placeOnI2C(const std::string& name) {
     const std::string address = name.substr(name.find('-') + 1);
-    return name.starts_with("i2c-") && isNumber(address) ? std::string() : " i2c " + address;
+    return name.starts_with("i2c-") && isDigits(address) ? std::string() : " i2c " + address;
 }
 
 /// The port of its controller that a folder such as `ata3` stands for; 0 when it is no such folder.

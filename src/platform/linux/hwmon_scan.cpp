@@ -2,9 +2,9 @@
 
 #include "platform/linux/directory.h"
 #include "platform/linux/hwmon_rules.h"
-#include "platform/names/sanitize.h"
 #include "platform/linux/sysfs.h"
 #include "platform/linux/text.h"
+#include "platform/names/sanitize.h"
 
 #include <algorithm>
 #include <cstring>
@@ -28,8 +28,7 @@ std::string channelIn(const std::string& file, std::string_view kind) {
         return {};
     const std::string channel = file.substr(0, file.size() - ending.size());
     const std::string number = channel.substr(std::min(kind.size(), channel.size()));
-    const bool isNumber = !number.empty() && number.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber ? channel : std::string();
+    return isDigits(number) ? channel : std::string();
 }
 
 std::vector<HwmonChannel> channelsOf(const fs::path& folder, const std::vector<std::string>& files,

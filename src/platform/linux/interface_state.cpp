@@ -1,5 +1,6 @@
 #include "platform/linux/interface_state.h"
 
+#include "platform/linux/directory.h"
 #include "platform/linux/kept_file.h"
 #include "platform/linux/text.h"
 
@@ -41,8 +42,7 @@ InterfaceState readInterfaceState(const std::filesystem::path& root, std::string
     const std::optional<std::string> flags = readFile(directory / "flags");
     const std::optional<std::string> operationalState = readFile(directory / "operstate");
     InterfaceState state = interfaceState(name, flags, operationalState);
-    std::error_code ignored;
-    state.isPort = std::filesystem::exists(std::filesystem::symlink_status(directory / "master", ignored));
+    state.isPort = existsUnfollowed(directory / "master");
     return state;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/linux/linux_disk_counters.h"
 
 #include "platform/linux/counter_budget.h"
+#include "platform/linux/directory.h"
 
 #include <algorithm>
 #include <set>
@@ -12,18 +13,14 @@ namespace {
 enum class Hardware { linked, none, unknown };
 
 Hardware hardwareOf(const std::filesystem::path& root, std::string_view name) {
-    const auto exists = [](const std::filesystem::path& path) {
-        std::error_code ignored;
-        return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
-    };
     // A slash in a name stands as an exclamation mark where the name is a directory.
     std::string directoryName(name);
     std::ranges::replace(directoryName, '/', '!');
     for (const char* directory : {"sys/class/block", "sys/block"}) {
         const std::filesystem::path device = root / directory / directoryName;
-        if (exists(device / "device"))
+        if (existsUnfollowed(device / "device"))
             return Hardware::linked;
-        if (exists(device))
+        if (existsUnfollowed(device))
             return Hardware::none;
     }
     return Hardware::unknown;

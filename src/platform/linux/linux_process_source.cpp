@@ -14,8 +14,6 @@ namespace {
 /// sample, each in its turn.
 constexpr std::size_t idleProcessesPerRead = 50;
 
-constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
-
 std::uint64_t bounded(std::uint64_t nanoseconds) {
     return std::min(nanoseconds, ProcessRecord::maximumNanoseconds);
 }

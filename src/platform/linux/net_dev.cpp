@@ -1,6 +1,7 @@
 #include "platform/linux/net_dev.h"
 
 #include "platform/linux/counter_budget.h"
+#include "platform/linux/directory.h"
 #include "platform/linux/text.h"
 
 namespace orvelle::linux_platform {
@@ -9,9 +10,9 @@ namespace {
 /// Numbers between the received and the sent bytes: packets, errs, drop, fifo, frame, compressed, multicast.
 constexpr int numbersBetween = 7;
 
-/// The kernel allows no slash and none of the directory names, since a name is a directory in sysfs.
+/// A name is that of a directory in sysfs.
 bool isPossibleName(std::string_view name) {
-    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos;
+    return isEntryName(name) && name.find('/') == std::string_view::npos;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/linux/process_clock.h"
 
+#include "core/sources/process_source.h"
 #include "platform/linux/kept_file.h"
 #include "platform/linux/text.h"
 
@@ -24,7 +25,6 @@ std::optional<std::uint64_t> readProcessClock(std::int32_t pid) {
     timespec time{};
     if (::clock_gettime(clockOf(pid), &time) != 0 || time.tv_sec < 0)
         return std::nullopt;
-    constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
     return saturatingAdd(saturatingMultiply(static_cast<std::uint64_t>(time.tv_sec), nanosecondsPerSecond),
                          static_cast<std::uint64_t>(time.tv_nsec));
 }

@@ -13,7 +13,7 @@ constexpr std::size_t maximumAttributeSize = 256;
 std::optional<std::int64_t> parseAttributeNumber(std::string_view text) {
     const std::string_view word = trimmed(text);
     const std::string_view digits = word.starts_with('-') ? word.substr(1) : word;
-    if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos)
+    if (!isDigits(digits))
         return std::nullopt;
     return parseNumber<std::int64_t>(word);
 }

@@ -47,6 +47,10 @@ inline std::string_view takeWord(std::string_view& line) {
     return text.substr(start, text.find_last_not_of(blanks) - start + 1);
 }
 
+[[nodiscard]] inline bool isDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 /// The number that `word` begins with; the largest of its type when it does not fit, nothing when there is
 /// none.
 template <class Number>

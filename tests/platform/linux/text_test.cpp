@@ -33,6 +33,13 @@ TEST(Text, SaturatingArithmeticStaysAtItsLimits) {
     EXPECT_EQ(saturatingSubtract(1, 2), 0u);
 }
 
+TEST(Text, DigitsAreOneOrMoreAndNothingElse) {
+    EXPECT_TRUE(isDigits("0"));
+    EXPECT_TRUE(isDigits("0123456789"));
+    for (const char* text : {"", " 1", "1 ", "-1", "1.5", "0x1", "a"})
+        EXPECT_FALSE(isDigits(text)) << text;
+}
+
 TEST(Text, TrimmingTakesBlanksFromBothEnds) {
     EXPECT_EQ(trimmed(" \t a b \n"), "a b");
     EXPECT_EQ(trimmed(" \n"), "");
