@@ -12,6 +12,7 @@ inline constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
 /// One process as it is now. Each time is at most `maximumNanoseconds`, so that their sums cannot overflow.
 struct ProcessRecord {
     static constexpr std::uint64_t maximumNanoseconds = std::uint64_t{1} << 62; ///< 146 years
+    static constexpr std::uint64_t maximumBytes = std::uint64_t{1} << 62;       ///< 4 EiB
 
     std::int32_t pid = 0;
     /// Last component of the executable's path, else the system's short name; valid UTF-8 on one line.
@@ -22,7 +23,7 @@ struct ProcessRecord {
     /// Where the system tells only the sum of both kinds, all of it is user time.
     std::uint64_t userNanoseconds = 0;
     std::uint64_t systemNanoseconds = 0;
-    std::uint64_t residentBytes = 0; ///< memory held, shared pages included
+    std::uint64_t residentBytes = 0; ///< memory held, shared pages included; at most `maximumBytes`
 
     bool operator==(const ProcessRecord&) const = default;
 };

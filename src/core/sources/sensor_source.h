@@ -13,6 +13,9 @@ namespace orvelle {
     return degreesCelsius > 0 && degreesCelsius < 150;
 }
 
+/// Revolutions per minute that no fan reaches; what a broken one tells beyond is cut here.
+inline constexpr std::int64_t maximumFanSpeed = 100'000;
+
 /// One temperature sensor and what it reads now.
 struct NamedTemperature {
     std::string key;  ///< stands for the same sensor at every reading, also after a restart of the machine

@@ -88,7 +88,8 @@ bool LinuxProcessSource::refreshByStat(ProcessRecord& record, ProcessLife& life)
         record.userNanoseconds = nanoseconds(stat->userTicks);
         record.systemNanoseconds = nanoseconds(stat->systemTicks);
     }
-    record.residentBytes = saturatingMultiply(stat->residentPages, m_units.pageSize);
+    record.residentBytes =
+        std::min(saturatingMultiply(stat->residentPages, m_units.pageSize), ProcessRecord::maximumBytes);
     takeName(record, life, *stat);
     return true;
 }

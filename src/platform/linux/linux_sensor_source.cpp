@@ -44,7 +44,7 @@ std::vector<std::int64_t> LinuxSensorSource::readFanSpeeds() {
     for (const Chip& chip : m_chips) {
         for (const Channel& fan : chip.fans) {
             if (fan.value && *fan.value > 0)
-                speeds.push_back(*fan.value);
+                speeds.push_back(std::min(*fan.value, maximumFanSpeed));
         }
     }
     return speeds;

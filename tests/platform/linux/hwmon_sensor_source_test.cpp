@@ -205,6 +205,13 @@ TEST_F(HwmonSensorSourceTest, FansThatStandStillOrFailAreAbsent) {
     EXPECT_EQ(firstSample().fans, (std::vector<std::int64_t>{700, 900}));
 }
 
+TEST_F(HwmonSensorSourceTest, AFanThatTellsNonsenseIsCutAtWhatNoFanReaches) {
+    tree.device("platform/nct6775.656", "platform");
+    tree.chip(0, "platform/nct6775.656", "nct6798",
+              {{"fan1_input", "100000"}, {"fan2_input", "100001"}, {"fan3_input", "9223372036854775807"}});
+    EXPECT_EQ(firstSample().fans, std::vector(3, maximumFanSpeed));
+}
+
 TEST_F(HwmonSensorSourceTest, TheNextBestSensorStandsInForTheProcessor) {
     buildLaptop({0, 1, 2, 3, 4});
     tree.write(HwmonTree::chipFolder(2) + "/temp1_input", "0");

@@ -158,7 +158,7 @@ TEST_F(LinuxProcessSourceTest, BoundsTimesAndMemorySoThatNoSumOverflows) {
     const auto records = read();
     EXPECT_EQ(records.front().userNanoseconds, ProcessRecord::maximumNanoseconds);
     EXPECT_EQ(records.front().systemNanoseconds, ProcessRecord::maximumNanoseconds);
-    EXPECT_EQ(records.front().residentBytes, largest);
+    EXPECT_EQ(records.front().residentBytes, ProcessRecord::maximumBytes);
 }
 
 TEST_F(LinuxProcessSourceTest, TakesNothingOfTheHostForAPidThatTheHostHasToo) {
