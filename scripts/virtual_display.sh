@@ -33,8 +33,10 @@ window_manager_runs() {
   [ -n "$window" ] && xprop -id "$window" _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
 }
 
+# start_window_manager [COMMAND...]
 start_window_manager() {
-  openbox --sm-disable >/dev/null 2>&1 &
+  [ $# -gt 0 ] || set -- openbox --sm-disable
+  "$@" >/dev/null 2>&1 &
   window_manager_process=$!
   wait_until 20 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }
 }

@@ -20,6 +20,7 @@ namespace {
 /// A panel's file and the monitors that it shows.
 struct PanelRecipe {
     QString file;
+    QString windowTitle; ///< not seen, but read out
     QVariantMap monitors;
 };
 
@@ -27,23 +28,29 @@ std::optional<PanelRecipe> recipeOf(QStringView key, SystemMonitor& monitor) {
     const auto object = [](QObject& source) { return QVariant::fromValue(&source); };
     if (key == u"cpu")
         return PanelRecipe{QStringLiteral("CPUPanelView"),
+                           QStringLiteral("Orvelle CPU"),
                            {{QStringLiteral("cpu"), object(monitor.cpu())},
                             {QStringLiteral("process"), object(monitor.process())}}};
     if (key == u"memory")
         return PanelRecipe{QStringLiteral("MemoryPanelView"),
+                           QStringLiteral("Orvelle Memory"),
                            {{QStringLiteral("memory"), object(monitor.memory())},
                             {QStringLiteral("process"), object(monitor.process())}}};
     if (key == u"network")
         return PanelRecipe{QStringLiteral("NetworkPanelView"),
+                           QStringLiteral("Orvelle Network"),
                            {{QStringLiteral("network"), object(monitor.network())}}};
     if (key == u"disk")
         return PanelRecipe{QStringLiteral("DiskPanelView"),
+                           QStringLiteral("Orvelle Disk"),
                            {{QStringLiteral("disk"), object(monitor.disk())}}};
     if (key == u"battery")
         return PanelRecipe{QStringLiteral("BatteryPanelView"),
+                           QStringLiteral("Orvelle Battery"),
                            {{QStringLiteral("battery"), object(monitor.battery())}}};
     if (key == u"sensor")
         return PanelRecipe{QStringLiteral("SensorPanelView"),
+                           QStringLiteral("Orvelle Sensors"),
                            {{QStringLiteral("sensor"), object(monitor.sensor())}}};
     return std::nullopt;
 }
@@ -80,6 +87,7 @@ std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double corn
         window->makeTranslucent();
     window->setPanel(*panel, {{QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes)},
                               {QStringLiteral("cornerRadius"), cornerRadius}});
+    window->setTitle(recipe->windowTitle);
     window->resize(panelSize);
     return window;
 }

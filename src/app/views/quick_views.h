@@ -3,6 +3,8 @@
 #include "app/views/views.h"
 #include "panels/panel_factory.h"
 
+#include <QQmlEngine>
+
 namespace orvelle {
 
 /// The windows' contents in Qt Quick. One engine serves them all; it is created with the object.
@@ -14,6 +16,7 @@ public:
     [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override;
 
 private:
+    std::unique_ptr<QQmlEngine> m_engine;
     PanelFactory m_panels;
 };
 

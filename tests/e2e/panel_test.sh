@@ -1,0 +1,253 @@
+#!/bin/bash
+# The real program in a real X server: the panels that clicks on its items open, under two window managers, with
+# and without a compositor.
+#
+#   panel_test.sh ORVELLE X11_CLIENT
+
+orvelle=$1
+client=$2
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xfwm4 picom xprop xwininfo xdotool xrandr import
+
+unset ${!QT_@} WAYLAND_DISPLAY
+export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
+settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
+
+# Key, title of the panel's window, length of the item: in the order of the bar, which ends 8 points before the edge.
+readonly modules=("showCPU CPU 60" "showMemory Memory 70" "showNetwork Network 90" "showDisk Disk 45"
+    "showBattery Battery 65" "showSensors Sensors 50")
+readonly barLength=$((60 + 70 + 90 + 45 + 65 + 50))
+
+# showModules VALUE: writes the settings file as another program would.
+showModules() {
+    local module
+    mkdir -p "$(dirname "$settingsFile")"
+    {
+        echo "[General]"
+        for module in "${modules[@]}"; do echo "${module%% *}=$1"; done
+    } >"$workDirectory/settings"
+    mv "$workDirectory/settings" "$settingsFile"
+}
+
+pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
+screenWidth() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale }'; }
+
+windowsTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
+isShown() { [[ -n $(windowsTitled "$1") ]]; }
+isHidden() { ! isShown "$1"; }
+panel() { windowsTitled "Orvelle $1" | tail -1; }
+panelIsShown() { isShown "Orvelle $1"; }
+panelIsHidden() { isHidden "Orvelle $1"; }
+shownPanels() { windowsTitled "Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)" | wc -l; }
+onePanelIsShown() { [[ $(shownPanels) == 1 ]]; }
+noPanelIsShown() { [[ $(shownPanels) == 0 ]]; }
+hasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(panel "$1")" ]]; }
+
+# startOrvelle SCALE
+startOrvelle() {
+    scale=$1
+    QT_SCALE_FACTOR=$1 "$orvelle" 2>"$workDirectory/orvelle.log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the bar appears at scale $1" isShown Orvelle || cat "$workDirectory/orvelle.log"
+}
+
+endOrvelle() {
+    kill -TERM "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "the program ends with status" 0 $?
+    expectEqual "it has nothing to complain of" "" "$(cat "$workDirectory/orvelle.log")"
+}
+
+# Of the item with this number: its middle, in points from the left edge of the screen.
+itemMiddle() {
+    local before=0 index
+    for ((index = 0; index < $1; ++index)); do before=$((before + ${modules[index]##* })); done
+    echo $(($(screenWidth) - 8 - barLength + before + ${modules[$1]##* } / 2))
+}
+# clickItem NUMBER [BUTTON]
+clickItem() { xdotool mousemove "$(pixels "$(itemMiddle "$1")")" "$(pixels 11)" click "${2:-1}"; }
+titleOf() { local words=(${modules[$1]}); echo "${words[1]}"; }
+
+# keepPicture NAME: for whoever wants to see what was tested.
+keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
+
+# The panel stands below the bar, centred under its item where the screen has room, and on the screen in full.
+standsUnderItem() {
+    local left top width height middle
+    IFS=', x' read -r left top width height < <(geometry "$(panel "$(titleOf "$1")")")
+    [[ -n $height ]] || return
+    middle=$(pixels "$(itemMiddle "$1")")
+    ((left >= 0 && left + width <= 1280 && top + height <= 800 && top >= $(pixels 22) && top <= $(pixels 30))) &&
+        ((left - 2 <= middle && middle <= left + width + 2)) &&
+        ((left + width > 1280 - $(pixels 6) || (left + width / 2 - middle) ** 2 <= 9)) &&
+        ((width >= $(pixels 320) - 1 && width <= $(pixels 320) + 1))
+}
+
+testEachPanel() {
+    local index title
+    for index in "${!modules[@]}"; do
+        title=$(titleOf "$index")
+        clickItem "$index"
+        waitUntil "a click opens the $title panel" panelIsShown "$title" || cat "$workDirectory/orvelle.log"
+        waitUntil "it is the only one" onePanelIsShown
+        waitUntil "it stands under its item" standsUnderItem "$index" || geometry "$(panel "$title")"
+        waitUntil "it has the keyboard" hasTheKeyboard "$title"
+        keepPicture "panel-$desktop-$scale-$title"
+    done
+    clickItem 5
+    waitUntil "a second click closes it" noPanelIsShown
+    sleep 0.3
+    expectEqual "and does not open it again" 0 "$(shownPanels)"
+}
+
+testClosing() {
+    clickItem 1
+    waitUntil "a panel opens" panelIsShown Memory
+    waitUntil "it has the keyboard" hasTheKeyboard Memory
+    xdotool key Escape
+    waitUntil "Escape closes it" noPanelIsShown
+
+    clickItem 1
+    waitUntil "a panel opens" panelIsShown Memory
+    xdotool mousemove 100 "$(pixels 11)" click 1
+    waitUntil "a click on the empty bar closes it" noPanelIsShown
+
+    clickItem 1
+    waitUntil "a panel opens" panelIsShown Memory
+    clickItem 1 3
+    waitUntil "a right click on its item closes it" noPanelIsShown
+    waitUntil "and opens the menu" isShown "Orvelle menu"
+    clickItem 0
+    waitUntil "a left click on another item closes the menu" isHidden "Orvelle menu"
+    waitUntil "and opens its panel" panelIsShown CPU
+    clickItem 0
+    waitUntil "the panel closes" noPanelIsShown
+}
+
+testClickOnAnotherProgram() {
+    local window pid left top
+    "$client" window >"$workDirectory/window" &
+    pid=$!
+    ownedPids+=("$pid")
+    waitUntil "another window opens" test -s "$workDirectory/window"
+    window=$(<"$workDirectory/window")
+    waitUntil "the other window is shown" test -n "$(geometry "$window")"
+    clickItem 0
+    waitUntil "a panel opens" panelIsShown CPU
+    IFS=', x' read -r left top _ < <(geometry "$window")
+    xdotool mousemove $((left + 20)) $((top + 20)) click 1
+    waitUntil "a click on another window closes the panel" noPanelIsShown
+    wasClicked() { grep -q pressed "$workDirectory/window"; }
+    waitUntil "and reaches that window" wasClicked
+    kill "$pid"
+    wait "$pid" 2>/dev/null
+}
+
+testVisibilityChange() {
+    clickItem 2
+    waitUntil "a panel opens" panelIsShown Network
+    showModules false
+    waitUntil "the bar goes when every module is hidden" isHidden Orvelle
+    waitUntil "and the panel with it" noPanelIsShown
+    showModules true
+    waitUntil "the bar comes back" isShown Orvelle
+    clickItem 2
+    waitUntil "its panel opens again" panelIsShown Network
+    clickItem 2
+    waitUntil "and closes" noPanelIsShown
+}
+
+residentKilobytes() { awk '/VmRSS/ {print $2}' "/proc/$orvellePid/status"; }
+openDescriptors() { ls "/proc/$orvellePid/fd" | wc -l; }
+serverWindows() { xwininfo -root -tree | wc -l; }
+
+# Opens and closes every panel in turn.
+playRounds() {
+    local round
+    for ((round = 0; round < $1; ++round)); do
+        clickItem $((round % 6))
+        sleep 0.1
+        clickItem $((round % 6))
+        sleep 0.05
+    done
+    waitUntil "no panel is left open after $1 rounds" noPanelIsShown
+}
+
+testManyRounds() {
+    local memory descriptors windows grown
+    playRounds 12
+    memory=$(residentKilobytes) descriptors=$(openDescriptors) windows=$(serverWindows)
+    playRounds 60
+    grown=$(($(residentKilobytes) - memory))
+    ((grown < 6000)) && echo "ok: 60 rounds cost no memory ($grown kB)" || fail "60 rounds grew by $grown kB"
+    expectEqual "nor file descriptors" "$descriptors" "$(openDescriptors)"
+    expectEqual "nor windows of the server" "$windows" "$(serverWindows)"
+}
+
+testManyClicks() {
+    xdotool mousemove "$(pixels "$(itemMiddle 3)")" "$(pixels 11)" click --repeat 400 --delay 5 1
+    clickItem 0
+    waitUntil "200 clicks a second leave the program at work" panelIsShown CPU
+    waitUntil "with one panel" onePanelIsShown
+    clickItem 0
+    waitUntil "that closes" noPanelIsShown
+}
+
+testSmallerScreen() {
+    clickItem 4
+    waitUntil "a panel opens" panelIsShown Battery
+    xrandr -s 800x600
+    barFits() { [[ $(geometry "$(windowsTitled Orvelle | tail -1)") == *" 800x"* ]]; }
+    waitUntil "the bar follows a smaller screen" barFits
+    xrandr -s 1280x800
+    xdotool key Escape
+    waitUntil "the panel closes" noPanelIsShown
+}
+
+# onDesktop NAME COMMAND...: what follows runs under another window manager.
+onDesktop() {
+    desktop=$1
+    shift
+    stop_virtual_display
+    start_x_server 1280x800
+    start_window_manager "$@" || exit 1
+}
+
+showModules true
+onDesktop openbox
+startOrvelle 1
+testEachPanel
+testClosing
+testClickOnAnotherProgram
+testVisibilityChange
+testManyRounds
+testManyClicks
+testSmallerScreen
+endOrvelle
+startOrvelle 2
+testEachPanel
+endOrvelle
+
+onDesktop openbox-composed
+picom --backend xrender >/dev/null 2>&1 &
+compositorPid=$!
+ownedPids+=("$compositorPid")
+startOrvelle 1.5
+testEachPanel
+testClosing
+endOrvelle
+kill "$compositorPid"
+
+onDesktop xfwm4 xfwm4 --compositor=off
+startOrvelle 1
+testEachPanel
+testClosing
+endOrvelle
+onDesktop xfwm4-composed xfwm4 --compositor=on
+startOrvelle 1
+testEachPanel
+testClickOnAnotherProgram
+endOrvelle
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
