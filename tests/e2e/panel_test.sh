@@ -7,7 +7,7 @@
 orvelle=$1
 client=$2
 source "$(dirname "$0")/desktop.sh"
-requireTools Xvfb openbox xfwm4 picom xprop xwininfo xdotool xrandr import
+requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr import
 
 unset ${!QT_@} WAYLAND_DISPLAY
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
@@ -197,8 +197,10 @@ testManyClicks() {
 testSmallerScreen() {
     clickItem 4
     waitUntil "a panel opens" panelIsShown Battery
-    xrandr -s 800x600
-    barFits() { [[ $(geometry "$(windowsTitled Orvelle | tail -1)") == *" 800x"* ]]; }
+    xrandr --newmode 1024x768 63.50 1024 1072 1176 1328 768 771 775 798
+    xrandr --addmode screen 1024x768
+    xrandr -s 1024x768
+    barFits() { [[ $(geometry "$(windowsTitled Orvelle | tail -1)") == *" 1024x"* ]]; }
     waitUntil "the bar follows a smaller screen" barFits
     xrandr -s 1280x800
     xdotool key Escape
@@ -212,6 +214,13 @@ onDesktop() {
     stop_virtual_display
     start_x_server 1280x800
     start_window_manager "$@" || exit 1
+}
+
+# xfwm4 finds its settings by a session bus.
+startSessionBus() {
+    dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" 2>/dev/null &
+    ownedPids+=("$!")
+    waitUntil "a session bus starts" test -s "$workDirectory/bus"
 }
 
 showModules true
@@ -239,12 +248,14 @@ testClosing
 endOrvelle
 kill "$compositorPid"
 
-onDesktop xfwm4 xfwm4 --compositor=off
+startSessionBus
+xfwm4OnItsBus=(env NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS="$(<"$workDirectory/bus")" xfwm4)
+onDesktop xfwm4 "${xfwm4OnItsBus[@]}" --compositor=off
 startOrvelle 1
 testEachPanel
 testClosing
 endOrvelle
-onDesktop xfwm4-composed xfwm4 --compositor=on
+onDesktop xfwm4-composed "${xfwm4OnItsBus[@]}" --compositor=on
 startOrvelle 1
 testEachPanel
 testClickOnAnotherProgram
