@@ -138,6 +138,18 @@ TEST(ItemBounds, MeetOnWholePixelsAtFractionalScales) {
     }
 }
 
+TEST(ItemBounds, KeepTheWidthOfAnItemWhereverItStands) {
+    for (const double pixelsPerPoint : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        for (const QList<double>& lengths : {QList<double>{45}, {45, 45, 45, 45}, {45, 70, 45, 65, 45, 35}}) {
+            const QList<QRectF> bounds = itemBounds(lengths, 853, pixelsPerPoint);
+            for (qsizetype index = 0; index < bounds.size(); ++index)
+                EXPECT_NEAR(bounds[index].width() * pixelsPerPoint,
+                            std::round(lengths[index] * pixelsPerPoint), 1e-9)
+                    << "item " << index << " at scale " << pixelsPerPoint;
+        }
+    }
+}
+
 TEST(ItemBounds, AreNoneWithoutItems) {
     EXPECT_TRUE(itemBounds({}, 1000, 1).isEmpty());
 }

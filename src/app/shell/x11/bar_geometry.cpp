@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace orvelle {
 namespace {
@@ -71,16 +70,17 @@ std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QS
 }
 
 QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint) {
-    const auto onWholePixel = [pixelsPerPoint](double position) {
-        return std::round(position * pixelsPerPoint) / pixelsPerPoint;
-    };
-    const double total = std::accumulate(lengths.begin(), lengths.end(), 0.0);
-    double left = barWidth - barRightMarginPoints - total;
+    const auto pixels = [pixelsPerPoint](double points) { return std::round(points * pixelsPerPoint); };
+    // Each length is rounded by itself: were the edges, an item would change its width with its place.
+    double left = pixels(barWidth - barRightMarginPoints);
+    for (const double length : lengths)
+        left -= pixels(length);
     QList<QRectF> bounds;
     bounds.reserve(lengths.size());
     for (const double length : lengths) {
-        const double right = left + length;
-        bounds.append(QRectF(QPointF(onWholePixel(left), 0), QPointF(onWholePixel(right), barHeightPoints)));
+        const double right = left + pixels(length);
+        bounds.append(
+            QRectF(QPointF(left / pixelsPerPoint, 0), QPointF(right / pixelsPerPoint, barHeightPoints)));
         left = right;
     }
     return bounds;

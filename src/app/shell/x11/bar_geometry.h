@@ -53,7 +53,8 @@ struct TopDock {
                                                const std::vector<QRect>& otherScreens);
 
 /// The items' rectangles in a bar of `barWidth` points, in the order of `lengths`, side by side and flush
-/// right. Their edges stand on whole device pixels, so that no item loses part of a pixel to its neighbour.
+/// right. Their edges stand on whole device pixels, so that no item loses part of a pixel to its neighbour,
+/// and an item is as wide wherever it stands: its length in pixels, rounded.
 /// When they do not fit, the first ones leave the bar at its left edge.
 [[nodiscard]] QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint);
 
