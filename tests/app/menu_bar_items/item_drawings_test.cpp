@@ -3,6 +3,8 @@
 #include "item_fixture.h"
 #include "look/fonts.h"
 
+#include <algorithm>
+
 namespace orvelle {
 namespace {
 
@@ -30,6 +32,15 @@ TEST_F(ItemDrawingsTest, ALevelBarIsFilledUpToItsFraction) {
     const int centerLine = image.height() / 2;
     EXPECT_GT(image.pixelColor(26, centerLine).alpha(), 200);
     EXPECT_EQ(image.pixelColor(30, centerLine).alpha(), 38) << "only the track, white at 0.15";
+}
+
+TEST_F(ItemDrawingsTest, ALevelIsTheColourAtFourFifthsOverTheTrack) {
+    const QImage full = picture(levelBarPart({28, 8}, 3, 1, tint), 28);
+    const QColor level = full.pixelColor(26, full.height() / 2);
+    EXPECT_NEAR(level.alphaF(), 0.8 + 0.2 * 0.15, 0.005);
+    // Over black the colour's part and the white track's can be told apart.
+    EXPECT_NEAR(level.redF() * level.alphaF(), tint.redF() * 0.8 + 0.2 * 0.15, 0.01);
+    EXPECT_NEAR(level.blueF() * level.alphaF(), tint.blueF() * 0.8 + 0.2 * 0.15, 0.01);
 }
 
 TEST_F(ItemDrawingsTest, ALevelAboveOneFillsTheBarAndNoMore) {
@@ -72,6 +83,19 @@ TEST_F(ItemDrawingsTest, AHistoryIsDrawnFromItsLastTwentySamples) {
     history = QList<double>(20, 0.5);
     history.first() = 1.0;
     EXPECT_NE(picture(historyPart(history, tint, 1, size), 32), twenty) << "the 20th is drawn";
+}
+
+TEST_F(ItemDrawingsTest, AHistoryIsALineOfOnePointOverAFaintFill) {
+    const QImage image = picture(historyPart(QList<double>(20, 0.5), tint, 1, {32, 12}), 32);
+    const int column = image.width() / 2;
+    const int lastLineOfCanvas = (11 + 6) * 2 - 1;
+    const QColor fill = image.pixelColor(column, lastLineOfCanvas);
+    EXPECT_EQ(fill.alpha(), 38) << "0.15";
+    EXPECT_NEAR(fill.red(), tint.red(), 4);
+    double lineWidthPixels = 0;
+    for (int y = 0; y < image.height(); ++y)
+        lineWidthPixels += std::max(0.0, (image.pixelColor(column, y).alphaF() - 0.15) / 0.85);
+    EXPECT_NEAR(lineWidthPixels, pixelsPerPoint, 0.25);
 }
 
 TEST_F(ItemDrawingsTest, AnEmptyHistoryTakesItsRoomAndDrawsNothing) {
