@@ -60,7 +60,24 @@ store() {
     { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
 }
 
+# openWindow: sets window and windowPid, once the window manager knows it.
+openWindow() {
+    rm -f "$workDirectory/window"
+    "$client" window >"$workDirectory/window" &
+    windowPid=$!
+    ownedPids+=("$windowPid")
+    waitUntil "a window opens" test -s "$workDirectory/window"
+    window=$(<"$workDirectory/window")
+    windowIsManaged() { rootProperty _NET_CLIENT_LIST | grep -q "$window"; }
+    waitUntil "the window is managed" windowIsManaged
+}
+
+windowIsActive() { [[ $(rootProperty _NET_ACTIVE_WINDOW) == "$window" ]]; }
+
 testDock() {
+    openWindow
+    wmctrl -i -a "$window"
+    waitUntil "the window is active" windowIsActive || rootProperty _NET_ACTIVE_WINDOW
     startOrvelle
     expectEqual "the bar is a dock" _NET_WM_WINDOW_TYPE_DOCK "$(property "$bar" _NET_WM_WINDOW_TYPE)"
     expectEqual "the bar is on every desktop" 4294967295 "$(property "$bar" _NET_WM_DESKTOP)"
@@ -70,17 +87,12 @@ testDock() {
     done
     expectBar "0,0 1280x22" 22 1279
     waitUntil "the window manager reserves the bar's space" workAreaIs "0, 22, 1280, 778"
-    expectEqual "the bar has not taken the focus" "" "$(xdotool getwindowfocus getwindowname 2>/dev/null | grep Orvelle)"
+    expectEqual "the bar has not taken the focus" "$window" "$(rootProperty _NET_ACTIVE_WINDOW)"
+    kill "$windowPid"
 }
 
 testMaximizedWindow() {
-    "$client" window >"$workDirectory/window" &
-    local pid=$! window
-    ownedPids+=("$pid")
-    waitUntil "a window opens" test -s "$workDirectory/window"
-    window=$(<"$workDirectory/window")
-    windowIsManaged() { rootProperty _NET_CLIENT_LIST | grep -q "$window"; }
-    waitUntil "the window is managed" windowIsManaged
+    openWindow
     wmctrl -i -r "$window" -b add,maximized_vert,maximized_horz
     isMaximizedBelowTheBar() {
         local top height
@@ -88,7 +100,7 @@ testMaximizedWindow() {
         ((height > 600 && top >= 22))
     }
     waitUntil "a maximised window stays below the bar" isMaximizedBelowTheBar || geometry "$window"
-    kill "$pid"
+    kill "$windowPid"
 }
 
 testVisibility() {
