@@ -73,9 +73,11 @@ protected:
 TEST_F(DamagedDiskAndNetworkTextTest, NeverLetsSumsOfInterfacesOverflow) {
     for (int count = 0; count < textCount; ++count) {
         const std::string damaged = text.damaged(netDev);
-        std::uint64_t sum = 0;
+        std::uint64_t sumIn = 0;
+        std::uint64_t sumOut = 0;
         for (const InterfaceCounters& counters : parseNetDev(damaged)) {
-            ASSERT_FALSE(__builtin_add_overflow(sum, counters.bytesIn, &sum));
+            ASSERT_FALSE(__builtin_add_overflow(sumIn, counters.bytesIn, &sumIn));
+            ASSERT_FALSE(__builtin_add_overflow(sumOut, counters.bytesOut, &sumOut));
             ASSERT_FALSE(counters.name.empty());
         }
     }

@@ -1,3 +1,4 @@
+#include "child_process.h"
 #include "platform/linux/kept_file.h"
 #include "support/temporary_tree.h"
 
@@ -52,6 +53,21 @@ TEST(KeptFile, DoesNotWaitForAFifo) {
     const TemporaryTree tree;
     ASSERT_EQ(std::system(("mkfifo " + (tree.root() / "fifo").string()).c_str()), 0);
     EXPECT_EQ(KeptFile(tree.root() / "fifo", KeptFile::Layout::single).read().value_or(""), "");
+}
+
+TEST(KeptFile, IsNothingOnceWhatItTellsOfHasVanishedAndReadsItsSuccessor) {
+    // As with a device in sysfs that is pulled out, the open file stays and reading it fails.
+    const TemporaryTree tree;
+    std::optional<ChildProcess> child(std::in_place);
+    tree.link("file", "/proc/" + std::to_string(child->pid()) + "/stat");
+    KeptFile file(tree.root() / "file", KeptFile::Layout::single);
+    const std::string_view beginning = file.read().value_or("");
+    EXPECT_TRUE(beginning.starts_with(std::to_string(child->pid())));
+    child.reset();
+    tree.remove("file");
+    tree.write("file", "successor");
+    EXPECT_FALSE(file.read());
+    EXPECT_EQ(file.read(), "successor");
 }
 
 TEST(KeptFile, ReadsWholeKernelTexts) {

@@ -14,11 +14,23 @@ protected:
     MachineSources machine = makeTreeSources(tree.root(), clock.reader());
 };
 
-TEST_F(LinuxMachineTest, AnEmptyDirectoryIsAMachineThatAnswersNothing) {
+TEST_F(LinuxMachineTest, NothingOfTheHostLeaksIntoAnEmptyDirectory) {
     EXPECT_FALSE(machine.processor->readTicks());
     EXPECT_FALSE(machine.processor->readLoadAverages());
     EXPECT_FALSE(machine.processor->readBootTime());
     EXPECT_FALSE(machine.memory->read());
+    EXPECT_FALSE(machine.disk->readVolumes());
+    EXPECT_FALSE(machine.disk->readCounters());
+    EXPECT_FALSE(machine.network->read());
+    const auto powerSources = machine.battery->readPowerSources();
+    EXPECT_TRUE(powerSources && powerSources->empty()) << "to have no battery is no failure";
+    EXPECT_FALSE(machine.battery->readSmartBattery());
+    EXPECT_FALSE(machine.sensor->readCPUTemperature());
+    EXPECT_FALSE(machine.sensor->readGPUTemperature());
+    EXPECT_TRUE(machine.sensor->readSensors().empty());
+    EXPECT_TRUE(machine.sensor->readFanSpeeds().empty());
+    EXPECT_FALSE(machine.process->readTotalMemory());
+    EXPECT_FALSE(machine.process->readProcesses());
 }
 
 TEST_F(LinuxMachineTest, ATextThatTurnsEmptyOrVanishesIsAFailedReadAndComesBack) {

@@ -1,4 +1,6 @@
+#include "own_network.h"
 #include "platform/linux/linux_network_source.h"
+#include "support/child_process.h"
 #include "support/temporary_tree.h"
 
 #include <gtest/gtest.h>
@@ -99,16 +101,75 @@ TEST_F(LinuxNetworkSourceTest, ReadsAThousandInterfaces) {
     EXPECT_EQ(source.read()->size(), 2000u);
 }
 
+/// What stays the same while packets pass.
+Entries withoutCounters(Entries entries) {
+    for (InterfaceEntry& entry : entries)
+        entry.bytesIn = entry.bytesOut = 0;
+    return entries;
+}
+
 TEST(LinuxNetworkSourceOfTheHost, TellsTheSameWithAndWithoutAnAnnouncedChange) {
     LinuxNetworkSource source("/");
     const std::optional<Entries> first = source.read();
     const std::optional<Entries> second = source.read();
-    ASSERT_EQ(first.has_value(), std::filesystem::exists("/proc/net/dev"));
-    if (!first || !second)
-        return;
-    const auto isLoopback = [](const InterfaceEntry& entry) { return entry.isLoopback; };
-    EXPECT_TRUE(std::ranges::any_of(*first, isLoopback));
-    EXPECT_TRUE(std::ranges::any_of(*second, isLoopback));
+    const std::optional<Entries> afresh = LinuxNetworkSource("/").read();
+    ASSERT_TRUE(first && second && afresh);
+    EXPECT_FALSE(first->empty());
+    EXPECT_EQ(withoutCounters(*second), withoutCounters(*first));
+    EXPECT_EQ(withoutCounters(*afresh), withoutCounters(*first));
+}
+
+TEST(LinuxNetworkSourceOfTheHost, TellsTheAddressesThatTheKernelLists) {
+    std::vector<std::pair<std::string, std::string>> told;
+    std::vector<std::pair<std::string, std::string>> listed;
+    const std::optional<Entries> entries = LinuxNetworkSource("/").read();
+    ASSERT_TRUE(entries);
+    for (const InterfaceEntry& entry : *entries) {
+        const std::string address = entry.ipv4Address + entry.ipv6Address;
+        if (!address.empty())
+            told.emplace_back(entry.name, address);
+    }
+    for (const InterfaceAddress& address : hostAddresses())
+        listed.emplace_back(address.interfaceName, address.text);
+    std::ranges::sort(told);
+    std::ranges::sort(listed);
+    EXPECT_FALSE(told.empty()) << "there is a loopback at least";
+    EXPECT_TRUE(std::ranges::includes(listed, told))
+        << "ports of a bridge may be missing, no more may be told";
+}
+
+enum Outcome : int { asExpected, notPermitted, cannotRead, wrongBefore, changedUnannounced, wrongAfter };
+
+/// The IPv4 addresses of the loopback that the source tells now.
+std::vector<std::string> loopbackAddresses(LinuxNetworkSource& source) {
+    std::vector<std::string> addresses;
+    for (const InterfaceEntry& entry : source.read().value_or(Entries())) {
+        if (entry.name == "lo" && !entry.ipv4Address.empty())
+            addresses.push_back(entry.ipv4Address);
+    }
+    return addresses;
+}
+
+Outcome followAnAddress() {
+    if (!enterOwnNetwork())
+        return notPermitted;
+    LinuxNetworkSource source("/");
+    if (!source.read())
+        return cannotRead;
+    if (loopbackAddresses(source) != std::vector<std::string>{"127.0.0.1"})
+        return wrongBefore;
+    if (loopbackAddresses(source) != std::vector<std::string>{"127.0.0.1"})
+        return changedUnannounced;
+    if (!giveLoopbackAddress("127.0.0.2"))
+        return notPermitted;
+    return loopbackAddresses(source) == std::vector<std::string>{"127.0.0.2"} ? asExpected : wrongAfter;
+}
+
+TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressAtTheNextReading) {
+    const int outcome = inChildProcess(followAnAddress);
+    if (outcome == notPermitted)
+        GTEST_SKIP() << "this system does not let a process have a network of its own";
+    EXPECT_EQ(outcome, asExpected);
 }
 
 } // namespace
