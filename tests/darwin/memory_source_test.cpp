@@ -1,6 +1,9 @@
 #include "core/memory_monitor.h"
 #include "darwin/typical_machine.h"
 
+#include <array>
+#include <random>
+
 namespace orvelle {
 namespace {
 
@@ -61,6 +64,58 @@ TEST_F(DarwinMemorySourceTest, TheLargestCountersDoNotReachTheMonitorsLimits) {
     monitor.update();
     EXPECT_EQ(monitor.info().used, 8 * gibibyte);
     EXPECT_EQ(monitor.info().free, std::uint64_t{most} * 16384);
+}
+
+TEST_F(DarwinMemorySourceTest, ACacheOfHalfOfWhatIsHeldIsHandedOverWhole) {
+    machine().pages = {.active = 6000,
+                       .inactive = 4000,
+                       .wired = 500,
+                       .compressor = 500,
+                       .purgeable = 500,
+                       .external = 5000};
+    EXPECT_EQ(host().memory->read()->purgeablePages, 500u);
+    EXPECT_EQ(host().memory->read()->externalPages, 5000u);
+    MemoryMonitor monitor(*host().memory);
+    monitor.update();
+    EXPECT_EQ(monitor.info().used, monitor.info().cached);
+    EXPECT_EQ(monitor.pressureHistory(), QList<double>{0});
+}
+
+TEST_F(DarwinMemorySourceTest, OfALargerCacheFilesAreLeftOutBeforePurgeablePages) {
+    machine().pages = {.active = 6000,
+                       .inactive = 4000,
+                       .wired = 500,
+                       .compressor = 500,
+                       .purgeable = 800,
+                       .external = 9000};
+    EXPECT_EQ(host().memory->read()->purgeablePages, 800u);
+    EXPECT_EQ(host().memory->read()->externalPages, 5500u - 800u);
+    machine().pages.purgeable = 7000;
+    EXPECT_EQ(host().memory->read()->purgeablePages, 5500u);
+    EXPECT_EQ(host().memory->read()->externalPages, 0u);
+}
+
+TEST_F(DarwinMemorySourceTest, TheCacheIsNeverMoreThanTheMachinesMemory) {
+    constexpr std::uint32_t most = 0xffffffff;
+    machine().pages = {.active = most, .inactive = most, .wired = most, .purgeable = most, .external = most};
+    const std::optional<MemoryReading> reading = host().memory->read();
+    EXPECT_EQ(reading->purgeablePages * 16384, 8 * gibibyte);
+    EXPECT_EQ(reading->externalPages, 0u);
+}
+
+TEST_F(DarwinMemorySourceTest, NoCountersOfAKernelStopTheMonitor) {
+    std::mt19937 engine(20260101);
+    const auto counter = [&engine] {
+        constexpr std::array<std::uint32_t, 6> kinds{0, 1, 1000, 600'000, 0x7fffffff, 0xffffffff};
+        const std::uint32_t most = kinds[engine() % kinds.size()];
+        return most == 0 ? 0 : static_cast<std::uint32_t>(engine() % (std::uint64_t{most} + 1));
+    };
+    MemoryMonitor monitor(*host().memory);
+    for (int count = 0; count < 2000; ++count) {
+        machine().pages = {counter(), counter(), counter(), counter(), counter(), counter(), counter()};
+        monitor.update();
+        ASSERT_GE(monitor.info().used, monitor.info().cached);
+    }
 }
 
 TEST_F(DarwinMemorySourceTest, ThePublishedRecordFollowsFromTheCounters) {

@@ -69,6 +69,17 @@ TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorAsIt
     EXPECT_EQ(monitor.coreUsages()[0], (CPUCoreUsage{.id = 0, .user = 0, .system = 0.75, .idle = 0.25}));
 }
 
+TEST_F(DarwinProcessorSourceTest, ACounterThatBeganAnewAddsNothingOnce) {
+    machine().processors = {.count = 1, .words = {0, 0x7ffffff0, 1000, 0}};
+    CPUMonitor monitor(*host().processor, host().now);
+    machine().processors = {.count = 1, .words = {50, 10, 1150, 0}};
+    monitor.updateUsage();
+    EXPECT_EQ(monitor.coreUsages().at(0), (CPUCoreUsage{.id = 0, .user = 0.25, .system = 0, .idle = 0.75}));
+    machine().processors = {.count = 1, .words = {50, 110, 1450, 0}};
+    monitor.updateUsage();
+    EXPECT_EQ(monitor.coreUsages().at(0), (CPUCoreUsage{.id = 0, .user = 0, .system = 0.25, .idle = 0.75}));
+}
+
 TEST_F(DarwinProcessorSourceTest, OneHostPortServesAllReadings) {
     for (int reading = 0; reading < 3; ++reading)
         EXPECT_TRUE(readTicks());

@@ -2,6 +2,7 @@
 
 #include "platform/darwin/sysctl_value.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <mach/vm_page_size.h>
 
@@ -23,6 +24,23 @@ std::optional<vm_statistics64_data_t> readStatistics(host_t host) {
     return statistics;
 }
 
+/// The most pages that may count as cache: used memory is what is held less the cache, at most the machine's
+/// memory, and the cache is taken off it once more.
+std::uint64_t mostCachedPages(const MemoryReading& reading) {
+    const std::uint64_t heldPages =
+        reading.activePages + reading.inactivePages + reading.wiredPages + reading.compressorPages;
+    const std::uint64_t half = heldPages / 2;
+    if (reading.physicalMemory <= 0 || reading.pageSize == 0)
+        return half;
+    return std::min(half, static_cast<std::uint64_t>(reading.physicalMemory) / reading.pageSize);
+}
+
+void cutCache(MemoryReading& reading) {
+    const std::uint64_t most = mostCachedPages(reading);
+    reading.purgeablePages = std::min(reading.purgeablePages, most);
+    reading.externalPages = std::min(reading.externalPages, most - reading.purgeablePages);
+}
+
 } // namespace
 
 std::optional<MemoryReading> DarwinMemorySource::read() {
@@ -39,6 +57,7 @@ std::optional<MemoryReading> DarwinMemorySource::read() {
     reading.compressorPages = statistics->compressor_page_count;
     reading.purgeablePages = statistics->purgeable_count;
     reading.externalPages = statistics->external_page_count;
+    cutCache(reading);
 
     static_assert(sizeof(xsw_usage) == 32);
     const xsw_usage swap = readSysctl<xsw_usage>(CTL_VM, VM_SWAPUSAGE).value_or(xsw_usage{});

@@ -7,9 +7,10 @@ namespace orvelle::darwin_platform {
 
 /// Answers from the host's virtual-memory statistics, {CTL_HW, HW_MEMSIZE} and {CTL_VM, VM_SWAPUSAGE}.
 ///
-/// The counters are handed over as the kernel gives them. It counts a file-backed page in the cache and also
-/// among the active or inactive pages, so a machine that keeps very much of its memory for files can bring
-/// the pressure rule to its limit.
+/// The kernel counts a file-backed page in the cache and also among the active or inactive pages, so on a
+/// machine that keeps most of its memory for files the cache can be more than the pressure rule may subtract.
+/// What is too much of it is left out, file-backed pages before purgeable ones. The other counters are handed
+/// over as the kernel gives them.
 class DarwinMemorySource final : public MemorySource {
 public:
     /// Physical memory and swap are 0 where only they cannot be read; nothing when the page counters cannot.
