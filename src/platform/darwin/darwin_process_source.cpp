@@ -41,7 +41,7 @@ void inspect(ProcessRecord& record, std::int32_t pid) {
     takeName(record);
     record.userNanoseconds = information.pti_total_user;
     record.systemNanoseconds = information.pti_total_system;
-    record.residentBytes = information.pti_resident_size;
+    record.residentBytes = std::min(information.pti_resident_size, ProcessRecord::maximumBytes);
 }
 
 } // namespace
