@@ -39,6 +39,11 @@ TEST_F(DarwinProcessSourceTest, ListsInTheSystemsOrderWithoutTheKernel) {
     EXPECT_EQ(records[2].name, "helper");
 }
 
+TEST_F(DarwinProcessSourceTest, AResidentSizeThatNoMachineCanHoldIsCut) {
+    machine().processes = {{.pid = 1, .path = "/bin/odd", .residentBytes = ~std::uint64_t{0}}};
+    EXPECT_EQ(read()->at(0).residentBytes, ProcessRecord::maximumBytes);
+}
+
 TEST_F(DarwinProcessSourceTest, AProcessThatMayNotBeInspectedIsListedWithoutAName) {
     EXPECT_EQ(read()->at(3).pid, 60);
     EXPECT_EQ(read()->at(3).name, "");
