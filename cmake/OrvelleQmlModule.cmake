@@ -3,11 +3,12 @@
 # Where the tools for QML find all modules, each in the folder of its name.
 set(ORVELLE_QML_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
-# orvelle_qml_module(TARGET URI [IMPORTS...] [SINGLETONS...] [QML_FILES...]): makes the library, which was declared
+# orvelle_qml_module(TARGET URI [DEPENDENCIES...] [IMPORTS...] [SINGLETONS...] [QML_FILES...]): makes the library, which was declared
 # before, the QML module of that name. Its files are compiled ahead of time. A static library does not register its
-# types by itself: it needs a function of its own for that, such as `registerLookTypes`.
+# types by itself: it needs a function of its own for that, such as `registerLookTypes`. DEPENDENCIES are modules
+# whose types the properties of this one have; IMPORTS come with every import of this one.
 function(orvelle_qml_module target uri)
-  cmake_parse_arguments(ARG "" "" "IMPORTS;SINGLETONS;QML_FILES" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "DEPENDENCIES;IMPORTS;SINGLETONS;QML_FILES" ${ARGN})
   find_package(Qt6 6.4 REQUIRED COMPONENTS Quick)
   string(REPLACE "." "/" folder ${uri})
   target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}) # for the registration
@@ -17,9 +18,11 @@ function(orvelle_qml_module target uri)
     VERSION 1.0
     OUTPUT_DIRECTORY ${ORVELLE_QML_DIRECTORY}/${folder}
     NO_PLUGIN
-    DEPENDENCIES QtQuick
+    DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
     IMPORTS ${ARG_IMPORTS}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
+
+  set_property(GLOBAL APPEND PROPERTY ORVELLE_QML_MODULES ${target}) # for tests that hold for all modules
 
   # What the QML compiler writes is not ours to keep free of warnings, nor to search for faults.
   set(generated_options -w)

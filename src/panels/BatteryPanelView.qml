@@ -1,5 +1,4 @@
 import QtQuick
-import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {

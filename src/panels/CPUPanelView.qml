@@ -9,6 +9,7 @@ PanelBody {
 
     required property CPUMonitor cpu
     required property ProcessMonitor process
+    readonly property var coreUsages: cpu.coreUsages
     readonly property color moduleColor: colors.cpu
 
     PanelHeader {
@@ -31,7 +32,7 @@ PanelBody {
             objectName: "coreChart"
             Layout.fillWidth: true
             Layout.preferredHeight: 50
-            values: panel.cpu.coreUsages.map(core => core.user + core.system)
+            values: panel.coreUsages.map(core => core.user + core.system)
             maxValue: 1
             barSpacing: 2
             cornerRadius: 2
@@ -87,7 +88,7 @@ PanelBody {
         Item { Layout.fillWidth: true }
         StatisticColumn {
             label: "Cores"
-            value: panel.cpu.coreUsages.length
+            value: panel.coreUsages.length
         }
     }
     Divider {}

@@ -7,6 +7,7 @@ PanelBody {
     id: panel
 
     required property DiskMonitor disk
+    readonly property var volumes: disk.volumes
     readonly property var io: disk.diskIO
     readonly property color moduleColor: colors.disk
 
@@ -23,12 +24,12 @@ PanelBody {
             objectName: "volumes"
             model: RecordModel {
                 key: "id"
-                records: panel.disk.volumes
+                records: panel.volumes
             }
             delegate: VolumeCard {
                 required property var record
                 volume: record
-                moduleColor: panel.moduleColor
+                moduleColor: panel.moduleColor // qmllint disable unqualified
             }
         }
     }

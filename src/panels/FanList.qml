@@ -47,8 +47,8 @@ ColumnLayout {
         delegate: FanRow {
             required property var record
             fan: record
-            baseAngle: list.fanAngles[record.index] ?? 0
-            moduleColor: list.moduleColor
+            baseAngle: list.fanAngles[record.index] ?? 0 // qmllint disable unqualified
+            moduleColor: list.moduleColor // qmllint disable unqualified
         }
     }
 }

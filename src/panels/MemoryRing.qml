@@ -19,57 +19,52 @@ Item {
     Accessible.role: Accessible.Chart
     Accessible.name: "Memory " + PanelRules.formatPercent(used) + " used"
 
-    Loader {
-        objectName: "ring"
+    MultiSegmentRing {
+        objectName: "parts"
+        visible: ring.showsParts
         anchors.fill: parent
-        sourceComponent: ring.showsParts ? parts : share
-    }
-    Component {
-        id: parts
-        MultiSegmentRing {
-            lineWidth: 10
-            size: 90
-            trackColor: Look.partsTrack
-            segments: [
-                { value: ring.info.wired, color: MemoryColors.wired, label: "Wired" },
-                { value: ring.info.active, color: ring.moduleColor, label: "Active" },
-                { value: ring.info.compressed, color: MemoryColors.compressed, label: "Compressed" },
-                { value: ring.info.cached, color: MemoryColors.cached, label: "Cached" },
-                { value: ring.info.free, color: MemoryColors.freeInRing, label: "Free" }
-            ]
-            children: Column {
-                anchors.centerIn: parent
-                PlainText {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    text: PanelRules.formatPercent(ring.used)
-                    size: 16
-                    weight: Font.Bold
-                }
-                PlainText {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    text: "Used"
-                    size: 8
-                    color: Look.secondaryLabel
-                }
+        lineWidth: 10
+        size: 90
+        trackColor: Look.partsTrack
+        segments: [
+            { value: ring.info.wired, color: MemoryColors.wired, label: "Wired" },
+            { value: ring.info.active, color: ring.moduleColor, label: "Active" },
+            { value: ring.info.compressed, color: MemoryColors.compressed, label: "Compressed" },
+            { value: ring.info.cached, color: MemoryColors.cached, label: "Cached" },
+            { value: ring.info.free, color: MemoryColors.freeInRing, label: "Free" }
+        ]
+        children: Column {
+            anchors.centerIn: parent
+            PlainText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: PanelRules.formatPercent(ring.used)
+                size: 16
+                weight: Font.Bold
+            }
+            PlainText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: "Used"
+                size: 8
+                color: Look.secondaryLabel
             }
         }
     }
-    Component {
-        id: share
-        AnimatedRingChart {
-            value: ring.used
-            lineWidth: 10
-            size: 90
-            baseColor: ring.moduleColor
-            trackColor: Look.track
-            showGlow: PanelRules.hasGlow(ring.settings.glowIntensity)
-            pulseCritical: true
-            criticalThreshold: 0.9
-            label: PanelRules.formatPercent(ring.used)
-            sublabel: "Used"
-            ringStyle: ring.settings.ringChartStyle
-            glowIntensity: ring.settings.glowIntensity
-            animationSpeed: ring.settings.animationSpeed
-        }
+    AnimatedRingChart {
+        objectName: "share"
+        visible: !ring.showsParts
+        anchors.fill: parent
+        value: ring.used
+        lineWidth: 10
+        size: 90
+        baseColor: ring.moduleColor
+        trackColor: Look.track
+        showGlow: PanelRules.hasGlow(ring.settings.glowIntensity)
+        pulseCritical: true
+        criticalThreshold: 0.9
+        label: PanelRules.formatPercent(ring.used)
+        sublabel: "Used"
+        ringStyle: ring.settings.ringChartStyle
+        glowIntensity: ring.settings.glowIntensity
+        animationSpeed: ring.settings.animationSpeed
     }
 }

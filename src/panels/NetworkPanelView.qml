@@ -7,6 +7,7 @@ PanelBody {
     id: panel
 
     required property NetworkMonitor network
+    readonly property var interfaces: network.interfaces
     readonly property color moduleColor: colors.network
 
     spacing: 12
@@ -69,12 +70,12 @@ PanelBody {
             objectName: "interfaces"
             model: RecordModel {
                 key: "name"
-                records: panel.network.interfaces
+                records: panel.interfaces
             }
             delegate: InterfaceRow {
                 required property var record
                 info: record
-                moduleColor: panel.moduleColor
+                moduleColor: panel.moduleColor // qmllint disable unqualified
             }
         }
     }
@@ -84,12 +85,12 @@ PanelBody {
         DetailRow {
             label: "Total Downloaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(panel.network.totalBytesIn)
+            value: PanelRules.byteSizeText(panel.network.totalBytesIn) // qmllint disable type
         }
         DetailRow {
             label: "Total Uploaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(panel.network.totalBytesOut)
+            value: PanelRules.byteSizeText(panel.network.totalBytesOut) // qmllint disable type
         }
     }
 }

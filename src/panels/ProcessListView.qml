@@ -34,9 +34,9 @@ ColumnLayout {
         delegate: ProcessRow {
             required property var record
             process: record
-            mode: view.mode
-            accentColor: view.accentColor
-            maxValue: view.maxValue
+            mode: view.mode // qmllint disable unqualified
+            accentColor: view.accentColor // qmllint disable unqualified
+            maxValue: view.maxValue // qmllint disable unqualified
         }
     }
 }

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import Orvelle.Charts
 import Orvelle.Look
 import Orvelle.Panels
 
@@ -8,6 +7,7 @@ PanelBody {
     id: panel
 
     required property SensorMonitor sensor
+    readonly property var sensors: sensor.sensors
     readonly property color moduleColor: colors.sensor
 
     spacing: 12
@@ -49,7 +49,7 @@ PanelBody {
         SectionTitle { text: "ALL SENSORS" }
         PlainText {
             objectName: "placeholder"
-            visible: panel.sensor.sensors.length === 0
+            visible: panel.sensors.length === 0
             text: "No sensor data available"
             size: 10
             color: Look.secondaryLabel
@@ -60,12 +60,12 @@ PanelBody {
             objectName: "sensors"
             model: RecordModel {
                 key: "key"
-                records: panel.sensor.sensors
+                records: panel.sensors
             }
             delegate: SensorRow {
                 required property var record
                 sensor: record
-                useFahrenheit: panel.settings.useFahrenheit
+                useFahrenheit: panel.settings.useFahrenheit // qmllint disable unqualified
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include "core/system_monitor.h"
 
+#include <QAbstractItemModel>
 #include <QQmlEngine>
 
 /// The monitors, which the program makes and QML only uses, and the records that they publish, to QML: the
@@ -59,6 +60,14 @@ struct ProcessMonitorInQml {
     QML_FOREIGN(orvelle::ProcessMonitor)
     QML_NAMED_ELEMENT(ProcessMonitor)
     QML_UNCREATABLE("The program makes it.")
+};
+
+/// What the rows of a RecordModel are made from; without the module QtQml.Models the tools of QML do not know
+/// it.
+struct ItemModelInQml {
+    Q_GADGET
+    QML_FOREIGN(QAbstractItemModel)
+    QML_ANONYMOUS
 };
 
 struct CPUCoreUsageInQml {

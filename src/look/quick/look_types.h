@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/settings_store.h"
+#include "settings/styles.h"
 #include "settings/theme_manager.h"
 
 #include <QQmlEngine>
@@ -25,6 +26,13 @@ struct ThemeManagerInQml {
     QML_NAMED_ELEMENT(ThemeManager)
     QML_UNCREATABLE("The program makes it.")
 };
+
+/// The styles of the settings, by which the properties of the store and of the charts are typed.
+namespace StylesInQml {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(orvelle)
+QML_NAMED_ELEMENT(Styles)
+} // namespace StylesInQml
 
 struct AppThemeInQml {
     Q_GADGET
