@@ -21,6 +21,9 @@ struct SpringParameters {
 /// The spring of a bar's height and colour; nothing when changes show at once.
 [[nodiscard]] std::optional<SpringParameters> barSpring(AnimationSpeed speed, bool animate);
 
+/// The spring of the fill of a `GradientBar`.
+inline constexpr SpringParameters gradientBarSpring{.response = 0.4, .dampingFraction = 0.7};
+
 /// How long a ring takes to fill when it is first shown (ease out); nothing when it fills at once.
 [[nodiscard]] std::optional<double> ringOpeningSeconds(AnimationSpeed speed);
 

@@ -13,8 +13,6 @@ RowLayout {
     required property color accentColor
     required property real maxValue
     readonly property real fraction: PanelRules.processBarFraction(process, mode, maxValue)
-    property real barWidth: track.width * fraction
-    property bool isComplete: false
 
     Layout.fillWidth: true
     Layout.preferredHeight: 18
@@ -22,17 +20,6 @@ RowLayout {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name.text + " " + value.text
-
-    // A spring of response 0.4 s and damping fraction 0.7, by the animation's step of 16 ms.
-    Behavior on barWidth {
-        enabled: row.isComplete && !Motion.reduced
-        SpringAnimation {
-            spring: 3.95
-            damping: 0.35
-            epsilon: 0.1
-        }
-    }
-    Component.onCompleted: isComplete = true
 
     PlainText {
         id: name
@@ -42,24 +29,13 @@ RowLayout {
         Layout.preferredWidth: 90
         Layout.maximumWidth: 90
     }
-    Rectangle {
-        id: track
+    GradientBar {
+        objectName: "bar"
         Layout.fillWidth: true
-        implicitHeight: 8
-        radius: 2
-        color: Look.listTrack
-
-        Rectangle {
-            objectName: "fill"
-            width: Math.max(0, Math.min(row.barWidth, track.width))
-            height: track.height
-            radius: track.radius
-            gradient: Gradient {
-                orientation: Gradient.Horizontal
-                GradientStop { position: 0; color: Look.faded(row.accentColor, 0.7) }
-                GradientStop { position: 1; color: row.accentColor }
-            }
-        }
+        Layout.preferredHeight: 8
+        fraction: row.fraction
+        color: row.accentColor
+        trackColor: Look.listTrack
     }
     PlainText {
         id: value

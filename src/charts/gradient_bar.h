@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+namespace orvelle {
+
+/// A lying bar on a track, which is filled from the left and grows stronger towards the end of its fill.
+struct GradientBar {
+    double fraction = 0;    ///< of the track that is filled; held between 0 and 1
+    QColor color = {};      ///< at the end of the fill
+    QColor trackColor = {}; ///< of the whole width, below the fill
+
+    /// Fills `bounds`; never paints outside.
+    void paint(QPainter& painter, const QRectF& bounds) const { paint(painter, bounds, fraction); }
+
+    /// Paints the bar as it looks in the middle of an animation.
+    void paint(QPainter& painter, const QRectF& bounds, double shownFraction) const;
+
+    bool operator==(const GradientBar&) const = default;
+};
+
+} // namespace orvelle

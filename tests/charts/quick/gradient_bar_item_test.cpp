@@ -1,0 +1,65 @@
+#include "charts/animation_rules.h"
+#include "charts/quick/gradient_bar_item.h"
+#include "charts/spring.h"
+#include "quick_fixture.h"
+
+namespace orvelle {
+namespace {
+
+class GradientBarHosting : public QuickFixture {
+protected:
+    GradientBarHosting() {
+        bar->setProperty("color", QColor(Qt::red));
+        bar->setProperty("fraction", 0.2);
+    }
+
+    std::unique_ptr<GradientBarItem> bar = placed<GradientBarItem>();
+};
+
+TEST_F(GradientBarHosting, StandsAtItsFractionWhenItIsFirstShown) {
+    showWindow();
+    EXPECT_EQ(bar->shownFraction(), 0.2);
+    EXPECT_FALSE(motion.isRunning());
+}
+
+TEST_F(GradientBarHosting, FollowsAChangeByASpringThatOvershootsOnce) {
+    showWindow();
+    bar->setProperty("fraction", 0.6);
+    Spring expected(0.2);
+    expected.retarget(0.6);
+    double largest = 0;
+    for (int frame = 0; frame < 40; ++frame) {
+        seconds += 0.016;
+        motion.step();
+        expected.advance(0.016, {.response = 0.4, .dampingFraction = 0.7});
+        EXPECT_NEAR(bar->shownFraction(), expected.position(), 0.002);
+        largest = std::max(largest, bar->shownFraction());
+    }
+    // e^(-pi d / sqrt(1 - d^2)) of the way beyond the target, for a damping fraction d of 0.7.
+    EXPECT_NEAR(largest, 0.6 + 0.4 * 0.046, 0.002);
+    EXPECT_EQ(bar->shownFraction(), 0.6);
+    EXPECT_FALSE(motion.isRunning()) << "nothing is left to do once it stands still";
+}
+
+TEST_F(GradientBarHosting, ShowsTheNewFractionAtOnceWhereNothingMayMove) {
+    motion.setReduced(true);
+    showWindow();
+    bar->setProperty("fraction", 0.9);
+    EXPECT_EQ(bar->shownFraction(), 0.9);
+    motion.setReduced(false);
+    window.hide();
+    bar->setProperty("fraction", 0.1);
+    EXPECT_EQ(bar->shownFraction(), 0.1);
+    EXPECT_FALSE(motion.isRunning());
+}
+
+TEST_F(GradientBarHosting, RestsForAnotherColor) {
+    showWindow();
+    bar->setProperty("color", QColor(Qt::green));
+    EXPECT_FALSE(motion.isRunning());
+    waitForFrame();
+    EXPECT_GT(colorAt(42, 50).green(), 100);
+}
+
+} // namespace
+} // namespace orvelle
