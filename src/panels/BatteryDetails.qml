@@ -41,6 +41,7 @@ ColumnLayout {
                 weight: Font.Bold
                 color: details.moduleColor
                 Layout.fillWidth: true
+                Accessible.name: "Charge " + text
             }
             Symbol {
                 visible: details.info.isCharging
@@ -132,6 +133,7 @@ ColumnLayout {
                 text: PanelRules.formatPercent(details.info.health)
                 weight: Font.DemiBold
                 color: details.healthColor
+                Accessible.name: "Battery health " + text
             }
         }
         UsageBar {

@@ -22,6 +22,7 @@ PanelBody {
             size: 18
             weight: Font.Bold
             color: panel.moduleColor
+            Accessible.name: "Total usage " + text
         }
     }
     Divider {}

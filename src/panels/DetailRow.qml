@@ -24,5 +24,6 @@ RowLayout {
         color: Look.valueLabel
         horizontalAlignment: Text.AlignRight
         Layout.fillWidth: true
+        Accessible.name: row.label + " " + text
     }
 }

@@ -14,7 +14,7 @@ RowLayout {
     spacing: 6
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: info.displayName
+    Accessible.name: info.displayName + " " + download.text + " " + upload.text
 
     Item {
         implicitWidth: 14
@@ -35,19 +35,21 @@ RowLayout {
         Layout.fillWidth: true
     }
     PlainText {
+        id: download
         text: "\u2193 " + PanelRules.formatRate(row.info.downloadSpeed)
         size: 9
         monospaced: true
         color: Look.secondaryLabel
         horizontalAlignment: Text.AlignRight
-        Layout.preferredWidth: 68 // speeds stand below each other
+        Layout.preferredWidth: Math.max(68, implicitWidth) // speeds stand below each other
     }
     PlainText {
+        id: upload
         text: "\u2191 " + PanelRules.formatRate(row.info.uploadSpeed)
         size: 9
         monospaced: true
         color: Look.secondaryLabel
         horizontalAlignment: Text.AlignRight
-        Layout.preferredWidth: 68
+        Layout.preferredWidth: Math.max(68, implicitWidth)
     }
 }

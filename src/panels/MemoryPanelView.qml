@@ -23,6 +23,7 @@ PanelBody {
             weight: Font.Medium
             monospaced: true
             color: panel.moduleColor
+            Accessible.name: "Memory used " + text
         }
     }
     Divider {}
@@ -112,6 +113,7 @@ PanelBody {
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel
+            Accessible.name: "Swap used " + text
         }
         PlainText {
             text: "of"
@@ -122,6 +124,7 @@ PanelBody {
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel
+            Accessible.name: "Swap total " + text
         }
     }
     Divider {}

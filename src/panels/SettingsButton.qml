@@ -45,7 +45,8 @@ Item {
     Tooltip {
         id: tooltip
         text: "Open Orvelle Settings"
-        isWanted: hover.hovered && !tap.pressed
+        objectName: "tooltip"
+        isWanted: (hover.hovered || button.activeFocus) && !tap.pressed
         anchors.right: parent.right
         anchors.bottom: parent.top
         anchors.bottomMargin: 4

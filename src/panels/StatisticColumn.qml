@@ -11,6 +11,8 @@ ColumnLayout {
     required property string value
 
     spacing: 2
+    Layout.fillWidth: true
+    Layout.maximumWidth: implicitWidth
 
     PlainText {
         text: column.label
@@ -20,6 +22,10 @@ ColumnLayout {
         text: column.value
         monospaced: true
         color: Look.valueLabel
+        elide: Text.ElideNone
+        fontSizeMode: Text.HorizontalFit // three long values side by side grow smaller
+        minimumPixelSize: 7
+        Layout.fillWidth: true
         Accessible.name: column.label + " " + text
     }
 }

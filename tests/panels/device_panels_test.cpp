@@ -64,8 +64,7 @@ TEST_F(NetworkPanel, ShowsSixtyInterfacesAboveItsFooter) {
                      scroller->property("contentHeight").toDouble() - scroller->height());
     machine.network->entries->resize(1);
     sample();
-    QTest::qWait(20);
-    EXPECT_EQ(scroller->property("contentY").toDouble(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scroller->property("contentY").toDouble() == 0; }));
 }
 
 TEST_F(DiskPanel, ColoursVolumesByTheirUsage) {

@@ -2,6 +2,7 @@
 
 #include "common/sampling.h"
 #include "core/system_monitor.h"
+#include "snapshot/panel_pictures.h"
 #include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
 #include "snapshot/snapshot_arguments.h"
@@ -21,11 +22,12 @@ int fail(const QString& message, int status) {
     return status;
 }
 
-/// Nothing is shown, so a display is used only for the desktop's fonts, where there is one.
-void choosePlatform() {
-    const auto isSet = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
-    if (!isSet("QT_QPA_PLATFORM") && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY"))
+/// Nothing is shown on a display, also not the windows of the panels, which take their scale from the
+/// platform.
+void choosePlatform(double scale) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 }
 
 /// Of this machine a few moments are taken in quick succession, so that its histories show something.
@@ -44,6 +46,11 @@ int paintSheets(const SnapshotArguments& arguments) {
     const QList<Sheet> sheets = chartSheets() << menuBarItemSheet(monitor, settings);
     if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
         return fail(*error, exitFailed);
+    for (const PanelPicture& panel : panelPictures(monitor, settings)) {
+        if (const auto error =
+                writePicture(panel.image, sheetFileName(panel.name, arguments.scale), arguments.directory))
+            return fail(*error, exitFailed);
+    }
     return 0;
 }
 
@@ -57,7 +64,7 @@ int main(int argumentCount, char** argumentValues) {
     const auto arguments = orvelle::parseSnapshotArguments(commandLine);
     if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
         return orvelle::fail(error->message, orvelle::exitUsage);
-    orvelle::choosePlatform();
+    orvelle::choosePlatform(std::get<orvelle::SnapshotArguments>(arguments).scale);
     int programNameOnly = 1;
     const QGuiApplication application(programNameOnly, argumentValues);
     return orvelle::paintSheets(std::get<orvelle::SnapshotArguments>(arguments));

@@ -5,10 +5,13 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 
+#include <mutex>
+
 namespace orvelle {
 
 std::unique_ptr<QQmlEngine> makeEngine() {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    static std::once_flag once;
+    std::call_once(once, QQuickWindow::setGraphicsApi, QSGRendererInterface::Software);
     registerLookTypes();
     auto engine = std::make_unique<QQmlEngine>();
     engine->addImportPath(QStringLiteral("qrc:/")); // where the modules are embedded
