@@ -17,6 +17,7 @@ public:
                        const ThemeManager& themes);
 
     void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Battery"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:

@@ -18,6 +18,7 @@ public:
     DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
     void paint(QPainter& painter, const QRectF& bounds) const override;
+    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Disk"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:

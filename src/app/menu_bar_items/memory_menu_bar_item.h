@@ -19,6 +19,7 @@ public:
     void paint(QPainter& painter, const QRectF& bounds) const override;
     [[nodiscard]] EasedBars bars() const override;
     void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override;
+    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Memory"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:

@@ -31,6 +31,9 @@ public:
         paint(painter, bounds);
     }
 
+    /// What the item is about, for assistive technology: a name that does not change, for example "CPU".
+    [[nodiscard]] virtual QString accessibleName() const = 0;
+
     /// The values in words for assistive technology, for example "CPU 12%".
     [[nodiscard]] virtual QString accessibleText() const = 0;
 };

@@ -20,6 +20,7 @@ public:
         painter.fillRect(bounds.adjusted(-30, 0, 30, 0), m_color);
         ++m_paintCount;
     }
+    [[nodiscard]] QString accessibleName() const override { return {}; }
     [[nodiscard]] QString accessibleText() const override { return QStringLiteral("filled"); }
 
 private:
@@ -44,6 +45,7 @@ public:
     [[nodiscard]] EasedBars bars() const override {
         return {.looks = {{m_level, Qt::red}}, .fullLength = 20};
     }
+    [[nodiscard]] QString accessibleName() const override { return {}; }
     [[nodiscard]] QString accessibleText() const override { return QStringLiteral("level"); }
 
 private:

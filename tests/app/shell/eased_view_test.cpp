@@ -25,6 +25,7 @@ public:
         m_painted = shown;
     }
     [[nodiscard]] EasedBars bars() const override { return {.looks = m_looks, .fullLength = 20}; }
+    [[nodiscard]] QString accessibleName() const override { return {}; }
     [[nodiscard]] QString accessibleText() const override { return {}; }
 
 private:

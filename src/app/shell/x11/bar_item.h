@@ -2,6 +2,7 @@
 
 #include "app/shell/eased_view.h"
 #include "app/shell/status_item.h"
+#include "app/shell/x11/painted_accessibility.h"
 
 #include <QRectF>
 #include <QWindow>
@@ -28,12 +29,22 @@ public:
     void setView(std::shared_ptr<const StatusItemView> view) override {
         m_view.replace(std::move(view), m_bar.devicePixelRatio(), m_bar.isExposed());
         m_changed(*this);
+        if (PaintedPart* part = m_accessible.get())
+            part->announceDescription();
     }
+    /// Null before the first one.
+    [[nodiscard]] const StatusItemView* view() const { return m_view.view(); }
 
     void setClickHandler(std::function<void(ClickButton)> handler) override {
         m_clickHandler = std::move(handler);
     }
-    [[nodiscard]] const std::function<void(ClickButton)>& clickHandler() const { return m_clickHandler; }
+    /// Does what a click with this button does, which may remove the item.
+    void click(ClickButton button) const {
+        // A copy, because the handler may remove the item and itself with it.
+        const std::function<void(ClickButton)> handler = m_clickHandler;
+        if (handler)
+            handler(button);
+    }
 
     /// Whether the item is shown as held down by the mouse.
     [[nodiscard]] bool isHighlighted() const { return m_isHighlighted; }
@@ -41,6 +52,20 @@ public:
         if (std::exchange(m_isHighlighted, highlighted) != highlighted)
             m_changed(*this);
     }
+
+    /// Whether the item's popover is shown.
+    [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
+    void setExpanded(bool expanded) {
+        if (std::exchange(m_isExpanded, expanded) == expanded)
+            return;
+        QAccessible::State changed;
+        changed.expanded = true;
+        if (PaintedPart* part = m_accessible.get())
+            part->announceState(changed);
+    }
+
+    /// What assistive programs see of the item.
+    [[nodiscard]] PaintedPartHolder& accessible() { return m_accessible; }
 
     /// Paints the picture at its place; nothing before the first one is set.
     void paint(QPainter& painter) const { m_view.paint(painter, m_bounds); }
@@ -58,6 +83,8 @@ private:
     std::function<void(ClickButton)> m_clickHandler;
     QRectF m_bounds;
     bool m_isHighlighted = false;
+    bool m_isExpanded = false;
+    PaintedPartHolder m_accessible;
 };
 
 } // namespace orvelle

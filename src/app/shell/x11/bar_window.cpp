@@ -1,5 +1,6 @@
 #include "app/shell/x11/bar_window.h"
 
+#include "app/shell/x11/bar_accessibility.h"
 #include "app/shell/x11/bar_geometry.h"
 
 #include <QMouseEvent>
@@ -50,6 +51,7 @@ BarWindow::BarWindow(Motion& motion)
     setTitle(QStringLiteral("Orvelle"));
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     connect(this, &QWindow::screenChanged, this, &BarWindow::layOut); // its scale may be another
+    installBarAccessibility();
 }
 
 BarItem& BarWindow::addItem(const QString& identifier, double length) {
@@ -58,6 +60,8 @@ BarItem& BarWindow::addItem(const QString& identifier, double length) {
             repaintSoon(item.bounds().toAlignedRect());
         }));
     layOut();
+    if (hasAssistiveListener())
+        announce(*accessibleRoot()->child(static_cast<int>(m_items.size()) - 1), QAccessible::ObjectCreated);
     if (m_items.size() == 1)
         Q_EMIT emptyChanged();
     return *m_items.back();
@@ -78,11 +82,25 @@ BarItem* BarWindow::itemAt(const QPointF& position) const {
     return found == m_items.end() ? nullptr : found->get();
 }
 
-QRectF BarWindow::desktopBounds(const StatusItem& item) const {
+BarItem* BarWindow::find(const StatusItem& item) const {
     const auto found =
         std::ranges::find_if(m_items, [&item](const auto& present) { return present.get() == &item; });
-    Q_ASSERT(found != m_items.end());
-    return (*found)->bounds().translated(position());
+    return found == m_items.end() ? nullptr : found->get();
+}
+
+QRectF BarWindow::desktopBounds(const StatusItem& item) const {
+    const BarItem* found = find(item);
+    Q_ASSERT(found != nullptr);
+    return found->bounds().translated(position());
+}
+
+void BarWindow::setExpanded(const StatusItem& item, bool expanded) {
+    if (BarItem* found = find(item))
+        found->setExpanded(expanded);
+}
+
+QAccessibleInterface* BarWindow::accessibleRoot() const {
+    return QAccessible::queryAccessibleInterface(const_cast<BarWindow*>(this));
 }
 
 void BarWindow::mousePressEvent(QMouseEvent* event) {
@@ -105,10 +123,8 @@ void BarWindow::mouseReleaseEvent(QMouseEvent* event) {
         return;
     BarItem& item = *std::exchange(m_pressedItem, nullptr);
     item.setHighlighted(false);
-    // A copy, because the handler may remove the item and itself with it.
-    const std::function<void(ClickButton)> handler = item.clickHandler();
-    if (itemAt(event->position()) == &item && handler)
-        handler(*button);
+    if (itemAt(event->position()) == &item)
+        item.click(*button);
 }
 
 void BarWindow::layOut() {

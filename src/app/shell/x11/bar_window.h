@@ -25,10 +25,16 @@ public:
     BarItem& addItem(const QString& identifier, double length);
     void removeItem(const StatusItem& item);
     [[nodiscard]] bool isEmpty() const { return m_items.empty(); }
+    /// From left to right.
+    [[nodiscard]] const std::vector<std::unique_ptr<BarItem>>& items() const { return m_items; }
     /// The item at a position in points from the bar's upper left corner; null between and beside them.
     [[nodiscard]] BarItem* itemAt(const QPointF& position) const;
     /// Where one of the bar's items stands, in points of the desktop.
     [[nodiscard]] QRectF desktopBounds(const StatusItem& item) const;
+    /// Tells whether the popover of one of the bar's items is shown; an item that has gone is ignored.
+    void setExpanded(const StatusItem& item, bool expanded);
+
+    [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
     /// The first item came or the last one went.
@@ -44,6 +50,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    [[nodiscard]] BarItem* find(const StatusItem& item) const;
     void layOut();
     /// Has the rectangle, in points, painted when the present event has been handled.
     void repaintSoon(const QRect& rectangle);

@@ -1,5 +1,6 @@
 #include "app/shell/x11/menu_window.h"
 
+#include "app/shell/x11/menu_accessibility.h"
 #include "app/shell/x11/menu_rules.h"
 #include "app/shell/x11/transient_window.h"
 #include "look/fonts.h"
@@ -47,11 +48,14 @@ MenuWindow::MenuWindow() {
     QSurfaceFormat translucent = requestedFormat();
     translucent.setAlphaBufferSize(8);
     setFormat(translucent);
+    installMenuAccessibility();
 }
 
 void MenuWindow::setEntries(std::vector<MenuEntry> entries) {
-    m_entries = std::move(entries);
     setCurrent(std::nullopt);
+    m_accessibleEntries.clear(); // while the old entries are still there to be announced
+    m_entries = std::move(entries);
+    m_accessibleEntries = std::vector<PaintedPartHolder>(m_entries.size());
     update();
 }
 
@@ -69,8 +73,27 @@ QSize MenuWindow::wantedSize() const {
 }
 
 void MenuWindow::setCurrent(std::optional<std::size_t> index) {
-    if (std::exchange(m_current, index) != index)
-        update();
+    if (std::exchange(m_current, index) == index)
+        return;
+    update();
+    if (index && hasAssistiveListener())
+        announce(*accessibleRoot()->child(static_cast<int>(*index)), QAccessible::Focus);
+}
+
+QAccessibleInterface* MenuWindow::accessibleRoot() const {
+    return QAccessible::queryAccessibleInterface(const_cast<MenuWindow*>(this));
+}
+
+void MenuWindow::showEvent(QShowEvent* event) {
+    QRasterWindow::showEvent(event);
+    if (hasAssistiveListener())
+        announce(*accessibleRoot(), QAccessible::PopupMenuStart);
+}
+
+void MenuWindow::hideEvent(QHideEvent* event) {
+    QRasterWindow::hideEvent(event);
+    if (hasAssistiveListener())
+        announce(*accessibleRoot(), QAccessible::PopupMenuEnd);
 }
 
 std::optional<std::size_t> MenuWindow::entryAt(const QPointF& position) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/context_menu.h"
+#include "app/shell/x11/painted_accessibility.h"
 
 #include <QRasterWindow>
 
@@ -22,6 +23,12 @@ public:
     [[nodiscard]] QSize wantedSize() const;
     /// The entry that Enter would choose.
     [[nodiscard]] std::optional<std::size_t> current() const { return m_current; }
+    /// The entry at a position in points from the menu's upper left corner; a separator is none.
+    [[nodiscard]] std::optional<std::size_t> entryAt(const QPointF& position) const;
+
+    /// What assistive programs see of an entry.
+    [[nodiscard]] PaintedPartHolder& accessibleEntry(std::size_t index) { return m_accessibleEntries[index]; }
+    [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
     void chosen(std::size_t index);
@@ -31,14 +38,16 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     void setCurrent(std::optional<std::size_t> index);
-    [[nodiscard]] std::optional<std::size_t> entryAt(const QPointF& position) const;
     void paintRow(QPainter& painter, std::size_t index, const QRect& row) const;
 
     std::vector<MenuEntry> m_entries;
+    std::vector<PaintedPartHolder> m_accessibleEntries; ///< one for each entry
     std::optional<std::size_t> m_current;
 };
 

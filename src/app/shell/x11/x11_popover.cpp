@@ -14,7 +14,7 @@ Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
 } // namespace
 
-X11Popover::X11Popover(const BarWindow& bar, PopoverContent makeContent)
+X11Popover::X11Popover(BarWindow& bar, PopoverContent makeContent)
     : m_bar(bar)
     , m_makeContent(std::move(makeContent)) {}
 
@@ -25,6 +25,7 @@ bool X11Popover::makeWindow() {
         return false;
     m_size = m_window->size();
     m_transient.emplace(*m_window);
+    QObject::connect(&*m_transient, &TransientWindow::closed, &*m_transient, [this] { setItem(nullptr); });
     return true;
 }
 
@@ -42,6 +43,15 @@ void X11Popover::show(const StatusItem& item) {
     QScreen& screen = *m_bar.screen();
     const QRectF bounds = m_bar.desktopBounds(item);
     m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
+    setItem(&item);
+}
+
+void X11Popover::setItem(const StatusItem* item) {
+    if (m_item != nullptr)
+        m_bar.setExpanded(*m_item, false);
+    m_item = item;
+    if (m_item != nullptr)
+        m_bar.setExpanded(*m_item, true);
 }
 
 void X11Popover::close() {

@@ -11,7 +11,7 @@ namespace orvelle {
 /// The popover of an item in the program's own bar.
 class X11Popover final : public Popover {
 public:
-    X11Popover(const BarWindow& bar, PopoverContent makeContent);
+    X11Popover(BarWindow& bar, PopoverContent makeContent);
 
     [[nodiscard]] bool isShown() const override { return m_transient && m_transient->isShown(); }
     void show(const StatusItem& item) override;
@@ -19,8 +19,10 @@ public:
 
 private:
     [[nodiscard]] bool makeWindow();
+    void setItem(const StatusItem* item);
 
-    const BarWindow& m_bar;
+    BarWindow& m_bar;
+    const StatusItem* m_item = nullptr; ///< the one under which the popover is shown
     PopoverContent m_makeContent;
     std::unique_ptr<QWindow> m_window; ///< null before the first showing
     QSize m_size;                      ///< wanted by the content
