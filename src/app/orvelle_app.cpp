@@ -1,6 +1,7 @@
 #include "app/orvelle_app.h"
 
 #include "app/shell/desktop.h"
+#include "charts/motion.h"
 #include "platform/host.h"
 
 #include <QLoggingCategory>
@@ -14,6 +15,7 @@ namespace {
 /// Off by default; QT_LOGGING_RULES="orvelle.start.debug=true" switches one on.
 Q_LOGGING_CATEGORY(startLog, "orvelle.start", QtInfoMsg)
 Q_LOGGING_CATEGORY(sampleLog, "orvelle.sample", QtInfoMsg)
+Q_LOGGING_CATEGORY(motionLog, "orvelle.motion", QtInfoMsg)
 
 } // namespace
 
@@ -22,6 +24,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_application(argumentCount, arguments)
     , m_themes(m_settings)
     , m_monitor(makeHostSources(), m_settings)
+    , m_reducedMotion(followReducedMotion(Motion::shared()))
     , m_statusBar(makeStatusBar())
     , m_delegate(m_monitor, m_settings, m_themes, {*m_statusBar, &loadViews, &makeSettingsWindow}) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Orvelle"));
@@ -33,6 +36,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
                      &AppDelegate::applicationWillTerminate);
     logStart();
     logSamples();
+    logMotion();
 }
 
 int OrvelleApp::run() {
@@ -52,6 +56,14 @@ void OrvelleApp::logStart() {
         qCDebug(startLog, "first bar painted %lld ms after main() was entered",
                 static_cast<long long>(m_sinceStart.elapsed()));
     });
+}
+
+void OrvelleApp::logMotion() {
+    const auto log = [] {
+        qCDebug(motionLog, "motion is %s", Motion::shared().isReduced() ? "reduced" : "full");
+    };
+    QObject::connect(&Motion::shared(), &Motion::reducedChanged, &m_delegate, log);
+    log();
 }
 
 void OrvelleApp::logSamples() {

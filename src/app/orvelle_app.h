@@ -26,6 +26,7 @@ public:
 private:
     void logStart();
     void logSamples();
+    void logMotion();
 
     QElapsedTimer m_sinceStart;
     QGuiApplication m_application;
@@ -33,6 +34,7 @@ private:
     SettingsStore m_settings;
     ThemeManager m_themes;
     SystemMonitor m_monitor;
+    std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted
     std::unique_ptr<StatusBar> m_statusBar;
     std::unique_ptr<OnlyInstance> m_onlyInstance; ///< null before run()
     AppDelegate m_delegate;

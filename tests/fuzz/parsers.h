@@ -28,6 +28,7 @@ void fuzzNewestPid(std::string_view text);
 void fuzzProcStat(std::string_view text);
 void fuzzProcessStat(std::string_view text);
 void fuzzVolumeSpaces(std::string_view text);
+void fuzzXSettings(std::string_view text);
 void fuzzZramStatistics(std::string_view text);
 
 struct Parser {
@@ -56,6 +57,7 @@ inline constexpr std::array parsers{
     Parser{"ProcStat", fuzzProcStat},
     Parser{"ProcessStat", fuzzProcessStat},
     Parser{"VolumeSpaces", fuzzVolumeSpaces},
+    Parser{"XSettings", fuzzXSettings},
     Parser{"ZramStatistics", fuzzZramStatistics},
 };
 

@@ -12,6 +12,8 @@
 /// What each desktop's folder defines once; the build decides which one is linked.
 namespace orvelle {
 
+class Motion;
+
 /// Chooses how the program talks to its desktop. Called once, before the application object exists, because
 /// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
 [[nodiscard]] std::optional<QString> prepareDesktop();
@@ -25,6 +27,10 @@ namespace orvelle {
 
 /// The settings window, not shown yet, around a content that has not been shown.
 [[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content);
+
+/// Keeps `motion` as much reduced as the user wants it on this desktop, now and whenever that changes, as
+/// long as the result lives. Null where the desktop cannot say. Needs the application object.
+[[nodiscard]] std::unique_ptr<QObject> followReducedMotion(Motion& motion);
 
 /// The login item of this program for the present user.
 [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem();

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace orvelle {
+
+/// The value of an integer setting in the bytes of the property `_XSETTINGS_SETTINGS`, by which GNOME, Xfce
+/// and KDE publish the settings of the desktop (the XSETTINGS protocol, version 0.5). Nothing when the
+/// setting is not there, when it is no integer, and when the bytes before it make no sense.
+[[nodiscard]] std::optional<std::int32_t> integerSetting(std::string_view property, std::string_view name);
+
+} // namespace orvelle
