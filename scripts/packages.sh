@@ -16,7 +16,11 @@ qml_packages=(
 # A display of our own, for a machine without one.
 virtual_display_packages=(xvfb openbox imagemagick x11-xserver-utils)
 # `locales` brings the sources of the locale with a decimal comma under which numbers are tested.
-test_packages=(libgtest-dev gobjc++ xdotool wmctrl xfwm4 picom dbus-daemon locales)
+test_packages=(
+  libgtest-dev gobjc++ xdotool wmctrl xfwm4 picom locales
+  # An accessibility bus and a program that reads it.
+  dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
+)
 
 # Prints those of the given packages that are installed, one a line.
 installed_packages() {

@@ -1,0 +1,69 @@
+#!/bin/bash
+# The real program when it is told to end with its windows open, and when its desktop ends.
+#
+#   ending_test.sh ORVELLE
+
+orvelle=$1
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool
+
+unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
+log=$workDirectory/orvelle.log
+
+barIsShown() { [[ -n $(xdotool search --onlyvisible --name '^Orvelle$' 2>/dev/null) ]]; }
+menuIsShown() { [[ -n $(xdotool search --onlyvisible --name '^Orvelle menu$' 2>/dev/null) ]]; }
+# The window of a panel is 320 x 500 points.
+panelIsShown() {
+    local window
+    for window in $(xdotool search --onlyvisible --class '^orvelle$' 2>/dev/null); do
+        [[ $(geometry "$window") != *" 320x500" ]] || return 0
+    done
+    return 1
+}
+programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
+
+startOrvelle() {
+    "$orvelle" 2>"$log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the bar appears" barIsShown || cat "$log"
+}
+clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }
+
+# expectEnd DESCRIPTION STATUS: the program ends by itself, and the sanitizers have found nothing.
+expectEnd() {
+    local status
+    waitUntil "$1" programIsGone || return
+    wait "$orvellePid"
+    status=$?
+    expectEqual "$1 with status" "$2" "$status"
+    expectEqual "$1 without a report of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$log")"
+    [[ $status == "$2" ]] || cat "$log"
+}
+
+start_x_server 1280x800 && start_window_manager || exit 1
+
+startOrvelle
+clickLastItem 1
+waitUntil "a click opens the panel" panelIsShown
+kill -TERM "$orvellePid"
+expectEnd "SIGTERM ends the program with its panel open" 0
+
+startOrvelle
+clickLastItem 3
+waitUntil "a right click opens the menu" menuIsShown
+kill -INT "$orvellePid"
+expectEnd "SIGINT ends the program with its menu open" 0
+
+# Qt leaves with exit() when its connection breaks, in the middle of everything: nothing is released, and what only
+# the heap of QML refers to looks like leaks.
+export ASAN_OPTIONS=detect_leaks=0
+startOrvelle
+clickLastItem 1
+waitUntil "a click opens the panel" panelIsShown
+kill "$x_server_process"
+wait "$x_server_process"
+expectEnd "the end of the X server ends the program" 1
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
