@@ -77,7 +77,8 @@ testClickElsewhere() {
     ownedPids+=("$pid")
     waitUntil "another window opens" test -s "$workDirectory/window"
     window=$(<"$workDirectory/window")
-    waitUntil "the other window is shown" test -n "$(geometry "$window")"
+    otherIsShown() { [[ -n $(geometry "$window") ]]; }
+    waitUntil "the other window is shown" otherIsShown
     openMenu
     local left top
     IFS=', x' read -r left top _ < <(geometry "$window")

@@ -132,7 +132,8 @@ testClickOnAnotherProgram() {
     ownedPids+=("$pid")
     waitUntil "another window opens" test -s "$workDirectory/window"
     window=$(<"$workDirectory/window")
-    waitUntil "the other window is shown" test -n "$(geometry "$window")"
+    otherIsShown() { [[ -n $(geometry "$window") ]]; }
+    waitUntil "the other window is shown" otherIsShown
     clickItem 0
     waitUntil "a panel opens" panelIsShown CPU
     IFS=', x' read -r left top _ < <(geometry "$window")
@@ -218,7 +219,7 @@ onDesktop() {
 
 # xfwm4 finds its settings by a session bus.
 startSessionBus() {
-    dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" 2>/dev/null &
+    dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" >/dev/null 2>&1 &
     ownedPids+=("$!")
     waitUntil "a session bus starts" test -s "$workDirectory/bus"
 }

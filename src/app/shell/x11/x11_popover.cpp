@@ -2,7 +2,6 @@
 
 #include "app/shell/x11/transient_geometry.h"
 
-#include <QElapsedTimer>
 #include <QLoggingCategory>
 #include <QScreen>
 
@@ -18,32 +17,41 @@ X11Popover::X11Popover(BarWindow& bar, PopoverContent makeContent)
     : m_bar(bar)
     , m_makeContent(std::move(makeContent)) {}
 
+void X11Popover::show(const StatusItem& item) {
+    if (!isShown())
+        QMetaObject::invokeMethod(this, &X11Popover::open, Qt::QueuedConnection);
+    m_sinceShow.start();
+    setItem(&item);
+}
+
+void X11Popover::close() {
+    setItem(nullptr);
+    if (m_transient)
+        m_transient->close();
+}
+
+void X11Popover::open() {
+    const bool isOpen = m_transient && m_transient->isShown();
+    if (!isShown() || isOpen)
+        return; // it has been closed again, or two of these were on their way
+    if (!m_transient && !makeWindow()) {
+        setItem(nullptr);
+        return;
+    }
+    QScreen& screen = *m_bar.screen();
+    const QRectF bounds = m_bar.desktopBounds(*m_item);
+    m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
+}
+
 bool X11Popover::makeWindow() {
-    if (m_window == nullptr)
-        m_window = m_makeContent(TransientWindow::cornerRadiusPoints);
+    m_window = m_makeContent(TransientWindow::cornerRadiusPoints);
     if (m_window == nullptr)
         return false;
     m_size = m_window->size();
     m_transient.emplace(*m_window);
-    QObject::connect(&*m_transient, &TransientWindow::closed, &*m_transient, [this] { setItem(nullptr); });
+    connect(&*m_transient, &TransientWindow::closed, this, [this] { setItem(nullptr); });
+    connect(&*m_transient, &TransientWindow::painted, this, &X11Popover::logPainted);
     return true;
-}
-
-void X11Popover::show(const StatusItem& item) {
-    QElapsedTimer sinceCall;
-    sinceCall.start();
-    if (!m_transient && !makeWindow())
-        return;
-    const auto logPainted = [sinceCall, name = item.identifier()] {
-        qCDebug(openLog, "the %s panel was painted %.1f ms after it was asked for", qPrintable(name),
-                static_cast<double>(sinceCall.nsecsElapsed()) / 1e6);
-    };
-    QObject::connect(&*m_transient, &TransientWindow::painted, &*m_transient, logPainted,
-                     Qt::SingleShotConnection);
-    QScreen& screen = *m_bar.screen();
-    const QRectF bounds = m_bar.desktopBounds(item);
-    m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
-    setItem(&item);
 }
 
 void X11Popover::setItem(const StatusItem* item) {
@@ -54,9 +62,10 @@ void X11Popover::setItem(const StatusItem* item) {
         m_bar.setExpanded(*m_item, true);
 }
 
-void X11Popover::close() {
-    if (m_transient)
-        m_transient->close();
+void X11Popover::logPainted() {
+    if (isShown())
+        qCDebug(openLog, "the %s panel was painted %.1f ms after it was asked for",
+                qPrintable(m_item->identifier()), static_cast<double>(m_sinceShow.nsecsElapsed()) / 1e6);
 }
 
 } // namespace orvelle
