@@ -15,7 +15,7 @@ FocusScope {
     width: 320
     height: 500
     focus: true
-    Keys.forwardTo: scroller // also from the footer
+    Keys.forwardTo: [scroller] // also from the footer
 
     readonly property Item focusedItem: Window.activeFocusItem
     onFocusedItemChanged: {

@@ -19,7 +19,8 @@ expect() { # expect STATUS PATTERN ARGUMENT...
 
 expect_pictures() { # expect_pictures DIRECTORY SCALE
   local name
-  for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items; do
+  for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items \
+    panel-cpu panel-memory panel-network panel-disk panel-battery panel-sensor; do
     head -c 4 "$1/$name@$2.png" | grep -q PNG || complain "$1/$name@$2.png is missing or no picture"
   done
 }

@@ -25,7 +25,10 @@ QList<PanelPicture> panelPictures(SystemMonitor& monitor, FreshSettings& setting
             continue;
         panel->show(); // what was never shown has not been filled yet
         QCoreApplication::processEvents();
-        pictures.append({QStringLiteral("panel-") + module.key, panel->grabWindow()});
+        QImage image = panel->grabWindow();
+        image.setDevicePixelRatio(
+            panel->effectiveDevicePixelRatio()); // which the software renderer leaves out
+        pictures.append({QStringLiteral("panel-") + module.key, image});
     }
     return pictures;
 }

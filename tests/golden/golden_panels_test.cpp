@@ -1,0 +1,36 @@
+#include "common/example_machines.h"
+#include "core/system_monitor.h"
+#include "golden_picture.h"
+#include "snapshot/panel_pictures.h"
+#include "snapshot/sheet_file.h"
+#include "snapshot/sheets.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle {
+namespace {
+
+/// The panels' windows have one scale in a process, that of the screen: the program is run once for each.
+class GoldenPanels : public ::testing::Test {
+protected:
+    void expectGoldenPanels(ExampleMachine machine, const QString& name) {
+        const auto monitor = exampleMonitor(machine, settings.store);
+        const QList<PanelPicture> panels = panelPictures(*monitor, settings);
+        EXPECT_EQ(panels.size(), 6);
+        for (const PanelPicture& panel : panels)
+            expectGoldenPicture(panel.image,
+                                sheetFileName(panel.name + name, panel.image.devicePixelRatio()));
+    }
+
+    FreshSettings settings;
+};
+
+TEST_F(GoldenPanels, OfALaptopAtWork) {
+    expectGoldenPanels(ExampleMachine::laptop, QStringLiteral("-laptop"));
+}
+TEST_F(GoldenPanels, OfALaptopAtItsLimits) {
+    expectGoldenPanels(ExampleMachine::loadedLaptop, QStringLiteral("-loaded"));
+}
+
+} // namespace
+} // namespace orvelle
