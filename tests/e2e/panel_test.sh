@@ -56,7 +56,9 @@ endOrvelle() {
     kill -TERM "$orvellePid"
     wait "$orvellePid"
     expectEqual "the program ends with status" 0 $?
-    expectEqual "it has nothing to complain of" "" "$(cat "$workDirectory/orvelle.log")"
+    # Qt says so when a window is shown again before the server has told that it is hidden, as many clicks do.
+    expectEqual "it has nothing to complain of" "" \
+        "$(grep -v 'setNetWmStateOnUnmappedWindow() called on mapped window' "$workDirectory/orvelle.log")"
 }
 
 # Of the item with this number: its middle, in points from the left edge of the screen.
