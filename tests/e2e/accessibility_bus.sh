@@ -1,0 +1,43 @@
+# A session bus with an accessibility bus of the test's own. Sourced by the end-to-end tests after desktop.sh.
+
+requireTools dbus-daemon dbus-send
+
+# The system's Python first, because packages install for that one.
+python=""
+for candidate in /usr/bin/python3 python3; do
+    [[ -n $python ]] || ! "$candidate" -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null ||
+        python=$candidate
+done
+if [[ -z $python ]]; then
+    echo "SKIPPED: no Python knows Atspi"
+    exit "$skipped"
+fi
+
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory NO_AT_BRIDGE=1
+
+# The session's bus starts the accessibility bus when that is first asked for; both end with it.
+startAccessibilityBus() {
+    dbus-daemon --session --nofork --nosyslog --print-address=3 3>"$workDirectory/address" \
+        >"$workDirectory/bus.log" 2>&1 &
+    sessionBusPid=$!
+    ownedPids+=("$sessionBusPid")
+    waitUntil "the session's bus starts" test -s "$workDirectory/address"
+    DBUS_SESSION_BUS_ADDRESS=$(<"$workDirectory/address")
+    export DBUS_SESSION_BUS_ADDRESS
+    if ! dbus-send --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress >/dev/null 2>&1; then
+        echo "SKIPPED: there is no accessibility bus"
+        exit "$skipped"
+    fi
+}
+
+stopAccessibilityBus() {
+    kill "$sessionBusPid"
+    wait "$sessionBusPid"
+}
+
+# assist SCRIPT ARGUMENT...: runs an assistive program; its failures count as one.
+assist() {
+    local script=$1
+    shift
+    "$python" -B -W ignore::DeprecationWarning "$(dirname "$0")/$script" "$@" || fail "$script is content"
+}

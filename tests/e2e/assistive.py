@@ -1,0 +1,107 @@
+"""What the assistive programs of the end-to-end tests share: finding and using Orvelle through AT-SPI alone.
+
+Each check prints a line; `finish` ends with status 0 when all of them held.
+"""
+
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE_SECONDS = 15
+Role = Atspi.Role
+State = Atspi.StateType
+
+failures = 0
+
+
+def report(holds, description, detail=""):
+    global failures
+    if holds:
+        print("ok:", description)
+    else:
+        failures += 1
+        print(f"FAILED: {description}", detail)
+
+
+def handle_events():
+    context = GLib.MainContext.default()
+    while context.iteration(False):
+        pass
+
+
+def wait_until(description, condition, patience_seconds=PATIENCE_SECONDS):
+    """Polls until `condition` returns something true, and returns that; None when it never does."""
+    deadline = time.monotonic() + patience_seconds
+    while time.monotonic() < deadline:
+        handle_events()
+        try:
+            result = condition()
+        except GLib.Error:
+            result = None  # what was looked at has just gone
+        if result:
+            report(True, description)
+            return result
+        time.sleep(0.05)
+    report(False, description)
+    return None
+
+
+def children(accessible):
+    return [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
+
+
+def descendants(accessible):
+    for child in children(accessible):
+        if child is not None:
+            yield child
+            yield from descendants(child)
+
+
+def find_program():
+    for program in children(Atspi.get_desktop(0)):
+        if program is not None and program.get_name() == "orvelle":
+            program.set_cache_mask(Atspi.Cache.NONE)
+            return program
+    return None
+
+
+def has_state(accessible, state):
+    return accessible.get_state_set().contains(state)
+
+
+def find_child(parent, role, name):
+    for child in children(parent):
+        if child is not None and child.get_role() == role and child.get_name() == name:
+            return child
+    return None
+
+
+def shown_panel(program, title):
+    """The window on the screen that has a heading with this name."""
+    for window in children(program):
+        if window is None or not has_state(window, State.VISIBLE):
+            continue
+        if any(part.get_role() == Role.HEADING and part.get_name() == title for part in descendants(window)):
+            return window
+    return None
+
+
+def do(accessible, wanted):
+    """Does the action whose name in English is `wanted`; returns whether the program said that it did."""
+    names = [accessible.get_action_name(index) for index in range(accessible.get_n_actions())]
+    return wanted in names and accessible.do_action(names.index(wanted))
+
+
+def connect():
+    """The program on the accessibility bus; None when it does not come."""
+    Atspi.init()
+    Atspi.set_timeout(5000, 15000)
+    return wait_until("the program is on the accessibility bus", find_program)
+
+
+def finish():
+    sys.exit(0 if failures == 0 else 1)
