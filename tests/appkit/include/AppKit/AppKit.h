@@ -1,0 +1,8 @@
+#pragma once
+
+// Simulated macOS: the classes of AppKit that the shell uses, with the calls that it makes.
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSPopover.h>
+#include <AppKit/NSStatusBar.h>
+#include <AppKit/NSView.h>
+#include <AppKit/NSWindow.h>

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <AppKit/NSWindow.h>
+
+enum NSEventType : NSUInteger {
+    NSEventTypeLeftMouseDown = 1,
+    NSEventTypeLeftMouseUp = 2,
+    NSEventTypeRightMouseDown = 3,
+    NSEventTypeRightMouseUp = 4,
+    NSEventTypeKeyDown = 10
+};
+typedef unsigned long long NSEventMask;
+enum : NSEventMask {
+    NSEventMaskLeftMouseUp = 1ULL << NSEventTypeLeftMouseUp,
+    NSEventMaskRightMouseUp = 1ULL << NSEventTypeRightMouseUp
+};
+typedef NSUInteger NSEventModifierFlags;
+enum : NSEventModifierFlags { NSEventModifierFlagControl = 1 << 18 };
+
+@interface NSEvent : NSObject {
+  @public
+    NSEventType m_type;
+    NSEventModifierFlags m_modifierFlags;
+    NSWindow* m_window;
+}
+- (NSEventType)type;
+- (NSEventModifierFlags)modifierFlags;
+- (NSWindow*)window;
+@end
+
+@interface NSApplication : NSObject
+- (NSEvent*)currentEvent;
+- (void)activateIgnoringOtherApps:(BOOL)ignoring;
+@end
+
+extern "C" NSApplication* NSApp;
+
+@interface NSRunningApplication : NSObject {
+  @public
+    const void* m_instance;
+}
++ (NSArray*)runningApplicationsWithBundleIdentifier:(NSString*)identifier;
+- (int)processIdentifier;
+- (BOOL)isTerminated;
+- (NSURL*)bundleURL;
+@end
+
+@interface NSWorkspace : NSObject
++ (NSWorkspace*)sharedWorkspace;
+- (BOOL)openURL:(NSURL*)url;
+@end

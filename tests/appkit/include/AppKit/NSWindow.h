@@ -1,0 +1,62 @@
+#pragma once
+
+#include <AppKit/NSView.h>
+
+typedef NSUInteger NSWindowStyleMask;
+enum : NSWindowStyleMask {
+    NSWindowStyleMaskTitled = 1 << 0,
+    NSWindowStyleMaskClosable = 1 << 1,
+    NSWindowStyleMaskMiniaturizable = 1 << 2,
+    NSWindowStyleMaskFullSizeContentView = 1 << 15
+};
+enum NSBackingStoreType : NSUInteger { NSBackingStoreBuffered = 2 };
+enum NSWindowTitleVisibility : NSInteger { NSWindowTitleVisible = 0, NSWindowTitleHidden = 1 };
+typedef NSUInteger NSWindowOcclusionState;
+enum : NSWindowOcclusionState { NSWindowOcclusionStateVisible = 1 << 1 };
+typedef NSString* NSAppearanceName;
+
+extern "C" NSAppearanceName const NSAppearanceNameDarkAqua;
+
+@interface NSAppearance : NSObject {
+  @public
+    NSString* m_name;
+}
++ (NSAppearance*)appearanceNamed:(NSAppearanceName)name;
+@end
+
+@interface NSColor : NSObject {
+  @public
+    CGFloat m_white;
+    CGFloat m_alpha;
+}
++ (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
+@end
+
+@interface NSWindow : NSObject {
+  @public
+    void* m_record; ///< what the tests ask for
+    NSView* m_contentView;
+    NSAppearance* m_appearance;
+    NSColor* m_backgroundColor;
+}
+- (id)initWithContentRect:(NSRect)contentRect
+                styleMask:(NSWindowStyleMask)style
+                  backing:(NSBackingStoreType)backing
+                    defer:(BOOL)defer;
+- (void)setTitle:(NSString*)title;
+- (void)setTitlebarAppearsTransparent:(BOOL)transparent;
+- (void)setTitleVisibility:(NSWindowTitleVisibility)visibility;
+- (void)setMovableByWindowBackground:(BOOL)movable;
+- (void)setReleasedWhenClosed:(BOOL)released;
+- (void)setAppearance:(NSAppearance*)appearance;
+- (void)setBackgroundColor:(NSColor*)color;
+- (void)setContentView:(NSView*)view;
+- (void)center;
+- (BOOL)setFrameAutosaveName:(NSString*)name;
+- (void)makeKeyAndOrderFront:(id)sender;
+- (void)makeKeyWindow;
+- (BOOL)makeFirstResponder:(NSView*)view;
+- (void)close;
+- (CGFloat)backingScaleFactor;
+- (NSWindowOcclusionState)occlusionState;
+@end

@@ -1,0 +1,98 @@
+#include "appkit/program.h"
+
+#include <algorithm>
+
+namespace orvelle {
+
+using namespace simulated;
+
+namespace {
+
+class RecordedViews final : public Views {
+public:
+    explicit RecordedViews(Program& program)
+        : m_program(program) {}
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
+        m_program.panelCornerRadius = cornerRadius;
+        return makeContent(key.toString(), QSize(320, 500));
+    }
+    [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
+        return makeContent(QStringLiteral("settings"), QSize(460, 640));
+    }
+
+private:
+    std::unique_ptr<QWindow> makeContent(const QString& name, QSize size) {
+        m_program.contents.append(name);
+        if (!m_program.canMakeContents)
+            return nullptr;
+        auto window = std::make_unique<QWindow>();
+        window->resize(size);
+        m_program.contentWindows.push_back(window.get());
+        QObject::connect(window.get(), &QObject::destroyed, [this](QObject* gone) {
+            std::erase_if(m_program.contentWindows, [gone](QWindow* present) { return present == gone; });
+        });
+        return window;
+    }
+
+    Program& m_program;
+};
+
+} // namespace
+
+Program::Program()
+    : delegate(monitor, settings, themes,
+               {*statusBar,
+                [this](const ViewContext& given) {
+                    context.emplace(given);
+                    return std::make_unique<RecordedViews>(*this);
+                },
+                &makeSettingsWindow}) {
+    showAll(true);
+}
+
+void Program::showAll(bool shown) {
+    settings.setShowCPU(shown);
+    settings.setShowMemory(shown);
+    settings.setShowNetwork(shown);
+    settings.setShowDisk(shown);
+    settings.setShowBattery(shown);
+    settings.setShowSensors(shown);
+}
+
+void AppKitTest::TearDown() {
+    end();
+    EXPECT_EQ(desktop().live(), (std::map<std::string, std::size_t>{}));
+    EXPECT_EQ(desktop().complaints(), std::vector<std::string>{});
+}
+
+Program& AppKitTest::launch() {
+    program().delegate.applicationDidFinishLaunching();
+    return program();
+}
+
+void AppKitTest::startAfresh() {
+    AppKitTest::TearDown();
+    startDesktop();
+}
+
+std::vector<std::string> itemIdentifiers() {
+    std::vector<std::string> identifiers;
+    for (const StatusItemState& item : statusItems())
+        identifiers.push_back(item.identifier);
+    return identifiers;
+}
+
+long shownPopoverCount() {
+    return std::ranges::count_if(popovers(), &PopoverState::isShown);
+}
+
+PopoverState shownPopover() {
+    EXPECT_EQ(shownPopoverCount(), 1);
+    for (const PopoverState& popover : popovers()) {
+        if (popover.isShown)
+            return popover;
+    }
+    return {};
+}
+
+} // namespace orvelle

@@ -1,0 +1,202 @@
+#include "appkit/simulated/objects.h"
+
+#include <objc/runtime.h>
+
+using namespace orvelle::simulated;
+
+namespace {
+
+NSEvent*& currentEventPlace() {
+    static NSEvent* event = nil;
+    return event;
+}
+
+/// Who is told when the program is opened again.
+struct ReopenHandler {
+    id object = nil;
+    SEL selector = nullptr;
+};
+
+ReopenHandler& reopenHandler() {
+    static ReopenHandler handler;
+    return handler;
+}
+
+bool isReopenEvent(AEEventClass eventClass, AEEventID eventIdentifier) {
+    return eventClass == kCoreEventClass && eventIdentifier == kAEReopenApplication;
+}
+
+} // namespace
+
+NSApplication* NSApp = nil;
+
+namespace orvelle::simulated {
+namespace {
+
+std::unique_ptr<Desktop>& desktopPlace() {
+    static auto place = std::make_unique<Desktop>();
+    return place;
+}
+
+} // namespace
+
+Desktop& desktop() { return *desktopPlace(); }
+
+void startDesktop() {
+    desktopPlace() = std::make_unique<Desktop>();
+    reopenHandler() = {};
+    NSApp = theOnly([NSApplication class]);
+}
+
+void handleNoEvent(const std::function<void()>& handling) {
+    NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
+    handling();
+    [pool release];
+}
+
+void handleEvent(NSEventType type, NSWindow* window, NSEventModifierFlags modifiers,
+                 const std::function<void()>& handling) {
+    handleNoEvent([&] {
+        NSEvent* const event = [[[NSEvent alloc] init] autorelease];
+        event->m_type = type;
+        event->m_modifierFlags = modifiers;
+        event->m_window = window;
+        NSEvent* const before = std::exchange(currentEventPlace(), event);
+        handling();
+        currentEventPlace() = before;
+    });
+}
+
+void openProgramAgain() {
+    if (reopenHandler().object == nil)
+        return;
+    handleNoEvent([] {
+        [reopenHandler().object performSelector:reopenHandler().selector withObject:nil withObject:nil];
+    });
+}
+
+} // namespace orvelle::simulated
+
+@implementation NSEvent
+- (NSEventType)type {
+    return m_type;
+}
+- (NSEventModifierFlags)modifierFlags {
+    return m_modifierFlags;
+}
+- (NSWindow*)window {
+    return m_window;
+}
+@end
+
+@implementation NSApplication
+- (NSEvent*)currentEvent {
+    return desktop().arrives("currentEvent") ? currentEventPlace() : nil;
+}
+- (void)activateIgnoringOtherApps:(BOOL)ignoring {
+    desktop().deeds.push_back(ignoring ? "activate" : "activate politely");
+}
+@end
+
+@implementation NSRunningApplication
++ (NSArray*)runningApplicationsWithBundleIdentifier:(NSString*)identifier {
+    Objects found;
+    const bool isAnswered = desktop().arrives("runningApplicationsWithBundleIdentifier");
+    if (isAnswered && textOf(identifier) == desktop().script.bundleIdentifier) {
+        for (const RunningProgram& instance : desktop().script.instances) {
+            NSRunningApplication* application = [[NSRunningApplication alloc] init];
+            application->m_instance = &instance;
+            found.push_back(application);
+        }
+    }
+    return makeArray(found);
+}
+- (int)processIdentifier {
+    return static_cast<const RunningProgram*>(m_instance)->processIdentifier;
+}
+- (BOOL)isTerminated {
+    return static_cast<const RunningProgram*>(m_instance)->isTerminated;
+}
+- (NSURL*)bundleURL {
+    return desktop().arrives("bundleURL") ? [[[NSURL alloc] init] autorelease] : nil;
+}
+@end
+
+@implementation NSWorkspace
++ (NSWorkspace*)sharedWorkspace {
+    return theOnly(self);
+}
+- (BOOL)openURL:(NSURL*)url {
+    desktop().expect(url != nil, "an address that is missing");
+    if (!desktop().arrives("openURL"))
+        return NO;
+    desktop().deeds.push_back("open the program's bundle");
+    return YES;
+}
+@end
+
+@implementation NSBundle
++ (NSBundle*)mainBundle {
+    return theOnly(self);
+}
+- (NSString*)bundleIdentifier {
+    const std::optional<std::string>& identifier = desktop().script.bundleIdentifier;
+    if (!desktop().arrives("bundleIdentifier") || !identifier)
+        return nil;
+    return [NSString stringWithUTF8String:identifier->c_str()];
+}
+@end
+
+@implementation NSProcessInfo
++ (NSProcessInfo*)processInfo {
+    return theOnly(self);
+}
+- (NSTimeInterval)systemUptime {
+    return desktop().script.uptimeSeconds;
+}
+- (int)processIdentifier {
+    return desktop().script.processIdentifier;
+}
+@end
+
+@implementation NSAppleEventManager
++ (NSAppleEventManager*)sharedAppleEventManager {
+    return theOnly(self);
+}
+- (void)setEventHandler:(id)handler
+            andSelector:(SEL)selector
+          forEventClass:(AEEventClass)eventClass
+             andEventID:(AEEventID)eventIdentifier {
+    desktop().expect(isReopenEvent(eventClass, eventIdentifier), "an event that nobody handles here");
+    reopenHandler() = {handler, selector};
+}
+- (void)removeEventHandlerForEventClass:(AEEventClass)eventClass andEventID:(AEEventID)eventIdentifier {
+    desktop().expect(isReopenEvent(eventClass, eventIdentifier), "an event that nobody handles here");
+    reopenHandler() = {};
+}
+@end
+
+@implementation SMAppService
++ (SMAppService*)mainAppService {
+    return desktop().arrives("mainAppService") ? theOnly(self) : nil;
+}
+- (SMAppServiceStatus)status {
+    return desktop().script.loginStatus;
+}
+- (BOOL)registerAndReturnError:(NSError**)error {
+    desktop().expect(error == nullptr, "an error that nobody reads");
+    if (!desktop().arrives("registerAndReturnError") || !desktop().script.mayRegisterLogin ||
+        desktop().script.loginStatus == SMAppServiceStatusEnabled)
+        return NO;
+    desktop().script.loginStatus = SMAppServiceStatusEnabled;
+    return YES;
+}
+- (BOOL)unregisterAndReturnError:(NSError**)error {
+    desktop().expect(error == nullptr, "an error that nobody reads");
+    if (!desktop().arrives("unregisterAndReturnError") ||
+        desktop().script.loginStatus == SMAppServiceStatusNotRegistered)
+        return NO;
+    desktop().script.loginStatus = SMAppServiceStatusNotRegistered;
+    return YES;
+}
+@end

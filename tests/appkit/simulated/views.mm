@@ -1,0 +1,136 @@
+#include "appkit/simulated/objects.h"
+
+#include <cstring>
+
+using namespace orvelle::simulated;
+
+namespace {
+
+using Pins = std::set<std::string>;
+
+Objects& subviewsOf(NSView* view) { return *static_cast<Objects*>(view->m_subviews); }
+
+NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
+    NSLayoutAnchor* anchor = [[[NSLayoutAnchor alloc] init] autorelease];
+    anchor->m_view = view;
+    anchor->m_edge = edge;
+    return anchor;
+}
+
+} // namespace
+
+@implementation NSLayoutAnchor
+- (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor*)anchor {
+    NSLayoutConstraint* constraint = [[[NSLayoutConstraint alloc] init] autorelease];
+    constraint->m_first = self;
+    constraint->m_second = anchor;
+    return constraint;
+}
+@end
+
+@implementation NSLayoutConstraint
+- (void)setActive:(BOOL)active {
+    NSView* const view = m_first->m_view;
+    desktop().expect(active && view->m_superview != nil && view->m_superview == m_second->m_view,
+                     "a constraint between views that do not lie in each other");
+    desktop().expect(std::strcmp(m_first->m_edge, m_second->m_edge) == 0,
+                     "an edge tied to another kind of edge");
+    static_cast<Pins*>(view->m_pins)->insert(m_first->m_edge);
+}
+@end
+
+@implementation NSView
+- (id)init {
+    return [self initWithFrame:NSMakeRect(0, 0, 0, 0)];
+}
+- (id)initWithFrame:(NSRect)frame {
+    m_frame = frame;
+    m_subviews = new Objects;
+    m_pins = new Pins;
+    m_translatesAutoresizing = YES;
+    return self;
+}
+- (void)dealloc {
+    for (id view : subviewsOf(self)) {
+        ((NSView*)view)->m_superview = nil;
+        [view release];
+    }
+    delete static_cast<Objects*>(m_subviews);
+    delete static_cast<Pins*>(m_pins);
+    [super dealloc];
+}
+- (NSRect)bounds {
+    return {{0, 0}, m_frame.size};
+}
+- (void)setFrame:(NSRect)frame {
+    m_frame = frame;
+}
+- (void)setAutoresizingMask:(NSAutoresizingMaskOptions)mask {
+    m_autoresizing = mask;
+}
+- (void)setTranslatesAutoresizingMaskIntoConstraints:(BOOL)translates {
+    m_translatesAutoresizing = translates;
+}
+- (NSLayoutAnchor*)leadingAnchor {
+    return makeAnchor(self, "leading");
+}
+- (NSLayoutAnchor*)trailingAnchor {
+    return makeAnchor(self, "trailing");
+}
+- (NSLayoutAnchor*)topAnchor {
+    return makeAnchor(self, "top");
+}
+- (NSLayoutAnchor*)bottomAnchor {
+    return makeAnchor(self, "bottom");
+}
+- (void)addSubview:(NSView*)view {
+    desktop().expect(view != nil && view->m_superview == nil, "a view that is added twice, or none");
+    [view retain];
+    view->m_superview = self;
+    subviewsOf(self).push_back(view);
+}
+- (void)removeFromSuperview {
+    if (m_superview == nil)
+        return;
+    std::erase(subviewsOf(m_superview), (id)self);
+    m_superview = nil;
+    [self release];
+}
+- (NSWindow*)window {
+    return m_superview != nil ? [m_superview window] : m_window;
+}
+- (NSView*)hitTest:(NSPoint)point {
+    const bool isInside = point.x >= m_frame.origin.x && point.y >= m_frame.origin.y &&
+                          point.x < m_frame.origin.x + m_frame.size.width &&
+                          point.y < m_frame.origin.y + m_frame.size.height;
+    if (!isInside)
+        return nil;
+    for (id view : subviewsOf(self)) {
+        NSView* const hit = [view hitTest:point];
+        if (hit != nil)
+            return hit;
+    }
+    return self;
+}
+- (void)setNeedsDisplay:(BOOL)needsDisplay {
+    m_needsDisplay = needsDisplay;
+}
+- (void)drawRect:(NSRect)dirtyRect {
+    static_cast<void>(dirtyRect);
+}
+- (void)viewDidChangeBackingProperties {
+}
+@end
+
+@implementation NSViewController
+- (void)dealloc {
+    [m_view release];
+    [super dealloc];
+}
+- (NSView*)view {
+    return m_view;
+}
+- (void)setView:(NSView*)view {
+    assign(m_view, view);
+}
+@end

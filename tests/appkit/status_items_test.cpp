@@ -1,0 +1,191 @@
+#include "appkit/program.h"
+
+#include <QColor>
+#include <QSignalSpy>
+
+#include <algorithm>
+
+namespace orvelle {
+namespace {
+
+using namespace simulated;
+
+const std::vector<std::string> everyKey{"cpu", "memory", "network", "disk", "battery", "sensor"};
+const std::set<std::string> everyEdge{"leading", "trailing", "top", "bottom"};
+
+class StatusItemsTest : public AppKitTest {};
+
+/// Half red, half transparent, so that the order of the bytes and the rows is seen.
+class HalfRedView final : public StatusItemView {
+public:
+    void paint(QPainter& painter, const QRectF& bounds) const override {
+        painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
+                         QColor(255, 0, 0));
+    }
+    [[nodiscard]] QString accessibleText() const override { return QStringLiteral("CPU 12%"); }
+};
+
+TEST_F(StatusItemsTest, StandInTableOrderWithTheirFixedLengths) {
+    launch();
+    EXPECT_EQ(itemIdentifiers(), everyKey);
+    std::vector<double> lengths;
+    for (const StatusItemState& item : statusItems())
+        lengths.push_back(item.length);
+    EXPECT_EQ(lengths, (std::vector<double>{60, 70, 90, 45, 65, 50}));
+}
+
+TEST_F(StatusItemsTest, SendTheirActionAtBothMouseUpsAndCarryTheirModulesKey) {
+    launch();
+    for (const StatusItemState& item : statusItems()) {
+        EXPECT_EQ(item.actionMask, 20U);
+        EXPECT_EQ(item.action, "statusItemClicked:");
+        EXPECT_TRUE(item.hasTarget);
+        EXPECT_FALSE(item.hasMenu);
+    }
+}
+
+TEST_F(StatusItemsTest, HoldAPictureTiedToAllFourEdgesThatTakesNoClicks) {
+    launch();
+    for (std::size_t index = 0; index < statusItems().size(); ++index) {
+        const StatusItemState item = statusItems()[index];
+        EXPECT_EQ(item.subviewCount, 1U);
+        EXPECT_EQ(item.pinnedEdges, everyEdge);
+        EXPECT_FALSE(item.translatesAutoresizing);
+        EXPECT_TRUE(clicksReachTheButton(index)) << item.identifier;
+    }
+}
+
+TEST_F(StatusItemsTest, AreDrawnAtTheResolutionOfTheirScreen) {
+    program().addItem("cpu", 60).setView(std::make_shared<HalfRedView>());
+    const std::optional<Drawing> drawing = draw(0);
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(drawing->width, 120U);
+    EXPECT_EQ(drawing->height, 44U);
+    EXPECT_EQ(drawing->widthInPoints, 60);
+    EXPECT_EQ(drawing->heightInPoints, 22);
+    EXPECT_EQ(drawing->pixels.front(), 0xffff0000U) << "the upper half is opaque red";
+    EXPECT_EQ(drawing->pixels.at(120 * 21), 0xffff0000U);
+    EXPECT_EQ(drawing->pixels.at(120 * 22), 0U);
+    EXPECT_EQ(drawing->pixels.back(), 0U);
+}
+
+TEST_F(StatusItemsTest, AreDrawnAgainOnAnotherScreen) {
+    program().addItem("cpu", 60).setView(std::make_shared<HalfRedView>());
+    ASSERT_TRUE(draw(0));
+    EXPECT_FALSE(draw(0)) << "nothing has changed";
+    changeScreen(0, 1);
+    const std::optional<Drawing> drawing = draw(0);
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(drawing->width, 60U);
+}
+
+TEST_F(StatusItemsTest, AreDrawnAgainWhenThereAreNewValues) {
+    Program& running = launch();
+    for (std::size_t index = 0; index < everyKey.size(); ++index)
+        EXPECT_TRUE(draw(index)) << everyKey[index];
+    running.monitor.updateCycle();
+    for (std::size_t index = 0; index < everyKey.size(); ++index)
+        EXPECT_TRUE(draw(index)) << everyKey[index];
+}
+
+TEST_F(StatusItemsTest, SayTheirValuesToAssistiveTechnology) {
+    program().addItem("cpu").setView(std::make_shared<HalfRedView>());
+    EXPECT_EQ(statusItems().at(0).accessibilityLabel, "CPU 12%");
+}
+
+TEST_F(StatusItemsTest, TellOnceThatTheyHaveBeenPainted) {
+    const QSignalSpy painted(program().statusBar.get(), &StatusBar::firstPainted);
+    launch();
+    EXPECT_EQ(painted.size(), 0);
+    static_cast<void>(draw(0));
+    static_cast<void>(draw(1));
+    EXPECT_EQ(painted.size(), 1);
+}
+
+TEST_F(StatusItemsTest, AreNoneWhenEveryModuleIsHidden) {
+    program().showAll(false);
+    launch();
+    EXPECT_TRUE(statusItems().empty());
+    EXPECT_TRUE(popovers().empty());
+}
+
+TEST_F(StatusItemsTest, AreAllRemovedAndTheShownOnesRecreatedWhenAModuleIsSwitchedOff) {
+    Program& running = launch();
+    desktop().deeds.clear();
+    running.settings.setShowNetwork(false);
+    EXPECT_EQ(statusItems().size(), 6U) << "not before the settings are checked again";
+    running.delegate.checkVisibility();
+    EXPECT_EQ(itemIdentifiers(), (std::vector<std::string>{"cpu", "memory", "disk", "battery", "sensor"}));
+    std::ranges::sort(desktop().deeds); // in which order they go does not matter
+    EXPECT_EQ(desktop().deeds,
+              (std::vector<std::string>{"remove battery", "remove cpu", "remove disk", "remove memory",
+                                        "remove network", "remove sensor"}));
+    EXPECT_EQ(popovers().size(), 5U) << "and a popover each";
+}
+
+TEST_F(StatusItemsTest, AreRebuiltWhileAPopoverIsOpenWithoutIt) {
+    Program& running = launch();
+    click(cpuItem, MouseButton::left);
+    running.settings.setShowNetwork(false);
+    running.delegate.checkVisibility();
+    EXPECT_EQ(shownPopoverCount(), 0);
+    EXPECT_TRUE(running.contentWindows.empty());
+    click(cpuItem, MouseButton::left);
+    EXPECT_EQ(shownPopover().anchorIdentifier, "cpu");
+}
+
+TEST_F(StatusItemsTest, IgnoreAnActionWithoutAnEvent) {
+    launch();
+    sendActionWithoutEvent(cpuItem);
+    EXPECT_EQ(shownPopoverCount(), 0);
+    EXPECT_TRUE(desktop().deeds.empty());
+}
+
+TEST_F(StatusItemsTest, IgnoreAClickOnAButtonThatHasLostItsIdentifier) {
+    launch();
+    loseIdentifier(cpuItem);
+    click(cpuItem, MouseButton::left);
+    click(cpuItem, MouseButton::right);
+    EXPECT_TRUE(desktop().deeds.empty());
+    click(memoryItem, MouseButton::left);
+    EXPECT_EQ(shownPopover().anchorIdentifier, "memory");
+}
+
+TEST_F(StatusItemsTest, IgnoreClicksWithoutAHandler) {
+    static_cast<void>(program().addItem("clock"));
+    click(0, MouseButton::left);
+    EXPECT_TRUE(desktop().deeds.empty());
+}
+
+TEST_F(StatusItemsTest, AreKeptWithoutAButton) {
+    desktop().failCallsTo("status item's button");
+    Program& running = launch();
+    EXPECT_EQ(statusItems().size(), 6U);
+    EXPECT_EQ(running.delegate.statusItems().size(), 6);
+    running.monitor.updateCycle();
+    running.delegate.togglePopover(*running.delegate.statusItems().first());
+    running.delegate.showContextMenu(*running.delegate.statusItems().first());
+    EXPECT_EQ(shownPopoverCount(), 0);
+    EXPECT_TRUE(desktop().deeds.empty());
+}
+
+TEST_F(StatusItemsTest, AreKeptInMindWhenTheSystemRefusesThem) {
+    desktop().failCallsTo("statusItemWithLength");
+    Program& running = launch();
+    EXPECT_TRUE(statusItems().empty());
+    EXPECT_EQ(running.delegate.statusItems().size(), 6);
+    running.settings.setShowNetwork(false);
+    running.delegate.checkVisibility();
+    EXPECT_EQ(running.delegate.statusItems().size(), 5);
+}
+
+TEST_F(StatusItemsTest, MayBeRemovedByTheirOwnHandler) {
+    StatusItem& item = program().addItem("clock");
+    item.setClickHandler([this, &item](ClickButton) { program().statusBar->removeItem(item); });
+    press(0, MouseButton::left);
+    release(0, MouseButton::left);
+    EXPECT_TRUE(statusItems().empty());
+}
+
+} // namespace
+} // namespace orvelle
