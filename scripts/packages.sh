@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: which Debian packages each needs, and how they are installed when missing.
+# Sourced by scripts/system.sh: which Debian packages each needs, and how they are installed when missing.
 # An entry "a|b" is a package that has two names in the supported releases; the first one known is taken.
 
 build_packages=(
