@@ -1,10 +1,9 @@
 #include "look/symbols.h"
 
 #include "look/device_pixels.h"
+#include "look/symbol_shapes.h"
 
 #include <QCache>
-#include <QFile>
-#include <QSvgRenderer>
 
 #include <algorithm>
 
@@ -25,43 +24,14 @@ size_t qHash(const SymbolKey& key, size_t seed = 0) {
     return qHashMulti(seed, key.name, key.fontSize, key.color, key.devicePixelRatio, key.weight);
 }
 
-QString resourcePath(QStringView name) {
-    return QStringLiteral(":/symbols/%1.svg").arg(name);
-}
-
-/// Width of the stroke laid around the 16-unit outline to make it heavier.
-double strokeUnits(QFont::Weight weight) {
-    if (weight >= QFont::Bold)
-        return 0.7;
-    if (weight >= QFont::DemiBold)
-        return 0.5;
-    return weight >= QFont::Medium ? 0.25 : 0;
-}
-
-QByteArray readOutline(QStringView name, QFont::Weight weight) {
-    QFile file(resourcePath(name));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray outline = file.readAll();
-    if (const double width = strokeUnits(weight); width > 0) {
-        const QByteArray stroke = R"(<svg stroke="currentColor" stroke-linejoin="round" stroke-width=")" +
-                                  QByteArray::number(width) + '"';
-        outline.replace("<svg", stroke);
-    }
-    return outline;
-}
-
 QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
-    QSvgRenderer renderer(readOutline(key.name, weight));
-    if (!renderer.isValid()) {
+    const int side = std::max(1, qRound(symbolExtent(key.fontSize) * key.devicePixelRatio));
+    QImage image = symbolShape(key.name, side, weight);
+    if (image.isNull()) {
         qWarning("No symbol is named \"%s\"", qUtf8Printable(key.name));
         return {};
     }
-    const int side = std::max(1, qRound(symbolExtent(key.fontSize) * key.devicePixelRatio));
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
     QPainter painter(&image);
-    renderer.render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), QColor::fromRgba(key.color));
     painter.end();
@@ -72,7 +42,7 @@ QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
 } // namespace
 
 bool isKnownSymbol(QStringView name) {
-    return QFile::exists(resourcePath(name));
+    return hasSymbolShape(name);
 }
 
 QImage symbolImage(QStringView name, double fontSize, const QColor& color, double devicePixelRatio,

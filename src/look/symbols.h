@@ -6,9 +6,9 @@
 #include <QPainter>
 #include <QStringView>
 
-/// The program's icons by name. The pictures are outlines of 16 x 16 units embedded in the program; the table
-/// of names stands in symbols.cmake. A symbol at font size S fills a square of 1.2 S points, which is the
-/// height of a line of text of that size. Main thread only.
+/// The program's icons by name. On macOS they are the system's symbols; elsewhere outlines of 16 x 16 units
+/// that are embedded in the program, by the table in symbols.cmake. A symbol at font size S fills a square
+/// of 1.2 S points, which is the height of a line of text of that size. Main thread only.
 namespace orvelle {
 
 /// Side of the square that a symbol occupies beside text of `fontSize` points.

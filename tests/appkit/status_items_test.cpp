@@ -22,6 +22,7 @@ public:
         painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
                          QColor(255, 0, 0));
     }
+    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("CPU"); }
     [[nodiscard]] QString accessibleText() const override { return QStringLiteral("CPU 12%"); }
 };
 

@@ -11,14 +11,21 @@ NSEvent*& currentEventPlace() {
     return event;
 }
 
-/// Who is told when the program is opened again.
-struct ReopenHandler {
+/// Who is told of something, and by which message.
+struct Handler {
     id object = nil;
     SEL selector = nullptr;
 };
 
-ReopenHandler& reopenHandler() {
-    static ReopenHandler handler;
+/// Of the program's being opened again.
+Handler& reopenHandler() {
+    static Handler handler;
+    return handler;
+}
+
+/// Of other wishes of the user's for the display.
+Handler& displayOptionsHandler() {
+    static Handler handler;
     return handler;
 }
 
@@ -45,6 +52,7 @@ Desktop& desktop() { return *desktopPlace(); }
 void startDesktop() {
     desktopPlace() = std::make_unique<Desktop>();
     reopenHandler() = {};
+    displayOptionsHandler() = {};
     NSApp = theOnly([NSApplication class]);
 }
 
@@ -65,6 +73,12 @@ void handleEvent(NSEventType type, NSWindow* window, NSEventModifierFlags modifi
         handling();
         currentEventPlace() = before;
     });
+}
+
+void chooseReducedMotion(bool isReduced) {
+    desktop().script.reducesMotion = isReduced;
+    const Handler handler = displayOptionsHandler();
+    handleNoEvent([&] { [handler.object performSelector:handler.selector withObject:nil]; });
 }
 
 void openProgramAgain() {
@@ -122,7 +136,27 @@ void openProgramAgain() {
 }
 @end
 
+NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification = @"display options";
+
+@implementation NSNotificationCenter
+- (void)addObserver:(id)observer selector:(SEL)selector name:(NSString*)name object:(id)object {
+    desktop().expect(textOf(name) == "display options" && object == nil,
+                     "a notification that nobody sends here");
+    displayOptionsHandler() = {observer, selector};
+}
+- (void)removeObserver:(id)observer {
+    desktop().expect(observer == displayOptionsHandler().object, "an observer that was not there");
+    displayOptionsHandler() = {};
+}
+@end
+
 @implementation NSWorkspace
+- (NSNotificationCenter*)notificationCenter {
+    return theOnly([NSNotificationCenter class]);
+}
+- (BOOL)accessibilityDisplayShouldReduceMotion {
+    return desktop().script.reducesMotion;
+}
 + (NSWorkspace*)sharedWorkspace {
     return theOnly(self);
 }

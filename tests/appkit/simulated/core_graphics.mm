@@ -90,6 +90,11 @@ void CGContextDrawImage(CGContextRef context, CGRect rect, CGImageRef image) {
 
 namespace orvelle::simulated {
 
+std::vector<CGContextRef>& savedDrawings() {
+    static std::vector<CGContextRef> contexts;
+    return contexts;
+}
+
 CGContextRef& currentDrawing() {
     static CGContextRef context = nullptr;
     return context;
@@ -97,7 +102,43 @@ CGContextRef& currentDrawing() {
 
 } // namespace orvelle::simulated
 
+CGContextRef CGBitmapContextCreate(void* data, std::size_t /*width*/, std::size_t height,
+                                   std::size_t bitsPerComponent, std::size_t bytesPerRow,
+                                   CGColorSpaceRef space, std::uint32_t bitmapInfo) {
+    if (!desktop().arrives("CGBitmapContextCreate"))
+        return nullptr;
+    if (space == nullptr)
+        return nullptr;
+    desktop().expect(bitsPerComponent == 8 && bitmapInfo == (2u | (2u << 12)),
+                     "pixels in another layout than a QImage's");
+    auto* context = new CGContext{
+        .pixels = static_cast<std::uint32_t*>(data), .pixelsPerRow = bytesPerRow / 4, .height = height};
+    desktop().lend(context, "CGContext");
+    return context;
+}
+
+void CGContextRelease(CGContextRef context) {
+    if (context != nullptr && desktop().dropReference(context))
+        delete context;
+}
+
 @implementation NSGraphicsContext
++ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped {
+    desktop().expect(!flipped, "a symbol on its head");
+    NSGraphicsContext* graphics = [[[NSGraphicsContext alloc] init] autorelease];
+    graphics->m_context = context;
+    return graphics;
+}
++ (void)saveGraphicsState {
+    savedDrawings().push_back(currentDrawing());
+}
++ (void)restoreGraphicsState {
+    currentDrawing() = savedDrawings().back();
+    savedDrawings().pop_back();
+}
++ (void)setCurrentContext:(NSGraphicsContext*)context {
+    currentDrawing() = context->m_context;
+}
 + (NSGraphicsContext*)currentContext {
     if (!desktop().arrives("currentContext"))
         return nil;

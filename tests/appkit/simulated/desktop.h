@@ -32,6 +32,8 @@ struct Script {
     bool hasLoginService = true;
     long loginStatus = 0;
     bool mayRegisterLogin = true;
+    bool reducesMotion = false;
+    std::set<std::string> symbols{"cpu", "network"};
     /// Called while a menu is open. It may choose an entry.
     std::function<void()> whileMenuIsOpen{};
 };
@@ -119,6 +121,10 @@ public:
     [[nodiscard]] const std::vector<std::string>& calls() const { return m_calls; }
     /// What the program did that a user notices, in order.
     std::vector<std::string> deeds{};
+    /// The last symbol that was drawn: its size and weight in the system's terms.
+    double symbolPointSize = 0;
+    double symbolWeight = -1;
+
     /// Everything that a real system would have punished or that no documentation allows.
     [[nodiscard]] const std::vector<std::string>& complaints() const { return m_complaints; }
     /// How many objects of each class have not been given back.
@@ -171,6 +177,8 @@ void clickElsewhere();
 void pressEscape();
 /// Chooses from the menu that is open. Only while one is.
 void chooseFromMenu(std::size_t entry);
+/// Chooses in the system's settings whether things move.
+void chooseReducedMotion(bool isReduced);
 /// Opens the program once more while it runs.
 void openProgramAgain();
 void closeWindow(std::size_t window);

@@ -64,6 +64,9 @@ void trackMenu(NSMenu* menu);
 
 struct CGContext {
     std::optional<orvelle::simulated::Drawing> drawing{};
+    std::uint32_t* pixels = nullptr; ///< of a context that draws into memory, and how many there are in a row
+    std::size_t pixelsPerRow = 0;
+    std::size_t height = 0;
 };
 
 @interface NSStatusItem (Simulated)

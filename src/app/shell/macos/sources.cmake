@@ -1,11 +1,13 @@
 # Compiled for macOS here, and against a simulated AppKit by tests/appkit.
 set(ORVELLE_MACOS_SHELL_SOURCES
   click_through_hosting_view.mm
+  display_options_observer.mm
   hosted_window.mm
   macos_context_menu.mm
   macos_login_item.mm
   macos_only_instance.mm
   macos_popover.mm
+  macos_reduced_motion.mm
   macos_settings_window.mm
   macos_status_bar.mm
   macos_status_item.mm

@@ -2,6 +2,7 @@
 
 // Simulated macOS: the classes of AppKit that the shell uses, with the calls that it makes.
 #include <AppKit/NSApplication.h>
+#include <AppKit/NSImage.h>
 #include <AppKit/NSPopover.h>
 #include <AppKit/NSStatusBar.h>
 #include <AppKit/NSView.h>

@@ -48,4 +48,8 @@ extern "C" NSApplication* NSApp;
 @interface NSWorkspace : NSObject
 + (NSWorkspace*)sharedWorkspace;
 - (BOOL)openURL:(NSURL*)url;
+- (NSNotificationCenter*)notificationCenter;
+- (BOOL)accessibilityDisplayShouldReduceMotion;
 @end
+
+extern "C" NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;

@@ -62,7 +62,14 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (void)setView:(NSView*)view;
 @end
 
-@interface NSGraphicsContext : NSObject
+@interface NSGraphicsContext : NSObject {
+  @public
+    CGContextRef m_context;
+}
 + (NSGraphicsContext*)currentContext;
++ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped;
++ (void)saveGraphicsState;
++ (void)restoreGraphicsState;
++ (void)setCurrentContext:(NSGraphicsContext*)context;
 - (CGContextRef)CGContext;
 @end

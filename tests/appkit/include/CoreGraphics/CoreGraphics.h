@@ -49,5 +49,9 @@ CGImageRef CGImageCreate(std::size_t width, std::size_t height, std::size_t bits
                          bool shouldInterpolate, CGColorRenderingIntent intent);
 void CGImageRelease(CGImageRef image);
 
+CGContextRef CGBitmapContextCreate(void* data, std::size_t width, std::size_t height,
+                                   std::size_t bitsPerComponent, std::size_t bytesPerRow,
+                                   CGColorSpaceRef space, std::uint32_t bitmapInfo);
+void CGContextRelease(CGContextRef context);
 void CGContextDrawImage(CGContextRef context, CGRect rect, CGImageRef image);
 }

@@ -71,6 +71,11 @@ __attribute__((objc_root_class))
 @interface NSURL : NSObject
 @end
 
+@interface NSNotificationCenter : NSObject
+- (void)addObserver:(id)observer selector:(SEL)selector name:(NSString*)name object:(id)object;
+- (void)removeObserver:(id)observer;
+@end
+
 @interface NSBundle : NSObject
 + (NSBundle*)mainBundle;
 - (NSString*)bundleIdentifier;
