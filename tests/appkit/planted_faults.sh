@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# planted_faults.sh BUILD_DIRECTORY: shows that test_appkit notices when the shell of macOS is broken, by planting one
+# fault after the other. BUILD_DIRECTORY must have been configured for a checkout without changes in src: each file is
+# put back as git has it. For use by hand; it compiles for some minutes.
+set -euo pipefail
+build=$(readlink -f "$1")
+cd "$(dirname "$(readlink -f "$0")")/../.."
+shell=src/app/shell/macos
+git diff --quiet -- "$shell" || { echo "there are changes in $shell" >&2; exit 1; }
+trap 'git checkout -q -- "$shell"' EXIT
+export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
+unnoticed=0
+
+plant() { # plant WHAT FILE SED_COMMAND
+  sed -i "$3" "$shell/$2"
+  if git diff --quiet -- "$shell"; then
+    echo "no longer possible: $1"; unnoticed=1
+  elif ! ninja -C "$build" test_appkit >/dev/null 2>&1; then
+    echo "does not compile: $1"; unnoticed=1
+  elif timeout 300 "$build/bin/test_appkit" >/dev/null 2>&1; then
+    echo "NOT NOTICED: $1"; unnoticed=1
+  else
+    echo "noticed: $1"
+  fi
+  git checkout -q -- "$shell"
+}
+
+plant "only the left button" macos_status_item.mm 's/ | NSEventMaskRightMouseUp//'
+plant "an edge is not pinned" macos_status_item.mm '/bottomAnchor/d'
+plant "an item is not removed" macos_status_item.mm '/removeStatusItem/s/^/if (false) /'
+plant "no identifier" macos_status_item.mm '/setIdentifier/d'
+plant "the picture takes clicks" click_through_hosting_view.mm 's/^    return nil;/    return self;/'
+plant "the menu stays with its item" macos_context_menu.mm '/setMenu:nil/d'
+plant "another edge" macos_popover.mm 's/NSRectEdgeMinY/NSRectEdgeMaxY/'
+plant "not the key window" macos_popover.mm '/makeKeyWindow/d'
+plant "closed by its own press" macos_popover.mm 's/return !isPress ||.*/return true;/'
+plant "no memory of its closing" macos_popover.mm '/m_closedByItself = uptime/s/m_closedByItself = //'
+plant "a reference too many" retained.h '/~Retained/s/\[m_object release\];//'
+plant "the image of an item leaks" picture.h 's/CGImageRelease(image);/static_cast<void>(image);/'
+plant "released when closed" macos_settings_window.mm '/setReleasedWhenClosed/d'
+plant "a light window" macos_settings_window.mm '/setAppearance/d'
+exit $unnoticed
