@@ -71,6 +71,9 @@ TEST_F(ContextMenuTest, OpensTheSettings) {
 TEST_F(ContextMenuTest, EndsTheProgram) {
     launch();
     QTimer::singleShot(0, [] { openMenuOf(sensorItem, [] { chooseFromMenu(2); }); });
+    QTimer tooLate;
+    tooLate.callOnTimeout([] { QCoreApplication::exit(1); });
+    tooLate.start(std::chrono::seconds(10));
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
