@@ -11,6 +11,8 @@ requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr 
 
 unset ${!QT_@} WAYLAND_DISPLAY
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
+# Freed memory that a sanitizer keeps back would look like growth.
+export ASAN_OPTIONS=quarantine_size_mb=1
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 
 # Key, title of the panel's window, length of the item: in the order of the bar, which ends 8 points before the edge.
