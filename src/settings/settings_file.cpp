@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStorageInfo>
 
 #include <chrono>
 #include <utility>
@@ -34,6 +35,34 @@ bool canSave(const QSettings& settings) {
     const QFileInfo file(path);
     return settings.isWritable() && isFolderWritable(path) &&
            (!file.isSymLink() || isFolderWritable(file.symLinkTarget())) && isLockFree(path);
+}
+
+/// What is wrong with the folder that the file stands in; empty when nothing is.
+QString faultOfFolder(const QFileInfo& folder) {
+    if (!folder.exists())
+        return QStringLiteral("the folder %1 does not exist").arg(folder.filePath());
+    if (!folder.isDir())
+        return QStringLiteral("%1 is not a folder").arg(folder.filePath());
+    if (!folder.isWritable())
+        return QStringLiteral("the folder %1 cannot be written to").arg(folder.filePath());
+    return {};
+}
+
+/// What is wrong with what stands in the file's place; empty when nothing is, or nothing stands there.
+QString faultOfFile(const QFileInfo& file) {
+    if (file.isSymLink() && !file.exists())
+        return QStringLiteral("%1 is a link that leads nowhere").arg(file.filePath());
+    if (!file.exists())
+        return {};
+    if (file.isDir())
+        return QStringLiteral("%1 is a folder").arg(file.filePath());
+    if (!file.isFile())
+        return QStringLiteral("%1 is not a file").arg(file.filePath());
+    if (!file.isReadable() || !file.isWritable())
+        return QStringLiteral("%1 may not be changed").arg(file.filePath());
+    if (file.size() > PlainIni::maximumSize)
+        return QStringLiteral("%1 is too large for a settings file").arg(file.filePath());
+    return {};
 }
 
 } // namespace
@@ -66,6 +95,19 @@ bool SettingsFile::write(const StoredValues& values) {
         settings->setValue(value.key(), value->toString());
     settings->sync();
     return settings->status() == QSettings::NoError;
+}
+
+QString SettingsFile::failureReason() const {
+    const QFileInfo file(m_filePath);
+    for (const QString& fault : {faultOfFolder(QFileInfo(file.path())), faultOfFile(file)}) {
+        if (!fault.isEmpty())
+            return fault;
+    }
+    if (QStorageInfo(file.path()).bytesAvailable() == 0)
+        return QStringLiteral("the disk is full");
+    if (!isLockFree(m_filePath))
+        return QStringLiteral("another program keeps %1 locked").arg(m_filePath);
+    return QStringLiteral("%1 cannot be written").arg(m_filePath);
 }
 
 bool SettingsFile::isFileOrMissing() const {

@@ -17,6 +17,7 @@ public:
     /// Nothing when something other than a readable file of a sensible size stands in the file's place.
     [[nodiscard]] std::optional<StoredValues> read(const QStringList& keys) override;
     [[nodiscard]] bool write(const StoredValues& values) override;
+    [[nodiscard]] QString failureReason() const override;
     [[nodiscard]] QString filePath() const override { return m_filePath; }
 
 private:

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] virtual std::optional<StoredValues> read(const QStringList& keys) = 0;
     /// Stores booleans, numbers and texts at once; false when they could not be stored.
     [[nodiscard]] virtual bool write(const StoredValues& values) = 0;
+    /// Why `write` failed just now, in a few words for the user.
+    [[nodiscard]] virtual QString failureReason() const = 0;
     /// The file behind the storage, which changes when another program stores something.
     [[nodiscard]] virtual QString filePath() const = 0;
 };

@@ -91,14 +91,15 @@ void SettingsStore::save() {
                 setting->markSaved();
         }
     }
-    updateSaveFailed();
+    updateSaveError();
     watch();
 }
 
-void SettingsStore::updateSaveFailed() {
+void SettingsStore::updateSaveError() {
     const bool failed = std::ranges::any_of(m_settings, &AnySetting::isUnsaved);
-    if (std::exchange(m_saveFailed, failed) != failed)
-        Q_EMIT saveFailedChanged();
+    const QString error = failed ? m_storage->failureReason() : QString();
+    if (std::exchange(m_saveError, error) != error)
+        Q_EMIT saveErrorChanged();
 }
 
 void SettingsStore::reload() {
@@ -116,7 +117,7 @@ void SettingsStore::reload() {
         if (setting->follow(stored->value(setting->key())))
             changedSettings.push_back(setting);
     }
-    updateSaveFailed();
+    updateSaveError();
     for (const AnySetting* setting : changedSettings)
         Q_EMIT(this->*setting->changedSignal())();
     if (!changedSettings.empty())

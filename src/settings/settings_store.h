@@ -73,7 +73,7 @@ class SettingsStore : public QObject {
     Q_PROPERTY(QString customSensorColorHex READ customSensorColorHex WRITE setCustomSensorColorHex NOTIFY
                    customSensorColorHexChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
-    Q_PROPERTY(bool saveFailed READ saveFailed NOTIFY saveFailedChanged)
+    Q_PROPERTY(QString saveError READ saveError NOTIFY saveErrorChanged)
 
 public:
     enum class CPUDisplayMode { barChart, percentage };
@@ -171,14 +171,14 @@ public:
     [[nodiscard]] bool launchAtLogin() const { return m_launchAtLogin.value(); }
     void setLaunchAtLogin(bool value) { assign(m_launchAtLogin, value); }
 
-    /// Whether a value that was set could not be stored; it holds until the program ends and is stored
-    /// together with the next value that can be.
-    [[nodiscard]] bool saveFailed() const { return m_saveFailed; }
+    /// Why a value that was set could not be stored, in a few words for the user; empty when all are. The
+    /// value holds until the program ends and is stored together with the next one that can be.
+    [[nodiscard]] const QString& saveError() const { return m_saveError; }
 
 Q_SIGNALS:
     /// One or more properties changed; follows their own signals.
     void changed();
-    void saveFailedChanged();
+    void saveErrorChanged();
     void showCPUChanged();
     void showMemoryChanged();
     void showNetworkChanged();
@@ -220,7 +220,7 @@ private:
     }
     void saveAndAnnounce(const AnySetting& setting);
     void save();
-    void updateSaveFailed();
+    void updateSaveError();
     /// Takes over what changed in the storage; nothing when it cannot be read.
     void reload();
     void watch();
@@ -228,7 +228,7 @@ private:
     std::unique_ptr<SettingsStorage> m_storage;
     QFileSystemWatcher m_watcher;
     QTimer m_reloadDelay;
-    bool m_saveFailed = false;
+    QString m_saveError;
 
     Setting<bool> m_showCPU{"showCPU", true, &SettingsStore::showCPUChanged};
     Setting<bool> m_showMemory{"showMemory", true, &SettingsStore::showMemoryChanged};

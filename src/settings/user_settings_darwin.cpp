@@ -27,6 +27,8 @@ public:
         return settings->status() == QSettings::NoError;
     }
 
+    QString failureReason() const override { return QStringLiteral("%1 cannot be written").arg(filePath()); }
+
     QString filePath() const override { return open()->fileName(); }
 
 private:

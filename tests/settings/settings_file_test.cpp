@@ -126,6 +126,7 @@ TEST_F(SettingsFileTest, APipeOrADeviceInTheFilesPlaceIsNotOpened) {
     ASSERT_EQ(::mkfifo(settings.path().toLocal8Bit().constData(), 0600), 0);
     EXPECT_EQ(read(), std::nullopt);
     EXPECT_FALSE(write());
+    EXPECT_TRUE(file.failureReason().endsWith(u" is not a file"_s));
     ASSERT_TRUE(QFile::remove(settings.path()));
     ASSERT_TRUE(QFile::link(u"/dev/zero"_s, settings.path()));
     EXPECT_EQ(read(), std::nullopt);
@@ -146,6 +147,7 @@ TEST_F(SettingsFileTest, ALinkIntoAMissingFolderOrToItselfIsEmptyAndDoesNotHang)
     ASSERT_TRUE(QFile::link(u"/nonexistent/folder/x.conf"_s, settings.path()));
     EXPECT_EQ(read(), StoredValues());
     EXPECT_FALSE(write());
+    EXPECT_TRUE(file.failureReason().endsWith(u" is a link that leads nowhere"_s));
     ASSERT_TRUE(QFile::remove(settings.path()));
     ASSERT_TRUE(QFile::link(settings.path(), settings.path()));
     EXPECT_EQ(read(), StoredValues());
@@ -155,9 +157,11 @@ TEST_F(SettingsFileTest, WhereNoFolderCanBeMadeNothingIsWritten) {
     SettingsFile unwritable(u"/proc/no-such-folder/orvelle.conf"_s);
     EXPECT_EQ(unwritable.read({u"a"_s}), StoredValues());
     EXPECT_FALSE(unwritable.write({{u"a"_s, true}}));
+    EXPECT_EQ(unwritable.failureReason(), u"the folder /proc/no-such-folder does not exist"_s);
     SettingsFile belowAFile(u"/proc/version/orvelle.conf"_s);
     EXPECT_EQ(belowAFile.read({u"a"_s}), StoredValues());
     EXPECT_FALSE(belowAFile.write({{u"a"_s, true}}));
+    EXPECT_EQ(belowAFile.failureReason(), u"/proc/version is not a folder"_s);
 }
 
 /// Ends the process with 0 when `check` holds for a user whom file permissions stop, as they do not stop

@@ -118,17 +118,17 @@ TEST_F(SettingsHandEditTest, AnEditElsewhereLeavesAValueThatCouldNotBeSaved) {
     ASSERT_TRUE(QFile::remove(settings.path()));
     ASSERT_TRUE(QDir().mkpath(settings.path()));
     store.setShowDisk(true);
-    ASSERT_TRUE(store.saveFailed());
+    ASSERT_FALSE(store.saveError().isEmpty());
 
     ASSERT_TRUE(QDir().rmdir(settings.path()));
     settings.writeInPlace("[General]\nshowDisk=false\nshowSensors=true\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return store.showSensors(); }, longestWait));
     EXPECT_TRUE(store.showDisk());
-    EXPECT_TRUE(store.saveFailed());
+    EXPECT_FALSE(store.saveError().isEmpty());
 
     settings.writeInPlace("[General]\nshowDisk=no thanks\nshowSensors=true\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !store.showDisk(); }, longestWait)) << "the later edit wins";
-    EXPECT_FALSE(store.saveFailed());
+    EXPECT_TRUE(store.saveError().isEmpty());
 }
 
 TEST_F(SettingsHandEditTest, ObserversOfOnePropertySeeTheOthersUpToDate) {

@@ -95,8 +95,8 @@ TEST_F(SettingsStoreTest, AFreshStoreHasExactlyTheTablesPropertiesAtTheirDefault
         EXPECT_EQ(valueOf(store, row), row.defaultValue) << row.key;
     }
     const int own = store.metaObject()->propertyCount() - QObject::staticMetaObject.propertyCount();
-    EXPECT_EQ(own, 33) << "the table and saveFailed";
-    EXPECT_FALSE(store.saveFailed());
+    EXPECT_EQ(own, 33) << "the table and saveError";
+    EXPECT_TRUE(store.saveError().isEmpty());
 }
 
 TEST_F(SettingsStoreTest, DefaultsAreNotWritten) {
@@ -110,7 +110,7 @@ TEST_F(SettingsStoreTest, EachPropertyIsStoredUnderItsNameAndComesBack) {
             SettingsStore store(settings.path());
             ASSERT_TRUE(setValue(store, row, row.otherValue)) << row.key;
             EXPECT_EQ(valueOf(store, row), row.otherValue) << row.key;
-            EXPECT_FALSE(store.saveFailed());
+            EXPECT_TRUE(store.saveError().isEmpty());
         }
         EXPECT_TRUE(settings.text().contains('\n' + QByteArray(row.key) + '=' + row.otherText + '\n'))
             << row.key;
@@ -259,19 +259,19 @@ TEST_F(SettingsStoreTest, WithoutAPathTheUsersOwnSettingsAreUsed) {
 TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucceeds) {
     ASSERT_TRUE(QDir().mkpath(settings.path())); // a folder stands in the file's place
     SettingsStore store(settings.path());
-    QSignalSpy saveFailed(&store, &SettingsStore::saveFailedChanged);
+    QSignalSpy saveErrors(&store, &SettingsStore::saveErrorChanged);
     QSignalSpy showDisk(&store, &SettingsStore::showDiskChanged);
     store.setShowDisk(true);
     EXPECT_TRUE(store.showDisk());
     EXPECT_EQ(showDisk.count(), 1);
-    EXPECT_TRUE(store.saveFailed());
+    EXPECT_EQ(store.saveError(), settings.path() + u" is a folder"_s);
     store.setUseFahrenheit(true);
-    EXPECT_EQ(saveFailed.count(), 1) << "it had failed already";
+    EXPECT_EQ(saveErrors.count(), 1) << "it had failed already";
 
     ASSERT_TRUE(QDir().rmdir(settings.path()));
     store.setShowSensors(true);
-    EXPECT_FALSE(store.saveFailed());
-    EXPECT_EQ(saveFailed.count(), 2);
+    EXPECT_TRUE(store.saveError().isEmpty());
+    EXPECT_EQ(saveErrors.count(), 2);
     EXPECT_EQ(settings.text(), "[General]\nshowDisk=true\nshowSensors=true\nuseFahrenheit=true\n");
 }
 
