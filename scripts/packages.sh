@@ -8,9 +8,10 @@ build_packages=(
 )
 # What the program needs to draw text and to meet a display, where the desktop does not bring it already.
 desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)
-# The modules that the panels' QML imports when they are opened.
+# The modules that the windows' QML imports when they are opened.
 qml_packages=(
-  qml6-module-qtquick qml6-module-qtquick-layouts qml6-module-qtquick-window
+  qml6-module-qtquick qml6-module-qtquick-layouts qml6-module-qtquick-templates
+  qml6-module-qtquick-window
   qml6-module-qtqml qml6-module-qtqml-workerscript
 )
 # A display of our own, for a machine without one.

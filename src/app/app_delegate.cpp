@@ -124,8 +124,8 @@ void AppDelegate::openSettings() {
 
 Views* AppDelegate::views() {
     if (m_views == nullptr)
-        m_views = m_surroundings.loadViews(
-            {m_monitor, m_settings, m_themes, [this] { openSettings(); }, &AppDelegate::quitApp});
+        m_views = m_surroundings.loadViews({m_monitor, m_settings, m_themes, [this] { openSettings(); },
+                                            &AppDelegate::quitApp, m_surroundings.launchAtLogin});
     return m_views.get();
 }
 

@@ -23,6 +23,8 @@ struct AppSurroundings {
     StatusBar& statusBar;
     std::function<std::unique_ptr<Views>(const ViewContext&)> loadViews;
     std::function<std::unique_ptr<SettingsWindow>(std::unique_ptr<QWindow>)> makeSettingsWindow;
+    /// What the settings window tells about starting at login, see `ViewContext`.
+    QObject* launchAtLogin = nullptr;
 };
 
 /// Runs the program: it starts the sampling, keeps one status item with its panel for each module that the

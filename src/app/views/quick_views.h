@@ -2,6 +2,7 @@
 
 #include "app/views/views.h"
 #include "panels/panel_factory.h"
+#include "settings_ui/settings_factory.h"
 
 #include <QQmlEngine>
 
@@ -18,6 +19,7 @@ public:
 private:
     std::unique_ptr<QQmlEngine> m_engine;
     PanelFactory m_panels;
+    SettingsContext m_settings;
 };
 
 } // namespace orvelle

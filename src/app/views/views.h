@@ -19,6 +19,8 @@ struct ViewContext {
     ThemeManager& themes;
     std::function<void()> openSettings;
     std::function<void()> quitApp;
+    /// Null, or an object with a text property `error`: why the program could not be made to start at login.
+    QObject* launchAtLogin = nullptr;
 };
 
 /// Makes the contents of the program's windows. They must not outlive it. Main thread only.

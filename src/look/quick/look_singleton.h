@@ -20,6 +20,8 @@ class Look : public QObject {
     Q_PROPERTY(QColor yellow READ yellow CONSTANT)
     Q_PROPERTY(QColor green READ green CONSTANT)
     Q_PROPERTY(QColor cyan READ cyan CONSTANT)
+    Q_PROPERTY(QColor blue READ blue CONSTANT)
+    Q_PROPERTY(QColor grey READ grey CONSTANT)
     Q_PROPERTY(QColor white READ white CONSTANT)
     Q_PROPERTY(QColor clear READ clear CONSTANT)
     Q_PROPERTY(QColor primaryLabel READ primaryLabel CONSTANT)
@@ -33,9 +35,14 @@ class Look : public QObject {
     Q_PROPERTY(QColor card READ card CONSTANT)
     Q_PROPERTY(QColor hovered READ hovered CONSTANT)
     Q_PROPERTY(QColor pressed READ pressed CONSTANT)
+    Q_PROPERTY(QColor chosen READ chosen CONSTANT)
+    Q_PROPERTY(QColor faintOutline READ faintOutline CONSTANT)
+    Q_PROPERTY(QColor hoverOutline READ hoverOutline CONSTANT)
     Q_PROPERTY(QColor scrollMark READ scrollMark CONSTANT)
     Q_PROPERTY(QColor separator READ separator CONSTANT)
     Q_PROPERTY(QColor tooltip READ tooltip CONSTANT)
+    Q_PROPERTY(QColor window READ window CONSTANT)
+    Q_PROPERTY(QColor popup READ popup CONSTANT)
 
 public:
     [[nodiscard]] static QColor red() { return SystemColors::red; }
@@ -43,6 +50,8 @@ public:
     [[nodiscard]] static QColor yellow() { return SystemColors::yellow; }
     [[nodiscard]] static QColor green() { return SystemColors::green; }
     [[nodiscard]] static QColor cyan() { return SystemColors::cyan; }
+    [[nodiscard]] static QColor blue() { return SystemColors::blue; }
+    [[nodiscard]] static QColor grey() { return SystemColors::grey; }
     [[nodiscard]] static QColor white() { return SystemColors::white; }
     [[nodiscard]] static QColor clear() { return Qt::transparent; }
     [[nodiscard]] static QColor primaryLabel() { return LabelColors::primary; }
@@ -65,6 +74,11 @@ public:
     /// The ground of a control under the pointer, and of one that is held down.
     [[nodiscard]] static QColor hovered() { return whiteAt(0.08); }
     [[nodiscard]] static QColor pressed() { return whiteAt(0.16); }
+    /// The ground of what is chosen among its neighbours.
+    [[nodiscard]] static QColor chosen() { return whiteAt(0.22); }
+    /// The edge of what could be chosen, and of what is under the pointer.
+    [[nodiscard]] static QColor faintOutline() { return whiteAt(0.1); }
+    [[nodiscard]] static QColor hoverOutline() { return whiteAt(0.3); }
     /// Shows where one is in what scrolls.
     [[nodiscard]] static QColor scrollMark() { return whiteAt(0.25); }
     /// The lines between sections.
@@ -72,6 +86,11 @@ public:
 
     /// The ground of a help text: dark under every theme.
     [[nodiscard]] static QColor tooltip() { return SystemColors::grey.darker(300); }
+
+    /// The ground of a window that no theme colours.
+    [[nodiscard]] static QColor window() { return QColor::fromRgbF(0.1F, 0.1F, 0.1F); }
+    /// The ground of what opens over such a window.
+    [[nodiscard]] static QColor popup() { return QColor::fromRgbF(0.16F, 0.16F, 0.17F); }
 
     /// The colour at an opacity, 0 to 1, whatever opacity it had.
     Q_INVOKABLE [[nodiscard]] static QColor faded(const QColor& color, double opacity);

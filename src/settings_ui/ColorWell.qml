@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvelle.Look
+import Orvelle.SettingsUI
+
+/// Shows a colour; a press opens what chooses another.
+T.AbstractButton {
+    id: well
+
+    required property color color
+    readonly property ColorPicker picker: loader.item as ColorPicker
+    readonly property bool isOpen: picker !== null && picker.opened
+    signal picked(color picked)
+
+    implicitWidth: 24
+    implicitHeight: 18
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    onClicked: {
+        loader.active = true;
+        if (isOpen)
+            picker.close();
+        else
+            picker.open();
+    }
+    onVisibleChanged: if (!visible) loader.active = false
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Accessible.name: text
+    Accessible.description: SettingsRules.hexFromColor(color)
+    Accessible.onPressAction: clicked()
+
+    background: Rectangle {
+        radius: 4
+        color: well.color
+        border.width: 1
+        border.color: well.hovered || well.isOpen ? Look.white : Look.separator
+        KeyRing {
+            control: well
+            anchors.margins: -3
+            radius: 6
+        }
+    }
+    Tooltip {
+        text: well.text
+        isWanted: well.hovered && !well.isOpen
+        anchors.right: parent.right
+        anchors.bottom: parent.top
+        anchors.bottomMargin: 4
+    }
+    Loader {
+        id: loader
+        active: false
+        sourceComponent: ColorPicker {
+            parent: well // qmllint disable unqualified
+            title: well.text // qmllint disable unqualified
+            color: well.color // qmllint disable unqualified
+            onPicked: picked => well.picked(picked) // qmllint disable unqualified
+            onClosed: {
+                well.forceActiveFocus(Qt.PopupFocusReason); // qmllint disable unqualified
+                Qt.callLater(() => loader.active = false); // qmllint disable unqualified
+            }
+        }
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Look
+import Orvelle.SettingsUI
+
+/// The modules' own colours.
+ColumnLayout {
+    id: list
+
+    required property SettingsStore settings
+    required property ThemeManager themeManager
+
+    spacing: 2
+
+    PlainText {
+        Layout.fillWidth: true
+        Layout.bottomMargin: 4
+        text: "Override individual module colors. Disable to use theme colors."
+        size: 10
+        color: Look.secondaryLabel
+        wrapMode: Text.WordWrap
+        maximumLineCount: 3
+    }
+    Repeater {
+        model: SettingsRules.modules
+        delegate: ModuleColorRow {
+            settings: list.settings // qmllint disable unqualified
+            themeManager: list.themeManager // qmllint disable unqualified
+        }
+    }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Look
+import Orvelle.SettingsUI
+
+/// The modules' own colours, hidden until they are asked for.
+ColumnLayout {
+    id: overrides
+
+    required property SettingsStore settings
+    required property ThemeManager themeManager
+    property bool showCustomColors: false
+
+    Layout.fillWidth: true
+    spacing: 8
+
+    DisclosureHeader {
+        objectName: "disclosure"
+        Layout.fillWidth: true
+        title: "CUSTOM COLOR OVERRIDES"
+        isExpanded: overrides.showCustomColors
+        onClicked: overrides.showCustomColors = !overrides.showCustomColors
+    }
+    Loader {
+        objectName: "customColors"
+        Layout.fillWidth: true
+        active: overrides.showCustomColors
+        visible: active
+        sourceComponent: CustomColorList {
+            settings: overrides.settings // qmllint disable unqualified
+            themeManager: overrides.themeManager // qmllint disable unqualified
+        }
+    }
+}

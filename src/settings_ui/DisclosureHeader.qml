@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvelle.Look
+import Orvelle.SettingsUI
+
+/// A section's title that shows and hides what is under it.
+T.AbstractButton {
+    id: header
+
+    required property string title
+    required property bool isExpanded
+
+    implicitHeight: 24
+    rightPadding: 4
+    text: title
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Accessible.name: text
+    Accessible.description: isExpanded ? "Expanded" : "Collapsed"
+    Accessible.onPressAction: clicked()
+
+    background: Rectangle {
+        radius: 5
+        color: header.down ? Look.pressed : header.hovered ? Look.card : Look.clear
+        KeyRing {
+            control: header
+            radius: 5
+        }
+    }
+    contentItem: DisclosureTitle {
+        title: header.title
+        isExpanded: header.isExpanded
+    }
+}

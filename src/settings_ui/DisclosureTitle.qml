@@ -1,0 +1,37 @@
+import QtQuick
+import Orvelle.Look
+
+/// A section's title, and at the end of the row what tells that it can be unfolded.
+Item {
+    id: row
+
+    required property string title
+    required property bool isExpanded
+
+    SectionTitle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: advanced.x - 8
+        text: row.title.toUpperCase()
+        Accessible.ignored: true
+    }
+    PlainText {
+        id: advanced
+        anchors.right: chevron.left
+        anchors.rightMargin: 6
+        anchors.verticalCenter: parent.verticalCenter
+        text: "Advanced"
+        size: 10
+        color: Look.secondaryLabel
+        Accessible.ignored: true
+    }
+    Symbol {
+        id: chevron
+        objectName: "chevron"
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.isExpanded ? "chevron.down" : "chevron.right"
+        fontSize: 9
+        weight: Font.DemiBold
+        color: Look.secondaryLabel
+    }
+}

@@ -1,0 +1,24 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Look
+import Orvelle.SettingsUI
+
+RowLayout {
+    id: footer
+
+    signal quitApp()
+
+    Layout.fillWidth: true
+
+    PlainText {
+        Layout.fillWidth: true
+        text: "Orvelle v1.0"
+        size: 9
+        color: Look.secondaryLabel
+        opacity: 0.5
+    }
+    QuitButton {
+        objectName: "quit"
+        onClicked: footer.quitApp()
+    }
+}

@@ -1,0 +1,15 @@
+#include "settings_ui/settings_quick_view.h"
+
+#include <QQuickItem>
+
+namespace orvelle {
+
+void SettingsQuickView::open() {
+    setSource(QUrl(QStringLiteral("qrc:/Orvelle/SettingsUI/SettingsScrollView.qml")));
+    if (rootObject() == nullptr)
+        return; // the engine has told why
+    setColor(rootObject()->property("color").value<QColor>());
+    connect(rootObject(), SIGNAL(quitApp()), this, SLOT(quitApp()));
+}
+
+} // namespace orvelle

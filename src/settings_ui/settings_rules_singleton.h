@@ -1,0 +1,65 @@
+#pragma once
+
+#include "settings/hex_color.h"
+#include "settings/theme_manager.h"
+#include "settings_ui/choices.h"
+#include "settings_ui/preview_rules.h"
+
+#include <QColor>
+#include <QVariant>
+#include <QtQml/qqmlregistration.h>
+
+namespace orvelle {
+
+/// What the settings window offers, and its rules, to QML.
+class SettingsRules : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QVariantList cpuDisplayModes READ cpuDisplayModes CONSTANT)
+    Q_PROPERTY(QVariantList updateIntervals READ updateIntervals CONSTANT)
+    Q_PROPERTY(QVariantList graphLineStyles READ graphLineStyles CONSTANT)
+    Q_PROPERTY(QVariantList graphFillStyles READ graphFillStyles CONSTANT)
+    Q_PROPERTY(QVariantList barChartStyles READ barChartStyles CONSTANT)
+    Q_PROPERTY(QVariantList ringChartStyles READ ringChartStyles CONSTANT)
+    Q_PROPERTY(QVariantList menuBarDisplayStyles READ menuBarDisplayStyles CONSTANT)
+    Q_PROPERTY(QVariantList animationSpeeds READ animationSpeeds CONSTANT)
+    Q_PROPERTY(QVariantList glowIntensities READ glowIntensities CONSTANT)
+    Q_PROPERTY(QVariantList modules READ modules CONSTANT)
+    Q_PROPERTY(QVariantList themes READ themes CONSTANT)
+    Q_PROPERTY(double themeGridSpacing READ themeGridSpacing CONSTANT)
+
+public:
+    [[nodiscard]] static QVariantList cpuDisplayModes() { return toQml(cpuDisplayModeChoices()); }
+    [[nodiscard]] static QVariantList updateIntervals() { return toQml(updateIntervalChoices()); }
+    [[nodiscard]] static QVariantList graphLineStyles() { return toQml(graphLineStyleChoices()); }
+    [[nodiscard]] static QVariantList graphFillStyles() { return toQml(graphFillStyleChoices()); }
+    [[nodiscard]] static QVariantList barChartStyles() { return toQml(barChartStyleChoices()); }
+    [[nodiscard]] static QVariantList ringChartStyles() { return toQml(ringChartStyleChoices()); }
+    [[nodiscard]] static QVariantList menuBarDisplayStyles() { return toQml(menuBarDisplayStyleChoices()); }
+    [[nodiscard]] static QVariantList animationSpeeds() { return toQml(animationSpeedChoices()); }
+    [[nodiscard]] static QVariantList glowIntensities() { return toQml(glowIntensityChoices()); }
+    [[nodiscard]] static QVariantList modules() { return toQml(moduleRows()); }
+    [[nodiscard]] static QVariantList themes() { return toQml(builtInThemes()); }
+    [[nodiscard]] static double themeGridSpacing() { return orvelle::themeGridSpacing; }
+
+    Q_INVOKABLE static int themeGridCount(double width) { return themeGridColumns(width).count; }
+    Q_INVOKABLE static double themeGridColumnWidth(double width) { return themeGridColumns(width).width; }
+
+    /// The colour that a text spells, or the other one without its opacity when it spells none.
+    Q_INVOKABLE static QColor colorFromHex(const QString& hex, const QColor& otherwise) {
+        return hexToColor(hex).value_or(QColor::fromRgb(otherwise.rgb()));
+    }
+    Q_INVOKABLE static QString hexFromColor(const QColor& color) { return colorToHex(color); }
+
+private:
+    template <class Record>
+    static QVariantList toQml(const QList<Record>& records) {
+        QVariantList values;
+        for (const Record& record : records)
+            values.append(QVariant::fromValue(record));
+        return values;
+    }
+};
+
+} // namespace orvelle

@@ -1,0 +1,191 @@
+#include "charts/motion.h"
+#include "settings/system_colors.h"
+#include "settings_ui/settings_fixture.h"
+
+namespace orvelle {
+namespace {
+
+using SettingsLook = SettingsFixture;
+using ThemeCards = SettingsFixture;
+using StylePreviews = SettingsFixture;
+
+double lineWidthOf(const QQuickItem* outline) {
+    return outline->property("lineWidth").toDouble();
+}
+QColor colorOf(const QQuickItem* item) {
+    return item->property("color").value<QColor>();
+}
+double opacityOf(const QQuickItem* item) {
+    return std::round(double{colorOf(item).alphaF()} * 100) / 100;
+}
+QFont fontOf(const QQuickItem* item) {
+    return item->property("font").value<QFont>();
+}
+
+TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
+    QQuickItem* card = control(u"Midnight");
+    QQuickItem* selected = item("selectedOutline", card);
+    QQuickItem* hovered = item("hoveredOutline", card);
+    EXPECT_EQ(colorOf(selected), SystemColors::blue);
+    EXPECT_EQ(lineWidthOf(selected), 2);
+    EXPECT_EQ(colorOf(hovered).alpha(), 0);
+    QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(card)));
+    QTest::mouseMove(view.get(), card->mapToScene({card->width() / 2, card->height() / 2}).toPoint());
+    QTest::qWait(50);
+    EXPECT_LT(card->scale(), 1.05) << "it takes its time";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return card->scale() == 1.05; }, 1000));
+    EXPECT_EQ(colorOf(selected), SystemColors::blue);
+    EXPECT_EQ(opacityOf(hovered), 0.3);
+    EXPECT_EQ(lineWidthOf(hovered), 1);
+    EXPECT_EQ(card->transformOrigin(), QQuickItem::Center);
+
+    QTest::mouseMove(view.get(), {2, 2});
+    QTest::qWait(50);
+    EXPECT_GT(card->scale(), 1.0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return card->scale() == 1.0; }, 1000));
+    EXPECT_EQ(colorOf(hovered).alpha(), 0);
+}
+
+TEST_F(ThemeCards, GrowAtOnceWhereTheUserWantsNoMotion) {
+    Motion::shared().setReduced(true);
+    QQuickItem* card = control(u"Midnight");
+    card->setProperty("isHovered", true);
+    EXPECT_EQ(card->scale(), 1.05);
+    Motion::shared().setReduced(false);
+}
+
+TEST_F(ThemeCards, ShowTheThemesNameBelowAFaceInItsColours) {
+    const QQuickItem* nord = control(u"Nord");
+    const QQuickItem* name = item("name", nord);
+    EXPECT_EQ(fontOf(name).weight(), QFont::Medium);
+    EXPECT_EQ(name->property("size").toDouble(), 9);
+    EXPECT_EQ(item("selectedOutline", nord)->height(), 66);
+    EXPECT_EQ(colorOf(item("selectedOutline", nord)).alpha(), 0);
+    settings.setSelectedThemeId(QStringLiteral("nord"));
+    EXPECT_EQ(fontOf(name).weight(), QFont::Bold);
+    EXPECT_EQ(colorOf(name), SystemColors::white);
+}
+
+TEST_F(StylePreviews, OutlineWhatIsChosenInBlueAndTheOthersFaintly) {
+    for (const auto& [chosen, other] : {std::pair(u"Smooth", u"Dotted"), std::pair(u"Rounded", u"Thin Lines"),
+                                        std::pair(u"Full Ring", u"Pie Chart")}) {
+        const QQuickItem* outline = item("outline", control(chosen));
+        EXPECT_EQ(colorOf(outline), SystemColors::blue);
+        EXPECT_EQ(lineWidthOf(outline), 1.5);
+        EXPECT_EQ(outline->size(), QSizeF(50, 24));
+        EXPECT_EQ(fontOf(item("caption", control(chosen))).weight(), QFont::Bold);
+        EXPECT_EQ(colorOf(item("caption", control(chosen))), SystemColors::white);
+
+        const QQuickItem* faint = item("outline", control(other));
+        EXPECT_EQ(opacityOf(faint), 0.1);
+        EXPECT_EQ(lineWidthOf(faint), 0.5);
+        const QQuickItem* caption = item("caption", control(other));
+        EXPECT_EQ(fontOf(caption).weight(), QFont::Normal);
+        EXPECT_EQ(opacityOf(caption), 0.55);
+        EXPECT_EQ(caption->property("size").toDouble(), 8);
+        EXPECT_EQ(caption->property("text").toString(), QString::fromUtf16(other));
+        EXPECT_EQ(opacityOf(item("ground", control(other))), 0.03);
+    }
+}
+
+/// The pixels of an item in the window.
+QImage pictureOf(const QQuickView& view, const QQuickItem& item) {
+    return const_cast<QQuickView&>(view).grabWindow().copy(
+        item.mapRectToScene({0, 0, item.width(), item.height()}).toAlignedRect());
+}
+
+TEST_F(StylePreviews, AreDrawnInTheModulesColour) {
+    QQuickItem* button = control(u"Square");
+    QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(button)));
+    settings.setCustomCPUColorHex(QStringLiteral("#00FF00"));
+    const QImage before = pictureOf(*view, *button);
+    settings.setUseCustomCPUColor(true);
+    QTest::qWait(20);
+    const QImage after = pictureOf(*view, *button);
+    EXPECT_NE(before, after);
+    // The second bar, 14 points high, stands 14 points from the left edge of the 50 x 24 frame.
+    const QPointF frame = button->mapFromItem(item("outline", button), {0, 0});
+    const QColor bar = after.pixelColor((frame + QPointF(17, 20)).toPoint());
+    EXPECT_GT(bar.green(), 190);
+    EXPECT_LT(bar.red(), 60);
+}
+
+/// Every visible text ends inside the window's width.
+void expectTextsInside(const QList<QQuickItem*>& texts, double width) {
+    EXPECT_FALSE(texts.isEmpty());
+    for (const QQuickItem* text : texts) {
+        const QRectF place = text->mapRectToScene({0, 0, text->width(), text->height()});
+        EXPECT_GE(place.left(), 0) << text->property("text").toString().toStdString();
+        EXPECT_LE(place.right(), width) << text->property("text").toString().toStdString();
+    }
+}
+
+TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
+    openOverrides();
+    for (const QSize& size : {settingsSize, smallestSettingsSize, QSize(1400, 900)}) {
+        view->resize(size);
+        QTest::qWait(50);
+        expectTextsInside(
+            items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }),
+            size.width());
+        const QQuickItem* scroller = item("scroller");
+        EXPECT_EQ(scroller->height(), size.height());
+        EXPECT_EQ(scroller->property("interactive").toBool(),
+                  scroller->property("contentHeight").toDouble() > size.height());
+    }
+}
+
+TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualSize) {
+    openOverrides();
+    for (const QQuickItem* text :
+         items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }))
+        EXPECT_FALSE(text->property("truncated").toBool()) << text->property("text").toString().toStdString();
+}
+
+TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
+    view->resize(smallestSettingsSize);
+    QTest::qWait(20);
+    EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 3);
+    view->resize(600, 640);
+    QTest::qWait(20);
+    EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 6);
+}
+
+TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
+    openOverrides();
+    settings.setUseCustomCPUColor(true);
+    QQuickItem* well = item("well", overrideRow(u"CPU"));
+    QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(well)));
+    QTest::mouseMove(view.get(), well->mapToScene({12, 9}).toPoint());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return !items([](const QQuickItem* each) {
+                        return each->isVisible() &&
+                               each->property("text").toString() == QStringLiteral("Color for CPU") &&
+                               each->inherits("QQuickText");
+                    }).isEmpty();
+        },
+        2000));
+}
+
+TEST_F(SettingsLook, IsTitledAndHasTheUsualSize) {
+    EXPECT_EQ(view->title(), QStringLiteral("Orvelle Settings"));
+    EXPECT_EQ(view->size(), QSize(460, 640));
+    EXPECT_EQ(view->color(), QColor::fromRgbF(0.1F, 0.1F, 0.1F));
+}
+
+TEST_F(SettingsLook, RestsWhileNothingChanges) {
+    QTest::qWait(300);
+    int frames = 0;
+    QObject::connect(view.get(), &QQuickWindow::afterRendering, view.get(), [&] { ++frames; });
+    QTest::qWait(300);
+    EXPECT_EQ(frames, 0);
+    view->close();
+    settings.setShowDisk(true);
+    settings.setSelectedThemeId(QStringLiteral("nord"));
+    QTest::qWait(100);
+    EXPECT_EQ(frames, 0) << "nobody can see it";
+}
+
+} // namespace
+} // namespace orvelle
