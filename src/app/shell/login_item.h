@@ -12,6 +12,8 @@ public:
     /// Returns whether the desktop has taken it. Switched on where it is on, it is made to start the program
     /// from where it is now.
     [[nodiscard]] virtual bool setEnabled(bool enabled) = 0;
+    /// Where it is on but would start a program that is gone, it is made to start this one.
+    virtual void repair() = 0;
 };
 
 } // namespace orvelle

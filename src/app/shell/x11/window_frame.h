@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QList>
+#include <QRect>
+#include <QString>
+
+#include <optional>
+
+/// Where a window stood, as it is remembered and restored. Rectangles are in points of the desktop: the
+/// position is that of the window with its title bar, the size is that of its content.
+namespace orvelle {
+
+/// "x y width height".
+[[nodiscard]] QString frameText(const QRect& frame);
+
+/// Nothing when the text is no frame, or one that no desktop could have had.
+[[nodiscard]] std::optional<QRect> parseFrame(const QString& text);
+
+/// The frame, moved and shrunk until it lies on the screen that it overlaps most, or on the first one when it
+/// overlaps none; no smaller than `smallest`. `screens` are what the screens offer to windows. As it is where
+/// there are no screens.
+[[nodiscard]] QRect frameOnScreens(const QRect& frame, const QList<QRect>& screens, const QSize& smallest);
+
+/// A window of `size` in the middle of a screen, no larger than the screen.
+[[nodiscard]] QRect centredFrame(const QSize& size, const QRect& screen);
+
+} // namespace orvelle
