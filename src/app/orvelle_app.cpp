@@ -26,7 +26,9 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_monitor(makeHostSources(), m_settings)
     , m_reducedMotion(followReducedMotion(Motion::shared()))
     , m_statusBar(makeStatusBar())
-    , m_delegate(m_monitor, m_settings, m_themes, {*m_statusBar, &loadViews, &makeSettingsWindow}) {
+    , m_launchAtLogin(m_settings, makeLoginItem())
+    , m_delegate(m_monitor, m_settings, m_themes,
+                 {*m_statusBar, &loadViews, &makeSettingsWindow, &m_launchAtLogin}) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Orvelle"));
     // The bar may be empty and every window closed; the program stays.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -48,6 +50,7 @@ int OrvelleApp::run() {
     QObject::connect(m_onlyInstance.get(), &OnlyInstance::startedAgain, &m_delegate,
                      &AppDelegate::applicationShouldHandleReopen);
     m_delegate.applicationDidFinishLaunching();
+    m_launchAtLogin.start();
     return QGuiApplication::exec();
 }
 

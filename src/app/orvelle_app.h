@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app_delegate.h"
+#include "app/launch_at_login.h"
 #include "app/shell/only_instance.h"
 #include "app/termination_signals.h"
 #include "core/system_monitor.h"
@@ -37,6 +38,7 @@ private:
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted
     std::unique_ptr<StatusBar> m_statusBar;
     std::unique_ptr<OnlyInstance> m_onlyInstance; ///< null before run()
+    LaunchAtLogin m_launchAtLogin;
     AppDelegate m_delegate;
 };
 
