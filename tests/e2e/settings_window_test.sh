@@ -1,0 +1,146 @@
+#!/bin/bash
+# The real program in a real X server: the settings window among other windows.
+#
+#   settings_window_test.sh ORVELLE X11_CLIENT
+
+orvelle=$1
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
+
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state QT_FORCE_STDERR_LOGGING=1
+unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
+stateFile=$XDG_STATE_HOME/orvelle/state.conf
+autostartFile=$XDG_CONFIG_HOME/autostart/orvelle.desktop
+
+# A user who has hidden every module gets the settings by starting the program again.
+hideEveryModule() {
+    local module
+    mkdir -p "$(dirname "$settingsFile")"
+    echo '[General]' >"$settingsFile"
+    for module in CPU Memory Network Disk Battery Sensors; do
+        echo "show$module=false" >>"$settingsFile"
+    done
+}
+startOrvelle() {
+    "$orvelle" 2>"$workDirectory/log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+}
+stopOrvelle() {
+    kill -TERM "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "the program ends with status" 0 $?
+}
+settingsWindow() { xdotool search --onlyvisible --name '^Orvelle Settings$' 2>/dev/null | tail -1; }
+windowIsShown() { [[ -n $(settingsWindow) ]]; }
+windowIsGone() { ! windowIsShown; }
+startAgain() { "$orvelle" 2>/dev/null; }
+opened() { startAgain; windowIsShown; }
+hasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(settingsWindow)" ]]; }
+openWindow() {
+    waitUntil "the settings open" opened || cat "$workDirectory/log"
+    waitUntil "the settings have the keyboard" hasTheKeyboard
+}
+place() { geometry "$(settingsWindow)"; }
+placeIs() { [[ $(place) == "$1" ]]; }
+placeIsKept() { grep -q '^OrvelleSettings=' "$stateFile" 2>/dev/null; }
+
+testFirstTime() {
+    openWindow
+    local left top width height
+    IFS=', x' read -r left top width height < <(place)
+    expectEqual "the window has its size" "460x640" "${width}x$height"
+    ((left >= 400 && left <= 420)) || fail "the window is in the middle: $left"
+    expectEqual "it can be closed and minimized" 2 \
+        "$(property "$(settingsWindow)" _NET_WM_ALLOWED_ACTIONS | tr ',' '\n' | grep -cE '_(CLOSE|MINIMIZE)$')"
+    [[ -n $(property "$(settingsWindow)" _NET_WM_ICON) ]] || fail "the window has an icon"
+}
+
+testClosing() {
+    local key
+    for key in Escape ctrl+w; do
+        xdotool key "$key"
+        waitUntil "$key closes the window" windowIsGone
+        openWindow
+    done
+    wmctrl -i -c "$(settingsWindow)"
+    waitUntil "its close button closes the window" windowIsGone
+    kill -0 "$orvellePid" || fail "the program goes on"
+    openWindow
+}
+
+testMinimized() {
+    xdotool windowminimize "$(settingsWindow)"
+    waitUntil "the window is minimized" windowIsGone
+    openWindow
+}
+
+testOtherDesktop() {
+    wmctrl -n 2 && wmctrl -s 1
+    onDesktop() { [[ $(property "$(settingsWindow)" _NET_WM_DESKTOP) == "$1" ]]; }
+    waitUntil "the user goes to another desktop" windowIsGone
+    openWindow
+    waitUntil "the window comes along" onDesktop 1
+    expectEqual "the user stays there" 1 "$(rootProperty _NET_CURRENT_DESKTOP)"
+    wmctrl -s 0
+    openWindow
+}
+
+testPlace() {
+    local before after
+    wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
+    waitUntil "the window is moved" eval '[[ $(place) == *" 500x520" ]]'
+    sleep 0.2
+    before=$(place)
+    waitUntil "its place is remembered" placeIsKept
+    for _ in 1 2 3; do
+        xdotool key Escape
+        waitUntil "the window closes" windowIsGone
+        openWindow
+    done
+    waitUntil "it opens where it stood, $before" placeIs "$before" || place
+    kill -KILL "$orvellePid"
+    wait "$orvellePid" 2>/dev/null
+    startOrvelle
+    openWindow
+    waitUntil "also after an unexpected end" placeIs "$before" || place
+    stopOrvelle
+    printf '[General]\nOrvelleSettings=99999 nonsense\n' >"$stateFile"
+    startOrvelle
+    openWindow
+    after=$(place)
+    expectEqual "nonsense is ignored" "460x640" "${after#* }"
+    stopOrvelle
+    printf '[General]\nOrvelleSettings=5000 4000 460 640\n' >"$stateFile"
+    startOrvelle
+    openWindow
+    IFS=', x' read -r left top width height < <(place)
+    ((left + width <= 1280 && top + height <= 800)) || fail "a place off the screen: $(place)"
+}
+
+testChanges() {
+    xdotool key Tab Tab space
+    waitUntil "the second switch is stored" grep -q '^showMemory=true' "$settingsFile"
+    waitUntil "and shown in the bar" eval '[[ -n $(xdotool search --onlyvisible --name "^Orvelle$") ]]'
+    hideEveryModule
+    sleep 3.5
+    # From the end: the button that quits, then the switch.
+    xdotool key shift+Tab shift+Tab shift+Tab shift+Tab space
+    waitUntil "the program will start at login" test -f "$autostartFile" || cat "$settingsFile"
+    xdotool key space
+    waitUntil "and no longer" eval '[[ ! -e $autostartFile ]]'
+}
+
+hideEveryModule
+start_x_server 1280x800 && start_window_manager || exit 1
+startOrvelle
+testFirstTime
+testClosing
+testMinimized
+testOtherDesktop
+testPlace
+testChanges
+stopOrvelle
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
