@@ -1,0 +1,65 @@
+#!/bin/bash
+# The tree that is installed is whole: its program starts from where it is and opens its settings.
+#
+#   install_test.sh CMAKE BUILD_DIRECTORY
+
+cmake=$1
+build=$2
+source "$(dirname "$0")/../e2e/desktop.sh"
+requireTools readelf
+
+prefix="$workDirectory/a place"
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state QT_FORCE_STDERR_LOGGING=1
+"$cmake" --install "$build" --prefix "$prefix" >"$workDirectory/install.log" || { cat "$workDirectory/install.log"; exit 1; }
+
+for file in bin/orvelle lib/orvelle/liborvelle_views.so share/applications/orvelle.desktop \
+    share/metainfo/orvelle.metainfo.xml share/icons/hicolor/scalable/apps/orvelle.svg; do
+    [[ -f $prefix/$file ]] || fail "$file is not installed"
+done
+# Nothing is looked for where it was built.
+searchPath() { readelf -d "$1" | sed -n 's/.*R.*PATH.*\[\(.*\)\]/\1/p'; }
+expectEqual "the program looks for its libraries beside itself" "\$ORIGIN/../lib/orvelle" "$(searchPath "$prefix/bin/orvelle")"
+for library in "$prefix"/lib/orvelle/*.so; do
+    expectEqual "so does $(basename "$library")" "\$ORIGIN" "$(searchPath "$library")"
+    missing=$(ldd "$library" | grep 'not found')
+    expectEqual "and finds all of them" "" "$missing"
+done
+
+# startInstalled: with the settings of a user who has hidden every module, so that a second start opens the window.
+startInstalled() {
+    QT_LOGGING_RULES="orvelle.start.debug=true" "$prefix/bin/orvelle" 2>"$workDirectory/log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+}
+stopInstalled() {
+    kill -TERM "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "the installed program ends with status" 0 $?
+}
+
+QT_QPA_PLATFORM=offscreen startInstalled
+waitUntil "the installed program starts" grep -q "first bar painted" "$workDirectory/log" || cat "$workDirectory/log"
+stopInstalled
+
+for tool in Xvfb openbox xdotool xprop; do
+    if ! command -v $tool >/dev/null; then
+        echo "not tested without $tool: the installed program opens its windows"
+        exit $((failures > 0))
+    fi
+done
+unset QT_QPA_PLATFORM
+mkdir -p "$XDG_CONFIG_HOME/orvelle"
+printf '[General]\nshow%s=false\n' CPU >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+for module in Memory Network Disk Battery Sensors; do
+    echo "show$module=false" >>"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+done
+start_x_server 1280x800 && start_window_manager || exit 1
+startInstalled
+settingsAreShown() {
+    "$prefix/bin/orvelle" 2>/dev/null # tells the first one, and ends
+    [[ -n $(xdotool search --onlyvisible --name '^Orvelle Settings$' 2>/dev/null) ]]
+}
+waitUntil "the installed program finds its windows" settingsAreShown || cat "$workDirectory/log"
+stopInstalled
+echo "$failures failures"
+((failures == 0))
