@@ -31,6 +31,9 @@ class MacosLoginItem final : public LoginItem {
             static_cast<void>([service unregisterAndReturnError:nullptr]);
         return isEnabled() == enabled;
     }
+
+    /// The system itself finds a program that has moved.
+    void repair() override {}
 };
 
 } // namespace
