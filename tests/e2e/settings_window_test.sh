@@ -23,9 +23,11 @@ hideEveryModule() {
     done
 }
 startOrvelle() {
-    "$orvelle" 2>"$workDirectory/log" &
+    QT_LOGGING_RULES="orvelle.sample.debug=true" "$orvelle" 2>"$workDirectory/log" &
     orvellePid=$!
     ownedPids+=("$orvellePid")
+    # Else the second start might come first.
+    waitUntil "the program runs" grep -q 'cycle 1' "$workDirectory/log" || exit 1
 }
 stopOrvelle() {
     kill -TERM "$orvellePid"
@@ -125,8 +127,8 @@ testChanges() {
     waitUntil "and shown in the bar" eval '[[ -n $(xdotool search --onlyvisible --name "^Orvelle$") ]]'
     hideEveryModule
     sleep 3.5
-    # From the end: the button that quits, then the switch.
-    xdotool key shift+Tab shift+Tab shift+Tab shift+Tab space
+    # Backward: the first switch, the button that quits, and the last switch.
+    xdotool key shift+Tab shift+Tab shift+Tab space
     waitUntil "the program will start at login" test -f "$autostartFile" || cat "$settingsFile"
     xdotool key space
     waitUntil "and no longer" eval '[[ ! -e $autostartFile ]]'

@@ -27,7 +27,7 @@ done
 
 # startInstalled: with the settings of a user who has hidden every module, so that a second start opens the window.
 startInstalled() {
-    QT_LOGGING_RULES="orvelle.start.debug=true" "$prefix/bin/orvelle" 2>"$workDirectory/log" &
+    QT_LOGGING_RULES="orvelle.start.debug=true;orvelle.sample.debug=true" "$prefix/bin/orvelle" 2>"$workDirectory/log" &
     orvellePid=$!
     ownedPids+=("$orvellePid")
 }
@@ -55,6 +55,8 @@ for module in Memory Network Disk Battery Sensors; do
 done
 start_x_server 1280x800 && start_window_manager || exit 1
 startInstalled
+# Else the second start might come first.
+waitUntil "the installed program runs on a display" grep -q 'cycle 1' "$workDirectory/log" || exit 1
 settingsAreShown() {
     "$prefix/bin/orvelle" 2>/dev/null # tells the first one, and ends
     [[ -n $(xdotool search --onlyvisible --name '^Orvelle Settings$' 2>/dev/null) ]]

@@ -46,10 +46,13 @@ QRect frameOnScreens(const QRect& frame, const QList<QRect>& screens, const QSiz
         std::ranges::max_element(screens, {}, [&](const QRect& screen) { return overlap(frame, screen); });
     if (best == screens.end())
         return frame;
-    QRect placed(frame.topLeft(), frame.size().boundedTo(best->size()).expandedTo(smallest));
+    if (best->contains(frame) && frame.size().expandedTo(smallest) == frame.size())
+        return frame;
+    const QRect room(best->topLeft(), best->size() - decorationRoom);
+    QRect placed(frame.topLeft(), frame.size().boundedTo(room.size()).expandedTo(smallest));
     // The left and the upper edge matter more: the title bar and its buttons.
-    placed.moveLeft(std::max(std::min(placed.left(), best->right() + 1 - placed.width()), best->left()));
-    placed.moveTop(std::max(std::min(placed.top(), best->bottom() + 1 - placed.height()), best->top()));
+    placed.moveLeft(std::max(std::min(placed.left(), room.right() + 1 - placed.width()), room.left()));
+    placed.moveTop(std::max(std::min(placed.top(), room.bottom() + 1 - placed.height()), room.top()));
     return placed;
 }
 

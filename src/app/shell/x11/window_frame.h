@@ -16,9 +16,12 @@ namespace orvelle {
 /// Nothing when the text is no frame, or one that no desktop could have had.
 [[nodiscard]] std::optional<QRect> parseFrame(const QString& text);
 
-/// The frame, moved and shrunk until it lies on the screen that it overlaps most, or on the first one when it
-/// overlaps none; no smaller than `smallest`. `screens` are what the screens offer to windows. As it is where
-/// there are no screens.
+/// Room for the edges that a window manager adds; their size is known only once the window is shown.
+inline constexpr QSize decorationRoom{8, 40};
+
+/// The frame as it is where it lies on a screen. Else it is moved and shrunk until it lies, with room for its
+/// decoration, on the screen that it overlaps most, or on the first one when it overlaps none; no smaller
+/// than `smallest`. `screens` are what the screens offer to windows. As it is where there are no screens.
 [[nodiscard]] QRect frameOnScreens(const QRect& frame, const QList<QRect>& screens, const QSize& smallest);
 
 /// A window of `size` in the middle of a screen, no larger than the screen.
