@@ -7,8 +7,15 @@
 #include "settings/theme_manager.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 namespace orvelle {
+namespace {
+
+/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
+Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
+
+} // namespace
 
 AppDelegate::AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
                          AppSurroundings surroundings, QObject* parent)
@@ -114,6 +121,7 @@ void AppDelegate::showContextMenu(const StatusItem& item) {
 }
 
 void AppDelegate::openSettings() {
+    qCDebug(openLog, "the settings were asked for");
     if (m_settingsWindow == nullptr && views() != nullptr) {
         if (std::unique_ptr<QWindow> content = views()->makeSettings())
             m_settingsWindow = m_surroundings.makeSettingsWindow(std::move(content));

@@ -9,12 +9,17 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QScreen>
 
 #include <chrono>
+#include <utility>
 
 namespace orvelle {
 namespace {
+
+/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
+Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
 constexpr std::chrono::milliseconds restTime{500};
 
@@ -54,6 +59,7 @@ X11SettingsWindow::~X11SettingsWindow() {
 void X11SettingsWindow::bringForward() {
     if (!m_content->isVisible()) {
         place();
+        m_isPainted = false;
         m_content->show();
     } else {
         m_content->setWindowStates(m_content->windowStates() & ~Qt::WindowMinimized);
@@ -69,6 +75,12 @@ bool X11SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Resize:
         if (m_content->isVisible())
             m_restDelay.start();
+        break;
+    case QEvent::Expose:
+        // The window paints when it handles the event, which is after this filter.
+        if (m_content->isExposed() && !std::exchange(m_isPainted, true))
+            QMetaObject::invokeMethod(
+                this, [] { qCDebug(openLog, "the settings window was painted"); }, Qt::QueuedConnection);
         break;
     case QEvent::Close:
         m_restDelay.stop();

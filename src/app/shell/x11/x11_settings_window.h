@@ -31,6 +31,7 @@ private:
     std::unique_ptr<SettingsStorage> m_storage;
     QTimer m_restDelay; ///< runs while the window is being moved
     QRect m_remembered;
+    bool m_isPainted = false; ///< since it was last opened
 };
 
 } // namespace orvelle
