@@ -1,6 +1,7 @@
 #include "app/shell/x11/transient_geometry.h"
 #include "app/shell/x11/transient_window.h"
 
+#include <QGuiApplication>
 #include <QRasterWindow>
 #include <QScreen>
 #include <QTest>
@@ -72,6 +73,22 @@ TEST_F(TransientWindowTest, ClosesWhenAnotherWindowGetsTheKeyboard) {
     other.requestActivate();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !transient.isShown(); }));
     EXPECT_EQ(closedCount, 1);
+}
+
+TEST_F(TransientWindowTest, ClosesWhenItsScreenGetsAnotherSize) {
+    show();
+    QScreen* shownOn = window.screen();
+    Q_EMIT shownOn->geometryChanged(shownOn->geometry());
+    EXPECT_FALSE(transient.isShown());
+    EXPECT_EQ(closedCount, 1);
+    Q_EMIT shownOn->geometryChanged(shownOn->geometry());
+    EXPECT_EQ(closedCount, 1);
+}
+
+TEST_F(TransientWindowTest, ClosesWhenAnotherScreenBecomesThePrimaryOne) {
+    show();
+    Q_EMIT qGuiApp->primaryScreenChanged(window.screen());
+    EXPECT_FALSE(transient.isShown());
 }
 
 TEST_F(TransientWindowTest, ClosesOnceWhenItsWindowIsClosed) {

@@ -5,6 +5,7 @@
 #include "app/shell/x11/x11_connection.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
@@ -36,6 +37,8 @@ TransientWindow::TransientWindow(QWindow& window)
         if (!visible)
             close();
     });
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &TransientWindow::close);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &TransientWindow::close);
 }
 
 TransientWindow::~TransientWindow() = default;
@@ -48,6 +51,7 @@ void TransientWindow::show(QScreen& screen, const QRect& geometry, const QRectF&
     m_spared = spared;
     m_isPainted = m_window.isExposed();
     m_window.setScreen(&screen);
+    connect(&screen, &QScreen::geometryChanged, this, &TransientWindow::close, Qt::UniqueConnection);
     // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
     // step is 2 pixels.
     m_window.setBaseSize(geometry.size());

@@ -15,9 +15,9 @@ namespace orvelle {
 class PointerPresses;
 
 /// Makes a window transient: it opens over the others with the keyboard in it and closes with Escape, when
-/// another window gets the keyboard, and when a mouse button goes down outside of it, which takes nothing
-/// from what was clicked. Its corners are rounded, and where the
-/// desktop composes its windows it appears and disappears softly. Main thread only.
+/// another window gets the keyboard, when a mouse button goes down outside of it, which takes nothing from
+/// what was clicked, and when the screens change, because it may stand beside them then. Its corners are
+/// rounded, and where the desktop composes its windows it appears and disappears softly. Main thread only.
 class TransientWindow : public QObject {
     Q_OBJECT
 
