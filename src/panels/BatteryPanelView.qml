@@ -7,11 +7,11 @@ PanelBody {
     required property BatteryMonitor battery
     readonly property var info: battery.battery
 
-    NoBatteryNotice {
+    // Not one of the sections, so that it stands in the middle of whatever room the panel has.
+    children: NoBatteryNotice {
         objectName: "notice"
         visible: !panel.info.isPresent
-        // In the middle of the room that the panel has.
-        implicitHeight: panel.height - 2 * panel.padding
+        anchors.centerIn: parent
     }
     BatteryDetails {
         objectName: "details"

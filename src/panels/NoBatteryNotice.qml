@@ -1,31 +1,24 @@
 import QtQuick
-import QtQuick.Layouts
 import Orvelle.Look
-import Orvelle.Panels
 
-Item {
-    Layout.fillWidth: true
+Column {
+    spacing: 6
 
-    Column {
-        anchors.centerIn: parent
-        spacing: 6
-
-        Symbol {
-            anchors.horizontalCenter: parent.horizontalCenter
-            name: "powerplug.fill"
-            fontSize: 24
-            color: Look.green
-        }
-        PlainText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: "No Battery Detected"
-            size: 12
-        }
-        PlainText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: "This Mac is running on AC power"
-            size: 10
-            color: Look.secondaryLabel
-        }
+    Symbol {
+        anchors.horizontalCenter: parent.horizontalCenter
+        name: "powerplug.fill"
+        fontSize: 24
+        color: Look.green
+    }
+    PlainText {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: "No Battery Detected"
+        size: 12
+    }
+    PlainText {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: "This Mac is running on AC power"
+        size: 10
+        color: Look.secondaryLabel
     }
 }

@@ -145,6 +145,23 @@ TEST_F(BatteryPanel, FollowsChargingToFullAndTheBatteryGoingAway) {
     EXPECT_FALSE(item("details")->isVisible());
 }
 
+TEST_F(BatteryPanel, KeepsItsNoticeInTheMiddleOfASmallerWindow) {
+    sample();
+    ASSERT_NE(show(u"battery"), nullptr);
+    const auto middle = [this] {
+        return item("notice")->mapRectToScene(item("notice")->boundingRect()).center();
+    };
+    const auto room = [this] { return item("scroller")->boundingRect().center(); };
+    const double othersHeight = 500 - item("scroller")->height();
+    for (const int height : {500, 400, 450}) {
+        panel->resize(320, height);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return item("scroller")->height() == height - othersHeight; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return std::abs(middle().y() - room().y()) <= 1; })) << height;
+        EXPECT_EQ(middle().x(), room().x());
+        EXPECT_FALSE(item("scroller")->property("interactive").toBool()) << height;
+    }
+}
+
 TEST_F(SensorPanel, ShowsPlaceholdersWithoutSensors) {
     sample();
     ASSERT_NE(show(u"sensor"), nullptr);
