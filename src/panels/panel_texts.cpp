@@ -1,21 +1,11 @@
 #include "panels/panel_texts.h"
 
+#include "app/formatters/formatted.h"
 #include "core/checked.h"
-
-#include <fmt/format.h>
 
 #include <array>
 
 namespace orvelle {
-namespace {
-
-/// libfmt writes numbers like printf but never asks the locale for its decimal mark.
-template <class... Arguments>
-QString formatted(fmt::format_string<Arguments...> format, Arguments&&... arguments) {
-    return QString::fromStdString(fmt::format(format, std::forward<Arguments>(arguments)...));
-}
-
-} // namespace
 
 QString formatUptime(double seconds) {
     constexpr std::int64_t minute = 60;

@@ -1,6 +1,6 @@
 #include "app/formatters/formatters.h"
 
-#include <fmt/format.h>
+#include "app/formatters/formatted.h"
 
 #include <array>
 
@@ -20,12 +20,6 @@ ScaledRate scaleRate(double bytesPerSecond) {
         ++rate.divisions;
     }
     return rate;
-}
-
-/// libfmt writes numbers like printf but never asks the locale for its decimal mark.
-template <class... Arguments>
-QString formatted(fmt::format_string<Arguments...> format, Arguments&&... arguments) {
-    return QString::fromStdString(fmt::format(format, std::forward<Arguments>(arguments)...));
 }
 
 } // namespace
