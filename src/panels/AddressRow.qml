@@ -19,20 +19,37 @@ RowLayout {
         text: row.label
         color: Look.secondaryLabel
     }
-    TextInput {
-        text: row.address
-        font: Look.systemFont(row.addressSize, Font.Normal)
-        color: Look.valueLabel
-        selectedTextColor: Look.primaryLabel
-        selectionColor: Look.faded(row.selectionColor, 0.4)
-        readOnly: true
-        selectByMouse: true
-        activeFocusOnTab: true
-        clip: true
-        horizontalAlignment: TextInput.AlignRight
+    Item {
+        implicitHeight: input.implicitHeight
         Layout.fillWidth: true
-        Accessible.role: Accessible.EditableText
-        Accessible.readOnly: true
-        Accessible.name: row.label
+
+        TextInput {
+            id: input
+            anchors.fill: parent
+            text: row.address
+            font: Look.systemFont(row.addressSize, Font.Normal)
+            color: Look.valueLabel
+            selectedTextColor: Look.primaryLabel
+            selectionColor: Look.faded(row.selectionColor, 0.4)
+            readOnly: true
+            selectByMouse: true
+            activeFocusOnTab: true
+            clip: true
+            horizontalAlignment: TextInput.AlignRight
+            Accessible.role: Accessible.EditableText
+            Accessible.readOnly: true
+            Accessible.name: row.label
+        }
+        // What cannot be written has no cursor; what is selected shows by itself where the focus is.
+        FocusRing {
+            objectName: "focusRing" + row.label
+            control: input
+            visible: input.activeFocus && input.selectedText === ""
+            anchors.margins: -2
+            anchors.leftMargin: Math.max(0, input.width - input.contentWidth) - 4
+            anchors.rightMargin: -4
+            radius: 4
+            border.color: row.selectionColor
+        }
     }
 }

@@ -151,6 +151,16 @@ TEST_F(PanelAccessibility, GoesFromAddressToAddressToTheButtonByTab) {
     EXPECT_EQ(focusedText(), QStringLiteral("2001:db8::20"));
 }
 
+TEST_F(PanelAccessibility, ShowsWhichAddressHasTheFocus) {
+    ASSERT_NE(show(u"network"), nullptr);
+    EXPECT_FALSE(item("focusRingIPv4")->isVisible());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(item("focusRingIPv4")->isVisible());
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(item("focusRingIPv4")->isVisible());
+    EXPECT_TRUE(item("focusRingIPv6")->isVisible());
+}
+
 TEST_F(PanelAccessibility, CopiesAnAddressThatIsSelectedByTheKeyboardOrTheMouse) {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
