@@ -85,8 +85,10 @@ MovingPart::~MovingPart() {
 
 void MovingPart::start(std::chrono::milliseconds interval) {
     m_interval = std::chrono::duration<double>(interval).count();
-    if (m_isMoving)
+    if (m_isMoving) {
+        m_motion.schedule(); // it may be due sooner now
         return;
+    }
     m_isMoving = true;
     m_lastStep = m_motion.now();
     m_motion.add(*this);

@@ -103,6 +103,12 @@ QAccessibleInterface* BarWindow::accessibleRoot() const {
     return QAccessible::queryAccessibleInterface(const_cast<BarWindow*>(this));
 }
 
+void BarWindow::hideEvent(QHideEvent* /*event*/) {
+    // Who lets the button go now does not tell the bar.
+    if (BarItem* item = std::exchange(m_pressedItem, nullptr))
+        item->setHighlighted(false);
+}
+
 void BarWindow::mousePressEvent(QMouseEvent* event) {
     if (m_pressedItem != nullptr || !clickButton(event->button()))
         return;

@@ -110,6 +110,8 @@ void MenuWindow::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MenuWindow::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
+        return;
     if (const std::optional<std::size_t> index = entryAt(event->position()))
         Q_EMIT chosen(*index);
 }

@@ -15,7 +15,9 @@ Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
 X11Popover::X11Popover(BarWindow& bar, PopoverContent makeContent)
     : m_bar(bar)
-    , m_makeContent(std::move(makeContent)) {}
+    , m_makeContent(std::move(makeContent)) {
+    connect(&m_bar, &QWindow::yChanged, this, &X11Popover::close); // another dock has come or gone
+}
 
 void X11Popover::show(const StatusItem& item) {
     if (!isShown())
