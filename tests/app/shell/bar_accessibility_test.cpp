@@ -135,7 +135,8 @@ TEST_F(BarAccessibilityTest, AnItemIsPressedWhileTheMouseHoldsItDown) {
 TEST_F(BarAccessibilityTest, AnItemIsExpandedWhileItsPopoverIsShown) {
     const BarItem& cpu = addCPU();
     const BarItem& memory = addMemory();
-    X11Popover popover(bar, [](double) {
+    KeptPopovers kept;
+    X11Popover popover(bar, kept, [](double) {
         auto content = std::make_unique<QRasterWindow>();
         content->resize(320, 500);
         return content;

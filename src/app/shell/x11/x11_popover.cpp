@@ -11,12 +11,19 @@ namespace {
 /// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
 Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
+constexpr std::size_t keptWindowCount = 3;
+
 } // namespace
 
-X11Popover::X11Popover(BarWindow& bar, PopoverContent makeContent)
+X11Popover::X11Popover(BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent)
     : m_bar(bar)
+    , m_kept(kept)
     , m_makeContent(std::move(makeContent)) {
     connect(&m_bar, &QWindow::yChanged, this, &X11Popover::close); // another dock has come or gone
+}
+
+X11Popover::~X11Popover() {
+    std::erase(m_kept, this);
 }
 
 void X11Popover::show(const StatusItem& item) {
@@ -40,6 +47,7 @@ void X11Popover::open() {
         setItem(nullptr);
         return;
     }
+    keepWindow();
     QScreen& screen = *m_bar.screen();
     const QRectF bounds = m_bar.desktopBounds(*m_item);
     m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
@@ -54,6 +62,20 @@ bool X11Popover::makeWindow() {
     connect(&*m_transient, &TransientWindow::closed, this, [this] { setItem(nullptr); });
     connect(&*m_transient, &TransientWindow::painted, this, &X11Popover::logPainted);
     return true;
+}
+
+void X11Popover::releaseWindow() {
+    m_transient.reset();
+    m_window.reset();
+}
+
+void X11Popover::keepWindow() {
+    std::erase(m_kept, this);
+    m_kept.push_back(this);
+    if (m_kept.size() > keptWindowCount) {
+        m_kept.front()->releaseWindow();
+        m_kept.erase(m_kept.begin());
+    }
 }
 
 void X11Popover::setItem(const StatusItem* item) {

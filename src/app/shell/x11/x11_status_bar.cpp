@@ -2,7 +2,6 @@
 
 #include "app/shell/desktop.h"
 #include "app/shell/x11/x11_context_menu.h"
-#include "app/shell/x11/x11_popover.h"
 
 namespace orvelle {
 
@@ -21,7 +20,7 @@ void X11StatusBar::removeItem(StatusItem& item) {
 }
 
 std::unique_ptr<Popover> X11StatusBar::makePopover(PopoverContent makeContent) {
-    return std::make_unique<X11Popover>(m_window, std::move(makeContent));
+    return std::make_unique<X11Popover>(m_window, m_keptPopovers, std::move(makeContent));
 }
 
 std::unique_ptr<ContextMenu> X11StatusBar::makeContextMenu() {

@@ -3,6 +3,7 @@
 #include "app/shell/status_bar.h"
 #include "app/shell/x11/bar_placement.h"
 #include "app/shell/x11/bar_window.h"
+#include "app/shell/x11/x11_popover.h"
 
 namespace orvelle {
 
@@ -20,6 +21,7 @@ public:
 
 private:
     BarWindow m_window;
+    KeptPopovers m_keptPopovers;
     BarPlacement m_placement;
 };
 
