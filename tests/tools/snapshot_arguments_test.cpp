@@ -16,6 +16,11 @@ TEST(SnapshotArguments, WithADirectoryAlonePaintsThisMachineAtOnePixelPerPoint) 
     EXPECT_EQ(arguments.directory, QStringLiteral("pictures"));
     EXPECT_TRUE(arguments.roots.isEmpty());
     EXPECT_EQ(arguments.scale, 1);
+    EXPECT_EQ(arguments.theme, QStringLiteral("midnight"));
+}
+
+TEST(SnapshotArguments, TakeAThemeByItsId) {
+    EXPECT_EQ(std::get<SnapshotArguments>(parsed("pictures --theme nord")).theme, QStringLiteral("nord"));
 }
 
 TEST(SnapshotArguments, TakeRootsInTheirOrderAndAScale) {
@@ -26,8 +31,9 @@ TEST(SnapshotArguments, TakeRootsInTheirOrderAndAScale) {
 }
 
 TEST(SnapshotArguments, WhatCannotBeTakenIsAUsageError) {
-    for (const char* arguments : {"", "--root a", "one two", "one --root", "one --scale", "one --scale 0.5",
-                                  "one --scale 5", "one --scale nan", "one --scale big", "one --wrong"})
+    for (const char* arguments :
+         {"", "--root a", "one two", "one --root", "one --scale", "one --scale 0.5", "one --scale 5",
+          "one --scale nan", "one --scale big", "one --theme", "one --theme Nord", "one --wrong"})
         EXPECT_TRUE(std::holds_alternative<UsageError>(parsed(arguments))) << arguments;
 }
 

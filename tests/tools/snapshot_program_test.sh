@@ -20,7 +20,7 @@ expect() { # expect STATUS PATTERN ARGUMENT...
 expect_pictures() { # expect_pictures DIRECTORY SCALE
   local name
   for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items \
-    panel-cpu panel-memory panel-network panel-disk panel-battery panel-sensor; do
+    themes settings panel-cpu panel-memory panel-network panel-disk panel-battery panel-sensor; do
     head -c 4 "$1/$name@$2.png" | grep -q PNG || complain "$1/$name@$2.png is missing or no picture"
   done
 }
@@ -28,13 +28,19 @@ expect_pictures() { # expect_pictures DIRECTORY SCALE
 mkdir "$directory/empty"
 expect 0 '' "$directory/replayed" --scale 1.5 --root "$directory/empty" --root "$directory/empty"
 expect_pictures "$directory/replayed" 1.5
+expect 0 '' "$directory/pastel" --theme pastel --root "$directory/empty" --root "$directory/empty"
+expect 0 '' "$directory/midnight" --root "$directory/empty" --root "$directory/empty"
 expect 0 '' "$directory/here"
 expect_pictures "$directory/here" 1
+for name in menu-bar-items panel-cpu settings; do
+  cmp -s "$directory/midnight/$name@1.png" "$directory/pastel/$name@1.png" && complain "$name looks the same in two themes"
+done
 expect 1 'Cannot read the directory' "$directory/none" --root "$directory/missing"
 [ ! -e "$directory/none" ] || complain "a directory was made though there is nothing to paint"
 expect 1 'Cannot make the directory' /dev/null/pictures --root "$directory/empty"
 expect 2 'usage:'
 expect 2 'usage:' one two
 expect 2 'usage:' "$directory/none" --scale 0
+expect 2 'usage:' "$directory/none" --theme pink
 expect 2 'usage:' "$directory/none" --wrong
 exit $((failures > 0))

@@ -1,11 +1,12 @@
 // orvelle-snapshot: paints every view into picture files, without a window.
 
+#include "charts/motion.h"
 #include "common/sampling.h"
 #include "core/system_monitor.h"
-#include "snapshot/panel_pictures.h"
 #include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
 #include "snapshot/snapshot_arguments.h"
+#include "snapshot/window_pictures.h"
 
 #include <QGuiApplication>
 
@@ -22,7 +23,7 @@ int fail(const QString& message, int status) {
     return status;
 }
 
-/// Nothing is shown on a display, also not the windows of the panels, which take their scale from the
+/// Nothing is shown on a display, also not the windows, which take their scale from the
 /// platform.
 void choosePlatform(double scale) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -43,14 +44,19 @@ int paintSheets(const SnapshotArguments& arguments) {
     if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
         return fail(error->message, exitFailed);
     SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
-    const QList<Sheet> sheets = chartSheets() << menuBarItemSheet(monitor, settings);
-    if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
-        return fail(*error, exitFailed);
-    for (const PanelPicture& panel : panelPictures(monitor, settings)) {
+    settings.store.setSelectedThemeId(arguments.theme);
+    Motion::shared().setReduced(true); // so that everything stands where it would come to rest
+    const auto windows = panelPictures(monitor, settings) << settingsPicture(settings);
+    for (const WindowPicture& window : windows) {
         if (const auto error =
-                writePicture(panel.image, sheetFileName(panel.name, arguments.scale), arguments.directory))
+                writePicture(window.image, sheetFileName(window.name, arguments.scale), arguments.directory))
             return fail(*error, exitFailed);
     }
+    FreshSettings inAnyTheme;
+    const QList<Sheet> sheets = chartSheets()
+                                << menuBarItemSheet(monitor, settings) << themeSheet(monitor, inAnyTheme);
+    if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
+        return fail(*error, exitFailed);
     return 0;
 }
 

@@ -33,4 +33,8 @@ struct FreshSettings {
 /// `settings`, which must outlive it as `monitor` must.
 [[nodiscard]] Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings);
 
+/// The bar with all modules above the CPU panel, in each theme. Painting the sheet changes the theme in
+/// `settings`, which must outlive it as `monitor` must.
+[[nodiscard]] Sheet themeSheet(SystemMonitor& monitor, FreshSettings& settings);
+
 } // namespace orvelle

@@ -12,6 +12,7 @@ namespace orvelle {
 struct SnapshotArguments {
     QString directory; ///< that the pictures are written into
     QStringList roots; ///< one directory per update cycle; empty: sample this machine
+    QString theme;     ///< id of the theme that everything is painted in
     double scale = 1;  ///< pixels per point
 };
 

@@ -1,0 +1,53 @@
+#include "charts/motion.h"
+#include "settings_ui/settings_factory.h"
+#include "snapshot/sheets.h"
+#include "snapshot/window_pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace orvelle {
+namespace {
+
+class SettingsPicture : public ::testing::Test {
+protected:
+    SettingsPicture() { Motion::shared().setReduced(true); }
+    ~SettingsPicture() override { Motion::shared().setReduced(false); }
+
+    FreshSettings settings;
+};
+
+/// Of the lowest pixel that differs from the corner at the bottom; -1 when there is none.
+int lowestContent(const QImage& image) {
+    const QRgb ground = image.pixel(0, image.height() - 1);
+    for (int y = image.height() - 1; y >= 0; --y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != ground)
+                return y;
+        }
+    }
+    return -1;
+}
+
+TEST_F(SettingsPicture, ShowsEverythingThatTheWindowScrollsTo) {
+    const WindowPicture picture = settingsPicture(settings);
+    EXPECT_EQ(picture.name, QStringLiteral("settings"));
+    EXPECT_EQ(picture.image.width(), settingsSize.width());
+    EXPECT_GT(picture.image.height(), settingsSize.height());
+    // It ends with the margin below the last row, and not in the middle of something or far below.
+    const int below = picture.image.height() - lowestContent(picture.image);
+    EXPECT_GE(below, 16);
+    EXPECT_LT(below, 30);
+}
+
+TEST_F(SettingsPicture, ShowsWhatIsSet) {
+    const QImage before = settingsPicture(settings).image;
+    settings.store.setSelectedThemeId(QStringLiteral("pastel"));
+    const QImage inAnotherTheme = settingsPicture(settings).image;
+    EXPECT_NE(inAnotherTheme, before);
+    EXPECT_EQ(inAnotherTheme.size(), before.size());
+    settings.store.setUseCustomCPUColor(true);
+    EXPECT_NE(settingsPicture(settings).image, inAnotherTheme) << "the colours of one's own are unfolded";
+}
+
+} // namespace
+} // namespace orvelle

@@ -1,0 +1,72 @@
+#include "app/modules.h"
+#include "core/system_monitor.h"
+#include "look/quick/quick_engine.h"
+#include "panels/panel_factory.h"
+#include "snapshot/sheets.h"
+#include "snapshot/window_pictures.h"
+
+#include <QQmlEngine>
+
+#include <cmath>
+#include <numeric>
+
+namespace orvelle {
+namespace {
+
+constexpr double barHeight = 22;
+constexpr double barPadding = 8; ///< before the first and after the last item
+constexpr double panelGap = 6;   ///< between the bar and a panel
+constexpr int themesPerRow = 4;
+constexpr QColor barBackground(255, 255, 255, 15); ///< a little lighter than the sheet
+
+double barWidth() {
+    const std::span<const Module> all = modules();
+    return std::accumulate(all.begin(), all.end(), 2 * barPadding,
+                           [](double width, const Module& module) { return width + module.length; });
+}
+
+void paintBar(QPainter& painter, const QRectF& frame, const ModuleContext& context) {
+    painter.fillRect(frame, barBackground);
+    QRectF place(frame.left() + barPadding, frame.top(), 0, barHeight);
+    for (const Module& module : modules()) {
+        place.setWidth(module.length);
+        module.makeMenuBarView(context)->paint(painter, place);
+        place.moveLeft(place.right());
+    }
+}
+
+SheetCell themeCell(const AppTheme& theme, const QImage& panel, SystemMonitor& monitor,
+                    FreshSettings& settings) {
+    const QSizeF panelSize = panel.deviceIndependentSize();
+    const auto paint = [=, id = theme.id, &monitor, &settings](QPainter& painter, const QRectF& frame) {
+        settings.store.setSelectedThemeId(id);
+        paintBar(painter, {frame.topLeft(), QSizeF(frame.width(), barHeight)},
+                 {monitor, settings.store, settings.themes});
+        const double left = frame.left() + std::floor((frame.width() - panelSize.width()) / 2);
+        painter.drawImage(QRectF({left, frame.top() + barHeight + panelGap}, panelSize), panel);
+    };
+    return {.caption = theme.name,
+            .size = {barWidth(), barHeight + panelGap + panelSize.height()},
+            .paint = paint};
+}
+
+} // namespace
+
+Sheet themeSheet(SystemMonitor& monitor, FreshSettings& settings) {
+    Sheet sheet{.name = QStringLiteral("themes"), .rows = {}, .backgrounds = {SheetBackground::dark}};
+    const std::unique_ptr<QQmlEngine> engine = makeEngine();
+    PanelFactory factory(
+        *engine,
+        {.monitor = monitor, .settings = settings.store, .themes = settings.themes, .openSettings = [] {}});
+    const std::unique_ptr<QQuickView> panel = factory.makePanel(u"cpu");
+    panel->show();
+    for (const AppTheme& theme : builtInThemes()) {
+        if (sheet.rows.isEmpty() || sheet.rows.last().cells.size() == themesPerRow)
+            sheet.rows.append(SheetRow{.title = {}, .cells = {}});
+        settings.store.setSelectedThemeId(theme.id);
+        sheet.rows.last().cells.append(themeCell(theme, pictureOf(*panel), monitor, settings));
+    }
+    return sheet;
+}
+
+} // namespace orvelle

@@ -1,0 +1,63 @@
+#include "snapshot/window_pictures.h"
+
+#include "app/modules.h"
+#include "core/system_monitor.h"
+#include "look/quick/quick_engine.h"
+#include "panels/panel_factory.h"
+#include "settings_ui/settings_factory.h"
+#include "snapshot/sheets.h"
+
+#include <QCoreApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+/// Gives the window the height of everything that could be scrolled to.
+void growToContent(QQuickView& window, const QQuickItem& scroller) {
+    window.resize(window.width(), static_cast<int>(std::ceil(scroller.property("contentHeight").toDouble())));
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+QImage pictureOf(QQuickView& window) {
+    QCoreApplication::processEvents();
+    QImage image = window.grabWindow();
+    image.setDevicePixelRatio(window.effectiveDevicePixelRatio()); // which the software renderer leaves out
+    return image;
+}
+
+QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settings) {
+    const std::unique_ptr<QQmlEngine> engine = makeEngine();
+    PanelFactory factory(
+        *engine,
+        {.monitor = monitor, .settings = settings.store, .themes = settings.themes, .openSettings = [] {}});
+    QList<WindowPicture> pictures;
+    for (const Module& module : modules()) {
+        const std::unique_ptr<QQuickView> panel = factory.makePanel(QString(module.key));
+        if (panel == nullptr)
+            continue;
+        panel->show(); // what was never shown has not been filled yet
+        pictures.append({QStringLiteral("panel-") + module.key, pictureOf(*panel)});
+    }
+    return pictures;
+}
+
+WindowPicture settingsPicture(FreshSettings& settings) {
+    const std::unique_ptr<QQmlEngine> engine = makeEngine();
+    const std::unique_ptr<QQuickView> window =
+        makeSettingsView(*engine, {.settings = settings.store, .themes = settings.themes, .quitApp = [] {}});
+    window->show();
+    if (auto* overrides = window->findChild<QQuickItem*>(QStringLiteral("overrides")))
+        overrides->setProperty("showCustomColors", true);
+    (void)pictureOf(*window); // everything takes its place before the height is known
+    if (const auto* scroller = window->findChild<QQuickItem*>(QStringLiteral("scroller")))
+        growToContent(*window, *scroller);
+    return {QStringLiteral("settings"), pictureOf(*window)};
+}
+
+} // namespace orvelle
