@@ -71,29 +71,32 @@ Item {
         SettingsSection {
             objectName: "display"
             title: "DISPLAY"
-            spacing: 2
-            LabelledRow {
-                text: "CPU Display"
-                SegmentedPicker {
-                    name: "CPU Display"
-                    settings: view.settings
-                    setting: "cpuDisplayMode"
-                    choices: SettingsRules.cpuDisplayModes
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 2
+                LabelledRow {
+                    text: "CPU Display"
+                    SegmentedPicker {
+                        name: "CPU Display"
+                        settings: view.settings
+                        setting: "cpuDisplayMode"
+                        choices: SettingsRules.cpuDisplayModes
+                    }
                 }
-            }
-            SwitchRow {
-                objectName: "useFahrenheit"
-                Layout.fillWidth: true
-                text: "Use Fahrenheit"
-                checked: view.settings.useFahrenheit
-                onToggled: view.settings.useFahrenheit = checked
-            }
-            SwitchRow {
-                objectName: "compactMode"
-                Layout.fillWidth: true
-                text: "Compact Mode"
-                checked: view.settings.compactMode
-                onToggled: view.settings.compactMode = checked
+                SwitchRow {
+                    objectName: "useFahrenheit"
+                    Layout.fillWidth: true
+                    text: "Use Fahrenheit"
+                    checked: view.settings.useFahrenheit
+                    onToggled: view.settings.useFahrenheit = checked
+                }
+                SwitchRow {
+                    objectName: "compactMode"
+                    Layout.fillWidth: true
+                    text: "Compact Mode"
+                    checked: view.settings.compactMode
+                    onToggled: view.settings.compactMode = checked
+                }
             }
         }
         Divider {}
