@@ -14,8 +14,8 @@ qml_packages=(
   qml6-module-qtquick-window
   qml6-module-qtqml qml6-module-qtqml-workerscript
 )
-# A display of our own, for a machine without one.
-virtual_display_packages=(xvfb openbox imagemagick x11-xserver-utils)
+# A display of our own for a machine without one, and what clicks on it and takes pictures of it.
+virtual_display_packages=(xvfb openbox imagemagick x11-utils x11-xserver-utils xdotool)
 # `locales` brings the sources of the locale with a decimal comma under which numbers are tested.
 test_packages=(
   libgtest-dev gobjc++ xdotool wmctrl xfwm4 picom locales

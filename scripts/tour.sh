@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # tour.sh PROGRAM PICTURES: shows the program on a virtual display, for machines without one. It runs the real
-# program for two update cycles, saves pictures of what a user would see and prints what each module sampled.
+# program, opens every panel and the settings window as a user would, saves a picture of each and prints what each
+# module sampled.
 set -euo pipefail
 program=$1
 pictures=$2
@@ -10,7 +11,14 @@ settings=$(mktemp -d)
 log=$settings/log
 # Nothing of the caller's desktop: neither the Qt choices nor the folders.
 unset ${!QT_@} WAYLAND_DISPLAY
-export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_CACHE_HOME=$settings QT_FORCE_STDERR_LOGGING=1
+export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_CACHE_HOME=$settings XDG_STATE_HOME=$settings
+export QT_FORCE_STDERR_LOGGING=1
+
+# The items with their lengths, in the order of the bar, which ends 8 points before the edge of the screen.
+items=("CPU 60" "Memory 70" "Network 90" "Disk 45" "Battery 65" "Sensors 50")
+bar_left=$((1280 - 8 - (60 + 70 + 90 + 45 + 65 + 50)))
+mkdir "$settings/orvelle"
+printf '[General]\nshowDisk=true\nshowSensors=true\n' >"$settings/orvelle/orvelle.conf"
 program_process=""
 finish() {
   [ -z "$program_process" ] || kill "$program_process" 2>/dev/null || true
@@ -30,23 +38,51 @@ xsetroot -solid '#3a4a5c'
 QT_LOGGING_RULES="orvelle.sample.debug=true" "$program" 2>"$log" &
 program_process=$!
 
-sampled_or_ended() { grep -q 'cycle 2' "$log" || ! kill -0 "$program_process"; }
+# Processes are looked at in the first and fourth cycle; only then is it known what they use.
+sampled_or_ended() { grep -q 'cycle 4' "$log" || ! kill -0 "$program_process"; }
 wait_until 30 sampled_or_ended || true
-if ! grep -q 'cycle 2' "$log"; then
-  echo "The program did not sample twice within 30 seconds; it said:" >&2
+if ! grep -q 'cycle 4' "$log"; then
+  echo "The program did not sample four times within 30 seconds; it said:" >&2
   cat "$log" >&2
   exit 1
 fi
 sleep 0.5 # the picture follows the sample
 
+# picture FILE WINDOW [OPTION...]
 picture() {
-  import -window root "$@"
-  echo "picture: $(readlink -f "${!#}")"
+  local file=$pictures/$1.png window=$2; shift 2
+  import -window "$window" "$@" "$file"
+  [ "$(identify -format %k "$file")" -gt 1 ] || { echo "The picture $file is empty" >&2; exit 1; }
+  echo "picture: $(readlink -f "$file")"
 }
-picture "$pictures/desktop.png"
-picture -crop 1280x22+0+0 +repage "$pictures/bar.png"
-[ "$(identify -format %k "$pictures/bar.png")" -gt 1 ] || { echo "The picture of the bar is empty" >&2; exit 1; }
-grep 'cycle 2' "$log"
+
+# wait_for_window NAME: leaves the id of the window "Orvelle NAME" in `window`, once it is at rest.
+wait_for_window() {
+  window=""
+  find_window() { window=$(xdotool search --onlyvisible --name "^Orvelle $1\$" | tail -1) && [ -n "$window" ]; }
+  if ! wait_until 10 find_window "$1"; then
+    echo "The window \"Orvelle $1\" did not open within 10 seconds; the program said:" >&2
+    grep -v 'orvelle.sample' "$log" >&2 || true
+    exit 1
+  fi
+  sleep 0.8 # it fades in, and its charts rise
+}
+
+picture desktop root
+picture bar root -crop 1280x22+0+0 +repage
+left=$bar_left
+for item in "${items[@]}"; do
+  read -r name length <<<"$item"
+  xdotool mousemove $((left + length / 2)) 11 click 1
+  wait_for_window "$name"
+  picture "panel-${name,,}" "$window"
+  left=$((left + length))
+done
+# The gear at the end of a panel opens the settings.
+xdotool mousemove --window "$window" 294 478 click 1
+wait_for_window Settings
+picture settings "$window"
+grep 'cycle 4' "$log"
 
 kill -TERM "$program_process"
 status=0
