@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# windows.sh ORVELLE: what the windows of the running program cost, in about three minutes, on a virtual display:
+# windows.sh ORVELLE: what the windows of the running program cost, in about five minutes, on a virtual display:
 # how long each takes from the click to its first frame, the memory with a panel open, the CPU time of an open panel
 # and of the program with everything closed, the latter beside polybar with the same modules. Prints a Markdown
 # table.
@@ -37,6 +37,7 @@ cpu_percent() {
       'BEGIN {printf "%.3f ", nanoseconds / seconds / 1e7}'
     before=("${before[@]:1}")
   done
+  echo
 }
 
 start_program() {
