@@ -14,6 +14,7 @@ namespace orvelle {
 namespace {
 
 constexpr std::chrono::milliseconds longestLockWait{500};
+constexpr std::chrono::milliseconds namelessLockAge{200};
 
 bool isFolderWritable(const QString& filePath) {
     return QFileInfo(QFileInfo(filePath).path()).isWritable();
@@ -25,7 +26,14 @@ bool isLockFree(const QString& filePath) {
     const QFileInfo lock(lockPath);
     if (!lock.exists() && !lock.isSymLink())
         return true;
-    return lock.isFile() && QLockFile(lockPath).tryLock(longestLockWait);
+    if (!lock.isFile())
+        return false;
+    QLockFile abandoned(lockPath);
+    // A program names itself in its lock as soon as it has made it. One that was ended in between would keep
+    // everybody out for half a minute.
+    if (lock.size() == 0)
+        abandoned.setStaleLockTime(namelessLockAge);
+    return abandoned.tryLock(longestLockWait);
 }
 
 /// Whether saving should succeed. Values that QSettings fails to save stay pending in it for good, also when

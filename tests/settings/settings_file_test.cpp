@@ -106,6 +106,14 @@ TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
     EXPECT_TRUE(write());
 }
 
+TEST_F(SettingsFileTest, ALockWhoseProgramEndedBeforeItNamedItselfIsSoonTakenAway) {
+    QFile lock(settings.path() + u".lock"_s);
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(write());
+    EXPECT_EQ(settings.text(), "[General]\na=true\n");
+    EXPECT_FALSE(lock.exists());
+}
+
 TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
     QLockFile lock(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock.lock());
