@@ -1,0 +1,66 @@
+"""Ends a program that changes settings in the middle of its work, many times over.
+
+    settings_kills.py CHANGER FILE KILLS
+
+Whenever it ends, the file holds every change that was made, whole, and of the next one all or nothing.
+"""
+
+import os
+import random
+import signal
+import subprocess
+import sys
+import time
+
+import settings_text
+
+SETTING_COUNT = 4
+LONGEST_LIFE_SECONDS = 0.03
+
+
+def change(values, number):
+    """What the changer does with this number."""
+    turn = number // SETTING_COUNT
+    key, value = [("selectedThemeId", f"theme-{turn}"), ("customCPUColorHex", f"#{turn:06x}"),
+                  ("menuBarDisplayStyle", ["miniBars", "dotIndicator"][turn % 2]),
+                  ("compactMode", ["true", "false"][turn % 2])][number % SETTING_COUNT]
+    return {**values, key: value}
+
+
+def run_and_kill(changer, path, first):
+    """The numbers of the changes that were made."""
+    with subprocess.Popen([changer, path, str(first)], stdout=subprocess.PIPE) as program:
+        made = program.stdout.readline()
+        time.sleep(random.uniform(0, LONGEST_LIFE_SECONDS))
+        program.kill()
+        made += program.stdout.read()
+    if program.returncode != -signal.SIGKILL:
+        sys.exit(f"FAILED: the changer ended by itself with {program.returncode}")
+    # The last line may be cut off: that change was made, too, but its number is not known for sure.
+    return [int(line) for line in made.split(b"\n")[:-1]]
+
+
+def main():
+    changer, path, kills = sys.argv[1], sys.argv[2], int(sys.argv[3])
+    seed = int(os.environ.get("ORVELLE_SEED") or time.time_ns() % 1000000)
+    random.seed(seed)
+    print("seed", seed, "(choose one with ORVELLE_SEED)")
+    held, next_number, unfinished = {"untouched": "value"}, 0, 0
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("[General]\nuntouched=value\n")
+    for kill in range(kills):
+        made = run_and_kill(changer, path, next_number)
+        if not made:
+            sys.exit(f"FAILED: run {kill} made no change")
+        for number in made:
+            held = change(held, number)
+        next_number = made[-1] + 1
+        found = settings_text.read(path)
+        if found == change(held, next_number) != held:
+            held, next_number, unfinished = found, next_number + 1, unfinished + 1
+        elif found != held:
+            sys.exit(f"FAILED: run {kill} left {found} instead of {held}")
+    print(f"ok: {kills} sudden ends lost none of {next_number} changes, {unfinished} of them made but not yet told")
+
+
+main()
