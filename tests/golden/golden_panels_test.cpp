@@ -1,7 +1,7 @@
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
 #include "golden_picture.h"
-#include "snapshot/panel_pictures.h"
+#include "snapshot/window_pictures.h"
 #include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
 
@@ -15,9 +15,9 @@ class GoldenPanels : public ::testing::Test {
 protected:
     void expectGoldenPanels(ExampleMachine machine, const QString& name) {
         const auto monitor = exampleMonitor(machine, settings.store);
-        const QList<PanelPicture> panels = panelPictures(*monitor, settings);
+        const QList<WindowPicture> panels = panelPictures(*monitor, settings);
         EXPECT_EQ(panels.size(), 6);
-        for (const PanelPicture& panel : panels)
+        for (const WindowPicture& panel : panels)
             expectGoldenPicture(panel.image,
                                 sheetFileName(panel.name + name, panel.image.devicePixelRatio()));
     }
