@@ -1,0 +1,27 @@
+#!/bin/bash
+# The real program's settings window: each of its controls, what they store, and what is seen of it.
+#
+#   settings_choices_test.sh ORVELLE
+
+orvelle=$1
+source "$(dirname "$0")/desktop.sh"
+unset ${!QT_@} WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
+source "$(dirname "$0")/accessibility_bus.sh"
+requireTools Xvfb openbox xprop xdotool import
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
+export QT_FORCE_STDERR_LOGGING=1
+
+start_x_server 1280x800 && start_window_manager || exit 1
+startAccessibilityBus
+"$orvelle" 2>"$workDirectory/log" &
+orvellePid=$!
+ownedPids+=("$orvellePid")
+assist settings_choices.py "$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+[[ -f $XDG_CONFIG_HOME/autostart/orvelle.desktop ]] || fail "the program starts at login"
+kill -TERM "$orvellePid"
+wait "$orvellePid"
+expectEqual "the program ends with status" 0 $?
+((failures == 0)) || cat "$workDirectory/log"
+stopAccessibilityBus
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
