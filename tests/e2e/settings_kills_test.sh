@@ -1,12 +1,23 @@
 #!/bin/bash
-# A program that is ended without warning while it changes settings: what was changed is kept, and kept whole.
+# Programs that are ended without warning while they change settings: what was changed is kept, and kept whole.
 #
 #   settings_kills_test.sh ORVELLE SETTINGS_CHANGER
 
+orvelle=$1
 changer=$2
 source "$(dirname "$0")/desktop.sh"
-requireTools python3
+unset ${!QT_@} WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
+source "$(dirname "$0")/accessibility_bus.sh"
+requireTools Xvfb openbox xprop
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
+export QT_FORCE_STDERR_LOGGING=1
 
-python3 -B "$(dirname "$0")/settings_kills.py" "$changer" "$workDirectory/changed.conf" 200 || fail "changes are kept"
+assist settings_kills.py "$changer" "$workDirectory/changed.conf" 200
+
+start_x_server 1280x800 && start_window_manager || exit 1
+startAccessibilityBus
+assist settings_program_kills.py "$orvelle" "$XDG_CONFIG_HOME/orvelle/orvelle.conf" 5 2>"$workDirectory/log"
+((failures == 0)) || cat "$workDirectory/log"
+stopAccessibilityBus
 echo "$failures failures in $SECONDS seconds"
 ((failures == 0))
