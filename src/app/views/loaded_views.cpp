@@ -4,11 +4,14 @@
 #include <QLibrary>
 
 #include <cstdio>
+#include <malloc.h>
 
 namespace orvelle {
 
 // The module stays loaded: what it registers with Qt cannot be taken back.
 std::unique_ptr<Views> loadViews(const ViewContext& context) {
+    // Left alone, the heap takes in the pictures of windows once one of them has been freed, and keeps them.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     QLibrary module(QCoreApplication::applicationDirPath() +
                     QStringLiteral("/../lib/orvelle/liborvelle_views"));
     const auto makeViews = reinterpret_cast<decltype(&orvelleMakeViews)>(module.resolve(makeViewsSymbol));
