@@ -1,6 +1,5 @@
 """The settings file as the end-to-end tests read it, without any help of the program."""
 
-
 import os
 
 
