@@ -8,17 +8,17 @@ Rectangle {
     required property string text
 
     visible: text !== ""
-    implicitHeight: visible ? label.implicitHeight + 16 : 0
+    implicitHeight: text !== "" ? label.implicitHeight + 16 : 0
     color: Look.faded(Look.red, 0.25)
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 
     PlainText {
         id: label
-        anchors.fill: parent
-        anchors.leftMargin: 16
-        anchors.rightMargin: 16
-        anchors.topMargin: 8
+        // Without a height of its own: an elided text measures itself by the height that it is given.
+        x: 16
+        y: 8
+        width: banner.width - 2 * x
         text: banner.text
         weight: Font.Medium
         wrapMode: Text.Wrap

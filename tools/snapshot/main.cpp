@@ -1,6 +1,5 @@
 // orvelle-snapshot: paints every view into picture files, without a window.
 
-#include "charts/motion.h"
 #include "common/sampling.h"
 #include "core/system_monitor.h"
 #include "snapshot/sheet_file.h"
@@ -45,7 +44,6 @@ int paintSheets(const SnapshotArguments& arguments) {
         return fail(error->message, exitFailed);
     SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
     settings.store.setSelectedThemeId(arguments.theme);
-    Motion::shared().setReduced(true); // so that everything stands where it would come to rest
     const auto windows = panelPictures(monitor, settings) << settingsPicture(settings);
     for (const WindowPicture& window : windows) {
         if (const auto error =

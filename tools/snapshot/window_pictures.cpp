@@ -1,6 +1,7 @@
 #include "snapshot/window_pictures.h"
 
 #include "app/modules.h"
+#include "charts/motion.h"
 #include "core/system_monitor.h"
 #include "look/quick/quick_engine.h"
 #include "panels/panel_factory.h"
@@ -15,6 +16,12 @@
 
 namespace orvelle {
 namespace {
+
+/// An engine under which everything stands where it would come to rest.
+std::unique_ptr<QQmlEngine> makeStillEngine() {
+    Motion::shared().setReduced(true);
+    return makeEngine();
+}
 
 /// Gives the window the height of everything that could be scrolled to.
 void growToContent(QQuickView& window, const QQuickItem& scroller) {
@@ -32,7 +39,7 @@ QImage pictureOf(QQuickView& window) {
 }
 
 QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settings) {
-    const std::unique_ptr<QQmlEngine> engine = makeEngine();
+    const std::unique_ptr<QQmlEngine> engine = makeStillEngine();
     PanelFactory factory(
         *engine,
         {.monitor = monitor, .settings = settings.store, .themes = settings.themes, .openSettings = [] {}});
@@ -48,7 +55,7 @@ QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settin
 }
 
 WindowPicture settingsPicture(FreshSettings& settings) {
-    const std::unique_ptr<QQmlEngine> engine = makeEngine();
+    const std::unique_ptr<QQmlEngine> engine = makeStillEngine();
     const std::unique_ptr<QQuickView> window =
         makeSettingsView(*engine, {.settings = settings.store, .themes = settings.themes, .quitApp = [] {}});
     window->show();
