@@ -6,8 +6,7 @@
 
 #include <optional>
 
-/// The text of a file in an autostart folder, after the Desktop Entry Specification and the Desktop
-/// Application Autostart Specification of freedesktop.org.
+/// The text of a file in an autostart folder: a desktop entry as freedesktop.org describes it.
 namespace orvelle {
 
 /// What of an entry decides whether a desktop starts it.
