@@ -55,6 +55,8 @@ Rectangle {
             spacing: 6
             PlainText {
                 text: PanelRules.byteSizeText(PanelRules.volumeUsedBytes(card.volume)) + " used"
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
                 Layout.fillWidth: true
@@ -62,6 +64,8 @@ Rectangle {
             }
             PlainText {
                 text: PanelRules.byteSizeText(card.volume.freeSpace) + " free"
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
                 horizontalAlignment: Text.AlignHCenter
@@ -70,6 +74,8 @@ Rectangle {
             }
             PlainText {
                 text: PanelRules.byteSizeText(card.volume.totalSpace) + " total"
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
                 horizontalAlignment: Text.AlignRight

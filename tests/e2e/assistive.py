@@ -11,7 +11,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE_SECONDS = 15
+PATIENCE_SECONDS = 60
 Role = Atspi.Role
 State = Atspi.StateType
 

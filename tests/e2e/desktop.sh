@@ -3,7 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 
 readonly skipped=77
-readonly patienceSeconds=15
+readonly patienceSeconds=60
 
 workDirectory=$(mktemp -d)
 ownedPids=()

@@ -72,7 +72,7 @@ TEST_P(SheetAtScale, ShowsEveryRowOnEveryBackground) {
     const int oneBackground = picture(sheet).height();
     sheet.backgrounds = {SheetBackground::dark, SheetBackground::light};
     const QImage image = picture(sheet);
-    EXPECT_EQ(image.height(), 2 * oneBackground);
+    EXPECT_NEAR(image.height(), 2 * oneBackground, 1); // a caption may end within a pixel
     EXPECT_EQ(countPixels(image, Qt::red), 2 * pixels(20, 10).width() * pixels(20, 10).height());
     EXPECT_LT(image.pixelColor(0, 0).lightness(), 50);
     EXPECT_GT(image.pixelColor(0, image.height() - 1).lightness(), 200);
