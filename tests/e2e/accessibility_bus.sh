@@ -14,9 +14,6 @@ if [[ -z $python ]]; then
 fi
 
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory NO_AT_BRIDGE=1
-# The leak checker of some compilers now and then stumbles over the thread-local storage of the bus' thread, which
-# is just ending; without this it does not look there.
-export ASAN_OPTIONS=intercept_tls_get_addr=0
 
 # The session's bus starts the accessibility bus when that is first asked for; both end with it.
 startAccessibilityBus() {

@@ -60,22 +60,10 @@ store() {
     { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
 }
 
-# openWindow: sets window and windowPid, once the window manager knows it.
-openWindow() {
-    rm -f "$workDirectory/window"
-    "$client" window >"$workDirectory/window" &
-    windowPid=$!
-    ownedPids+=("$windowPid")
-    waitUntil "a window opens" test -s "$workDirectory/window"
-    window=$(<"$workDirectory/window")
-    windowIsManaged() { rootProperty _NET_CLIENT_LIST | grep -q "$window"; }
-    waitUntil "the window is managed" windowIsManaged
-}
-
 windowIsActive() { [[ $(rootProperty _NET_ACTIVE_WINDOW) == "$window" ]]; }
 
 testDock() {
-    openWindow
+    openOtherWindow "$client"
     wmctrl -i -a "$window"
     waitUntil "the window is active" windowIsActive || rootProperty _NET_ACTIVE_WINDOW
     startOrvelle
@@ -88,11 +76,11 @@ testDock() {
     expectBar "0,0 1280x22" 22 1279
     waitUntil "the window manager reserves the bar's space" workAreaIs "0, 22, 1280, 778"
     expectEqual "the bar has not taken the focus" "$window" "$(rootProperty _NET_ACTIVE_WINDOW)"
-    kill "$windowPid"
+    closeOtherWindow
 }
 
 testMaximizedWindow() {
-    openWindow
+    openOtherWindow "$client"
     wmctrl -i -r "$window" -b add,maximized_vert,maximized_horz
     isMaximizedBelowTheBar() {
         local top height
@@ -100,7 +88,7 @@ testMaximizedWindow() {
         ((height > 600 && top >= 22))
     }
     waitUntil "a maximised window stays below the bar" isMaximizedBelowTheBar || geometry "$window"
-    kill "$windowPid"
+    closeOtherWindow
 }
 
 testVisibility() {

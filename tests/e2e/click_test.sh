@@ -71,23 +71,12 @@ testLeftClick() {
 }
 
 testClickElsewhere() {
-    local window
-    "$client" window >"$workDirectory/window" &
-    local pid=$!
-    ownedPids+=("$pid")
-    waitUntil "another window opens" test -s "$workDirectory/window"
-    window=$(<"$workDirectory/window")
-    otherIsShown() { [[ -n $(geometry "$window") ]]; }
-    waitUntil "the other window is shown" otherIsShown
+    openOtherWindow "$client"
     openMenu
-    local left top
-    IFS=', x' read -r left top _ < <(geometry "$window")
-    xdotool mousemove $((left + 20)) $((top + 20)) click 1
+    clickOtherWindow
     waitUntil "a click on another window closes the menu" menuIsHidden
-    wasClicked() { grep -q pressed "$workDirectory/window"; }
-    waitUntil "and reaches that window" wasClicked
-    kill "$pid"
-    wait "$pid" 2>/dev/null
+    waitUntil "and reaches that window" otherWindowWasClicked
+    closeOtherWindow
 }
 
 testClickOnDesktop() {

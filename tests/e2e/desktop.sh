@@ -5,6 +5,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 readonly skipped=77
 readonly patienceSeconds=60
 
+# The leak checker of some compilers now and then stumbles over the thread-local storage of a thread that is just
+# ending; without this it does not look there.
+export ASAN_OPTIONS=intercept_tls_get_addr=0
+
 workDirectory=$(mktemp -d)
 ownedPids=()
 failures=0
@@ -71,4 +75,30 @@ geometry() {
     [[ -n $1 ]] || return # without an id xwininfo would wait for a click
     xwininfo -id "$1" 2>/dev/null | awk '/Absolute upper-left X/ {x = $NF} /Absolute upper-left Y/ {y = $NF}
         /^ *Width:/ {w = $NF} /^ *Height:/ {h = $NF} END {print x "," y " " w "x" h}'
+}
+
+# openOtherWindow CLIENT: sets window and windowPid once the window manager knows it. What happens to the window is told in
+# the file "window".
+openOtherWindow() {
+    rm -f "$workDirectory/window" # of an earlier one
+    "$1" window >"$workDirectory/window" &
+    windowPid=$!
+    ownedPids+=("$windowPid")
+    waitUntil "another window opens" test -s "$workDirectory/window"
+    window=$(head -1 "$workDirectory/window")
+    windowIsManaged() { rootProperty _NET_CLIENT_LIST | grep -q "$window"; }
+    waitUntil "the other window is managed" windowIsManaged
+}
+
+clickOtherWindow() {
+    local left top
+    IFS=', x' read -r left top _ < <(geometry "$window")
+    xdotool mousemove $((left + 20)) $((top + 20)) click 1
+}
+
+otherWindowWasClicked() { grep -q pressed "$workDirectory/window"; }
+
+closeOtherWindow() {
+    kill "$windowPid"
+    wait "$windowPid" 2>/dev/null
 }

@@ -12,7 +12,7 @@ requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr 
 unset ${!QT_@} WAYLAND_DISPLAY
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 # Freed memory that a sanitizer keeps back would look like growth.
-export ASAN_OPTIONS=quarantine_size_mb=1
+export ASAN_OPTIONS+=:quarantine_size_mb=1
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 
 # Key, title of the panel's window, length of the item: in the order of the bar, which ends 8 points before the edge.
@@ -132,23 +132,13 @@ testClosing() {
 }
 
 testClickOnAnotherProgram() {
-    local window pid left top
-    "$client" window >"$workDirectory/window" &
-    pid=$!
-    ownedPids+=("$pid")
-    waitUntil "another window opens" test -s "$workDirectory/window"
-    window=$(<"$workDirectory/window")
-    otherIsShown() { [[ -n $(geometry "$window") ]]; }
-    waitUntil "the other window is shown" otherIsShown
+    openOtherWindow "$client"
     clickItem 0
     waitUntil "a panel opens" panelIsShown CPU
-    IFS=', x' read -r left top _ < <(geometry "$window")
-    xdotool mousemove $((left + 20)) $((top + 20)) click 1
+    clickOtherWindow
     waitUntil "a click on another window closes the panel" noPanelIsShown
-    wasClicked() { grep -q pressed "$workDirectory/window"; }
-    waitUntil "and reaches that window" wasClicked
-    kill "$pid"
-    wait "$pid" 2>/dev/null
+    waitUntil "and reaches that window" otherWindowWasClicked
+    closeOtherWindow
 }
 
 testVisibilityChange() {
