@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 namespace orvelle {
 namespace {
@@ -59,31 +61,45 @@ QFont baseFont(FontRole role) {
     return font;
 }
 
-/// A pixel size can only be whole; a fractional one goes through points at the screen's resolution, which is
-/// also the one that images and windows report.
-void setLogicalPixelSize(QFont& font, double size) {
-    constexpr double largestSize = 1000;
-    const double pixels = size > 0 ? std::min(size, largestSize) : 1;
+/// The resolution that images and windows report.
+int logicalDotsPerInch() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? qRound(screen->logicalDotsPerInchY()) : 96;
+}
+
+/// A pixel size can only be whole; a fractional one goes through points at the screen's resolution.
+void setLogicalPixelSize(QFont& font, double pixels, int dotsPerInch) {
     if (std::rint(pixels) == pixels) {
         font.setPixelSize(static_cast<int>(pixels));
         return;
     }
     constexpr double pointsPerInch = 72;
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const double dotsPerInch = screen != nullptr ? std::round(screen->logicalDotsPerInchY()) : 96;
     font.setPointSizeF(pixels * pointsPerInch / dotsPerInch);
 }
 
-/// The base fonts are looked up once: asking for the installed families walks the whole font database.
-QFont makeFont(FontRole role, double size, QFont::Weight weight) {
+/// Looked up once: asking for the installed families walks the whole font database.
+const QFont& keptBaseFont(FontRole role) {
     static QHash<FontRole, QFont> bases;
     auto base = bases.find(role);
     if (base == bases.end())
         base = bases.insert(role, baseFont(role));
-    QFont font = *base;
-    setLogicalPixelSize(font, size);
-    font.setWeight(weight);
-    return font;
+    return *base;
+}
+
+/// Made once for each size, because a font that is made anew looks for its glyphs anew.
+QFont makeFont(FontRole role, double size, QFont::Weight weight) {
+    using Wanted = std::tuple<FontRole, double, int, int>;
+    static std::map<Wanted, QFont> fonts;
+    constexpr double largestSize = 1000;
+    const double pixels = size > 0 ? std::min(size, largestSize) : 1;
+    const int dotsPerInch = logicalDotsPerInch();
+    const auto [made, isNew] = fonts.try_emplace(Wanted(role, pixels, weight, dotsPerInch));
+    if (isNew) {
+        made->second = keptBaseFont(role);
+        setLogicalPixelSize(made->second, pixels, dotsPerInch);
+        made->second.setWeight(weight);
+    }
+    return made->second;
 }
 
 } // namespace

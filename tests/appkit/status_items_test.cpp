@@ -18,9 +18,11 @@ class StatusItemsTest : public AppKitTest {};
 /// Half red, half transparent, so that the order of the bytes and the rows is seen.
 class HalfRedView final : public StatusItemView {
 public:
-    void paint(QPainter& painter, const QRectF& bounds) const override {
-        painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
-                         QColor(255, 0, 0));
+    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
+        return {"half red", [](QPainter& painter, const QRectF& bounds) {
+                    painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
+                                     QColor(255, 0, 0));
+                }};
     }
     [[nodiscard]] QString accessibleName() const override { return QStringLiteral("CPU"); }
     [[nodiscard]] QString accessibleText() const override { return QStringLiteral("CPU 12%"); }
@@ -80,13 +82,16 @@ TEST_F(StatusItemsTest, AreDrawnAgainOnAnotherScreen) {
     EXPECT_EQ(drawing->width, 60U);
 }
 
-TEST_F(StatusItemsTest, AreDrawnAgainWhenThereAreNewValues) {
+TEST_F(StatusItemsTest, AreDrawnAgainWhenTheirValuesLookDifferent) {
+    constexpr std::size_t batteryItem = 4;
     Program& running = launch();
     for (std::size_t index = 0; index < everyKey.size(); ++index)
         EXPECT_TRUE(draw(index)) << everyKey[index];
+    running.machine.battery->powerSources = std::vector<std::optional<PowerSourceDescription>>{
+        PowerSourceDescription{.currentCapacity = 50, .isCharging = false}};
     running.monitor.updateCycle();
     for (std::size_t index = 0; index < everyKey.size(); ++index)
-        EXPECT_TRUE(draw(index)) << everyKey[index];
+        EXPECT_EQ(draw(index).has_value(), index == batteryItem) << everyKey[index];
 }
 
 TEST_F(StatusItemsTest, SayTheirValuesToAssistiveTechnology) {

@@ -1,6 +1,7 @@
 #include "app/menu_bar_items/battery_glyph.h"
 
 #include "app/menu_bar_items/battery_item_rules.h"
+#include "app/menu_bar_items/part_key.h"
 #include "look/device_pixels.h"
 #include "look/label_colors.h"
 
@@ -62,7 +63,10 @@ ItemPart batteryGlyphPart(qint64 charge, const QColor& fillColor) {
         paintTerminal(painter, body);
         painter.restore();
     };
-    return {.size = size, .rigidWidth = size.width(), .paint = paint};
+    return {.key = partKey("battery", charge, fillColor),
+            .size = size,
+            .rigidWidth = size.width(),
+            .paint = paint};
 }
 
 } // namespace orvelle

@@ -33,10 +33,6 @@ BatteryMenuBarItem::BatteryMenuBarItem(const BatteryMonitor& monitor, const Sett
     , m_settings(settings)
     , m_themes(themes) {}
 
-void BatteryMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, m_monitor.battery().isPresent ? body() : externalPower());
-}
-
 QString BatteryMenuBarItem::accessibleText() const {
     const BatteryInfo& battery = m_monitor.battery();
     if (!battery.isPresent)
@@ -45,8 +41,10 @@ QString BatteryMenuBarItem::accessibleText() const {
     return QStringLiteral("Battery %1").arg(chargeText(battery)) + charging;
 }
 
-ItemPart BatteryMenuBarItem::body() const {
+ItemPart BatteryMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     const BatteryInfo& battery = m_monitor.battery();
+    if (!battery.isPresent)
+        return externalPower();
     const QColor color =
         batteryColor(battery.currentCapacity, battery.isCharging, m_themes.batteryColor(m_settings));
     const ItemPart icon = iconPart(u"battery.100", color);

@@ -3,6 +3,8 @@
 #include "app/formatters/formatters.h"
 #include "app/menu_bar_items/cpu_item_rules.h"
 #include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/part_key.h"
+#include "charts/bar_rules.h"
 #include "charts/mini_bar.h"
 #include "core/cpu_monitor.h"
 #include "look/device_pixels.h"
@@ -31,6 +33,15 @@ double coreLoad(const CPUMonitor::CoreUsage& core) {
     return core.user + core.system;
 }
 
+std::string coreBarsKey(const QList<BarLook>& bars) {
+    std::string key = partKey("core bars", bars.size());
+    for (const BarLook& bar : bars) {
+        appendToKey(key, visibleLength(barHeight(bar.ratio, coreBarsHeight)));
+        appendToKey(key, bar.color);
+    }
+    return key;
+}
+
 ItemPart coreBars(const QList<BarLook>& bars) {
     const double width = coreBarsWidth(bars.size());
     const auto paint = [bars](QPainter& painter, const QRectF& frame) {
@@ -41,7 +52,7 @@ ItemPart coreBars(const QList<BarLook>& bars) {
             MiniBar::paint(painter, onWholePixels(painter, place, gap), bars.at(core));
         }
     };
-    return {.size = {width, coreBarsHeight}, .rigidWidth = width, .paint = paint};
+    return {.key = coreBarsKey(bars), .size = {width, coreBarsHeight}, .rigidWidth = width, .paint = paint};
 }
 
 } // namespace
@@ -51,15 +62,6 @@ CPUMenuBarItem::CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& s
     : m_monitor(monitor)
     , m_settings(settings)
     , m_themes(themes) {}
-
-void CPUMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintWithBars(painter, bounds, bars().looks);
-}
-
-void CPUMenuBarItem::paintWithBars(QPainter& painter, const QRectF& bounds,
-                                   const QList<BarLook>& shown) const {
-    paintCentred(painter, bounds, body(shown));
-}
 
 EasedBars CPUMenuBarItem::bars() const {
     if (m_settings.menuBarDisplayStyle() != MenuBarDisplayStyle::miniBars)
@@ -75,13 +77,13 @@ QString CPUMenuBarItem::accessibleText() const {
     return QStringLiteral("CPU %1").arg(formatPercent(m_monitor.totalUsage()));
 }
 
-ItemPart CPUMenuBarItem::body(const QList<BarLook>& bars) const {
+ItemPart CPUMenuBarItem::body(const QList<BarLook>& shown) const {
     const QColor color = m_themes.cpuColor(m_settings);
     const ItemPart icon = iconPart(u"cpu", color);
     const ItemPart usage = valuePart(formatPercent(m_monitor.totalUsage()));
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return row({icon, coreBars(bars)}, spacing);
+        return row({icon, coreBars(shown)}, spacing);
     case MenuBarDisplayStyle::textOnly:
         return usage;
     case MenuBarDisplayStyle::iconAndText:

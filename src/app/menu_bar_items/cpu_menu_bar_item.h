@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/item_part.h"
-#include "app/shell/status_item_view.h"
+#include "app/menu_bar_items/module_item_view.h"
 
 namespace orvelle {
 
@@ -11,18 +10,16 @@ class ThemeManager;
 
 /// The CPU module's place in the menu bar: total usage, a bar or a dot for each core, or the usage history.
 /// What it refers to must outlive it.
-class CPUMenuBarItem final : public StatusItemView {
+class CPUMenuBarItem final : public ModuleItemView {
 public:
     CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
-    void paint(QPainter& painter, const QRectF& bounds) const override;
     [[nodiscard]] EasedBars bars() const override;
-    void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override;
     [[nodiscard]] QString accessibleName() const override { return QStringLiteral("CPU"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& bars) const;
+    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
     [[nodiscard]] ItemPart coreDots(const QColor& color) const;
 
     const CPUMonitor& m_monitor;

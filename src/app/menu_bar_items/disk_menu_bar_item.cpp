@@ -23,17 +23,13 @@ DiskMenuBarItem::DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore
     , m_settings(settings)
     , m_themes(themes) {}
 
-void DiskMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, body());
-}
-
 QString DiskMenuBarItem::accessibleText() const {
     const QString usedText = used() ? QStringLiteral(" %1").arg(formatPercent(*used())) : QString();
     return QStringLiteral("Disk%1, read %2, write %3")
         .arg(usedText, formatRate(m_monitor.diskIO().readSpeed), formatRate(m_monitor.diskIO().writeSpeed));
 }
 
-ItemPart DiskMenuBarItem::body() const {
+ItemPart DiskMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     const QColor color = m_themes.diskColor(m_settings);
     const ItemPart icon = iconPart(u"internaldrive", color);
     switch (m_settings.menuBarDisplayStyle()) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/item_part.h"
-#include "app/shell/status_item_view.h"
+#include "app/menu_bar_items/module_item_view.h"
 
 #include <optional>
 
@@ -13,16 +12,15 @@ class ThemeManager;
 
 /// The disk module's place in the menu bar: how full the first volume is, and whether the disks are being
 /// read and written. What it refers to must outlive it.
-class DiskMenuBarItem final : public StatusItemView {
+class DiskMenuBarItem final : public ModuleItemView {
 public:
     DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
-    void paint(QPainter& painter, const QRectF& bounds) const override;
     [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Disk"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:
-    [[nodiscard]] ItemPart body() const;
+    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
     /// The used share of the first volume; nothing while none is mounted.
     [[nodiscard]] std::optional<double> used() const;
     /// `parts` and, when a volume is mounted, how full the first one is.

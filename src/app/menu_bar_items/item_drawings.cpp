@@ -1,6 +1,7 @@
 #include "app/menu_bar_items/item_drawings.h"
 
 #include "app/menu_bar_items/item_rules.h"
+#include "app/menu_bar_items/part_key.h"
 #include "charts/canvas.h"
 #include "charts/sparkline_view.h"
 #include "look/device_pixels.h"
@@ -12,6 +13,8 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 
 namespace orvelle {
 namespace {
@@ -21,8 +24,8 @@ constexpr double trackOpacity = 0.15;
 constexpr double levelOpacity = 0.8;
 constexpr double historyFillOpacity = 0.15;
 
-ItemPart rigidPart(const QSizeF& size, std::function<void(QPainter&, const QRectF&)> paint) {
-    return {.size = size, .rigidWidth = size.width(), .paint = std::move(paint)};
+ItemPart rigidPart(std::string key, const QSizeF& size, std::function<void(QPainter&, const QRectF&)> paint) {
+    return {.key = std::move(key), .size = size, .rigidWidth = size.width(), .paint = std::move(paint)};
 }
 
 QPainterPath roundedRect(const QRectF& rect, double cornerRadius) {
@@ -31,11 +34,40 @@ QPainterPath roundedRect(const QRectF& rect, double cornerRadius) {
     return path;
 }
 
+struct TextExtent {
+    QSizeF size;
+    double capHeight = 0;
+};
+
+/// Texts are measured once and remembered while they recur: to measure one costs as much as to paint it.
+TextExtent textExtent(const QString& text, const QFont& font) {
+    constexpr std::size_t mostRemembered = 64;
+    static std::unordered_map<std::string, TextExtent> remembered;
+    if (remembered.size() >= mostRemembered)
+        remembered.clear();
+    const auto [found, isNew] = remembered.try_emplace(partKey("text", QStringView(text), font));
+    if (isNew) {
+        const QFontMetricsF metrics(font);
+        found->second = {{metrics.horizontalAdvance(text), metrics.height()}, metrics.capHeight()};
+    }
+    return found->second;
+}
+
+std::string sparklineKey(const SparklineView& line) {
+    return partKey("sparkline", line.data, line.maxValue, line.lineColor, line.fillColor, line.lineWidth,
+                   line.width, line.height);
+}
+
+std::string sparklineKey(const DualSparklineView& lines) {
+    return partKey("two sparklines", lines.topData, lines.bottomData, lines.topColor, lines.bottomColor,
+                   lines.width, lines.height);
+}
+
 } // namespace
 
 ItemPart symbolPart(QStringView name, double fontSize, const QColor& color) {
     const double side = symbolExtent(fontSize);
-    return rigidPart({side, side},
+    return rigidPart(partKey("symbol", name, fontSize, color), {side, side},
                      [name = name.toString(), fontSize, color](QPainter& painter, const QRectF& frame) {
                          paintSymbol(painter, name, frame.center(), fontSize, color);
                      });
@@ -46,9 +78,9 @@ ItemPart iconPart(QStringView name, const QColor& color) {
 }
 
 ItemPart textPart(const QString& text, const QFont& font, const QColor& color) {
-    const QFontMetricsF metrics(font);
-    const QSizeF size(metrics.horizontalAdvance(text), metrics.height());
-    const double capHeight = metrics.capHeight();
+    const TextExtent extent = textExtent(text, font);
+    const QSizeF size = extent.size;
+    const double capHeight = extent.capHeight;
     const auto paint = [=](QPainter& painter, const QRectF& frame) {
         const QPointF baseline(frame.left(), frame.center().y() + capHeight / 2);
         painter.save();
@@ -61,7 +93,10 @@ ItemPart textPart(const QString& text, const QFont& font, const QColor& color) {
         painter.drawText(QPointF(0, 0), text);
         painter.restore();
     };
-    return {.size = size, .rigidWidth = 0, .paint = paint};
+    return {.key = partKey("text", QStringView(text), font, color),
+            .size = size,
+            .rigidWidth = 0,
+            .paint = paint};
 }
 
 ItemPart valuePart(const QString& text, double fontSize) {
@@ -71,7 +106,7 @@ ItemPart valuePart(const QString& text, double fontSize) {
 ItemPart dotsPart(const QList<QColor>& colors, double diameter) {
     const auto count = static_cast<double>(colors.size());
     const double width = std::max(0.0, count * (diameter + dotSpacing) - dotSpacing);
-    return rigidPart({width, diameter}, [colors, diameter](QPainter& painter, const QRectF& frame) {
+    const auto paint = [colors, diameter](QPainter& painter, const QRectF& frame) {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
@@ -82,33 +117,37 @@ ItemPart dotsPart(const QList<QColor>& colors, double diameter) {
             dot.translate(diameter + dotSpacing, 0);
         }
         painter.restore();
-    });
+    };
+    return rigidPart(partKey("dots", colors, diameter), {width, diameter}, paint);
 }
 
 ItemPart levelBarPart(const QSizeF& size, double cornerRadius, double fraction, const QColor& color) {
-    return rigidPart(size, [=](QPainter& painter, const QRectF& frame) {
+    const auto paint = [=](QPainter& painter, const QRectF& frame) {
         const QPainterPath track = roundedRect(frame, cornerRadius);
         const double width = frame.width() * std::clamp(fraction, 0.0, 1.0);
-        const QPainterPath level =
-            roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, cornerRadius);
+        QPainterPath level = roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, cornerRadius);
+        // A low level is narrower than the track's corners are round; it must not stick out of them.
+        if (width < 2 * cornerRadius)
+            level = level.intersected(track);
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillPath(track, withOpacity(LabelColors::primary, trackOpacity));
-        // A low level is narrower than the track's corners are round; it must not stick out of them.
-        painter.fillPath(level.intersected(track), withOpacity(color, levelOpacity));
+        painter.fillPath(level, withOpacity(color, levelOpacity));
         painter.restore();
-    });
+    };
+    const double visibleWidth = visibleLength(size.width() * std::clamp(fraction, 0.0, 1.0));
+    return rigidPart(partKey("level", size, cornerRadius, visibleWidth, color), size, paint);
 }
 
 ItemPart sparklinePart(const SparklineView& sparkline) {
     return rigidPart(
-        {sparkline.width, sparkline.height},
+        sparklineKey(sparkline), {sparkline.width, sparkline.height},
         [sparkline](QPainter& painter, const QRectF& frame) { sparkline.paint(painter, frame); });
 }
 
 ItemPart sparklinePart(const DualSparklineView& sparkline) {
     return rigidPart(
-        {sparkline.width, sparkline.height},
+        sparklineKey(sparkline), {sparkline.width, sparkline.height},
         [sparkline](QPainter& painter, const QRectF& frame) { sparkline.paint(painter, frame); });
 }
 

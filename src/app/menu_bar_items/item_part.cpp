@@ -1,5 +1,6 @@
 #include "app/menu_bar_items/item_part.h"
 
+#include "app/menu_bar_items/part_key.h"
 #include "look/device_pixels.h"
 
 #include <algorithm>
@@ -21,6 +22,12 @@ double condensedWidth(const ItemPart& part, double share) {
     return part.rigidWidth + share * (part.size.width() - part.rigidWidth);
 }
 
+std::string keyOfAll(std::string key, const QList<ItemPart>& parts) {
+    for (const ItemPart& part : parts)
+        appendToKey(key, part.key);
+    return key;
+}
+
 /// How far text must be condensed for `part` to be `width` wide.
 double condensedShare(const ItemPart& part, double width) {
     const double text = part.size.width() - part.rigidWidth;
@@ -38,6 +45,7 @@ void paintSnapped(QPainter& painter, const ItemPart& part, const QRectF& frame) 
 
 ItemPart row(QList<ItemPart> parts, double spacing) {
     ItemPart result;
+    result.key = keyOfAll(partKey("row", spacing), parts);
     const double gaps = spacing * static_cast<double>(std::max<qsizetype>(parts.size() - 1, 0));
     result.rigidWidth = gaps;
     double height = 0;
@@ -61,6 +69,7 @@ ItemPart row(QList<ItemPart> parts, double spacing) {
 
 ItemPart column(QList<ItemPart> parts, double spacing, ColumnAlignment alignment) {
     ItemPart result;
+    result.key = keyOfAll(partKey("column", spacing, static_cast<int>(alignment)), parts);
     double height = spacing * static_cast<double>(std::max<qsizetype>(parts.size() - 1, 0));
     double width = 0;
     for (const ItemPart& part : parts) {

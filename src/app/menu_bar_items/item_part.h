@@ -5,6 +5,7 @@
 #include <QSizeF>
 
 #include <functional>
+#include <string>
 
 /// How the menu-bar items are laid out: parts that know the size they want, put in rows and columns. Lengths
 /// are in points.
@@ -13,6 +14,7 @@ namespace orvelle {
 /// A piece of an item. It paints within the rectangle that it is given, which has its height and is as wide
 /// as the part wants, or narrower where the item does not fit.
 struct ItemPart {
+    std::string key; ///< parts with equal keys look the same
     QSizeF size;
     double rigidWidth = 0; ///< the share of the width that cannot be condensed; text has none
     std::function<void(QPainter&, const QRectF&)> paint;

@@ -27,15 +27,6 @@ MemoryMenuBarItem::MemoryMenuBarItem(const MemoryMonitor& monitor, const Setting
     , m_settings(settings)
     , m_themes(themes) {}
 
-void MemoryMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintWithBars(painter, bounds, bars().looks);
-}
-
-void MemoryMenuBarItem::paintWithBars(QPainter& painter, const QRectF& bounds,
-                                      const QList<BarLook>& shown) const {
-    paintCentred(painter, bounds, body(shown.value(0)));
-}
-
 EasedBars MemoryMenuBarItem::bars() const {
     if (m_settings.menuBarDisplayStyle() != MenuBarDisplayStyle::miniBars)
         return {};
@@ -47,10 +38,11 @@ QString MemoryMenuBarItem::accessibleText() const {
     return QStringLiteral("Memory %1").arg(formatPercent(usedFraction(m_monitor.info())));
 }
 
-ItemPart MemoryMenuBarItem::body(const BarLook& bar) const {
+ItemPart MemoryMenuBarItem::body(const QList<BarLook>& shown) const {
     const QColor color = m_themes.memoryColor(m_settings);
     const double used = usedFraction(m_monitor.info());
     const ItemPart icon = iconPart(u"memorychip", color);
+    const BarLook bar = shown.value(0);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
         return row({icon, levelBarPart(barSize, barCornerRadius, bar.ratio, bar.color),

@@ -40,16 +40,12 @@ NetworkMenuBarItem::NetworkMenuBarItem(const NetworkMonitor& monitor, const Sett
     , m_settings(settings)
     , m_themes(themes) {}
 
-void NetworkMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, body());
-}
-
 QString NetworkMenuBarItem::accessibleText() const {
     return QStringLiteral("Network download %1, upload %2")
         .arg(formatRate(m_monitor.totalDownloadSpeed()), formatRate(m_monitor.totalUploadSpeed()));
 }
 
-ItemPart NetworkMenuBarItem::body() const {
+ItemPart NetworkMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     constexpr double widthBesideRates = 32;
     constexpr double widthBesideIcon = 36;
     const ItemPart icon = iconPart(u"network", m_themes.networkColor(m_settings));

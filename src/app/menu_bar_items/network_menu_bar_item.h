@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/item_part.h"
-#include "app/shell/status_item_view.h"
+#include "app/menu_bar_items/module_item_view.h"
 
 namespace orvelle {
 
@@ -11,17 +10,16 @@ class ThemeManager;
 
 /// The network module's place in the menu bar: the upload rate above the download rate, their histories, or a
 /// dot for each direction. What it refers to must outlive it.
-class NetworkMenuBarItem final : public StatusItemView {
+class NetworkMenuBarItem final : public ModuleItemView {
 public:
     NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
                        const ThemeManager& themes);
 
-    void paint(QPainter& painter, const QRectF& bounds) const override;
     [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Network"); }
     [[nodiscard]] QString accessibleText() const override;
 
 private:
-    [[nodiscard]] ItemPart body() const;
+    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
     /// Both rates as bare text.
     [[nodiscard]] ItemPart rates() const;
     /// Both rates, each behind an arrow in the colour of its direction.

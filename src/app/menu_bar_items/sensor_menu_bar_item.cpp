@@ -24,17 +24,13 @@ SensorMenuBarItem::SensorMenuBarItem(const SensorMonitor& monitor, const Setting
     , m_settings(settings)
     , m_themes(themes) {}
 
-void SensorMenuBarItem::paint(QPainter& painter, const QRectF& bounds) const {
-    paintCentred(painter, bounds, body());
-}
-
 QString SensorMenuBarItem::accessibleText() const {
     const double celsius = m_monitor.cpuTemperature();
     return celsius > 0 ? QStringLiteral("Sensors %1").arg(formatTemperature(celsius, false))
                        : QStringLiteral("Sensors: no temperature");
 }
 
-ItemPart SensorMenuBarItem::body() const {
+ItemPart SensorMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     const double celsius = m_monitor.cpuTemperature();
     const QColor color = temperatureColor(celsius, m_themes.sensorColor(m_settings));
     const ItemPart icon = iconPart(u"thermometer.medium", color);

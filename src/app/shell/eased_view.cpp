@@ -41,6 +41,11 @@ EasedView::EasedView(Motion& motion, std::function<void()> repaint)
 void EasedView::replace(std::shared_ptr<const StatusItemView> view, double pixelsPerPoint, bool isOnScreen) {
     const bool mayMove = m_view != nullptr && isOnScreen && !m_motion.isReduced();
     m_view = std::move(view);
+    retarget(pixelsPerPoint, mayMove);
+    refreshPicture();
+}
+
+void EasedView::retarget(double pixelsPerPoint, bool mayMove) {
     const EasedBars bars = m_view->bars();
     if (mayMove && bars.looks == m_bars.target())
         return; // they stand there, or are on their way there
@@ -55,14 +60,22 @@ void EasedView::replace(std::shared_ptr<const StatusItemView> view, double pixel
 }
 
 void EasedView::paint(QPainter& painter, const QRectF& bounds) const {
-    if (m_view != nullptr)
-        m_view->paintWithBars(painter, bounds, m_bars.shown());
+    if (m_picture)
+        m_picture->paint(painter, bounds);
 }
 
 void EasedView::step(double seconds) {
     m_bars.advance(seconds);
     if (m_bars.isSettled())
         m_part.stop();
+    refreshPicture();
+}
+
+void EasedView::refreshPicture() {
+    ItemPicture picture = m_view->picture(m_bars.shown());
+    if (m_picture && picture.key == m_picture->key)
+        return;
+    m_picture = std::move(picture);
     m_repaint();
 }
 

@@ -20,7 +20,7 @@ easeInterval(const QList<BarLook>& from, const QList<BarLook>& to, double fullLe
 /// and the colour that they have to the new ones.
 class EasedView {
 public:
-    /// `repaint` is called when the bars have moved.
+    /// `repaint` is called when the item looks different from before.
     EasedView(Motion& motion, std::function<void()> repaint);
 
     /// Replaces the view. What is not on the screen does not move, and neither does the first view.
@@ -31,15 +31,18 @@ public:
     /// Whether its bars are on their way.
     [[nodiscard]] bool isMoving() const { return m_part.isMoving(); }
 
-    /// Paints the view with its bars as they look now; nothing before the first view.
+    /// Paints the picture that `repaint` was last called for; nothing before the first view.
     void paint(QPainter& painter, const QRectF& bounds) const;
 
 private:
+    void retarget(double pixelsPerPoint, bool mayMove);
     void step(double seconds);
+    void refreshPicture();
 
     Motion& m_motion;
     std::function<void()> m_repaint;
     std::shared_ptr<const StatusItemView> m_view;
+    std::optional<ItemPicture> m_picture; ///< as it was last shown
     Eased<QList<BarLook>> m_bars;
     MovingPart m_part;
 };

@@ -21,7 +21,7 @@ public:
     /// Width in points; it never follows the content.
     [[nodiscard]] virtual double length() const = 0;
 
-    /// Replaces the picture and repaints this item alone.
+    /// Replaces the view; this item alone is repainted, and only when it looks different from before.
     virtual void setView(std::shared_ptr<const StatusItemView> view) = 0;
 
     /// Called when a button that was pressed on the item is let go on it. The handler may remove the item.

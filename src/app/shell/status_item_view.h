@@ -6,29 +6,39 @@
 #include <QPainter>
 #include <QString>
 
+#include <functional>
+#include <string>
+
 namespace orvelle {
 
-/// The bars of a picture that ease to another length when the picture is replaced.
+/// The bars of a picture that ease to another length when the values change.
 struct EasedBars {
     QList<BarLook> looks = {}; ///< in the same order in every picture of one kind
     double fullLength = 0;     ///< of a bar at ratio 1, points
 };
 
-/// What one status item shows: a picture of the present values, without state of its own.
+/// What a status item looks like at one moment.
+struct ItemPicture {
+    std::string key; ///< pictures with equal keys look the same, so that they need not be painted again
+    /// Paints within the rectangle, in points; 22 points high in the menu bar. It holds what it paints, and
+    /// outlives the view.
+    std::function<void(QPainter&, const QRectF&)> paint;
+};
+
+/// What one status item shows: the present values in pictures and words, without state of its own.
 class StatusItemView {
 public:
     virtual ~StatusItemView() = default;
 
-    /// Paints within `bounds`, in points; 22 points high in the menu bar.
-    virtual void paint(QPainter& painter, const QRectF& bounds) const = 0;
-
     /// The bars at the present values; none in a picture that does not ease.
     [[nodiscard]] virtual EasedBars bars() const { return {}; }
 
-    /// Paints the picture with `shown` for its bars, which are in the middle of a change.
-    virtual void paintWithBars(QPainter& painter, const QRectF& bounds,
-                               const QList<BarLook>& /*shown*/) const {
-        paint(painter, bounds);
+    /// The present values with `shown` for the bars, which may be in the middle of a change.
+    [[nodiscard]] virtual ItemPicture picture(const QList<BarLook>& shown) const = 0;
+
+    /// Paints the present values, see `ItemPicture::paint`.
+    void paint(QPainter& painter, const QRectF& bounds) const {
+        picture(bars().looks).paint(painter, bounds);
     }
 
     /// What the item is about, for assistive technology: a name that does not change, for example "CPU".

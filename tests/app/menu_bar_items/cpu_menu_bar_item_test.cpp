@@ -80,7 +80,7 @@ TEST_F(CPUMenuBarItemTest, PaintsTheBarsThatItIsGivenInTheMiddleOfAChange) {
     EXPECT_EQ(item().bars().fullLength, 14);
     const QList<BarLook> moving{{0.8, Qt::magenta}, {0.2, Qt::magenta}};
     const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item().paintWithBars(painter, {0, 0, length, barHeight}, moving);
+        item().picture(moving).paint(painter, {0, 0, length, barHeight});
     });
     EXPECT_GT(countPixels(shown, Qt::magenta), 0);
     EXPECT_EQ(countPixels(shown, SystemColors::red), 0);

@@ -12,10 +12,12 @@ using Frames = QList<QRectF>;
 
 /// Remembers where it was painted, in device pixels.
 ItemPart recorder(const QSizeF& size, double rigidWidth, const std::shared_ptr<Frames>& frames) {
-    return {
-        .size = size, .rigidWidth = rigidWidth, .paint = [frames](QPainter& painter, const QRectF& frame) {
-            frames->append(painter.deviceTransform().mapRect(frame));
-        }};
+    return {.key = {},
+            .size = size,
+            .rigidWidth = rigidWidth,
+            .paint = [frames](QPainter& painter, const QRectF& frame) {
+                frames->append(painter.deviceTransform().mapRect(frame));
+            }};
 }
 
 void paintInto(const QSizeF& place, double ratio, const ItemPart& item) {

@@ -49,7 +49,7 @@ TEST_F(MemoryMenuBarItemTest, PaintsTheLevelThatItIsGivenInTheMiddleOfAChange) {
                                    valuePart(QStringLiteral("42%"), 10)}, // the text does not wait
                                   3);
     const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item.paintWithBars(painter, {0, 0, length, barHeight}, {{0.2, Qt::magenta}});
+        item.picture({{0.2, Qt::magenta}}).paint(painter, {0, 0, length, barHeight});
     });
     EXPECT_EQ(shown, picture(expected, length));
 }

@@ -16,7 +16,9 @@ public:
     WordsView(QString name, QString text)
         : m_name(std::move(name))
         , m_text(std::move(text)) {}
-    void paint(QPainter& /*painter*/, const QRectF& /*bounds*/) const override {}
+    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
+        return {{}, [](QPainter& /*painter*/, const QRectF& /*bounds*/) {}};
+    }
     [[nodiscard]] QString accessibleName() const override { return m_name; }
     [[nodiscard]] QString accessibleText() const override { return m_text; }
 
@@ -216,7 +218,9 @@ TEST_F(BarAccessibilityTest, NoInterfaceIsMadeWhileNobodyListens) {
 
 TEST_F(BarAccessibilityTest, AViewIsNotAskedForWordsWhileNobodyListens) {
     class SilentView final : public StatusItemView {
-        void paint(QPainter& /*painter*/, const QRectF& /*bounds*/) const override {}
+        [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
+            return {{}, [](QPainter& /*painter*/, const QRectF& /*bounds*/) {}};
+        }
         [[nodiscard]] QString accessibleName() const override { return {}; }
         [[nodiscard]] QString accessibleText() const override {
             ADD_FAILURE() << "nobody listens";

@@ -16,9 +16,12 @@ public:
         : m_color(color)
         , m_paintCount(paintCount) {}
 
-    void paint(QPainter& painter, const QRectF& bounds) const override {
-        painter.fillRect(bounds.adjusted(-30, 0, 30, 0), m_color);
-        ++m_paintCount;
+    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
+        return {m_color.name().toStdString(),
+                [color = m_color, &paintCount = m_paintCount](QPainter& painter, const QRectF& bounds) {
+                    painter.fillRect(bounds.adjusted(-30, 0, 30, 0), color);
+                    ++paintCount;
+                }};
     }
     [[nodiscard]] QString accessibleName() const override { return {}; }
     [[nodiscard]] QString accessibleText() const override { return QStringLiteral("filled"); }
@@ -35,12 +38,13 @@ public:
         : m_level(level)
         , m_paintCount(paintCount) {}
 
-    void paint(QPainter& painter, const QRectF& bounds) const override {
-        paintWithBars(painter, bounds, bars().looks);
-    }
-    void paintWithBars(QPainter& painter, const QRectF& bounds, const QList<BarLook>& shown) const override {
-        painter.fillRect(bounds.adjusted(0, bounds.height() * (1 - shown.at(0).ratio), 0, 0), Qt::red);
-        ++m_paintCount;
+    [[nodiscard]] ItemPicture picture(const QList<BarLook>& shown) const override {
+        const double ratio = shown.at(0).ratio;
+        return {std::to_string(ratio),
+                [ratio, &paintCount = m_paintCount](QPainter& painter, const QRectF& bounds) {
+                    painter.fillRect(bounds.adjusted(0, bounds.height() * (1 - ratio), 0, 0), Qt::red);
+                    ++paintCount;
+                }};
     }
     [[nodiscard]] EasedBars bars() const override {
         return {.looks = {{m_level, Qt::red}}, .fullLength = 20};
@@ -115,10 +119,20 @@ TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseViewChanged) {
     const int leftBefore = leftCount;
     const int rightBefore = rightCount;
 
-    right.setView(blue);
+    right.setView(std::make_shared<FilledView>(Qt::green, rightCount));
     ASSERT_TRUE(QTest::qWaitFor([&] { return rightCount > rightBefore; }));
     EXPECT_EQ(rightCount, rightBefore + 1);
     EXPECT_EQ(leftCount, leftBefore);
+}
+
+TEST_F(BarWindowTest, PaintsNothingWhenANewViewLooksLikeTheOneBefore) {
+    BarItem& item = bar.addItem(QStringLiteral("cpu"), 60);
+    item.setView(red);
+    showBar();
+    const int before = leftCount;
+    item.setView(std::make_shared<FilledView>(Qt::red, leftCount));
+    QTest::qWait(50);
+    EXPECT_EQ(leftCount, before);
 }
 
 TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseBarsMoveAndOnlyWhileTheyDo) {

@@ -17,12 +17,13 @@ public:
         : m_looks(std::move(looks))
         , m_painted(painted) {}
 
-    void paint(QPainter& painter, const QRectF& bounds) const override {
-        paintWithBars(painter, bounds, m_looks);
-    }
-    void paintWithBars(QPainter& /*painter*/, const QRectF& /*bounds*/,
-                       const QList<BarLook>& shown) const override {
-        m_painted = shown;
+    [[nodiscard]] ItemPicture picture(const QList<BarLook>& shown) const override {
+        std::string key;
+        for (const BarLook& look : shown)
+            key += std::to_string(look.ratio) + look.color.name().toStdString();
+        return {key, [&painted = m_painted, shown](QPainter& /*painter*/, const QRectF& /*bounds*/) {
+                    painted = shown;
+                }};
     }
     [[nodiscard]] EasedBars bars() const override { return {.looks = m_looks, .fullLength = 20}; }
     [[nodiscard]] QString accessibleName() const override { return {}; }
@@ -62,6 +63,7 @@ TEST_F(EasedViewTest, ShowsTheFirstViewAtOnce) {
 }
 
 TEST_F(EasedViewTest, EasesToTheBarsOfANewViewInThreeTenthsOfASecond) {
+    repaints = 0;
     replace(0.9, true, Qt::red);
     EXPECT_EQ(shownRatio(), 0.2);
     pass(0.15);
@@ -81,6 +83,16 @@ TEST_F(EasedViewTest, RepaintsNoMoreOnceTheBarsStand) {
     const int before = repaints;
     pass(10);
     EXPECT_EQ(repaints, before);
+}
+
+TEST_F(EasedViewTest, RepaintsOnlyWhatLooksDifferent) {
+    EXPECT_EQ(repaints, 1) << "the first view";
+    replace(0.2);
+    EXPECT_EQ(repaints, 1);
+    replace(0.21);
+    EXPECT_EQ(repaints, 2) << "too short a way to move, and yet it is shown";
+    replace(0.21, true, Qt::green);
+    EXPECT_EQ(repaints, 3);
 }
 
 TEST_F(EasedViewTest, GoesOnWhenTheSameViewComesAgain) {

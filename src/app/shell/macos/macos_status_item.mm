@@ -53,7 +53,6 @@ void MacosStatusItem::setView(std::shared_ptr<const StatusItemView> view) {
     const ReleasePool pool;
     m_view.replace(std::move(view), backingScale(m_hostingView.get()), isOnScreen(m_hostingView.get()));
     [button() setAccessibilityLabel:systemText(m_view.view()->accessibleText())];
-    [m_hostingView.get() setNeedsDisplay:YES];
 }
 
 void MacosStatusItem::paint(QPainter& painter, const QRectF& bounds) {

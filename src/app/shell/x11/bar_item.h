@@ -28,7 +28,6 @@ public:
     [[nodiscard]] double length() const override { return m_length; }
     void setView(std::shared_ptr<const StatusItemView> view) override {
         m_view.replace(std::move(view), m_bar.devicePixelRatio(), m_bar.isExposed());
-        m_changed(*this);
         if (PaintedPart* part = m_accessible.get())
             part->announceDescription();
     }
