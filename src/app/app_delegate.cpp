@@ -45,6 +45,8 @@ void AppDelegate::applicationShouldHandleReopen() {
     checkVisibility(); // a module may have been switched on a moment ago
     if (m_statusItems.isEmpty())
         openSettings();
+    else
+        m_surroundings.statusBar.takeKeyboard();
 }
 
 void AppDelegate::setupStatusItems() {

@@ -50,8 +50,8 @@ public:
     /// Stops both timers; the items stay as they are.
     void applicationWillTerminate();
 
-    /// What a second start of the program does: who has hidden every module gets the settings, which can show
-    /// them again.
+    /// What a second start of the program does: the keyboard moves to the items. Who has hidden every module
+    /// gets the settings, which can show them again.
     void applicationShouldHandleReopen();
 
     /// Recreates all items, in their fixed order, when a module has been switched on or off since the last

@@ -327,12 +327,15 @@ TEST_F(AppDelegateTest, OpensOneSettingsWindowHoweverItIsAskedFor) {
     EXPECT_EQ(windowCalls, (QStringList{QStringLiteral("forward"), QStringLiteral("forward")}));
 }
 
-TEST_F(AppDelegateTest, ASecondStartOpensTheSettingsOnlyWhenNothingIsShown) {
+TEST_F(AppDelegateTest, ASecondStartMovesTheKeyboardToTheItemsOrOpensTheSettingsWhenThereAreNone) {
     delegate.applicationDidFinishLaunching();
     delegate.applicationShouldHandleReopen();
     EXPECT_TRUE(windowCalls.isEmpty());
+    EXPECT_EQ(bar.calls.last(), QStringLiteral("keyboard"));
     showAll(false);
+    bar.calls.clear();
     delegate.applicationShouldHandleReopen();
+    EXPECT_FALSE(bar.calls.contains(QStringLiteral("keyboard")));
     EXPECT_EQ(windowCalls.last(), QStringLiteral("forward"));
 }
 

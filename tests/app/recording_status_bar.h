@@ -99,6 +99,8 @@ public:
         return std::make_unique<Menu>(*this);
     }
 
+    void takeKeyboard() override { calls.append(QStringLiteral("keyboard")); }
+
     [[nodiscard]] QStringList identifiers() const {
         QStringList identifiers;
         for (const auto& item : items)

@@ -3,7 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 
 readonly skipped=77
-readonly patienceSeconds=60
+readonly patienceSeconds=${ORVELLE_PATIENCE:-60}
 
 # The leak checker of some compilers now and then stumbles over the thread-local storage of a thread that is just
 # ending; without this it does not look there.
@@ -68,6 +68,10 @@ expectEqual() {
 # The numbers or names of a window property, separated by ", ".
 property() { xprop -id "$1" -notype "$2" 2>/dev/null | sed -n 's/^[^=]* = //p'; }
 
+windowsTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
+isShown() { [[ -n $(windowsTitled "$1") ]]; }
+isHidden() { ! isShown "$1"; }
+
 rootProperty() { xprop -root -notype "$1" 2>/dev/null | sed -n 's/^[^=#]*[=#] //p'; }
 
 # X,Y WIDTHxHEIGHT in pixels of the root window.
@@ -75,6 +79,14 @@ geometry() {
     [[ -n $1 ]] || return # without an id xwininfo would wait for a click
     xwininfo -id "$1" 2>/dev/null | awk '/Absolute upper-left X/ {x = $NF} /Absolute upper-left Y/ {y = $NF}
         /^ *Width:/ {w = $NF} /^ *Height:/ {h = $NF} END {print x "," y " " w "x" h}'
+}
+
+# xfwm4 finds its settings by a session bus; sets xfwm4OnItsBus, the command that starts it.
+startSessionBus() {
+    dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" >/dev/null 2>&1 &
+    ownedPids+=("$!")
+    waitUntil "a session bus starts" test -s "$workDirectory/bus"
+    xfwm4OnItsBus=(env NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS="$(<"$workDirectory/bus")" xfwm4)
 }
 
 # openOtherWindow CLIENT: sets window and windowPid once the window manager knows it. What happens to the window is told in

@@ -34,9 +34,6 @@ showModules() {
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
 screenWidth() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale }'; }
 
-windowsTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
-isShown() { [[ -n $(windowsTitled "$1") ]]; }
-isHidden() { ! isShown "$1"; }
 panel() { windowsTitled "Orvelle $1" | tail -1; }
 panelIsShown() { isShown "Orvelle $1"; }
 panelIsHidden() { isHidden "Orvelle $1"; }
@@ -217,13 +214,6 @@ onDesktop() {
     start_window_manager "$@" || exit 1
 }
 
-# xfwm4 finds its settings by a session bus.
-startSessionBus() {
-    dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" >/dev/null 2>&1 &
-    ownedPids+=("$!")
-    waitUntil "a session bus starts" test -s "$workDirectory/bus"
-}
-
 showModules true
 onDesktop openbox
 startOrvelle 1
@@ -250,7 +240,6 @@ endOrvelle
 kill "$compositorPid"
 
 startSessionBus
-xfwm4OnItsBus=(env NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS="$(<"$workDirectory/bus")" xfwm4)
 onDesktop xfwm4 "${xfwm4OnItsBus[@]}" --compositor=off
 startOrvelle 1
 testEachPanel

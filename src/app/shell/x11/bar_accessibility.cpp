@@ -39,6 +39,8 @@ public:
         if (!isValid())
             return state;
         state.invisible = !m_bar.isVisible();
+        state.focusable = true;
+        state.focused = m_item.identifier() == m_bar.focusedItem();
         state.hasPopup = true;
         state.pressed = m_item.isHighlighted();
         state.expandable = true;

@@ -2,6 +2,7 @@
 
 #include "app/shell/x11/bar_accessibility.h"
 #include "app/shell/x11/bar_geometry.h"
+#include "settings/system_colors.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,6 +31,18 @@ void paintHighlight(QPainter& painter, const QRectF& bounds) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(highlightColor);
     painter.drawRoundedRect(plate, highlightRadius, highlightRadius);
+    painter.restore();
+}
+
+/// Around the item that keys act on.
+void paintFocusRing(QPainter& painter, const QRectF& bounds) {
+    constexpr double lineWidth = 1.5;
+    const double inset = highlightMargin + lineWidth / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(SystemColors::blue, lineWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(bounds.adjusted(inset, inset, -inset, -inset), highlightRadius, highlightRadius);
     painter.restore();
 }
 
@@ -97,6 +110,20 @@ QRectF BarWindow::desktopBounds(const StatusItem& item) const {
 void BarWindow::setExpanded(const StatusItem& item, bool expanded) {
     if (BarItem* found = find(item))
         found->setExpanded(expanded);
+}
+
+void BarWindow::setFocusedItem(const QString& identifier) {
+    const QString before = std::exchange(m_focusedItem, identifier);
+    if (before == identifier)
+        return;
+    for (std::size_t index = 0; index < m_items.size(); ++index) {
+        const BarItem& item = *m_items[index];
+        if (item.identifier() != before && item.identifier() != identifier)
+            continue;
+        repaintSoon(item.bounds().toAlignedRect());
+        if (item.identifier() == identifier && hasAssistiveListener())
+            announce(*accessibleRoot()->child(static_cast<int>(index)), QAccessible::Focus);
+    }
 }
 
 QAccessibleInterface* BarWindow::accessibleRoot() const {
@@ -190,6 +217,8 @@ void BarWindow::paintItem(QPainter& painter, const BarItem& item) const {
     if (item.isHighlighted())
         paintHighlight(painter, item.bounds());
     item.paint(painter);
+    if (item.identifier() == m_focusedItem)
+        paintFocusRing(painter, item.bounds());
     painter.restore();
 }
 

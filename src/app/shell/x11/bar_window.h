@@ -34,6 +34,11 @@ public:
     /// Tells whether the popover of one of the bar's items is shown; an item that has gone is ignored.
     void setExpanded(const StatusItem& item, bool expanded);
 
+    /// Shows that keys act on the item with this identifier, or on none when it is empty. What is said of an
+    /// item that has gone holds for the next one of that name.
+    void setFocusedItem(const QString& identifier);
+    [[nodiscard]] const QString& focusedItem() const { return m_focusedItem; }
+
     [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
@@ -63,6 +68,7 @@ private:
     std::vector<std::unique_ptr<BarItem>> m_items;
     BarItem* m_pressedItem = nullptr; ///< where a button went down that has not been let go yet
     Qt::MouseButton m_pressedButton = Qt::NoButton;
+    QString m_focusedItem; ///< identifier; empty for none
     QBackingStore m_picture{this};
     QRegion m_pending;
 };

@@ -90,6 +90,7 @@ bool TransientWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && m_window.isExposed() && !std::exchange(m_isPainted, true))
         QMetaObject::invokeMethod(this, &TransientWindow::painted, Qt::QueuedConnection);
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        Q_EMIT dismissed();
         close();
         return true;
     }

@@ -36,6 +36,9 @@ public:
 
 Q_SIGNALS:
     void closed();
+    /// Escape is about to close the window, which still has the keyboard. Whoever wants that next takes it
+    /// now, because afterwards the window manager moves it.
+    void dismissed();
     /// The first picture since the window opened is on the screen.
     void painted();
 

@@ -6,8 +6,9 @@
 
 namespace orvelle {
 
-X11ContextMenu::X11ContextMenu(const BarWindow& bar)
+X11ContextMenu::X11ContextMenu(const BarWindow& bar, std::function<void()> dismissed)
     : m_bar(bar) {
+    QObject::connect(&m_transient, &TransientWindow::dismissed, &m_transient, std::move(dismissed));
     QObject::connect(&m_window, &MenuWindow::chosen, &m_transient,
                      [this](std::size_t index) { choose(index); });
 }

@@ -9,7 +9,8 @@ namespace orvelle {
 /// The menu of an item in the program's own bar.
 class X11ContextMenu final : public ContextMenu {
 public:
-    explicit X11ContextMenu(const BarWindow& bar);
+    /// `dismissed` is called when Escape is about to close the menu.
+    X11ContextMenu(const BarWindow& bar, std::function<void()> dismissed);
 
     void show(const StatusItem& item, std::vector<MenuEntry> entries) override;
     void close() override { m_transient.close(); }

@@ -15,10 +15,12 @@ constexpr std::size_t keptWindowCount = 3;
 
 } // namespace
 
-X11Popover::X11Popover(BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent)
+X11Popover::X11Popover(BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent,
+                       std::function<void()> dismissed)
     : m_bar(bar)
     , m_kept(kept)
-    , m_makeContent(std::move(makeContent)) {
+    , m_makeContent(std::move(makeContent))
+    , m_dismissed(std::move(dismissed)) {
     connect(&m_bar, &QWindow::yChanged, this, &X11Popover::close); // another dock has come or gone
 }
 
@@ -60,6 +62,7 @@ bool X11Popover::makeWindow() {
     m_size = m_window->size();
     m_transient.emplace(*m_window);
     connect(&*m_transient, &TransientWindow::closed, this, [this] { setItem(nullptr); });
+    connect(&*m_transient, &TransientWindow::dismissed, this, [this] { m_dismissed(); });
     connect(&*m_transient, &TransientWindow::painted, this, &X11Popover::logPainted);
     return true;
 }

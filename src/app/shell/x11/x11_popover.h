@@ -23,8 +23,10 @@ class X11Popover final : public QObject, public Popover {
     Q_OBJECT
 
 public:
-    /// `kept` must outlive the object.
-    X11Popover(BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent);
+    /// `kept` must outlive the object. `dismissed` is called when Escape is about to close the popover.
+    X11Popover(
+        BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent,
+        std::function<void()> dismissed = [] {});
     ~X11Popover() override;
 
     [[nodiscard]] bool isShown() const override { return m_item != nullptr; }
@@ -45,6 +47,7 @@ private:
     const StatusItem* m_item = nullptr; ///< under which the popover is shown, or is about to be
     QElapsedTimer m_sinceShow;
     PopoverContent m_makeContent;
+    std::function<void()> m_dismissed;
     std::unique_ptr<QWindow> m_window; ///< null while it is not kept
     QSize m_size;                      ///< wanted by the content
     std::optional<TransientWindow> m_transient;

@@ -6,7 +6,8 @@
 namespace orvelle {
 
 X11StatusBar::X11StatusBar()
-    : m_placement(m_window) {
+    : m_placement(m_window)
+    , m_keyboard(m_window) {
     connect(&m_window, &BarWindow::emptyChanged, this, [this] { m_placement.setShown(!m_window.isEmpty()); });
     connect(&m_window, &BarWindow::painted, this, &StatusBar::firstPainted, Qt::SingleShotConnection);
 }
@@ -20,11 +21,12 @@ void X11StatusBar::removeItem(StatusItem& item) {
 }
 
 std::unique_ptr<Popover> X11StatusBar::makePopover(PopoverContent makeContent) {
-    return std::make_unique<X11Popover>(m_window, m_keptPopovers, std::move(makeContent));
+    return std::make_unique<X11Popover>(m_window, m_keptPopovers, std::move(makeContent),
+                                        [this] { m_keyboard.resume(); });
 }
 
 std::unique_ptr<ContextMenu> X11StatusBar::makeContextMenu() {
-    return std::make_unique<X11ContextMenu>(m_window);
+    return std::make_unique<X11ContextMenu>(m_window, [this] { m_keyboard.resume(); });
 }
 
 std::unique_ptr<StatusBar> makeStatusBar() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/shell/status_bar.h"
+#include "app/shell/x11/bar_keyboard.h"
 #include "app/shell/x11/bar_placement.h"
 #include "app/shell/x11/bar_window.h"
 #include "app/shell/x11/x11_popover.h"
@@ -18,11 +19,13 @@ public:
     void removeItem(StatusItem& item) override;
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
+    void takeKeyboard() override { m_keyboard.take(); }
 
 private:
     BarWindow m_window;
     KeptPopovers m_keptPopovers;
     BarPlacement m_placement;
+    BarKeyboard m_keyboard;
 };
 
 } // namespace orvelle

@@ -1,0 +1,81 @@
+#!/bin/bash
+# The real program in a real X server, by keys alone: a second start moves the keyboard to the items, whose panels and
+# menu then open and close with keys, and Escape gives the keyboard back to the window that had it.
+#
+#   keyboard_test.sh ORVELLE X11_CLIENT
+
+orvelle=$1
+client=$2
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xfwm4 dbus-daemon xprop xwininfo xdotool import
+
+unset ${!QT_@} WAYLAND_DISPLAY
+export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
+
+keyboardIsIn() { [[ $(xdotool getwindowfocus 2>/dev/null) == "$1" ]]; }
+keyboardIsInTitled() { keyboardIsIn "$(windowsTitled "$1" | tail -1)"; }
+# The number that xdotool gives for the id of the other window.
+otherWindow() { printf '%d' "$window"; }
+
+startAgain() {
+    "$orvelle" 2>/dev/null
+    expectEqual "$1" 0 $?
+}
+
+testKeys() {
+    openOtherWindow "$client"
+    xdotool windowfocus --sync "$(otherWindow)"
+    "$orvelle" 2>"$workDirectory/orvelle.log" &
+    local orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the bar appears" isShown Orvelle
+    expectEqual "the other window keeps the keyboard" "$(otherWindow)" "$(xdotool getwindowfocus)"
+
+    startAgain "a second start ends with status"
+    waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle
+    [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/keyboard.png"
+    xdotool key Right Return
+    waitUntil "keys open the panel of the second item" isShown "Orvelle Memory"
+    waitUntil "which has the keyboard" keyboardIsInTitled "Orvelle Memory"
+    xdotool key Escape
+    waitUntil "Escape closes it" isHidden "Orvelle Memory"
+    waitUntil "and the bar has the keyboard again" keyboardIsInTitled Orvelle
+    xdotool key Right Down
+    waitUntil "so that the next panel can be opened" isShown "Orvelle Network"
+    waitUntil "which has the keyboard" keyboardIsInTitled "Orvelle Network"
+    xdotool key Escape
+    waitUntil "Escape closes that one too" isHidden "Orvelle Network"
+    waitUntil "and the bar has the keyboard" keyboardIsInTitled Orvelle
+    xdotool key shift+F10
+    waitUntil "keys open the menu" isShown "Orvelle menu"
+    waitUntil "which has the keyboard" keyboardIsInTitled "Orvelle menu"
+    xdotool key Escape
+    waitUntil "Escape closes the menu" isHidden "Orvelle menu"
+    waitUntil "and the bar has the keyboard" keyboardIsInTitled Orvelle
+    xdotool key Escape
+    waitUntil "Escape gives the keyboard back" keyboardIsIn "$(otherWindow)"
+
+    startAgain "another start ends with status"
+    waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle
+    closeOtherWindow
+    xdotool key Escape
+    keyboardIsElsewhere() { ! keyboardIsInTitled Orvelle; }
+    waitUntil "the bar gives it back even when that window has gone" keyboardIsElsewhere
+
+    kill -TERM "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "the program ends with status" 0 $?
+    expectEqual "it has nothing to complain of" "" "$(<"$workDirectory/orvelle.log")"
+}
+
+start_x_server 1280x800
+start_window_manager || exit 1
+testKeys
+stop_virtual_display
+
+startSessionBus
+start_x_server 1280x800
+start_window_manager "${xfwm4OnItsBus[@]}" --compositor=off || exit 1
+testKeys
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
