@@ -21,6 +21,8 @@ test_packages=(
   libgtest-dev gobjc++ xdotool wmctrl xfwm4 picom locales
   # An accessibility bus and a program that reads it.
   dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
+  # A session manager.
+  libsm-dev libice-dev
 )
 
 # Prints those of the given packages that are installed, one a line.

@@ -5,6 +5,7 @@
 #include "platform/host.h"
 
 #include <QLoggingCategory>
+#include <QSessionManager>
 
 #include <cstdio>
 #include <cstdlib>
@@ -36,6 +37,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
                      &QGuiApplication::quit);
     QObject::connect(&m_application, &QGuiApplication::aboutToQuit, &m_delegate,
                      &AppDelegate::applicationWillTerminate);
+    leaveLoginToItsSwitch();
     logStart();
     logSamples();
     logMotion();
@@ -52,6 +54,14 @@ int OrvelleApp::run() {
     m_delegate.applicationDidFinishLaunching();
     m_launchAtLogin.start();
     return QGuiApplication::exec();
+}
+
+void OrvelleApp::leaveLoginToItsSwitch() {
+    const auto refuseRestart = [](QSessionManager& session) {
+        session.setRestartHint(QSessionManager::RestartNever);
+    };
+    QObject::connect(&m_application, &QGuiApplication::commitDataRequest, &m_delegate, refuseRestart);
+    QObject::connect(&m_application, &QGuiApplication::saveStateRequest, &m_delegate, refuseRestart);
 }
 
 void OrvelleApp::logStart() {

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] int run();
 
 private:
+    /// A session that restores what ran in it would start the program whether or not the user has it start
+    /// at login, and beside the one that the login item starts.
+    void leaveLoginToItsSwitch();
     void logStart();
     void logSamples();
     void logMotion();

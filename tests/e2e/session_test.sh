@@ -1,0 +1,173 @@
+#!/bin/bash
+# The real program in a session: what it does when the user logs out, changes their mind, and logs in again.
+#
+#   session_test.sh ORVELLE SESSION_MANAGER
+
+orvelle=$1
+manager=$2
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
+
+unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
+export QT_FORCE_STDERR_LOGGING=1 ICEAUTHORITY=$workDirectory/authority
+settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
+stateFile=$XDG_STATE_HOME/orvelle/state.conf
+log=$workDirectory/orvelle.log
+session=$workDirectory/session
+
+# store KEY=VALUE...: rewrites the settings file as another program would.
+store() {
+    mkdir -p "$(dirname "$settingsFile")"
+    { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
+}
+hideEveryModule() { store showCPU=false showMemory=false showNetwork=false showBattery=false; }
+
+shownWindows() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
+isShown() { [[ -n $(shownWindows "$1") ]]; }
+isHidden() { ! isShown "$1"; }
+shownBars() { shownWindows Orvelle | wc -l; }
+
+# What the session manager has seen of the program, and how often.
+timesSeen() { grep -c "^$1\$" "$session" 2>/dev/null; }
+isSeen() { (($(timesSeen "$1") >= ${2:-1})); }
+lastProperty() { sed -n "s/^property $1 //p" "$session" | tail -1; }
+
+startSessionManager() {
+    rm -f "$workDirectory/orders" "$session"
+    mkfifo "$workDirectory/orders"
+    "$manager" <"$workDirectory/orders" >"$session" 2>"$workDirectory/session.log" &
+    managerPid=$!
+    ownedPids+=("$managerPid")
+    exec 7>"$workDirectory/orders"
+    waitUntil "a session starts" test -s "$session"
+    export SESSION_MANAGER
+    SESSION_MANAGER=$(head -1 "$session")
+}
+endSessionManager() {
+    exec 7>&-
+    wait "$managerPid"
+    expectEqual "the session manager ends with status" 0 $?
+    [[ ! -s $workDirectory/session.log ]] || cat "$workDirectory/session.log"
+}
+order() { echo "$1" >&7; }
+
+# startOrvelle [ARGUMENT...]
+startOrvelle() {
+    QT_LOGGING_RULES=orvelle.sample.debug=true "$orvelle" "$@" 2>"$log" 7>&- &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the program runs" grep -q 'cycle 1' "$log" || cat "$log"
+    waitUntil "it joins the session" isSeen registered
+    waitUntil "it answers the session manager" isSeen saved
+}
+
+programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
+# expectEnd DESCRIPTION: the program ends by itself, with status 0 and nothing to complain of.
+expectEnd() {
+    local status
+    waitUntil "$1" programIsGone || return
+    wait "$orvellePid"
+    status=$?
+    expectEqual "$1 with status" 0 "$status"
+    expectEqual "$1 without a complaint" "" "$(grep -v '^orvelle.sample: ' "$log")"
+    waitUntil "and leaves the session" isSeen left
+    expectEqual "$1 without a question" 0 "$(timesSeen interacts)"
+}
+
+clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }
+settingsWindow() { shownWindows 'Orvelle Settings' | tail -1; }
+
+openSettings() {
+    clickLastItem 3
+    waitUntil "the menu opens" isShown 'Orvelle menu'
+    xdotool key ctrl+comma
+    waitUntil "the settings open" isShown 'Orvelle Settings'
+}
+
+testLogout() {
+    startSessionManager
+    startOrvelle
+    openSettings
+    xdotool key Tab space
+    waitUntil "a switch is changed" grep -q '^showCPU=false' "$settingsFile"
+    order logout
+    waitUntil "the program is ready for the logout" isSeen saved 2
+    expectEqual "and waits until the session ends" "1 0" "$(shownBars) $(timesSeen left)"
+    # At once before the end, so that only the end itself can still store it.
+    wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
+    waitUntil "the settings window is moved" eval '[[ $(geometry "$(settingsWindow)") == *" 500x520" ]]'
+    order die
+    expectEnd "the end of the session ends the program"
+    expectEqual "a setting is kept" showCPU=false "$(grep '^showCPU=' "$settingsFile")"
+    grep -q '^OrvelleSettings=.* 500 520"$' "$stateFile" || fail "the window's place is kept, not $(cat "$stateFile")"
+    endSessionManager
+    rm "$settingsFile" "$stateFile"
+}
+
+testCancelledLogout() {
+    startSessionManager
+    startOrvelle
+    order logout
+    waitUntil "the program is ready for the logout" isSeen saved 2
+    order cancelled
+    clickLastItem 1
+    waitUntil "after a cancelled logout a click opens a panel" isShown 'Orvelle (CPU|Memory|Network|Battery)'
+    local cycle
+    cycle=$(sed -n 's/.*cycle //p' "$log" | tail -1)
+    waitUntil "and sampling goes on" grep -q "cycle $((cycle + 1))" "$log"
+    order logout
+    waitUntil "the program is ready for a second logout" isSeen saved 3
+    order die
+    expectEnd "the end of the session ends the program with its panel open"
+    endSessionManager
+}
+
+# Whether it starts at login is for its own switch to say, not for a session that is restored.
+testRestart() {
+    local neverRestart=3 seen
+    hideEveryModule
+    startSessionManager
+    startOrvelle -session 10d2a3c4_1600000000_500000
+    expectEqual "the session manager is not to start the program" "$neverRestart" "$(lastProperty RestartStyleHint)"
+    order logout
+    waitUntil "the program is ready for the logout" isSeen saved 2
+    expectEqual "also after a logout" "$neverRestart" "$(lastProperty RestartStyleHint)"
+    order cancelled
+    store showCPU=true
+    waitUntil "the bar appears" isShown Orvelle
+    expectEqual "there is a command all the same" "$orvelle" "$(lastProperty RestartCommand | sed 's/ -session .*//')"
+    # As the autostart entry and a restored session do at the same time.
+    seen=$("$orvelle" -session 10d2a3c4_1600000000_500001 2>&1)
+    expectEqual "a second start by the session manager ends with status" 0 $?
+    [[ $seen == *"already running"* ]] || fail "a second start says that the program runs, not: $seen"
+    expectEqual "there is one bar" 1 "$(shownBars)"
+    order logout
+    waitUntil "the program is ready for the logout" isSeen saved 3
+    order die
+    expectEnd "the end of the session ends the program"
+    endSessionManager
+}
+
+# libICE leaves with exit() when its connection breaks, as Qt does when that to the X server does: nothing is released,
+# and what only the heap of QML refers to looks like leaks.
+testBrokenSession() {
+    startSessionManager
+    ASAN_OPTIONS+=:detect_leaks=0 startOrvelle
+    clickLastItem 1
+    waitUntil "a click opens a panel" isShown 'Orvelle (CPU|Memory|Network|Battery)'
+    kill -KILL "$managerPid"
+    waitUntil "the program ends with a session manager that breaks off" programIsGone
+    wait "$orvellePid"
+    expectEqual "it ends with status" 1 $?
+    expectEqual "and without a report of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$log")"
+    exec 7>&-
+}
+
+start_x_server 1280x800 && start_window_manager || exit 1
+testLogout
+testCancelledLogout
+testRestart
+testBrokenSession
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
