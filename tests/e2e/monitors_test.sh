@@ -1,0 +1,158 @@
+#!/bin/bash
+# The real program on several monitors: its bar, its panels and its menu belong together, and to one monitor.
+#
+#   monitors_test.sh ORVELLE
+
+orvelle=$1
+source "$(dirname "$0")/desktop.sh"
+requireTools Xvfb openbox xprop xwininfo xdotool xrandr
+
+unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
+
+# Titles of the panels, and where the middle of each item is: in points from the right edge of the bar.
+readonly titles=(CPU Memory Network Disk Battery Sensors) middles=(358 293 213 145 90 33)
+
+showEveryModule() {
+    local module
+    mkdir -p "$XDG_CONFIG_HOME/orvelle"
+    echo "[General]" >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+    for module in CPU Memory Network Disk Battery Sensors; do
+        echo "show$module=true" >>"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+    done
+}
+
+# Points as pixels: all that stands here has a whole number of them at these scales.
+pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
+
+# startOrvelle SCALE
+startOrvelle() {
+    scale=$1
+    QT_SCALE_FACTOR=$1 "$orvelle" 2>"$workDirectory/orvelle.log" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+    waitUntil "the bar appears at scale $1" isShown Orvelle || cat "$workDirectory/orvelle.log"
+}
+endOrvelle() {
+    kill -TERM "$orvellePid"
+    wait "$orvellePid"
+    expectEqual "the program ends with status" 0 $?
+    expectEqual "it has nothing to complain of" "" \
+        "$(grep -v 'setNetWmStateOnUnmappedWindow() called on mapped window' "$workDirectory/orvelle.log")"
+}
+
+windowTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1; }
+isShown() { [[ -n $(windowTitled "$1") ]]; }
+isHidden() { ! isShown "$1"; }
+noPanelIsShown() { isHidden 'Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)'; }
+
+# setMonitor NAME OUTPUT GEOMETRY: about a quarter of a millimetre a pixel.
+setMonitor() {
+    local width height left top
+    IFS='x+' read -r width height left top <<<"$3"
+    xrandr --setmonitor "$1" "$width/$((width / 4))x$height/$((height / 4))+$left+$top" "$2" >/dev/null
+}
+
+# expectBar WIDTHxHEIGHT+LEFT+TOP: of the monitor that has it. What follows happens there.
+expectBar() {
+    IFS='x+' read -r monitorWidth monitorHeight monitorLeft monitorTop <<<"$1"
+    barStands() {
+        [[ $(geometry "$(windowTitled Orvelle)") == "$monitorLeft,$monitorTop ${monitorWidth}x$(pixels 22)" ]]
+    }
+    waitUntil "the bar is at the top of the monitor $1" barStands || geometry "$(windowTitled Orvelle)"
+}
+
+joinMonitors() {
+    xrandr --delmonitor other
+    xrandr --delmonitor main
+    expectBar 2000x1200+0+0
+}
+
+# arrange PRIMARY OTHER: divides the one monitor in two. Qt 6.4 takes no notice of a monitor that is replaced by
+# another one of the same name before it has looked, so they are never exchanged at once.
+arrange() {
+    setMonitor '*main' none "$1"
+    setMonitor other screen "$2"
+    expectBar "$1"
+}
+
+itemMiddle() { echo $((monitorLeft + monitorWidth - $(pixels "${middles[$1]}"))); }
+# clickAt X Y BUTTON: in pixels of the screen.
+clickAt() { xdotool mousemove "$1" "$2" click "$3"; }
+# clickItem NUMBER [BUTTON]
+clickItem() { clickAt "$(itemMiddle "$1")" $((monitorTop + $(pixels 11))) "${2:-1}"; }
+
+# isOnMonitor GEOMETRY: and below the bar.
+isOnMonitor() {
+    local left top width height
+    IFS=', x' read -r left top width height <<<"$1"
+    [[ -n $height ]] && ((left >= monitorLeft && left + width <= monitorLeft + monitorWidth)) &&
+        ((top >= monitorTop + $(pixels 22) && top + height <= monitorTop + monitorHeight))
+}
+
+# standsUnder NUMBER MIDDLE_OR_LEFT TITLE: under the item, by its middle or its left edge, as near as the monitor allows.
+standsUnder() {
+    local place left width wanted first last
+    place=$(geometry "$(windowTitled "$3")")
+    isOnMonitor "$place" || return
+    IFS=', x' read -r left _ width _ <<<"$place"
+    wanted=$(itemMiddle "$1")
+    [[ $2 == left ]] && wanted=$((wanted - $(pixels 25))) || wanted=$((wanted - width / 2))
+    first=$((monitorLeft + $(pixels 4))) last=$((monitorLeft + monitorWidth - $(pixels 4) - width))
+    ((wanted > last)) && wanted=$last
+    ((wanted < first)) && wanted=$first
+    (((left - wanted) ** 2 <= 9))
+}
+
+# The items at both ends of the bar, which on a narrow monitor are nearest to the other one.
+testUnderTheItems() {
+    local item
+    for item in 0 5; do
+        clickItem "$item"
+        waitUntil "the ${titles[item]} panel opens" isShown "Orvelle ${titles[item]}"
+        waitUntil "it stands under its item, on that monitor" standsUnder "$item" middle "Orvelle ${titles[item]}" ||
+            geometry "$(windowTitled "Orvelle ${titles[item]}")"
+        clickItem "$item"
+        waitUntil "it closes" noPanelIsShown
+    done
+    clickItem 5 3
+    waitUntil "the menu opens" isShown 'Orvelle menu'
+    waitUntil "it stands under its item, on that monitor" standsUnder 5 left 'Orvelle menu' ||
+        geometry "$(windowTitled 'Orvelle menu')"
+    clickAt $(((monitorLeft + monitorWidth + 100) % screenWidth)) 700 1 # where nothing is, on the other monitor if any
+    waitUntil "a click beside it closes the menu" isHidden 'Orvelle menu'
+}
+
+testChangesOfArrangement() {
+    arrange 500x1200+1500+0 1500x1200+0+0
+    clickItem 0
+    waitUntil "a panel opens" isShown 'Orvelle CPU'
+    joinMonitors
+    waitUntil "the panel closes when its monitor goes" noPanelIsShown
+    testUnderTheItems
+    clickItem 5 3
+    waitUntil "the menu opens" isShown 'Orvelle menu'
+    arrange 900x1000+1100+200 1100x1200+0+0
+    waitUntil "the menu closes when another monitor becomes the primary one" isHidden 'Orvelle menu'
+    testUnderTheItems
+    joinMonitors
+}
+
+showEveryModule
+screenWidth=2000
+start_x_server 2000x1200 && start_window_manager || exit 1
+for factor in 1 2; do
+    startOrvelle "$factor"
+    # On the narrow monitor most panels would reach over the edge.
+    narrow=$(pixels 400)
+    arrange "${narrow}x1200+$((2000 - narrow))+0" "$((2000 - narrow))x1200+0+0"
+    testUnderTheItems
+    joinMonitors
+    arrange "${narrow}x1200+0+0" "$((2000 - narrow))x1200+${narrow}+0"
+    testUnderTheItems
+    joinMonitors
+    [[ $factor != 1 ]] || testChangesOfArrangement
+    endOrvelle
+done
+echo "$failures failures in $SECONDS seconds"
+((failures == 0))
