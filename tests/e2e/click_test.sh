@@ -53,6 +53,9 @@ menuIsInside() {
     ((left >= 0 && left + width <= 1280 && top >= $(pixels 22) && top <= $(pixels 22) + 1 && height > 0))
 }
 
+panelIsShown() { windowIsShown '^Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)$'; }
+panelIsHidden() { ! panelIsShown; }
+
 # keepPicture NAME: for whoever wants to see what was tested.
 keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
 
@@ -66,8 +69,11 @@ testMenu() {
 
 testLeftClick() {
     clickAt 1 "$(lastItemMiddle)" 11
-    sleep 0.3
-    expectEqual "a left click opens no menu" "" "$(menuWindow 2>/dev/null)"
+    waitUntil "a left click opens the panel" panelIsShown
+    expectEqual "and no menu" "" "$(menuWindow 2>/dev/null)"
+    clickAt 1 "$(lastItemMiddle)" 11
+    waitUntil "a second one closes it" panelIsHidden
+    expectEqual "and opens no menu" "" "$(menuWindow 2>/dev/null)"
 }
 
 testClickElsewhere() {
