@@ -96,6 +96,8 @@ void AppDelegate::togglePopover(const StatusItem& item) {
     if (found == m_popovers.end())
         return;
     Popover& popover = *found->second;
+    if (m_contextMenu != nullptr)
+        m_contextMenu->close();
     closePopoversExcept(&popover);
     if (popover.isShown())
         popover.close();

@@ -285,6 +285,14 @@ TEST_F(AppDelegateTest, ClosesThePanelBeforeTheMenuOpens) {
     EXPECT_FALSE(delegate.isPopoverShown(QStringLiteral("cpu")));
 }
 
+TEST_F(AppDelegateTest, ClosesTheMenuBeforeAPanelOpens) {
+    delegate.applicationDidFinishLaunching();
+    bar.items[0]->click(ClickButton::right);
+    bar.calls.clear();
+    bar.items[0]->click(ClickButton::left);
+    EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("close menu"), QStringLiteral("open cpu")}));
+}
+
 TEST_F(AppDelegateTest, MakesThePanelsAnewWithTheItems) {
     delegate.applicationDidFinishLaunching();
     bar.items[0]->click(ClickButton::left);

@@ -76,6 +76,28 @@ testLeftClick() {
     expectEqual "and opens no menu" "" "$(menuWindow 2>/dev/null)"
 }
 
+testClicksOnTheItemOfAnOpenMenu() {
+    openMenu
+    clickAt 3 "$(lastItemMiddle)" 11
+    waitUntil "a right click on its item closes the menu" menuIsHidden
+    sleep 0.3
+    expectEqual "and does not open it again" "" "$(menuWindow 2>/dev/null)"
+    openMenu
+    clickAt 1 "$(lastItemMiddle)" 11
+    waitUntil "a left click on its item closes the menu" menuIsHidden
+    waitUntil "and opens the panel" panelIsShown
+    clickAt 3 "$(lastItemMiddle)" 11
+    waitUntil "a right click closes the panel" panelIsHidden
+    waitUntil "and opens the menu" menuIsShown
+    local before
+    before=$(geometry "$(menuWindow)")
+    clickAt 3 $(($(lastItemMiddle) - 230)) 11
+    menuIsElsewhere() { menuIsShown && [[ $(geometry "$(menuWindow)") != "$before" ]]; }
+    waitUntil "a right click on another item opens the menu there" menuIsElsewhere
+    clickAt 3 $(($(lastItemMiddle) - 230)) 11
+    waitUntil "and a second one closes it" menuIsHidden
+}
+
 testClickElsewhere() {
     openOtherWindow "$client"
     openMenu
@@ -117,6 +139,7 @@ start_x_server 1280x800 && start_window_manager || exit 1
 startOrvelle 1
 testMenu
 testLeftClick
+testClicksOnTheItemOfAnOpenMenu
 testClickElsewhere
 testClickOnDesktop
 testClickOnBar

@@ -9,16 +9,23 @@ namespace orvelle {
 X11ContextMenu::X11ContextMenu(const BarWindow& bar, std::function<void()> dismissed)
     : m_bar(bar) {
     QObject::connect(&m_transient, &TransientWindow::dismissed, &m_transient, std::move(dismissed));
+    QObject::connect(&m_bar, &QWindow::yChanged, &m_transient,
+                     &TransientWindow::close); // another dock has come or gone
+    QObject::connect(&m_transient, &TransientWindow::closed, &m_transient, [this] { m_item = nullptr; });
     QObject::connect(&m_window, &MenuWindow::chosen, &m_transient,
                      [this](std::size_t index) { choose(index); });
 }
 
 void X11ContextMenu::show(const StatusItem& item, std::vector<MenuEntry> entries) {
+    const bool wasShownThere = m_item == &item;
     close();
+    if (wasShownThere)
+        return;
+    m_item = &item;
     m_window.setEntries(std::move(entries));
     QScreen& screen = *m_bar.screen();
-    m_transient.show(screen,
-                     menuGeometry(m_bar.desktopBounds(item), m_window.wantedSize(), screen.geometry()));
+    const QRectF bounds = m_bar.desktopBounds(item);
+    m_transient.show(screen, menuGeometry(bounds, m_window.wantedSize(), screen.geometry()), bounds);
 }
 
 void X11ContextMenu::choose(std::size_t index) {

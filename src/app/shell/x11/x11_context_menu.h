@@ -19,6 +19,7 @@ private:
     void choose(std::size_t index);
 
     const BarWindow& m_bar;
+    const StatusItem* m_item = nullptr; ///< under which the menu is shown
     MenuWindow m_window;
     TransientWindow m_transient{m_window};
 };
