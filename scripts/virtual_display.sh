@@ -13,11 +13,11 @@ wait_until() {
   done
 }
 
-# start_x_server WIDTHxHEIGHT: sets DISPLAY to a server on a number that the server itself found free.
+# start_x_server WIDTHxHEIGHT [OPTION...]: sets DISPLAY to a server on a number that the server itself found free.
 start_x_server() {
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "$1x24" "${@:2}" -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
   x_server_process=$!
   wait_until 20 test -s "$number_file" || true
   DISPLAY=:$(<"$number_file")

@@ -1,9 +1,11 @@
 #!/bin/bash
-# The real program on several monitors: its bar, its panels and its menu belong together, and to one monitor.
+# The real program on several monitors, and on the second of two separate screens of one X server: its bar, its panels
+# and its menu belong together, and to one monitor.
 #
-#   monitors_test.sh ORVELLE
+#   monitors_test.sh ORVELLE X11_CLIENT
 
 orvelle=$1
+client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr
 
@@ -78,7 +80,7 @@ arrange() {
 
 itemMiddle() { echo $((monitorLeft + monitorWidth - $(pixels "${middles[$1]}"))); }
 # clickAt X Y BUTTON: in pixels of the screen.
-clickAt() { xdotool mousemove "$1" "$2" click "$3"; }
+clickAt() { xdotool mousemove --screen "$screenNumber" "$1" "$2" click "$3"; }
 # clickItem NUMBER [BUTTON]
 clickItem() { clickAt "$(itemMiddle "$1")" $((monitorTop + $(pixels 11))) "${2:-1}"; }
 
@@ -138,8 +140,35 @@ testChangesOfArrangement() {
     joinMonitors
 }
 
+# An X server may have screens that are no part of one desktop: no window moves from one to another.
+testSeparateScreen() {
+    stop_virtual_display
+    start_x_server 800x600 -screen 1 1280x800x24
+    DISPLAY+=.1
+    start_window_manager || exit 1
+    screenNumber=1 screenWidth=1280
+    startOrvelle 1
+    expectBar 1280x800+0+0
+    waitUntil "its space is reserved there" eval '[[ $(rootProperty _NET_WORKAREA) == "0, 22, 1280, 778"* ]]'
+    testUnderTheItems
+    clickItem 5 3
+    waitUntil "the menu opens" isShown 'Orvelle menu'
+    expectEqual "the corners of its window are cut off" 1 \
+        "$(xwininfo -shape -id "$(windowTitled 'Orvelle menu')" | grep -c 'Window shape extents')"
+    xdotool key Escape
+    waitUntil "the menu closes" isHidden 'Orvelle menu'
+    "$client" owner _NET_WM_CM_S1 >"$workDirectory/compositor" &
+    ownedPids+=("$!")
+    waitUntil "the screen gets a compositor" test -s "$workDirectory/compositor"
+    clickItem 5 3
+    waitUntil "the menu opens" isShown 'Orvelle menu'
+    expectEqual "with a compositor it paints its corners itself" 0 \
+        "$(xwininfo -shape -id "$(windowTitled 'Orvelle menu')" | grep -c 'Window shape extents')"
+    endOrvelle
+}
+
 showEveryModule
-screenWidth=2000
+screenNumber=0 screenWidth=2000
 start_x_server 2000x1200 && start_window_manager || exit 1
 for factor in 1 2; do
     startOrvelle "$factor"
@@ -154,5 +183,6 @@ for factor in 1 2; do
     [[ $factor != 1 ]] || testChangesOfArrangement
     endOrvelle
 done
+testSeparateScreen
 echo "$failures failures in $SECONDS seconds"
 ((failures == 0))

@@ -5,6 +5,7 @@
 //   x11_client window
 //   x11_client panel HEIGHT      (pixels)
 //   x11_client close WINDOW      asks a window to close, and ends
+//   x11_client owner SELECTION   a window that owns a selection, as a compositor does
 
 #include <xcb/xcb.h>
 
@@ -67,6 +68,7 @@ int main(int argumentCount, char** arguments) {
         return EXIT_SUCCESS;
     }
     const bool isPanel = std::string_view(arguments[1]) == "panel" && argumentCount == 3;
+    const bool isOwner = std::string_view(arguments[1]) == "owner" && argumentCount == 3;
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const std::uint16_t width = isPanel ? screen->width_in_pixels : 400;
     const auto height = static_cast<std::uint16_t>(isPanel ? std::atoi(arguments[2]) : 300);
@@ -78,7 +80,10 @@ int main(int argumentCount, char** arguments) {
                       XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
     if (isPanel)
         becomePanel(connection, window, width, height);
-    xcb_map_window(connection, window);
+    if (isOwner)
+        xcb_set_selection_owner(connection, window, atom(connection, arguments[2]), XCB_CURRENT_TIME);
+    else
+        xcb_map_window(connection, window);
     xcb_flush(connection);
     std::printf("0x%x\n", window);
     std::fflush(stdout);

@@ -17,7 +17,7 @@ constexpr std::chrono::milliseconds burstDuration{50};
 
 std::vector<QRect> pixelsOfScreensOtherThan(const QScreen& screen) {
     std::vector<QRect> others;
-    for (const QScreen* other : QGuiApplication::screens()) {
+    for (const QScreen* other : screen.virtualSiblings()) {
         if (other != &screen)
             others.push_back(screenPixels(other->geometry(), other->devicePixelRatio()));
     }

@@ -11,10 +11,9 @@ namespace {
 
 /// A window that is never shown: what owns a selection must be a window, and what is told something too.
 xcb_window_t createHiddenWindow(xcb_connection_t* connection) {
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
     const xcb_window_t window = xcb_generate_id(connection);
-    xcb_create_window(connection, 0, window, root, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_create_window(connection, 0, window, rootWindow(connection), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
     return window;
 }
 

@@ -44,7 +44,7 @@ xcb_extension_t inputExtension{"XInputExtension", 0};
 /// there too, but for the devices of another group.
 void selectEvents(xcb_connection_t* connection, std::uint32_t mask) {
     SelectEvents request;
-    request.window = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    request.window = rootWindow(connection);
     request.mask = mask;
     // The connection wants two entries of its own in front.
     iovec parts[3]{};

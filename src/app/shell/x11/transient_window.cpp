@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <string>
 #include <utility>
 
 namespace orvelle {
@@ -19,8 +20,9 @@ bool desktopComposesWindows() {
     xcb_connection_t* connection = xcbConnection();
     if (connection == nullptr)
         return false;
-    const auto owner = takeReply(xcb_get_selection_owner_reply(
-        connection, xcb_get_selection_owner(connection, internAtom(connection, "_NET_WM_CM_S0")), nullptr));
+    const xcb_atom_t compositor = internAtom(connection, "_NET_WM_CM_S" + std::to_string(screenNumber()));
+    const auto owner = takeReply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 

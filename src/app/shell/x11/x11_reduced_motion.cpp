@@ -14,16 +14,6 @@ namespace {
 /// Published settings take some kilobytes; one word is 32 bits.
 constexpr std::uint32_t maximumSettingsWords = 65536;
 
-/// The number of the screen that DISPLAY names, where a server has several separate ones.
-int screenNumber() {
-    char* host = nullptr;
-    int display = 0;
-    int screen = 0;
-    if (xcb_parse_display(nullptr, &host, &display, &screen) != 0)
-        std::free(host);
-    return screen;
-}
-
 /// Follows the setting "Gtk/EnableAnimations" of the XSETTINGS manager, which is the program that owns a
 /// selection. Managers come and go: each announces itself to the root window, whose messages Qt has asked
 /// for.
