@@ -1,5 +1,6 @@
 #include "settings/settings_file.h"
 
+#include "settings/abandoned_replacements.h"
 #include "settings/plain_ini.h"
 
 #include <QFile>
@@ -20,20 +21,33 @@ bool isFolderWritable(const QString& filePath) {
     return QFileInfo(QFileInfo(filePath).path()).isWritable();
 }
 
+QString lockPathOf(const QString& filePath) {
+    return filePath + QStringLiteral(".lock");
+}
+
+/// Whether the lock could be had within the longest wait.
+bool canLock(const QString& lockPath) {
+    QLockFile lock(lockPath);
+    // A program names itself in its lock as soon as it has made it. One that was ended in between would keep
+    // everybody out for half a minute.
+    if (QFileInfo(lockPath).size() == 0)
+        lock.setStaleLockTime(namelessLockAge);
+    return lock.tryLock(longestLockWait);
+}
+
 /// QSettings waits for its lock without end: for a stopped program, and for what is no file at all.
 bool isLockFree(const QString& filePath) {
-    const QString lockPath = filePath + QStringLiteral(".lock");
+    const QString lockPath = lockPathOf(filePath);
     const QFileInfo lock(lockPath);
     if (!lock.exists() && !lock.isSymLink())
         return true;
     if (!lock.isFile())
         return false;
-    QLockFile abandoned(lockPath);
-    // A program names itself in its lock as soon as it has made it. One that was ended in between would keep
-    // everybody out for half a minute.
-    if (lock.size() == 0)
-        abandoned.setStaleLockTime(namelessLockAge);
-    return abandoned.tryLock(longestLockWait);
+    // QLockFile takes an abandoned lock away under another one, which can be abandoned as well.
+    const QString removalLockPath = lockPath + QStringLiteral(".rmlock");
+    if (QFileInfo(removalLockPath).isFile())
+        static_cast<void>(canLock(removalLockPath)); // else the next one is not to be had either
+    return canLock(lockPath);
 }
 
 /// Whether saving should succeed. Values that QSettings fails to save stay pending in it for good, also when
@@ -99,6 +113,7 @@ bool SettingsFile::write(const StoredValues& values) {
     const std::unique_ptr<QSettings> settings = open();
     if (!settings || !canSave(*settings))
         return false;
+    removeAbandonedReplacements(m_filePath, lockPathOf(m_filePath));
     for (auto value = values.begin(); value != values.end(); ++value)
         settings->setValue(value.key(), value->toString());
     settings->sync();

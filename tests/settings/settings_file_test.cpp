@@ -2,6 +2,7 @@
 #include "settings/settings_file.h"
 #include "settings/temporary_settings.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -112,6 +113,62 @@ TEST_F(SettingsFileTest, ALockWhoseProgramEndedBeforeItNamedItselfIsSoonTakenAwa
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "[General]\na=true\n");
     EXPECT_FALSE(lock.exists());
+}
+
+/// As it is after a while in which nobody touched it.
+void age(QFile& file, int seconds) {
+    ASSERT_TRUE(file.isOpen() || file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-seconds),
+                                 QFileDevice::FileModificationTime));
+    file.close();
+}
+
+TEST_F(SettingsFileTest, ALockWhoseRemovalWasAbandonedIsSoonTakenAway) {
+    QFile lock(settings.path() + u".lock"_s);
+    QFile removal(lock.fileName() + u".rmlock"_s);
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && removal.open(QIODevice::WriteOnly));
+    age(lock, 1);
+    age(removal, 1);
+    EXPECT_TRUE(write());
+    EXPECT_FALSE(lock.exists());
+    EXPECT_FALSE(removal.exists());
+}
+
+class AbandonedFileTest : public SettingsFileTest {
+protected:
+    /// Puts a file beside that of the settings, saves, and tells whether the file is still there.
+    bool isKept(const QString& suffix, int ageSeconds) {
+        QFile left(settings.path() + suffix);
+        age(left, ageSeconds);
+        EXPECT_TRUE(write());
+        return left.exists();
+    }
+};
+
+TEST_F(AbandonedFileTest, WhatAProgramLeftThatWasEndedWhileItWroteIsRemoved) {
+    for (const QString& suffix : {u".AbCdEf"_s, u".xxxxxX"_s, u".qZZZZZ"_s})
+        EXPECT_FALSE(isKept(suffix, 3600)) << suffix.toStdString();
+}
+
+TEST_F(AbandonedFileTest, WhatMayBeInUseIsKept) {
+    EXPECT_TRUE(isKept(u".AbCdEf"_s, 30));
+}
+
+TEST_F(AbandonedFileTest, WhatSomeoneElseNamedIsKept) {
+    for (const QString& suffix : {u".backup"_s, u".BACKUP"_s, u".Backup"_s, u".before"_s, u".old"_s,
+                                  u".AbCdE"_s, u".AbCdEfG"_s, u".AbCd12"_s, u"x.AbCdEf"_s, u".AbCdEf~"_s})
+        EXPECT_TRUE(isKept(suffix, 3600)) << suffix.toStdString();
+}
+
+TEST_F(AbandonedFileTest, AFolderAndALinkAreKept) {
+    const QString target = settings.folderPath() + u"/target"_s;
+    QFile targetFile(target);
+    age(targetFile, 3600);
+    ASSERT_TRUE(QFile::link(target, settings.path() + u".AbCdEf"_s));
+    ASSERT_TRUE(QDir().mkpath(settings.path() + u".GhIjKl"_s));
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(QFileInfo(settings.path() + u".AbCdEf"_s).isSymLink());
+    EXPECT_TRUE(QFileInfo(settings.path() + u".GhIjKl"_s).isDir());
 }
 
 TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
