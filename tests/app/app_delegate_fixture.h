@@ -1,0 +1,87 @@
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/recording_status_bar.h"
+#include "core/system_monitor.h"
+#include "platform/host.h"
+#include "settings/settings_store.h"
+#include "settings/theme_manager.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace orvelle {
+
+/// Makes empty windows and records for what.
+class RecordedViews final : public Views {
+public:
+    explicit RecordedViews(QStringList& calls)
+        : m_calls(calls) {}
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
+        m_calls.append(QStringLiteral("%1 panel %2").arg(key).arg(cornerRadius));
+        return std::make_unique<QWindow>();
+    }
+    [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
+        m_calls.append(QStringLiteral("settings"));
+        return std::make_unique<QWindow>();
+    }
+
+private:
+    QStringList& m_calls;
+};
+
+class RecordedSettingsWindow final : public SettingsWindow {
+public:
+    RecordedSettingsWindow(std::unique_ptr<QWindow> content, QStringList& calls)
+        : m_content(std::move(content))
+        , m_calls(calls) {}
+    void bringForward() override { m_calls.append(QStringLiteral("forward")); }
+
+private:
+    std::unique_ptr<QWindow> m_content;
+    QStringList& m_calls;
+};
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    void showAll(bool shown) {
+        settings.setShowCPU(shown);
+        settings.setShowMemory(shown);
+        settings.setShowNetwork(shown);
+        settings.setShowDisk(shown);
+        settings.setShowBattery(shown);
+        settings.setShowSensors(shown);
+    }
+    static QStringList everyKey() {
+        QStringList keys;
+        for (const Module& module : modules())
+            keys.append(module.key);
+        return keys;
+    }
+
+    QTemporaryDir directory;
+    SettingsStore settings{directory.filePath(QStringLiteral("settings.ini"))};
+    ThemeManager themes{settings};
+    SystemMonitor monitor{makeHostSources(), settings};
+    RecordingStatusBar bar;
+    /// What the delegate asked of the views and of the settings window, in order.
+    QStringList windowCalls;
+    std::optional<ViewContext> context;
+    bool canLoadViews = true;
+    AppDelegate delegate{monitor,
+                         settings,
+                         themes,
+                         {bar,
+                          [this](const ViewContext& given) -> std::unique_ptr<Views> {
+                              windowCalls.append(QStringLiteral("load"));
+                              context.emplace(given);
+                              return canLoadViews ? std::make_unique<RecordedViews>(windowCalls) : nullptr;
+                          },
+                          [this](std::unique_ptr<QWindow> content) {
+                              return std::make_unique<RecordedSettingsWindow>(std::move(content),
+                                                                              windowCalls);
+                          }}};
+};
+
+} // namespace orvelle
