@@ -6,7 +6,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <chrono>
 #include <vector>
 
 namespace orvelle {
@@ -61,6 +60,12 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     m_reloadDelay.setSingleShot(true);
     m_reloadDelay.setInterval(settleTime);
     connect(&m_reloadDelay, &QTimer::timeout, this, &SettingsStore::reload);
+    m_tuningDelay.setSingleShot(true);
+    m_tuningDelay.setInterval(tuningInterval);
+    connect(&m_tuningDelay, &QTimer::timeout, this, [this] {
+        if (m_isSaveDue)
+            saveSoon();
+    });
     // Not started anew by each event: a folder that is never at rest would keep the file from being read.
     const auto startDelay = [this] {
         if (!m_reloadDelay.isActive())
@@ -73,13 +78,45 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
     reload();
 }
 
+SettingsStore::~SettingsStore() {
+    if (m_isSaveDue)
+        store();
+}
+
+void SettingsStore::tune(const QString& property, const QVariant& value) {
+    m_isTuning = true;
+    setProperty(property.toLatin1(), value);
+    m_isTuning = false;
+}
+
 void SettingsStore::saveAndAnnounce(const AnySetting& setting) {
-    save();
+    // Observers that set something else in turn are not tuning.
+    if (std::exchange(m_isTuning, false))
+        saveSoon();
+    else
+        save();
     Q_EMIT(this->*setting.changedSignal())();
     Q_EMIT changed();
 }
 
+/// Saves at once, or a little later where a tuned value was saved just now.
+void SettingsStore::saveSoon() {
+    m_isSaveDue = m_tuningDelay.isActive();
+    if (m_isSaveDue)
+        return;
+    save();
+    m_tuningDelay.start();
+}
+
 void SettingsStore::save() {
+    m_isSaveDue = false;
+    store();
+    updateSaveError();
+    watch();
+}
+
+/// Writes what is not stored yet.
+void SettingsStore::store() {
     StoredValues values;
     for (const AnySetting* setting : m_settings) {
         if (setting->isUnsaved())
@@ -91,11 +128,11 @@ void SettingsStore::save() {
                 setting->markSaved();
         }
     }
-    updateSaveError();
-    watch();
 }
 
 void SettingsStore::updateSaveError() {
+    if (m_isSaveDue)
+        return; // what is not stored yet did not fail
     const bool failed = std::ranges::any_of(m_settings, &AnySetting::isUnsaved);
     const QString error = failed ? m_storage->failureReason() : QString();
     if (std::exchange(m_saveError, error) != error)

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <array>
+#include <chrono>
 #include <memory>
 
 namespace orvelle {
@@ -83,6 +84,12 @@ public:
 
     /// The user's settings of this program, or those in an ini file of one's own when a path is given.
     explicit SettingsStore(const QString& filePath = {}, QObject* parent = nullptr);
+    ~SettingsStore() override;
+
+    /// Sets the property with this name to a value that follows the user's hand, as under a slider. Of many
+    /// in quick succession only some are stored: the first at once, the last within `tuningInterval` at most.
+    Q_INVOKABLE void tune(const QString& property, const QVariant& value);
+    static constexpr std::chrono::milliseconds tuningInterval{500};
 
     /// Which modules have an item in the menu bar.
     [[nodiscard]] bool showCPU() const { return m_showCPU.value(); }
@@ -219,7 +226,9 @@ private:
             saveAndAnnounce(setting);
     }
     void saveAndAnnounce(const AnySetting& setting);
+    void saveSoon();
     void save();
+    void store();
     void updateSaveError();
     /// Takes over what changed in the storage; nothing when it cannot be read.
     void reload();
@@ -228,6 +237,9 @@ private:
     std::unique_ptr<SettingsStorage> m_storage;
     QFileSystemWatcher m_watcher;
     QTimer m_reloadDelay;
+    QTimer m_tuningDelay; ///< runs for a while after a tuned value was saved
+    bool m_isTuning = false;
+    bool m_isSaveDue = false; ///< when `m_tuningDelay` ends
     QString m_saveError;
 
     Setting<bool> m_showCPU{"showCPU", true, &SettingsStore::showCPUChanged};

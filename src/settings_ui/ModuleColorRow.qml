@@ -13,5 +13,5 @@ CustomColorRow {
     colorHex: settings[modelData.customColorHex]
     themeColor: themeManager.currentTheme[modelData.themeColor]
     onEnabledToggled: isOn => settings[modelData.useCustomColor] = isOn
-    onColorPicked: hex => settings[modelData.customColorHex] = hex
+    onColorPicked: hex => settings.tune(modelData.customColorHex, hex)
 }

@@ -293,6 +293,29 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     EXPECT_EQ(focused(), well);
 }
 
+TEST_F(CustomColors, FollowADragAtOnceAndAreWrittenAFewTimes) {
+    settings.setUseCustomCPUColor(true);
+    openOverrides();
+    click(item("well", overrideRow(u"CPU")));
+    QTest::qWait(20);
+    QQuickItem* hue = control(u"Hue");
+    const auto at = [hue](int x) { return hue->mapToScene({double(x), 9}).toPoint(); };
+    QStringList written{settingsText()};
+    QStringList shown;
+    QTest::mousePress(view.get(), Qt::LeftButton, {}, at(9));
+    for (int x = 9; x < 180; x += 3) {
+        QTest::mouseMove(view.get(), at(x));
+        shown.append(themes.cpuColor(settings).name());
+        if (settingsText() != written.last())
+            written.append(settingsText());
+    }
+    QTest::mouseRelease(view.get(), Qt::LeftButton, {}, at(180));
+    shown.removeDuplicates();
+    EXPECT_GT(shown.size(), 40);
+    EXPECT_LT(written.size(), 6);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return settingsText().contains(settings.customCPUColorHex()); }, 2000));
+}
+
 TEST_F(CustomColors, KeepTheHueOfWhatIsMadeGrey) {
     settings.setUseCustomCPUColor(true);
     settings.setCustomCPUColorHex(QStringLiteral("#0000FF"));

@@ -6,6 +6,7 @@
 #include "settings_ui/settings_factory.h"
 
 #include <QAccessible>
+#include <QFile>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
@@ -116,6 +117,11 @@ protected:
     void type(const char* text) {
         for (; *text != '\0'; ++text)
             QTest::keyClick(view.get(), *text);
+    }
+    /// What the file holds in which the settings are stored.
+    [[nodiscard]] QString settingsText() const {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
     [[nodiscard]] QQuickItem* focused() const { return view->activeFocusItem(); }
 
