@@ -15,6 +15,11 @@ Item {
     readonly property int tabIndex: Math.max(0, chosenIndex)
     signal chosen(int index)
 
+    /// How wide each button would like to be.
+    function neededWidths() {
+        return Array.from({length: repeater.count},
+                          (nothing, index) => repeater.itemAt(index)?.implicitWidth ?? 0);
+    }
     /// The index of the button that has the keys; -1 when none does.
     function focusedIndex() {
         for (let index = 0; index < repeater.count; ++index) {

@@ -8,7 +8,10 @@ Item {
     required property string text
     required property string symbol
     required property bool isChosen
+    readonly property real inset: 4
     readonly property color color: isChosen ? Look.primaryLabel : Look.valueLabel
+
+    implicitWidth: name.implicitWidth + 2 * inset
 
     Column {
         anchors.verticalCenter: parent.verticalCenter
@@ -23,8 +26,9 @@ Item {
             color: label.color
         }
         PlainText {
-            x: 4
-            width: parent.width - 8
+            id: name
+            x: label.inset
+            width: parent.width - 2 * label.inset
             horizontalAlignment: Text.AlignHCenter
             text: label.text
             size: label.symbol !== "" ? 10 : 11

@@ -6,6 +6,8 @@ import Orvelle.SettingsUI
 SettingGroup {
     id: picker
 
+    readonly property var widths: SettingsRules.sharedWidths(neededWidths(), width)
+
     implicitWidth: 200
     implicitHeight: choices.some(choice => choice.symbol !== "") ? 42 : 24
 
@@ -17,7 +19,7 @@ SettingGroup {
     }
     delegate: SegmentButton {
         group: picker // qmllint disable unqualified
-        width: picker.width / picker.choices.length // qmllint disable unqualified
+        width: picker.widths[index] ?? 0 // qmllint disable unqualified
         height: picker.height // qmllint disable unqualified
     }
 }

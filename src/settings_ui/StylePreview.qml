@@ -27,6 +27,7 @@ Column {
         Outline {
             objectName: "outline"
             anchors.fill: parent
+            z: 1 // the drawing ends at it
             radius: 4
             color: preview.isSelected ? Look.blue : Look.faintOutline
             lineWidth: preview.isSelected ? 1.5 : 0.5

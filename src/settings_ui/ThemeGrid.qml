@@ -7,17 +7,18 @@ ChoiceGroup {
     id: grid
 
     required property ThemeManager themeManager
+    readonly property var columnWidths: SettingsRules.themeGridColumns(width)
 
     name: "Theme"
     choices: SettingsRules.themes
     chosenIndex: choices.findIndex(theme => theme.id === themeManager.currentTheme.id)
-    columns: SettingsRules.themeGridCount(width)
+    columns: columnWidths.length
     columnSpacing: SettingsRules.themeGridSpacing
     rowSpacing: SettingsRules.themeGridSpacing
     onChosen: index => themeManager.selectTheme(choices[index].id)
 
     delegate: ThemePreviewCard {
         group: grid // qmllint disable unqualified
-        width: Math.floor(SettingsRules.themeGridColumnWidth(grid.width)) // qmllint disable unqualified
+        width: grid.columnWidths[index % grid.columns] // qmllint disable unqualified
     }
 }

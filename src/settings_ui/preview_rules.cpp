@@ -7,6 +7,7 @@
 #include "charts/ring_rules.h"
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
+#include "settings_ui/shared_widths.h"
 
 #include <algorithm>
 #include <array>
@@ -92,8 +93,12 @@ PreviewRing previewRing(RingChartStyle style, const QSizeF& frame) {
     }
     const QRectF circle = inMiddle(previewRingSide - previewRingStroke);
     const double rotation = ringRotation(style);
-    return {trimmedCircle(circle, ringTrack(style), rotation),
-            trimmedCircle(circle, ringProgress(style, previewRingFraction), rotation), false};
+    const QPainterPath track = trimmedCircle(circle, ringTrack(style), rotation);
+    // The stroke with its round ends reaches out of the path equally on all sides.
+    const double drop = frame.height() / 2 - track.boundingRect().center().y();
+    return {track.translated(0, drop),
+            trimmedCircle(circle, ringProgress(style, previewRingFraction), rotation).translated(0, drop),
+            false};
 }
 
 ThemeCardLayout themeCardLayout(const QRectF& content) {
@@ -116,11 +121,12 @@ ThemeCardLayout themeCardLayout(const QRectF& content) {
     return layout;
 }
 
-GridColumns themeGridColumns(double availableWidth) {
+QList<double> themeGridColumns(double availableWidth) {
     const double fitting = (availableWidth + themeGridSpacing) / (smallestColumn + themeGridSpacing);
     const int count = fitting > 1 ? static_cast<int>(std::min(fitting, 100.0)) : 1;
-    const double share = (availableWidth - (count - 1) * themeGridSpacing) / count;
-    return {count, std::clamp(share, smallestColumn, largestColumn)};
+    const double columnsWidth = availableWidth - (count - 1) * themeGridSpacing;
+    return sharedWidths(QList<double>(count, 0),
+                        std::clamp(columnsWidth, count * smallestColumn, count * largestColumn));
 }
 
 } // namespace orvelle

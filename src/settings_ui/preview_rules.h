@@ -36,7 +36,8 @@ struct PreviewRing {
     bool isFilled = false; ///< the paths are areas; else they are lines, `previewRingStroke` wide
 };
 
-/// A ring in the middle of the frame, `previewRingSide` wide with its stroke.
+/// A ring, or what a gauge has of one, `previewRingSide` wide with its stroke. What is painted stands in the
+/// middle of the frame, also where it is only half of a circle.
 [[nodiscard]] PreviewRing previewRing(RingChartStyle style, const QSizeF& frame);
 
 /// What the card of a theme shows inside its padding: bars in the modules' colours, and under them a dot for
@@ -47,12 +48,9 @@ struct ThemeCardLayout {
 };
 [[nodiscard]] ThemeCardLayout themeCardLayout(const QRectF& content);
 
-/// As many equal columns as fit a width, each within its limits.
-struct GridColumns {
-    int count = 1;
-    double width = 0;
-};
-[[nodiscard]] GridColumns themeGridColumns(double availableWidth);
+/// The widths of as many equal columns as fit a width, each within its limits. They are whole, so one may
+/// be a point wider than another; with the spacing they fill the width.
+[[nodiscard]] QList<double> themeGridColumns(double availableWidth);
 
 inline constexpr double themeGridSpacing = 10;
 

@@ -4,6 +4,7 @@
 #include "settings/theme_manager.h"
 #include "settings_ui/choices.h"
 #include "settings_ui/preview_rules.h"
+#include "settings_ui/shared_widths.h"
 
 #include <QColor>
 #include <QVariant>
@@ -43,8 +44,15 @@ public:
     [[nodiscard]] static QVariantList themes() { return toQml(builtInThemes()); }
     [[nodiscard]] static double themeGridSpacing() { return orvelle::themeGridSpacing; }
 
-    Q_INVOKABLE static int themeGridCount(double width) { return themeGridColumns(width).count; }
-    Q_INVOKABLE static double themeGridColumnWidth(double width) { return themeGridColumns(width).width; }
+    Q_INVOKABLE static QVariantList themeGridColumns(double width) {
+        return toQml(orvelle::themeGridColumns(width));
+    }
+    Q_INVOKABLE static QVariantList sharedWidths(const QVariantList& needed, double available) {
+        QList<double> widths;
+        for (const QVariant& width : needed)
+            widths.append(width.toDouble());
+        return toQml(orvelle::sharedWidths(widths, available));
+    }
 
     /// The colour that a text spells, or the other one without its opacity when it spells none.
     Q_INVOKABLE static QColor colorFromHex(const QString& hex, const QColor& otherwise) {

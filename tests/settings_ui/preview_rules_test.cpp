@@ -99,9 +99,17 @@ TEST(PreviewBarsTest, AreShapedByTheirStyle) {
         EXPECT_EQ(previewBarShape(style).path(bar).boundingRect(), bar);
 }
 
-/// The direction from the middle of the frame to a point, degrees clockwise from three o'clock.
-double angleOf(const QPointF& point) {
-    return -QLineF({25, 12}, point).angle() + 360;
+/// The direction from the middle of a ring to a point, degrees clockwise from three o'clock.
+double angleOf(const QPointF& point, double middle = 12) {
+    return -QLineF({25, middle}, point).angle() + 360;
+}
+
+/// What a line covers: the stroke lies half outside of its path.
+QRectF inkedBounds(const QPainterPath& line) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(previewRingStroke);
+    stroker.setCapStyle(Qt::RoundCap);
+    return stroker.createStroke(line).boundingRect();
 }
 
 TEST(PreviewRingTest, FillsSevenTenthsOfATrackThatIsShapedByTheStyle) {
@@ -109,17 +117,27 @@ TEST(PreviewRingTest, FillsSevenTenthsOfATrackThatIsShapedByTheStyle) {
     EXPECT_FALSE(ring.isFilled);
     expectNear(ring.progress.pointAtPercent(0), 25, 12 - 9.5);
     EXPECT_NEAR(angleOf(ring.progress.currentPosition()), 162, 0.1);
-    // The stroke lies half outside of its path.
-    const QRectF inked = ring.track.boundingRect().adjusted(-1.5, -1.5, 1.5, 1.5);
-    EXPECT_NEAR(inked.width(), previewRingSide, 0.01);
+    EXPECT_NEAR(inkedBounds(ring.track).width(), previewRingSide, 0.05);
 
     const PreviewRing half = previewRing(RingChartStyle::halfGauge, frame);
-    EXPECT_NEAR(angleOf(half.track.pointAtPercent(0)), 180, 0.1) << "from nine o'clock";
-    EXPECT_NEAR(angleOf(half.progress.currentPosition()), 180 + 0.7 * 180, 0.1);
+    const double halfMiddle = 12 + 9.5 / 2;
+    EXPECT_NEAR(angleOf(half.track.pointAtPercent(0), halfMiddle), 180, 0.1) << "from nine o'clock";
+    EXPECT_NEAR(angleOf(half.progress.currentPosition(), halfMiddle), 180 + 0.7 * 180, 0.1);
 
     const PreviewRing arc = previewRing(RingChartStyle::arcGauge, frame);
-    EXPECT_NEAR(angleOf(arc.track.pointAtPercent(0)), 135, 0.1);
-    EXPECT_NEAR(angleOf(arc.progress.currentPosition()), 135 + 0.7 * 270, 0.1);
+    const double arcMiddle = 12 + 9.5 * (1 - std::sqrt(0.5)) / 2;
+    EXPECT_NEAR(angleOf(arc.track.pointAtPercent(0), arcMiddle), 135, 0.1);
+    EXPECT_NEAR(angleOf(arc.progress.currentPosition(), arcMiddle), 135 + 0.7 * 270, 0.1);
+}
+
+TEST(PreviewRingTest, StandsInTheMiddleOfTheFrameWithAllThatIsPainted) {
+    for (const RingChartStyle style :
+         {RingChartStyle::fullRing, RingChartStyle::halfGauge, RingChartStyle::arcGauge}) {
+        const QRectF inked = inkedBounds(previewRing(style, frame).track);
+        EXPECT_NEAR(inked.center().x(), 25, 0.05);
+        EXPECT_NEAR(inked.center().y(), 12, 0.05);
+        EXPECT_NEAR(inked.width(), previewRingSide, 0.05);
+    }
 }
 
 TEST(PreviewRingTest, CutsAWedgeFromTwelveOClockWhereItIsAPie) {
@@ -152,21 +170,33 @@ TEST(ThemeCardTest, KeepsItsBarsAndDotsApartAndInside) {
 }
 
 TEST(ThemeGridTest, FitsAsManyColumnsAsTheWidthHolds) {
-    EXPECT_EQ(themeGridColumns(428).count, 4);
-    EXPECT_DOUBLE_EQ(themeGridColumns(428).width, 99.5);
-    EXPECT_EQ(themeGridColumns(440).count, 5);
-    EXPECT_DOUBLE_EQ(themeGridColumns(440).width, 80);
-    EXPECT_EQ(themeGridColumns(439).count, 4);
-    EXPECT_EQ(themeGridColumns(169).count, 1);
-    EXPECT_DOUBLE_EQ(themeGridColumns(169).width, 120) << "no wider than the widest";
-    EXPECT_EQ(themeGridColumns(170).count, 2);
+    EXPECT_EQ(themeGridColumns(440), QList<double>({80, 80, 80, 80, 80}));
+    EXPECT_EQ(themeGridColumns(439).size(), 4);
+    EXPECT_EQ(themeGridColumns(169), QList<double>({120})) << "no wider than the widest";
+    EXPECT_EQ(themeGridColumns(170), QList<double>({80, 80}));
+}
+
+TEST(ThemeGridTest, FillsTheWidthWithColumnsOfWholePointsUnlessTheyAreAtTheirWidest) {
+    EXPECT_EQ(themeGridColumns(428), QList<double>({100, 99, 100, 99}));
+    for (int width = 170; width < 700; ++width) {
+        const QList<double> columns = themeGridColumns(width);
+        double end = -themeGridSpacing;
+        for (const double column : columns) {
+            EXPECT_EQ(column, std::round(column));
+            EXPECT_TRUE(column >= 80 && column <= 120) << column;
+            end += themeGridSpacing + column;
+        }
+        const double widest =
+            static_cast<double>(columns.size()) * (120 + themeGridSpacing) - themeGridSpacing;
+        EXPECT_EQ(end, std::min<double>(width, widest));
+    }
 }
 
 TEST(ThemeGridTest, HasAColumnWhateverTheWidth) {
     for (const double width : {0.0, -10.0, std::nan(""), 10.0}) {
-        EXPECT_EQ(themeGridColumns(width).count, 1);
+        EXPECT_EQ(themeGridColumns(width).size(), 1);
     }
-    EXPECT_EQ(themeGridColumns(1e300).count, 100);
+    EXPECT_EQ(themeGridColumns(1e300).size(), 100);
 }
 
 } // namespace
