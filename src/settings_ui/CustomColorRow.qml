@@ -19,7 +19,7 @@ RowLayout {
     signal colorPicked(string colorHex)
 
     Layout.fillWidth: true
-    spacing: 8
+    spacing: 12 // the ground of the switch reaches into it
 
     SwitchRow {
         objectName: "switch"

@@ -11,7 +11,9 @@ T.AbstractButton {
     required property bool isExpanded
 
     implicitHeight: 24
-    rightPadding: 4
+    // The ground reaches beyond the row, which stands in line with the other titles.
+    leftInset: -6
+    rightInset: -6
     text: title
     focusPolicy: Qt.TabFocus
     hoverEnabled: true

@@ -10,6 +10,7 @@ Item {
 
     SectionTitle {
         anchors.verticalCenter: parent.verticalCenter
+        anchors.alignWhenCentered: false // a line of odd height would stand higher than the symbol
         width: advanced.x - 8
         text: row.title.toUpperCase()
         Accessible.ignored: true
@@ -19,6 +20,7 @@ Item {
         anchors.right: chevron.left
         anchors.rightMargin: 6
         anchors.verticalCenter: parent.verticalCenter
+        anchors.alignWhenCentered: false
         text: "Advanced"
         size: 10
         color: Look.secondaryLabel

@@ -12,6 +12,5 @@ RowLayout {
     SectionLabel {
         id: label
         Layout.fillWidth: true
-        Layout.leftMargin: 4
     }
 }

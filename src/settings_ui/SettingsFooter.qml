@@ -19,6 +19,7 @@ RowLayout {
     }
     QuitButton {
         objectName: "quit"
+        Layout.rightMargin: -rightPadding // its text stands in line with the switches
         onClicked: footer.quitApp()
     }
 }

@@ -14,13 +14,13 @@ Item {
     /// Kept free at the end of the row.
     required property real rightInset
     /// The symbols have one width, so that the texts line up.
-    readonly property real slotWidth: symbol !== "" ? 28 : 0
+    readonly property real slotWidth: symbol !== "" ? 22 : 0
 
     implicitWidth: slotWidth + text.implicitWidth
 
     Symbol {
         visible: label.symbol !== ""
-        x: 11 - width / 2
+        x: 7 - width / 2
         anchors.verticalCenter: parent.verticalCenter
         name: label.symbol
         fontSize: label.symbolSize
@@ -31,6 +31,7 @@ Item {
         x: label.slotWidth
         width: parent.width - x - label.rightInset
         anchors.verticalCenter: parent.verticalCenter
+        anchors.alignWhenCentered: false // a line of odd height would stand higher than the symbol
         text: label.text
         size: label.size
         weight: Font.Medium

@@ -15,8 +15,9 @@ T.Switch {
 
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth + leftPadding + rightPadding
     implicitHeight: 24
-    leftPadding: 4
-    rightPadding: 4
+    // The ground reaches beyond the row, so that the row itself stands in line with the titles and lines.
+    leftInset: -6
+    rightInset: -6
     spacing: 8
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
