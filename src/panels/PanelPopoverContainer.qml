@@ -17,6 +17,9 @@ FocusScope {
     focus: true
     Keys.forwardTo: [scroller] // also from the footer
 
+    readonly property bool isWindowShown: Window.visibility !== Window.Hidden
+    onIsWindowShownChanged: if (!isWindowShown) scroller.reset()
+
     readonly property Item focusedItem: Window.activeFocusItem
     onFocusedItemChanged: {
         for (let item = focusedItem; item !== null; item = item.parent) {

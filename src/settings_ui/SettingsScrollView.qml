@@ -23,7 +23,12 @@ FocusScope {
     }
 
     readonly property bool isWindowShown: Window.visibility !== Window.Hidden
-    onIsWindowShownChanged: if (!isWindowShown) view.close()
+    onIsWindowShownChanged: {
+        if (isWindowShown)
+            return;
+        view.close();
+        scroller.reset();
+    }
 
     readonly property Item focusedItem: Window.activeFocusItem
     onFocusedItemChanged: {

@@ -220,5 +220,50 @@ TEST_F(PanelAccessibility, ExplainsTheButtonUnderThePointerAndUnderTheFocus) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
 }
 
+TEST_F(PanelAccessibility, ExplainsTheButtonForAsLongAsOneReads) {
+    ASSERT_NE(show(u"cpu"), nullptr);
+    QQuickItem* tooltip = item("tooltip");
+    tooltip->setProperty("readingMilliseconds", 50);
+    item("settingsButton")->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tooltip->isVisible(); }, 2000));
+    QTest::qWait(900);
+    EXPECT_FALSE(tooltip->isVisible()) << "it does not come back by itself";
+}
+
+TEST_F(PanelAccessibility, StartsAnewWhenThePanelOpensAgain) {
+    for (int index = 1; index < 40; ++index)
+        machine.network->entries->push_back(
+            {.name = "en" + std::to_string(index), .isUp = true, .bytesIn = 1});
+    sample();
+    ASSERT_NE(show(u"network"), nullptr);
+    const QQuickItem* scroller = item("scroller");
+    const QQuickItem* tooltip = item("tooltip");
+    const auto openAgain = [this] {
+        panel->hide();
+        panel->show();
+        panel->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(panel.get()));
+    };
+    item("settingsButton")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_End);
+    EXPECT_GT(scroller->property("contentY").toDouble(), 100);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
+    openAgain();
+    EXPECT_EQ(scroller->property("contentY").toDouble(), 0);
+    EXPECT_FALSE(tooltip->isVisible());
+    EXPECT_EQ(panel->activeFocusItem(), scroller);
+    QTest::qWait(900);
+    EXPECT_FALSE(tooltip->isVisible());
+
+    press(Qt::Key_Tab);
+    press(Qt::Key_A, Qt::ControlModifier);
+    const QQuickItem* address = panel->activeFocusItem();
+    EXPECT_EQ(focusedText(), QStringLiteral("192.168.1.20"));
+    openAgain();
+    EXPECT_EQ(address->property("selectedText").toString(), QString());
+    EXPECT_FALSE(item("focusRingIPv4")->isVisible());
+}
+
 } // namespace
 } // namespace orvelle

@@ -7,17 +7,25 @@ Flickable {
 
     required property Item content
     readonly property real lineStep: 24
+    readonly property real revealMargin: 12
 
     function scrollTo(position) {
         contentY = Math.max(0, Math.min(position, contentHeight - height));
     }
-    /// Brings `item`, which is inside the content, into view.
+    /// Brings `item`, which is inside the content, into view, with what is around it: the mark of the focus.
     function reveal(item) {
-        const top = item.mapToItem(contentItem, 0, 0).y;
+        const top = item.mapToItem(contentItem, 0, 0).y - revealMargin;
+        const bottom = top + item.height + 2 * revealMargin;
         if (top < contentY)
             scrollTo(top);
-        else if (top + item.height > contentY + height)
-            scrollTo(top + item.height - height);
+        else if (bottom > contentY + height)
+            scrollTo(bottom - height);
+    }
+    /// Stands at the top with the keys in no item of the content, as when it was new.
+    function reset() {
+        cancelFlick();
+        contentY = 0;
+        focus = true;
     }
 
     clip: true

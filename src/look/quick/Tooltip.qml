@@ -1,12 +1,14 @@
 import QtQuick
 import Orvelle.Look
 
-/// A short help text beside what the pointer rests on.
+/// A short help text beside what the pointer rests on, or what has the focus. It goes when it has been there
+/// for long enough to be read.
 Rectangle {
     id: tooltip
 
     required property string text
     required property bool isWanted
+    property int readingMilliseconds: 5000
 
     visible: false
     width: label.implicitWidth + 12
@@ -22,6 +24,11 @@ Rectangle {
         interval: 700
         running: tooltip.isWanted
         onTriggered: tooltip.visible = true
+    }
+    Timer {
+        interval: tooltip.readingMilliseconds
+        running: tooltip.visible
+        onTriggered: tooltip.visible = false
     }
     PlainText {
         id: label
