@@ -25,6 +25,9 @@ FocusScope {
         saturation = color.hsvSaturation;
         brightness = color.hsvValue;
     }
+    function showKeys() {
+        firstSlider.focusReason = Qt.TabFocusReason;
+    }
     /// Seven shades, of which the first stands for 0 and the last for 1.
     function shades(shade) {
         return Array.from({length: 7}, (nothing, index) => shade(index / 6));
@@ -41,6 +44,7 @@ FocusScope {
         spacing: 10
 
         ColorSlider {
+            id: firstSlider
             objectName: "hue"
             focus: true
             name: "Hue"

@@ -12,8 +12,21 @@ T.Popup {
     required property color color
     signal picked(color picked)
 
-    x: parent.width - width
-    y: parent.height + 6
+    readonly property real gap: 6
+    /// Where there is no room below, so that it does not cover the color well that it belongs to.
+    property bool opensUpwards: false
+    onAboutToShow: {
+        const bottom = parent.mapToItem(null, 0, parent.height).y;
+        opensUpwards = bottom + gap + height + margins > parent.Window.height;
+    }
+
+    /// Shows where the keys act from the start: for those who opened it with them.
+    function showKeys() {
+        (contentItem as ColorParts).showKeys();
+    }
+
+    x: parent.width - width + 6 // beyond the color wells under it
+    y: opensUpwards ? -height - gap : parent.height + gap
     width: 220
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: 8

@@ -10,6 +10,7 @@ T.AbstractButton {
     required property color color
     readonly property ColorPicker picker: loader.item as ColorPicker
     readonly property bool isOpen: picker !== null && picker.opened
+    property bool isOpenedByKeys: false
     signal picked(color picked)
 
     implicitWidth: 24
@@ -21,7 +22,13 @@ T.AbstractButton {
         if (isOpen)
             picker.close();
         else
-            picker.open();
+            open();
+    }
+    function open() {
+        isOpenedByKeys = visualFocus;
+        picker.open();
+        if (isOpenedByKeys)
+            picker.showKeys();
     }
     onVisibleChanged: if (!visible) loader.active = false
 
@@ -58,7 +65,9 @@ T.AbstractButton {
             color: well.color // qmllint disable unqualified
             onPicked: picked => well.picked(picked) // qmllint disable unqualified
             onClosed: {
-                well.forceActiveFocus(Qt.PopupFocusReason); // qmllint disable unqualified
+                // qmllint disable unqualified
+                well.forceActiveFocus(well.isOpenedByKeys ? Qt.TabFocusReason : Qt.PopupFocusReason);
+                // qmllint enable unqualified
                 Qt.callLater(() => loader.active = false); // qmllint disable unqualified
             }
         }

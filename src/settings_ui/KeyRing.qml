@@ -1,12 +1,13 @@
 import QtQuick
+import QtQuick.Templates as T
 import Orvelle.Look
 
-/// Shows on which control the keys act, around its parent.
+/// Shows on which control the keys act, around its parent, where the keys brought one there and not the mouse.
 Rectangle {
-    required property Item control
+    required property T.Control control
 
     anchors.fill: parent
-    visible: control.activeFocus
+    visible: control.visualFocus
     color: Look.clear
     border.width: 2
     border.color: Look.blue

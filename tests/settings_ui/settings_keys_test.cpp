@@ -32,8 +32,9 @@ TEST_F(SettingsKeys, BringWhatTheyReachIntoView) {
     for (int count = 0; count < 22; ++count) {
         press(Qt::Key_Tab);
         const QRectF place = focused()->mapRectToScene({0, 0, focused()->width(), focused()->height()});
-        EXPECT_GE(place.top(), 0) << nameOf(focused()).toStdString();
-        EXPECT_LE(place.bottom(), scroller->y() + scroller->height()) << nameOf(focused()).toStdString();
+        // With the mark of the focus, which is around it.
+        EXPECT_GE(place.top(), 4) << nameOf(focused()).toStdString();
+        EXPECT_LE(place.bottom(), scroller->height() - 4) << nameOf(focused()).toStdString();
     }
 }
 
@@ -125,6 +126,39 @@ TEST_F(SettingsKeys, AreShownWhereTheyAct) {
         item("scroller")->forceActiveFocus();
         EXPECT_NE(view->grabWindow(), focusedPicture) << nameOf(each).toStdString();
     }
+}
+
+TEST_F(SettingsKeys, AreNotShownToWhoUsesTheMouse) {
+    openOverrides();
+    settings.setUseCustomCPUColor(true);
+    QQuickItem* well = item("well", overrideRow(u"CPU"));
+    for (const bool isByKeys : {false, true}) {
+        item("scroller")->forceActiveFocus();
+        if (isByKeys) {
+            well->forceActiveFocus(Qt::TabFocusReason);
+            press(Qt::Key_Space);
+        } else {
+            click(well);
+        }
+        QTest::qWait(20);
+        EXPECT_EQ(nameOf(focused()), QStringLiteral("Hue"));
+        EXPECT_EQ(focused()->property("visualFocus").toBool(), isByKeys);
+        press(Qt::Key_Escape);
+        QTest::qWait(20);
+        EXPECT_EQ(focused(), well);
+        EXPECT_EQ(well->property("visualFocus").toBool(), isByKeys);
+    }
+}
+
+TEST_F(SettingsKeys, StartAnewWhenTheWindowOpensAgain) {
+    control(u"Quit")->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_GT(item("scroller")->property("contentY").toDouble(), 100);
+    view->close();
+    open();
+    EXPECT_EQ(item("scroller")->property("contentY").toDouble(), 0);
+    EXPECT_EQ(focused(), item("scroller"));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(nameOf(focused()), QStringLiteral("CPU"));
 }
 
 TEST_F(SettingsKeys, FindNamesAndRolesOnEverything) {

@@ -135,11 +135,44 @@ TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
     }
 }
 
-TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualSize) {
+TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualAndItsSmallestSize) {
     openOverrides();
-    for (const QQuickItem* text :
-         items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }))
-        EXPECT_FALSE(text->property("truncated").toBool()) << text->property("text").toString().toStdString();
+    for (const QSize& size : {settingsSize, smallestSettingsSize}) {
+        view->resize(size);
+        QTest::qWait(50);
+        for (const QQuickItem* text :
+             items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }))
+            EXPECT_FALSE(text->property("truncated").toBool())
+                << text->property("text").toString().toStdString();
+    }
+}
+
+TEST_F(SettingsLook, StandsInLineWithTheTitlesAndTheLinesBetweenThem) {
+    openOverrides();
+    const auto place = [](const QQuickItem* each) {
+        return each->mapRectToScene({0, 0, each->width(), each->height()});
+    };
+    for (const char* name : {"showCPU", "useFahrenheit", "disclosure", "launchAtLogin"}) {
+        EXPECT_EQ(place(item(name)).left(), 16) << name;
+        EXPECT_EQ(place(item(name)).right(), 444) << name;
+    }
+    EXPECT_EQ(place(control(u"Midnight")).left(), 16);
+    EXPECT_EQ(place(control(u"Dracula")).right(), 444);
+    EXPECT_EQ(place(control(u"Striped")).right(), 444);
+    // What shows the focus and the pointer leaves room around the row.
+    for (const QQuickItem* row : {control(u"Use Fahrenheit"), item("disclosure")}) {
+        const QRectF ground = place(row->property("background").value<QQuickItem*>());
+        EXPECT_EQ(ground.left(), 10);
+        EXPECT_EQ(ground.right(), 450);
+    }
+}
+
+TEST_F(SettingsLook, OutlinesAPreviewOverItsDrawing) {
+    for (const QQuickItem* outline :
+         items([](const QQuickItem* each) { return each->objectName() == QLatin1String("outline"); })) {
+        for (const QQuickItem* sibling : outline->parentItem()->childItems())
+            EXPECT_TRUE(sibling == outline || sibling->z() < outline->z());
+    }
 }
 
 TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
@@ -166,6 +199,33 @@ TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
                     }).isEmpty();
         },
         2000));
+}
+
+TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
+    settings.setUseCustomCPUColor(true);
+    settings.setUseCustomSensorColor(true);
+    openOverrides();
+    const auto place = [](const QQuickItem* each) {
+        return each->mapRectToScene({0, 0, each->width(), each->height()});
+    };
+    for (const QStringView module : {u"CPU", u"Sensors"}) {
+        QQuickItem* well = item("well", overrideRow(module));
+        QQuickItem* scroller = item("scroller");
+        // The well stands at the window's bottom edge, and then at its top edge.
+        for (const double offset : {scroller->height() - 30, 30.0}) {
+            const double top = well->mapToItem(item("overrides")->parentItem(), {0, 0}).y();
+            QMetaObject::invokeMethod(scroller, "scrollTo", Q_ARG(QVariant, top - offset));
+            QTest::qWait(20);
+            QTest::mouseClick(view.get(), Qt::LeftButton, {}, place(well).center().toPoint());
+            QTest::qWait(50);
+            ASSERT_NE(focused(), nullptr);
+            const QQuickItem* parts = focused()->parentItem()->parentItem();
+            EXPECT_FALSE(place(parts).intersects(place(well))) << module.toString().toStdString();
+            EXPECT_TRUE(QRectF(QPointF(), view->size()).contains(place(parts)));
+            press(Qt::Key_Escape);
+            QTest::qWait(50);
+        }
+    }
 }
 
 TEST_F(SettingsLook, IsTitledAndHasTheUsualSize) {
