@@ -33,7 +33,7 @@ plant "the picture takes clicks" click_through_hosting_view.mm 's/^    return ni
 plant "the menu stays with its item" macos_context_menu.mm '/setMenu:nil/d'
 plant "another edge" macos_popover.mm 's/NSRectEdgeMinY/NSRectEdgeMaxY/'
 plant "not the key window" macos_popover.mm '/makeKeyWindow/d'
-plant "closed by its own press" macos_popover.mm 's|return !isPress .*|return isPress || true;|'
+plant "closed by its own press" macos_popover.mm 's#return !isPress .*#return isPress || true;#'
 plant "no memory of its closing" macos_popover.mm '/m_closedByItself = uptime/s/m_closedByItself = //'
 plant "a reference too many" retained.h '/~Retained/s/\[m_object release\];//'
 plant "the image of an item leaks" picture.h 's/CGImageRelease(image);/static_cast<void>(image);/'
