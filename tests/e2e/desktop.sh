@@ -3,7 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 
 readonly skipped=77
-readonly patienceSeconds=${ORVELLE_PATIENCE:-60}
+readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # less of it helps whoever writes a test
 
 # The leak checker of some compilers now and then stumbles over the thread-local storage of a thread that is just
 # ending; without this it does not look there.
