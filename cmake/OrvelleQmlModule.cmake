@@ -31,5 +31,7 @@ function(orvelle_qml_module target uri)
   endif()
   get_target_property(generated_sources ${target} SOURCES)
   list(FILTER generated_sources INCLUDE REGEX "/\\.rcc/qmlcache/")
-  set_source_files_properties(${generated_sources} PROPERTIES COMPILE_OPTIONS "${generated_options}")
+  set_source_files_properties(${generated_sources} PROPERTIES
+    COMPILE_OPTIONS "${generated_options}"
+    SKIP_PRECOMPILE_HEADERS ON)
 endfunction()

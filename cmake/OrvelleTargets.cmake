@@ -1,8 +1,11 @@
-# How every room of the house is built: one library target per folder, one test program per room.
+# How every room of the house is built: one library target per folder, few test programs per floor.
 
 option(ORVELLE_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
 option(ORVELLE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(ORVELLE_FAST_BUILD "Precompile headers and compile several files at once" OFF)
 option(ORVELLE_BUILD_FUZZERS "Build a fuzzer for every parser of outside text (clang only)" OFF)
+
+set(CMAKE_UNITY_BUILD ${ORVELLE_FAST_BUILD})
 
 add_library(orvelle_build_flags INTERFACE)
 target_include_directories(orvelle_build_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -11,9 +14,11 @@ target_compile_options(orvelle_build_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
   $<$<BOOL:${ORVELLE_WARNINGS_AS_ERRORS}>:-Werror>)
 if(ORVELLE_SANITIZE)
-  target_compile_options(orvelle_build_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # Checks that the standard library makes of its own callers, in the program and in the tests alike.
+  target_compile_definitions(orvelle_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
+  target_compile_options(orvelle_build_flags INTERFACE -fno-omit-frame-pointer)
   target_link_options(orvelle_build_flags INTERFACE -fsanitize=address,undefined)
+  set(ORVELLE_SANITIZE_OPTIONS -fsanitize=address,undefined -fno-sanitize-recover=all)
 endif()
 if(ORVELLE_BUILD_FUZZERS)
   target_compile_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)
@@ -28,39 +33,87 @@ else()
   set(ORVELLE_LOADS_WINDOWS OFF)
 endif()
 
-# orvelle_library(NAME [COMMON] SOURCES... LINK...): a library of one folder. COMMON is for what both the program
-# and a module that it loads use: there must be one of it in the process, so it is shared where modules are loaded.
-# A folder with headers only is declared with no compiled source and becomes an interface library.
-function(orvelle_library name)
-  cmake_parse_arguments(ARG "COMMON" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
-  set(kind STATIC)
-  if(ARG_COMMON AND ORVELLE_LOADS_WINDOWS)
-    set(kind SHARED)
-    set_property(GLOBAL APPEND PROPERTY ORVELLE_SHARED_LIBRARIES ${name})
+# Most of the time of compiling a file goes into reading headers that nearly every file of its kind includes. Each
+# kind of library precompiles them once: `plain` knows no Qt, `core`, `gui` and `quick` know that module of it.
+set(ORVELLE_HEADERS_plain <algorithm> <array> <charconv> <chrono> <cmath> <cstdint> <filesystem> <fstream>
+  <functional> <map> <memory> <optional> <ranges> <span> <string> <string_view> <utility> <vector>)
+set(ORVELLE_HEADERS_core ${ORVELLE_HEADERS_plain} <QObject> <QTimer>)
+set(ORVELLE_HEADERS_gui ${ORVELLE_HEADERS_core} <QGuiApplication> <QImage> <QPainter> <QPainterPath> <QWindow>)
+set(ORVELLE_HEADERS_quick ${ORVELLE_HEADERS_gui} <QQmlEngine> <QQuickItem> <QQuickView>)
+set(ORVELLE_MODULE_core Qt6::Core)
+set(ORVELLE_MODULE_gui Qt6::Gui)
+set(ORVELLE_MODULE_quick Qt6::Quick)
+
+# orvelle_precompile(TARGET KIND): lets the target use the precompiled headers of its kind.
+function(orvelle_precompile target kind)
+  if(NOT ORVELLE_FAST_BUILD)
+    return()
   endif()
-  if(ARG_SOURCES)
-    add_library(${name} ${kind} ${ARG_SOURCES})
-    target_link_libraries(${name} PUBLIC orvelle_build_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
-  else()
+  set(owner orvelle_headers_${kind})
+  if(NOT TARGET ${owner})
+    set(empty ${CMAKE_BINARY_DIR}/${owner}.cpp)
+    file(CONFIGURE OUTPUT ${empty} CONTENT "// Only the headers before it matter.\n")
+    add_library(${owner} OBJECT ${empty})
+    target_link_libraries(${owner} PRIVATE orvelle_build_flags ${ORVELLE_MODULE_${kind}})
+    target_compile_options(${owner} PRIVATE ${ORVELLE_SANITIZE_OPTIONS})
+    target_precompile_headers(${owner} PRIVATE ${ORVELLE_HEADERS_${kind}})
+  endif()
+  target_precompile_headers(${target} REUSE_FROM ${owner})
+endfunction()
+
+# orvelle_library(NAME [COMMON] [MOC] [KIND plain|core|gui|quick] SOURCES... LINK...): a library of one folder.
+# COMMON is for what both the program and a module that it loads use: there must be one of it in the process, so it
+# is shared where modules are loaded. MOC is for folders with a Q_OBJECT or Q_GADGET. KIND chooses the precompiled
+# headers. A folder with headers only is declared with no compiled source and becomes an interface library.
+function(orvelle_library name)
+  cmake_parse_arguments(ARG "COMMON;MOC" "KIND" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  if(NOT ARG_SOURCES)
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE orvelle_build_flags ${ARG_LINK})
+    return()
+  endif()
+  set(library_type STATIC)
+  if(ARG_COMMON AND ORVELLE_LOADS_WINDOWS)
+    set(library_type SHARED)
+    set_property(GLOBAL APPEND PROPERTY ORVELLE_SHARED_LIBRARIES ${name})
+  endif()
+  add_library(${name} ${library_type} ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC orvelle_build_flags ${ARG_LINK} PRIVATE ${ARG_LINK_PRIVATE})
+  target_compile_options(${name} PRIVATE ${ORVELLE_SANITIZE_OPTIONS})
+  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
+  if(ARG_KIND)
+    orvelle_precompile(${name} ${ARG_KIND})
   endif()
 endfunction()
 
-# orvelle_test(NAME [GUI] SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
+# orvelle_program(NAME [MOC] SOURCES... LINK...): a program that people run.
+function(orvelle_program name)
+  cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK})
+  target_compile_options(${name} PRIVATE ${ORVELLE_SANITIZE_OPTIONS})
+  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
+endfunction()
+
+# orvelle_test(NAME [GUI] [MOC] SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
 # GUI gives it a QGuiApplication, for fonts and images; without it there is a QCoreApplication.
+# The libraries under test are built with the sanitizers; the tests' own files are not, because the checks of a
+# test's assertions find nothing and take half of its compile time.
 function(orvelle_test name)
-  cmake_parse_arguments(ARG "GUI" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "GUI;MOC" "" "SOURCES;LINK" ${ARGN})
   set(support orvelle_test_support)
   if(ARG_GUI)
     set(support orvelle_gui_test_support)
   endif()
   add_executable(${name} ${ARG_SOURCES})
+  # Compiled as the library is whose precompiled headers it uses.
+  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC} UNITY_BUILD OFF POSITION_INDEPENDENT_CODE OFF)
+  target_compile_options(${name} PRIVATE -fPIC -O0)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  # Most of a test's compile time is the framework's headers and the optimisation of its assertions.
-  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <QObject> <filesystem> <functional> <fstream>)
-  target_compile_options(${name} PRIVATE -O0)
   target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK} ${support})
+  if(ORVELLE_FAST_BUILD)
+    target_precompile_headers(${name} REUSE_FROM ${support})
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   orvelle_test_environment(${name})
 endfunction()

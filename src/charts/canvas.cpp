@@ -5,7 +5,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double largestSide = 16384;
+constexpr double largestCanvasSide = 16384;
 
 } // namespace
 
@@ -22,8 +22,8 @@ Canvas::~Canvas() {
 }
 
 bool isPaintable(const QSizeF& size) {
-    return size.width() > 0 && size.height() > 0 && size.width() <= largestSide &&
-           size.height() <= largestSide;
+    return size.width() > 0 && size.height() > 0 && size.width() <= largestCanvasSide &&
+           size.height() <= largestCanvasSide;
 }
 
 QColor withOpacity(const QColor& color, double opacity) {

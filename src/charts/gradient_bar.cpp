@@ -10,7 +10,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double cornerRadius = 2;
+constexpr double gradientBarRadius = 2;
 constexpr double opacityAtStart = 0.7;
 
 } // namespace
@@ -20,14 +20,14 @@ void GradientBar::paint(QPainter& painter, const QRectF& bounds, double shownFra
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(continuousRoundedRect(bounds, cornerRadius), trackColor);
+    painter.fillPath(continuousRoundedRect(bounds, gradientBarRadius), trackColor);
     // A spring overshoots both ends; what is no number fills nothing.
     const double filled = shownFraction > 0 ? std::min(shownFraction, 1.0) : 0;
     const QRectF fill(bounds.topLeft(), QSizeF(bounds.width() * filled, bounds.height()));
     QLinearGradient gradient(fill.topLeft(), fill.topRight());
     gradient.setColorAt(0, withOpacity(color, opacityAtStart));
     gradient.setColorAt(1, color);
-    painter.fillPath(continuousRoundedRect(fill, cornerRadius), gradient);
+    painter.fillPath(continuousRoundedRect(fill, gradientBarRadius), gradient);
     painter.restore();
 }
 

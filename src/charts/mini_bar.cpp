@@ -8,7 +8,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double cornerRadius = 0.5;
+constexpr double miniBarRadius = 0.5;
 
 } // namespace
 
@@ -26,7 +26,7 @@ void MiniBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown)
     const QRectF bar = QRectF(slot.left(), slot.bottom() - height, slot.width(), height) & slot;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(continuousRoundedRect(bar, cornerRadius), shown.color);
+    painter.fillPath(continuousRoundedRect(bar, miniBarRadius), shown.color);
     painter.restore();
 }
 

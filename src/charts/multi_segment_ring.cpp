@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double twelveOClock = -90;
+constexpr double firstSegmentStart = -90;
 
 QPen segmentPen(const QColor& color, double lineWidth) {
     return {color, lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin};
@@ -34,7 +34,7 @@ void MultiSegmentRing::paint(QPainter& painter, const QRectF& bounds) const {
     const QList<SegmentAngles> angles = segmentAngles(valuesOf(segments));
     for (qsizetype index = 0; index < segments.size(); ++index) {
         const Trim trim = segmentTrim(angles[index], animatedProgress);
-        painter.strokePath(trimmedCircle(square, trim, twelveOClock),
+        painter.strokePath(trimmedCircle(square, trim, firstSegmentStart),
                            segmentPen(segments[index].color, lineWidth));
     }
     painter.restore();

@@ -11,7 +11,7 @@ namespace orvelle {
 namespace {
 
 /// More pixels a side than this are no picture of a chart; their memory would be felt.
-constexpr double largestSide = 8192;
+constexpr double largestPictureSide = 8192;
 
 double steppedResolution(const QPainter& painter) {
     constexpr double stepsPerUnit = 4;
@@ -46,9 +46,9 @@ QTransform PixelGrid::toPixels() const {
 
 QRect PixelGrid::covering(const QRectF& area) const {
     const QRectF pixels = toPixels().mapRect(area);
-    const bool isPaintable = !pixels.isEmpty() && pixels.width() < largestSide &&
-                             pixels.height() < largestSide && std::abs(pixels.x()) < largestSide &&
-                             std::abs(pixels.y()) < largestSide;
+    const bool isPaintable = !pixels.isEmpty() && pixels.width() < largestPictureSide &&
+                             pixels.height() < largestPictureSide && std::abs(pixels.x()) < largestPictureSide &&
+                             std::abs(pixels.y()) < largestPictureSide;
     return isPaintable ? pixels.toAlignedRect() : QRect();
 }
 

@@ -10,13 +10,13 @@ namespace {
 // Qt measures the angles of a conical gradient in degrees from three o'clock and its positions against the
 // clock, so what is to run clockwise is written backwards.
 constexpr double threeOClock = 0;
-constexpr double twelveOClock = 90;
+constexpr double gradientStart = 90;
 
 } // namespace
 
 QConicalGradient ringShade(const QColor& start, const QColor& end, double fraction) {
     constexpr double hairsbreadth = 1e-4; // two stops cannot share one position
-    QConicalGradient shade(QPointF(0, 0), twelveOClock);
+    QConicalGradient shade(QPointF(0, 0), gradientStart);
     const double lastFilled = 1 - fraction;
     shade.setColorAt(0, fraction < 1 ? start : end);
     if (fraction < 1) {

@@ -41,7 +41,7 @@ QRectF dialSquare() {
     return {-dialSize / 2, -dialSize / 2, dialSize, dialSize};
 }
 
-QRectF inkedSquare() {
+QRectF inkedDial() {
     constexpr double stroke = strokeWidth / 2;
     return dialSquare().adjusted(-stroke, -stroke, stroke, stroke);
 }
@@ -57,7 +57,7 @@ void drawDial(QPainter& painter, const TemperatureDial& dial) {
     painter.strokePath(dialArc(ringTrack(RingChartStyle::halfGauge)),
                        dialPen(withOpacity(SystemColors::white, trackOpacity)));
     if (!progress.isEmpty())
-        paintGlow(painter, inkedSquare(), GlowStyle::of(dial.glowColor, dial.glowIntensity),
+        paintGlow(painter, inkedDial(), GlowStyle::of(dial.glowColor, dial.glowIntensity),
                   [&](QPainter& mask) { mask.strokePath(progress, pen); });
     painter.strokePath(progress, pen);
 }
@@ -90,7 +90,7 @@ void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds, double sho
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(bounds.center().x(), bounds.top() + dialSize / 2);
-    showKept(painter, cache, dial, withGlowRoom(inkedSquare(), glowRadius(dial.glowIntensity)),
+    showKept(painter, cache, dial, withGlowRoom(inkedDial(), glowRadius(dial.glowIntensity)),
              [&](QPainter& target) { drawDial(target, dial); });
     drawLabel(painter, dialSquare(), temperatureReading(temperature, useFahrenheit), readingFont(),
               isTemperatureKnown(temperature) ? LabelColors::primary : LabelColors::secondary);

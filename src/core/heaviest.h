@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <utility>
 
 namespace orvelle {
 
@@ -22,13 +23,11 @@ public:
     void offer(const Item& item, const Weight& weight) {
         if (m_count == maximumCount && !(weight > m_ranked[maximumCount - 1].weight))
             return;
-        const auto end = m_ranked.begin() + static_cast<std::ptrdiff_t>(m_count);
-        const auto place =
-            std::find_if(m_ranked.begin(), end, [&](const Ranked& kept) { return weight > kept.weight; });
         m_count = std::min(m_count + 1, maximumCount);
-        const auto newEnd = m_ranked.begin() + static_cast<std::ptrdiff_t>(m_count);
-        std::move_backward(place, newEnd - 1, newEnd);
-        *place = {.item = item, .weight = weight};
+        std::size_t place = m_count - 1;
+        for (; place > 0 && weight > m_ranked[place - 1].weight; --place)
+            m_ranked[place] = std::move(m_ranked[place - 1]);
+        m_ranked[place] = {.item = item, .weight = weight};
     }
 
     /// The items kept, heaviest first.

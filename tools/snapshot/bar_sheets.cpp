@@ -12,13 +12,13 @@ constexpr double glowRoom = 11; ///< for the most intense glow
 
 const QList<double> everyLevel = {0, 0.2, 0.4, 0.55, 0.7, 0.85, 1};
 
-struct Series {
+struct BarSeries {
     const char* caption;
     QList<double> values;
     double maxValue = 1;
 };
 
-const QList<Series> unusualSeries = {
+const QList<BarSeries> unusualBars = {
     {"all idle", {0, 0, 0, 0, 0, 0, 0, 0}},
     {"above the maximum", {1.4, 2, 9}},
     {"no maximum", {1, 2, 3, 4}, 0},
@@ -43,7 +43,7 @@ SheetRow barRowOf(BarChartStyle style) {
         chart.glowIntensity = glow;
         row.cells.append(barCell(QStringLiteral("glow %1").arg(caseName(glow)), chart));
     }
-    for (const Series& series : unusualSeries) {
+    for (const BarSeries& series : unusualBars) {
         AnimatedBarChart chart = barChart(style, series.values);
         chart.maxValue = series.maxValue;
         row.cells.append(barCell(QString::fromLatin1(series.caption), chart));

@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double barHeight = 22;
+constexpr double itemHeight = 22;
 
 SheetCell itemCell(const Module& module, MenuBarDisplayStyle style, SystemMonitor& monitor,
                    FreshSettings& settings) {
@@ -17,7 +17,7 @@ SheetCell itemCell(const Module& module, MenuBarDisplayStyle style, SystemMonito
         const ModuleContext context{monitor, settings.store, settings.themes};
         module.makeMenuBarView(context)->paint(painter, frame);
     };
-    return {.caption = module.key, .size = {module.length, barHeight}, .paint = paint};
+    return {.caption = module.key, .size = {module.length, itemHeight}, .paint = paint};
 }
 
 } // namespace

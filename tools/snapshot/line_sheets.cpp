@@ -14,7 +14,7 @@ constexpr double graphRoom = 2; ///< a graph paints nothing outside its canvas
 const QList<double> lively = {0.2, 0.25, 0.22, 0.6, 0.85, 0.5, 0.48, 0.9, 0.3, 0.1, 0.12, 0.4, 0.7, 0.65};
 const QList<double> other = {0.6, 0.5, 0.52, 0.3, 0.1, 0.15, 0.4, 0.2, 0.7, 0.8, 0.6, 0.3, 0.2, 0.35};
 
-struct Series {
+struct LineSeries {
     const char* caption;
     QList<double> data;
     double maxValue = 1;
@@ -28,7 +28,7 @@ QList<double> manySamples() {
     return samples;
 }
 
-QList<Series> unusualSeries() {
+QList<LineSeries> unusualLines() {
     return {{"one sample", {0.5}},
             {"two samples", {0.2, 0.8}},
             {"all zero", {0, 0, 0, 0}},
@@ -70,7 +70,7 @@ SheetRow graphRowOf(GraphLineStyle line) {
 
 SheetRow unusualGraphs() {
     SheetRow row{.title = QStringLiteral("other data"), .cells = {}};
-    for (const Series& series : unusualSeries()) {
+    for (const LineSeries& series : unusualLines()) {
         AnimatedLineGraph graph = lineGraph(GraphLineStyle::smooth, GraphFillStyle::gradient, gridColor);
         graph.data = series.data;
         graph.maxValue = series.maxValue;
@@ -119,7 +119,7 @@ SheetRow sparklinesOfAllSizes() {
 
 SheetRow unusualSparklines() {
     SheetRow row{.title = QStringLiteral("single, other data"), .cells = {}};
-    for (const Series& series : unusualSeries())
+    for (const LineSeries& series : unusualLines())
         row.cells.append(sparklineCell(QString::fromLatin1(series.caption),
                                        sparkline(series.data, series.maxValue, {64, 24})));
     return row;

@@ -11,14 +11,14 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 2;
+constexpr double batterySpacing = 2;
 constexpr double chargingMarkFontSize = 7;
-constexpr QSizeF historySize(28, 12);
+constexpr QSizeF batteryHistorySize(28, 12);
 
 ItemPart externalPower() {
     return row(
         {iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), smallValueFontSize)},
-        spacing);
+        batterySpacing);
 }
 
 QString chargeText(const BatteryInfo& battery) {
@@ -53,20 +53,20 @@ ItemPart BatteryMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
         return charge(valueFontSize);
     case MenuBarDisplayStyle::miniBars:
     case MenuBarDisplayStyle::iconAndText:
-        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)}, spacing);
+        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)}, batterySpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, historySize)}, spacing);
+        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)}, batterySpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, dotsPart(batteryDotColors(battery.currentCapacity, color))}, spacing);
+    return row({icon, dotsPart(batteryDotColors(battery.currentCapacity, color))}, batterySpacing);
 }
 
 ItemPart BatteryMenuBarItem::charge(double fontSize) const {
     QList<ItemPart> parts = {valuePart(chargeText(m_monitor.battery()), fontSize)};
     if (m_monitor.battery().isCharging)
         parts.append(symbolPart(u"bolt.fill", chargingMarkFontSize, SystemColors::yellow));
-    return row(parts, spacing);
+    return row(parts, batterySpacing);
 }
 
 } // namespace orvelle

@@ -16,8 +16,8 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 3;
-constexpr QSizeF historySize(32, 12);
+constexpr double cpuSpacing = 3;
+constexpr QSizeF cpuHistorySize(32, 12);
 
 /// Moves the bar's sides to whole device pixels, because a gap of one pixel that lies between two is not
 /// seen. Where bars or gaps are narrower than a pixel, they stay where they are.
@@ -83,17 +83,17 @@ ItemPart CPUMenuBarItem::body(const QList<BarLook>& shown) const {
     const ItemPart usage = valuePart(formatPercent(m_monitor.totalUsage()));
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return row({icon, coreBars(shown)}, spacing);
+        return row({icon, coreBars(shown)}, cpuSpacing);
     case MenuBarDisplayStyle::textOnly:
         return usage;
     case MenuBarDisplayStyle::iconAndText:
-        return row({icon, usage}, spacing);
+        return row({icon, usage}, cpuSpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.usageHistory(), color, 1.0, historySize)}, spacing);
+        return row({icon, historyPart(m_monitor.usageHistory(), color, 1.0, cpuHistorySize)}, cpuSpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, coreDots(color)}, spacing);
+    return row({icon, coreDots(color)}, cpuSpacing);
 }
 
 ItemPart CPUMenuBarItem::coreDots(const QColor& color) const {

@@ -12,8 +12,8 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 2;
-constexpr QSizeF historySize(28, 12);
+constexpr double diskSpacing = 2;
+constexpr QSizeF diskHistorySize(28, 12);
 
 } // namespace
 
@@ -34,17 +34,17 @@ ItemPart DiskMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     const ItemPart icon = iconPart(u"internaldrive", color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return row({icon, activityAndUsage(color)}, spacing);
+        return row({icon, activityAndUsage(color)}, diskSpacing);
     case MenuBarDisplayStyle::textOnly:
         return withUsedText({});
     case MenuBarDisplayStyle::iconAndText:
         return withUsedText({icon});
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, history()}, spacing);
+        return row({icon, history()}, diskSpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, activityDots()}, spacing);
+    return row({icon, activityDots()}, diskSpacing);
 }
 
 std::optional<double> DiskMenuBarItem::used() const {
@@ -56,7 +56,7 @@ std::optional<double> DiskMenuBarItem::used() const {
 ItemPart DiskMenuBarItem::withUsedText(QList<ItemPart> parts) const {
     if (const std::optional<double> fraction = used())
         parts.append(valuePart(formatPercent(*fraction)));
-    return row(parts, spacing);
+    return row(parts, diskSpacing);
 }
 
 ItemPart DiskMenuBarItem::activityAndUsage(const QColor& color) const {
@@ -83,8 +83,8 @@ ItemPart DiskMenuBarItem::history() const {
                                            .bottomData = recentSamples(m_monitor.writeHistory()),
                                            .topColor = theme.diskReadColor,
                                            .bottomColor = theme.diskWriteColor,
-                                           .width = historySize.width(),
-                                           .height = historySize.height()});
+                                           .width = diskHistorySize.width(),
+                                           .height = diskHistorySize.height()});
 }
 
 ItemPart DiskMenuBarItem::activityDots() const {

@@ -12,10 +12,10 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 3;
+constexpr double memorySpacing = 3;
 constexpr QSizeF barSize(28, 8);
 constexpr double barCornerRadius = 3;
-constexpr QSizeF historySize(28, 12);
+constexpr QSizeF memoryHistorySize(28, 12);
 constexpr qsizetype dotCount = 5;
 constexpr double unlitOpacity = 0.2;
 
@@ -47,18 +47,18 @@ ItemPart MemoryMenuBarItem::body(const QList<BarLook>& shown) const {
     case MenuBarDisplayStyle::miniBars:
         return row({icon, levelBarPart(barSize, barCornerRadius, bar.ratio, bar.color),
                     valuePart(formatPercent(used), smallValueFontSize)},
-                   spacing);
+                   memorySpacing);
     case MenuBarDisplayStyle::textOnly:
         return valuePart(formatPercent(used));
     case MenuBarDisplayStyle::iconAndText:
-        return row({icon, valuePart(formatPercent(used))}, spacing);
+        return row({icon, valuePart(formatPercent(used))}, memorySpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.pressureHistory(), color, 1.0, historySize)}, spacing);
+        return row({icon, historyPart(m_monitor.pressureHistory(), color, 1.0, memoryHistorySize)}, memorySpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
     const qsizetype lit = litDotCount(used * static_cast<double>(dotCount), dotCount);
-    return row({icon, dotsPart(meterColors(color, lit, dotCount, unlitOpacity))}, spacing);
+    return row({icon, dotsPart(meterColors(color, lit, dotCount, unlitOpacity))}, memorySpacing);
 }
 
 } // namespace orvelle

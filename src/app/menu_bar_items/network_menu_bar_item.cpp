@@ -14,7 +14,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 2;
+constexpr double networkSpacing = 2;
 constexpr double historyHeight = 14;
 constexpr double rateFontSize = 8;
 
@@ -52,17 +52,17 @@ ItemPart NetworkMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     const bool hasHistory = !m_monitor.downloadHistory().isEmpty();
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
-        return hasHistory ? row({ratePair(), history(widthBesideRates)}, spacing) : ratePair();
+        return hasHistory ? row({ratePair(), history(widthBesideRates)}, networkSpacing) : ratePair();
     case MenuBarDisplayStyle::textOnly:
         return rates();
     case MenuBarDisplayStyle::iconAndText:
         return ratePair();
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, hasHistory ? history(widthBesideIcon) : ratePair()}, spacing);
+        return row({icon, hasHistory ? history(widthBesideIcon) : ratePair()}, networkSpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, activityDots()}, spacing);
+    return row({icon, activityDots()}, networkSpacing);
 }
 
 ItemPart NetworkMenuBarItem::rates() const {

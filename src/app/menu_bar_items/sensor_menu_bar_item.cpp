@@ -12,8 +12,8 @@
 namespace orvelle {
 namespace {
 
-constexpr double spacing = 2;
-constexpr QSizeF historySize(24, 10);
+constexpr double sensorSpacing = 2;
+constexpr QSizeF sensorHistorySize(24, 10);
 constexpr double historyMaximum = 110;
 
 } // namespace
@@ -42,14 +42,14 @@ ItemPart SensorMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     case MenuBarDisplayStyle::textOnly:
         return text;
     case MenuBarDisplayStyle::iconAndText:
-        return row({icon, text}, spacing);
+        return row({icon, text}, sensorSpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.cpuTempHistory(), color, historyMaximum, historySize)},
-                   spacing);
+        return row({icon, historyPart(m_monitor.cpuTempHistory(), color, historyMaximum, sensorHistorySize)},
+                   sensorSpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, dotsPart(temperatureDotColors(celsius))}, spacing);
+    return row({icon, dotsPart(temperatureDotColors(celsius))}, sensorSpacing);
 }
 
 } // namespace orvelle
