@@ -46,9 +46,9 @@ QTransform PixelGrid::toPixels() const {
 
 QRect PixelGrid::covering(const QRectF& area) const {
     const QRectF pixels = toPixels().mapRect(area);
-    const bool isPaintable = !pixels.isEmpty() && pixels.width() < largestPictureSide &&
-                             pixels.height() < largestPictureSide && std::abs(pixels.x()) < largestPictureSide &&
-                             std::abs(pixels.y()) < largestPictureSide;
+    const bool isPaintable =
+        !pixels.isEmpty() && pixels.width() < largestPictureSide && pixels.height() < largestPictureSide &&
+        std::abs(pixels.x()) < largestPictureSide && std::abs(pixels.y()) < largestPictureSide;
     return isPaintable ? pixels.toAlignedRect() : QRect();
 }
 

@@ -18,12 +18,12 @@ BatteryMonitor::BatteryMonitor(BatterySource& source, QObject* parent)
     , m_source(source) {}
 
 template <class Field, class Value>
-void BatteryMonitor::assign(Field BatteryInfo::*field, Value value) {
+void BatteryMonitor::assign(Field BatteryInfo::* field, Value value) {
     publish(this, m_battery.*field, Field{std::move(value)}, &BatteryMonitor::batteryChanged);
 }
 
 template <class Field, class Value>
-void BatteryMonitor::assignIfKnown(Field BatteryInfo::*field, const std::optional<Value>& value) {
+void BatteryMonitor::assignIfKnown(Field BatteryInfo::* field, const std::optional<Value>& value) {
     if (value)
         assign(field, *value);
 }

@@ -81,9 +81,9 @@ private:
     void takeCapacities(const SmartBatteryProperties& properties);
 
     template <class Field, class Value>
-    void assign(Field BatteryInfo::*field, Value value);
+    void assign(Field BatteryInfo::* field, Value value);
     template <class Field, class Value>
-    void assignIfKnown(Field BatteryInfo::*field, const std::optional<Value>& value);
+    void assignIfKnown(Field BatteryInfo::* field, const std::optional<Value>& value);
 
     BatterySource& m_source;
     BatteryInfo m_battery;

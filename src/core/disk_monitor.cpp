@@ -69,7 +69,7 @@ void DiskMonitor::publishThroughput(const DiskCounters& counters, double elapsed
     const auto speed = [elapsedSeconds](std::uint64_t current, std::uint64_t previous) {
         return static_cast<double>(counterDelta(current, previous)) / elapsedSeconds;
     };
-    const auto assign = [this](auto DiskIO::*field, auto value) {
+    const auto assign = [this](auto DiskIO::* field, auto value) {
         m_diskIO.*field = value;
         Q_EMIT diskIOChanged();
     };

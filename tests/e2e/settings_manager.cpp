@@ -1,5 +1,5 @@
-// The program of a desktop that publishes its settings, for the end-to-end tests: for each number on its standard
-// input it publishes that animations are enabled (1) or not (0). It ends with its input.
+// The program of a desktop that publishes its settings, for the end-to-end tests: for each number on its
+// standard input it publishes that animations are enabled (1) or not (0). It ends with its input.
 
 #include "support/xsettings_bytes.h"
 

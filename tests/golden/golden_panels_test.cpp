@@ -1,9 +1,9 @@
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
 #include "golden_picture.h"
-#include "snapshot/window_pictures.h"
 #include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
+#include "snapshot/window_pictures.h"
 
 #include <gtest/gtest.h>
 

@@ -79,7 +79,7 @@ TEST_F(ThemeManagerTest, FollowsTheStoreAndTheFile) {
 struct Module {
     const char* name;
     QColor (ThemeManager::*color)(const SettingsStore&) const;
-    QColor AppTheme::*themeColor;
+    QColor AppTheme::* themeColor;
     void (SettingsStore::*setCustom)(bool);
     void (SettingsStore::*setHex)(const QString&);
 };

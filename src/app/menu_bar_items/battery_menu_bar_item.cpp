@@ -53,9 +53,11 @@ ItemPart BatteryMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
         return charge(valueFontSize);
     case MenuBarDisplayStyle::miniBars:
     case MenuBarDisplayStyle::iconAndText:
-        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)}, batterySpacing);
+        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)},
+                   batterySpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)}, batterySpacing);
+        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)},
+                   batterySpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }

@@ -53,7 +53,8 @@ ItemPart MemoryMenuBarItem::body(const QList<BarLook>& shown) const {
     case MenuBarDisplayStyle::iconAndText:
         return row({icon, valuePart(formatPercent(used))}, memorySpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.pressureHistory(), color, 1.0, memoryHistorySize)}, memorySpacing);
+        return row({icon, historyPart(m_monitor.pressureHistory(), color, 1.0, memoryHistorySize)},
+                   memorySpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }

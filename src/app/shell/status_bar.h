@@ -31,8 +31,8 @@ public:
     /// A menu, not shown yet, for the items of this bar, which must outlive it.
     [[nodiscard]] virtual std::unique_ptr<ContextMenu> makeContextMenu() = 0;
 
-    /// Moves the keyboard to the items, so that keys choose one and open it. Nothing happens on a desktop that
-    /// has a key of its own for that.
+    /// Moves the keyboard to the items, so that keys choose one and open it. Nothing happens on a desktop
+    /// that has a key of its own for that.
     virtual void takeKeyboard() {}
 
 Q_SIGNALS:

@@ -94,7 +94,7 @@ std::int64_t minutesUntil(const Figure& wattHours, const Figure& watts) {
 
 /// The time that a driver gives counts where there is no other pack to be emptied or filled as well.
 std::int64_t minutesGivenOr(const std::vector<BatteryPack>& packs,
-                            std::optional<std::int64_t> BatteryPack::*seconds, std::int64_t otherwise) {
+                            std::optional<std::int64_t> BatteryPack::* seconds, std::int64_t otherwise) {
     const std::optional<std::int64_t> given = packs.size() == 1 ? packs.front().*seconds : std::nullopt;
     const Figure minutes = given ? Figure(static_cast<double>(*given) / 60.0) : std::nullopt;
     return minutes && *minutes > 0 && *minutes <= longestMinutes ? rounded(*minutes) : otherwise;

@@ -13,7 +13,7 @@ enum class Change { rare, frequent };
 
 struct PackAttribute {
     const char* file;
-    std::optional<std::int64_t> BatteryPack::*field;
+    std::optional<std::int64_t> BatteryPack::* field;
     Change change;
 };
 

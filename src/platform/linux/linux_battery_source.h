@@ -22,7 +22,7 @@ private:
     /// A number that changes from sample to sample.
     struct MovingValue {
         KeptFile file;
-        std::optional<std::int64_t> BatteryPack::*field;
+        std::optional<std::int64_t> BatteryPack::* field;
     };
     /// A place for a pack, which may be taken out while the program runs.
     struct Bay {

@@ -50,7 +50,7 @@ std::vector<std::int64_t> LinuxSensorSource::readFanSpeeds() {
     return speeds;
 }
 
-std::optional<double> LinuxSensorSource::bestRanked(std::optional<int> Temperature::*rank) const {
+std::optional<double> LinuxSensorSource::bestRanked(std::optional<int> Temperature::* rank) const {
     std::optional<int> bestRank;
     std::optional<double> best;
     for (const Chip& chip : m_chips) {

@@ -48,7 +48,7 @@ private:
     void sample();
     void sampleChip(Chip& chip);
     void sampleChannel(Channel& channel);
-    [[nodiscard]] std::optional<double> bestRanked(std::optional<int> Temperature::*rank) const;
+    [[nodiscard]] std::optional<double> bestRanked(std::optional<int> Temperature::* rank) const;
     [[nodiscard]] static Chip keep(const HwmonChip& found, bool isTitleShared);
 
     std::filesystem::path m_root;

@@ -14,7 +14,7 @@ constexpr std::uint64_t maximumBytes = std::uint64_t{1} << 62;
 
 struct MeminfoLine {
     std::string_view label;
-    std::uint64_t Meminfo::*field;
+    std::uint64_t Meminfo::* field;
 };
 
 constexpr std::array meminfoLines{

@@ -33,8 +33,8 @@ struct ProcessStat {
 [[nodiscard]] bool isKernelThread(const ProcessStat& stat);
 
 /// The name to show: the last component of the executable's path, without the mark that the kernel appends
-/// when the file has been removed since; `comm` when there is no path. Made fit to be shown; U+FFFD when `comm`
-/// has no character that is, and empty only when there is neither.
+/// when the file has been removed since; `comm` when there is no path. Made fit to be shown; U+FFFD when
+/// `comm` has no character that is, and empty only when there is neither.
 [[nodiscard]] std::string processName(std::string_view executablePath, std::string_view comm);
 
 } // namespace orvelle::linux_platform

@@ -26,9 +26,8 @@ protected:
     /// The item as the menu bar shows it in a place of `length` points.
     [[nodiscard]] static QImage picture(const StatusItemView& item, double length,
                                         double ratio = pixelsPerPoint) {
-        return paintedImage({length, barHeight}, ratio, [&](QPainter& painter) {
-            item.paint(painter, {0, 0, length, barHeight});
-        });
+        return paintedImage({length, barHeight}, ratio,
+                            [&](QPainter& painter) { item.paint(painter, {0, 0, length, barHeight}); });
     }
     [[nodiscard]] static QImage picture(const ItemPart& part, double length) {
         return paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {

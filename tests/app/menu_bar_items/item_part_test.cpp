@@ -21,9 +21,8 @@ ItemPart recorder(const QSizeF& size, double rigidWidth, const std::shared_ptr<F
 }
 
 void paintInto(const QSizeF& place, double ratio, const ItemPart& item) {
-    (void)paintedImage(place, ratio, [&](QPainter& painter) {
-        paintCentred(painter, {{0, 0}, place}, item);
-    });
+    (void)paintedImage(place, ratio,
+                       [&](QPainter& painter) { paintCentred(painter, {{0, 0}, place}, item); });
 }
 
 class ItemPartTest : public ::testing::Test {

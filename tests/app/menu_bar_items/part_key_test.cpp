@@ -58,9 +58,7 @@ TEST(PartKey, EveryValueOfAPartCounts) {
         batteryGlyphPart(51, Qt::green),
         batteryGlyphPart(50, Qt::red),
         sparklinePart(line),
-        changedLine([](SparklineView& changed) {
-            changed.data = {1, 3};
-        }),
+        changedLine([](SparklineView& changed) { changed.data = {1, 3}; }),
         changedLine([](SparklineView& changed) { changed.maxValue = 4; }),
         changedLine([](SparklineView& changed) { changed.lineColor = Qt::blue; }),
         changedLine([](SparklineView& changed) { changed.fillColor = Qt::blue; }),

@@ -198,9 +198,8 @@ class BarClickTest : public BarWindowTest {
 protected:
     BarClickTest() {
         cpu.setClickHandler([this](ClickButton button) { clicks.append({QStringLiteral("cpu"), button}); });
-        memory.setClickHandler([this](ClickButton button) {
-            clicks.append({QStringLiteral("memory"), button});
-        });
+        memory.setClickHandler(
+            [this](ClickButton button) { clicks.append({QStringLiteral("memory"), button}); });
     }
     static QPoint middle(const BarItem& item) { return item.bounds().center().toPoint(); }
 

@@ -62,7 +62,8 @@ TEST(ProcStat, NonsenseNumbersStayWithinTheBoundOfASource) {
 
 TEST(ProcStat, ABootTimeThatCannotBeIsNothing) {
     for (const char* time : {"-5", "9223372036854775807", "x"})
-        EXPECT_EQ(parseProcStat(std::string("cpu0 1 1 1 1\nbtime ") + time + "\n")->bootTime, std::nullopt) << time;
+        EXPECT_EQ(parseProcStat(std::string("cpu0 1 1 1 1\nbtime ") + time + "\n")->bootTime, std::nullopt)
+            << time;
 }
 
 TEST(LoadAverages, AreTheFirstThreeNumbers) {
@@ -70,7 +71,8 @@ TEST(LoadAverages, AreTheFirstThreeNumbers) {
 }
 
 TEST(LoadAverages, AreNothingWhenOneIsMissingOrNoNumber) {
-    for (const char* text : {"", "1.0 2.0", "1.0 x 2.0", "nan 1 1", "inf 1 1", "-1 0 0", "1e-400 0 0", "1e300 0 0"})
+    for (const char* text :
+         {"", "1.0 2.0", "1.0 x 2.0", "nan 1 1", "inf 1 1", "-1 0 0", "1e-400 0 0", "1e300 0 0"})
         EXPECT_FALSE(parseLoadAverages(text)) << text;
 }
 

@@ -2,7 +2,12 @@
 
 #include <AppKit/NSView.h>
 
-enum NSRectEdge : NSUInteger { NSRectEdgeMinX = 0, NSRectEdgeMinY = 1, NSRectEdgeMaxX = 2, NSRectEdgeMaxY = 3 };
+enum NSRectEdge : NSUInteger {
+    NSRectEdgeMinX = 0,
+    NSRectEdgeMinY = 1,
+    NSRectEdgeMaxX = 2,
+    NSRectEdgeMaxY = 3
+};
 enum NSPopoverBehavior : NSInteger {
     NSPopoverBehaviorApplicationDefined = 0,
     NSPopoverBehaviorTransient = 1

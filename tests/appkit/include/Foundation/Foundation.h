@@ -14,9 +14,7 @@ typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
 
-inline NSSize NSMakeSize(CGFloat width, CGFloat height) {
-    return {width, height};
-}
+inline NSSize NSMakeSize(CGFloat width, CGFloat height) { return {width, height}; }
 inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
     return {{x, y}, {width, height}};
 }
@@ -26,7 +24,7 @@ inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
 @end
 
 __attribute__((objc_root_class))
-@interface NSObject <NSObject> {
+@interface NSObject<NSObject> {
     Class isa;
 }
 + (id)alloc;
