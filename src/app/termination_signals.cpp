@@ -35,7 +35,7 @@ std::array<int, 2> openPipe() {
 }
 
 void handleWith(void (*handler)(int)) {
-    struct sigaction action {};
+    struct sigaction action = {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     for (const int signal : terminatingSignals)

@@ -17,8 +17,8 @@ constexpr std::size_t knownProcessesPerAsked = 32;
 
 /// Whether both files belong to the same mount of a file system.
 bool onSameDevice(const std::filesystem::path& left, const std::filesystem::path& right) {
-    struct stat leftStatus {};
-    struct stat rightStatus {};
+    struct stat leftStatus = {};
+    struct stat rightStatus = {};
     return ::stat(left.c_str(), &leftStatus) == 0 && ::stat(right.c_str(), &rightStatus) == 0 &&
            leftStatus.st_dev == rightStatus.st_dev;
 }

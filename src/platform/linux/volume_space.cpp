@@ -17,7 +17,7 @@ VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes) {
 }
 
 std::optional<VolumeSpace> hostVolumeSpace(const std::string& path) {
-    struct statvfs space {};
+    struct statvfs space = {};
     if (::statvfs(path.c_str(), &space) != 0)
         return std::nullopt;
     return volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
