@@ -6,7 +6,7 @@ set -euo pipefail
 orvelle=$1
 source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
 settings=$(mktemp -d)
-unset ${!QT_@} WAYLAND_DISPLAY
+unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings
 process=""
 finish() {

@@ -1,5 +1,6 @@
 # Sourced on macOS, in place of what is there for Debian: packages come from Homebrew, and there is a display.
 # Written for the bash of macOS, which is version 3.2.
+# shellcheck disable=SC2034 # what is set here is for those who source this file
 
 build_packages=(cmake ninja fmt)
 # One package has all of Qt.

@@ -1,5 +1,6 @@
 # Sourced by scripts/system.sh: which Debian packages each needs, and how they are installed when missing.
 # An entry "a|b" is a package that has two names in the supported releases; the first one known is taken.
+# shellcheck disable=SC2034 # the lists are for those who source this file
 
 build_packages=(
   g++ cmake ninja-build pkg-config
@@ -33,6 +34,7 @@ installed_packages() {
 # Prints the entries of the given list of which no name is installed, one a line. One query serves them all.
 missing_packages() {
   local entry name installed found
+  # shellcheck disable=SC2048,SC2086 # the names of an entry are to be split into words
   installed=" $(installed_packages ${*//|/ } | tr '\n' ' ') "
   for entry in "$@"; do
     found=""

@@ -10,7 +10,7 @@ source "$(dirname "$(readlink -f "$0")")/virtual_display.sh"
 settings=$(mktemp -d)
 log=$settings/log
 # Nothing of the caller's desktop: neither the Qt choices nor the folders.
-unset ${!QT_@} WAYLAND_DISPLAY
+unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_CACHE_HOME=$settings XDG_STATE_HOME=$settings
 export QT_FORCE_STDERR_LOGGING=1
 

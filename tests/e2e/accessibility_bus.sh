@@ -1,5 +1,8 @@
-# A session bus with an accessibility bus of the test's own. Sourced by the end-to-end tests after desktop.sh.
+# Beside the display of desktop.sh, a session bus with an accessibility bus of the test's own. Sourced by the
+# end-to-end tests.
 
+source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
+unset "${!QT_@}" WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
 requireTools dbus-daemon dbus-send
 
 # The system's Python first, because packages install for that one.

@@ -4,8 +4,6 @@
 #   accessibility_test.sh ORVELLE
 
 orvelle=$1
-source "$(dirname "$0")/desktop.sh"
-unset ${!QT_@} WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop xdotool
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1

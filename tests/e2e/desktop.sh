@@ -86,6 +86,7 @@ startSessionBus() {
     dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" >/dev/null 2>&1 &
     ownedPids+=("$!")
     waitUntil "a session bus starts" test -s "$workDirectory/bus"
+    # shellcheck disable=SC2034 # the tests that call this function use it
     xfwm4OnItsBus=(env NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS="$(<"$workDirectory/bus")" xfwm4)
 }
 

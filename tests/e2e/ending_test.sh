@@ -7,7 +7,7 @@ orvelle=$1
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool
 
-unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 log=$workDirectory/orvelle.log
 

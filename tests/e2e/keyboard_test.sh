@@ -9,7 +9,7 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xfwm4 dbus-daemon xprop xwininfo xdotool import
 
-unset ${!QT_@} WAYLAND_DISPLAY
+unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 
 keyboardIsIn() { [[ $(xdotool getwindowfocus 2>/dev/null) == "$1" ]]; }

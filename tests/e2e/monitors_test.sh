@@ -9,7 +9,7 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr
 
-unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
 export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 
 # Titles of the panels, and where the middle of each item is: in points from the right edge of the bar.
@@ -149,7 +149,8 @@ testSeparateScreen() {
     screenNumber=1 screenWidth=1280
     startOrvelle 1
     expectBar 1280x800+0+0
-    waitUntil "its space is reserved there" eval '[[ $(rootProperty _NET_WORKAREA) == "0, 22, 1280, 778"* ]]'
+    spaceIsReserved() { [[ $(rootProperty _NET_WORKAREA) == "0, 22, 1280, 778"* ]]; }
+    waitUntil "its space is reserved there" spaceIsReserved
     testUnderTheItems
     clickItem 5 3
     waitUntil "the menu opens" isShown 'Orvelle menu'

@@ -8,7 +8,7 @@ manager=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
 
-unset ${!QT_@} WAYLAND_DISPLAY SESSION_MANAGER
+unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
 export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
 export QT_FORCE_STDERR_LOGGING=1 ICEAUTHORITY=$workDirectory/authority
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -96,7 +96,8 @@ testLogout() {
     expectEqual "and waits until the session ends" "1 0" "$(shownBars) $(timesSeen left)"
     # At once before the end, so that only the end itself can still store it.
     wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
-    waitUntil "the settings window is moved" eval '[[ $(geometry "$(settingsWindow)") == *" 500x520" ]]'
+    isMoved() { [[ $(geometry "$(settingsWindow)") == *" 500x520" ]]; }
+    waitUntil "the settings window is moved" isMoved
     order die
     expectEnd "the end of the session ends the program"
     expectEqual "a setting is kept" showCPU=false "$(grep '^showCPU=' "$settingsFile")"

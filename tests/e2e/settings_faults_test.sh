@@ -4,8 +4,6 @@
 #   settings_faults_test.sh ORVELLE
 
 orvelle=$1
-source "$(dirname "$0")/desktop.sh"
-unset ${!QT_@} WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
 export XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1

@@ -5,8 +5,6 @@
 
 orvelle=$1
 changer=$2
-source "$(dirname "$0")/desktop.sh"
-unset ${!QT_@} WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
 export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory

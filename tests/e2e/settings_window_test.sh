@@ -92,7 +92,8 @@ testOtherDesktop() {
 testPlace() {
     local before after
     wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
-    waitUntil "the window is moved" eval '[[ $(place) == *" 500x520" ]]'
+    isMoved() { [[ $(place) == *" 500x520" ]]; }
+    waitUntil "the window is moved" isMoved
     sleep 0.2
     before=$(place)
     waitUntil "its place is remembered" placeIsKept
@@ -124,14 +125,14 @@ testPlace() {
 testChanges() {
     xdotool key Tab Tab space
     waitUntil "the second switch is stored" grep -q '^showMemory=true' "$settingsFile"
-    waitUntil "and shown in the bar" eval '[[ -n $(xdotool search --onlyvisible --name "^Orvelle$") ]]'
+    waitUntil "and shown in the bar" isShown Orvelle
     hideEveryModule
     sleep 3.5
     # Backward: the first switch, the button that quits, and the last switch.
     xdotool key shift+Tab shift+Tab shift+Tab space
     waitUntil "the program will start at login" test -f "$autostartFile" || cat "$settingsFile"
     xdotool key space
-    waitUntil "and no longer" eval '[[ ! -e $autostartFile ]]'
+    waitUntil "and no longer" test ! -e "$autostartFile"
 }
 
 hideEveryModule
