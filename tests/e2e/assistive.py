@@ -9,21 +9,20 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, GLib  # the version comes first
 
 PATIENCE_SECONDS = 60
 Role = Atspi.Role
 State = Atspi.StateType
 
-failures = 0
+failures = []
 
 
 def report(holds, description, detail=""):
-    global failures
     if holds:
         print("ok:", description)
     else:
-        failures += 1
+        failures.append(description)
         print(f"FAILED: {description}", detail)
 
 
@@ -104,4 +103,4 @@ def connect():
 
 
 def finish():
-    sys.exit(0 if failures == 0 else 1)
+    sys.exit(1 if failures else 0)

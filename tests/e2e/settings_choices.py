@@ -156,7 +156,7 @@ def check_outside_edits(window):
         settings_window.find_choice(window, "Glow Effect", "Subtle")))
 
 
-def check_panel(program, window):
+def check_panel(program):
     """An open panel follows at once. Its gear leads back to the settings."""
     bar = settings_window.find_bar(program)
     do(find_child(bar, Role.PUSH_BUTTON, "CPU"), "Press")
@@ -183,7 +183,7 @@ def main():
     use_modules(program, window)
     use_colors(window)
     check_names(window)
-    check_panel(program, window)
+    check_panel(program)
     check_outside_edits(window)
 
 
