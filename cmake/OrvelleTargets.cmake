@@ -107,7 +107,7 @@ function(orvelle_test name)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   # Compiled as the library is whose precompiled headers it uses.
-  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC} UNITY_BUILD OFF POSITION_INDEPENDENT_CODE OFF)
+  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC} POSITION_INDEPENDENT_CODE OFF)
   target_compile_options(${name} PRIVATE -fPIC -O0)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARG_LINK} ${support})

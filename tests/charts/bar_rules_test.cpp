@@ -1,16 +1,14 @@
 #include "charts/bar_rules.h"
 #include "settings/system_colors.h"
+#include "support/odd_numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace orvelle {
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 const QColor baseColor = QColor::fromRgbF(0.2F, 0.5F, 1.0F);
 
 void expectColor(const QColor& color, double red, double green, double blue) {

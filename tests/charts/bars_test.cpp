@@ -3,14 +3,10 @@
 #include "charts/bar_rules.h"
 #include "charts/mini_bar.h"
 #include "settings/system_colors.h"
-
-#include <limits>
+#include "support/odd_numbers.h"
 
 namespace orvelle {
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 class Bars : public AtScale {
 protected:

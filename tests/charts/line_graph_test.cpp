@@ -1,14 +1,11 @@
 #include "at_scale.h"
 #include "charts/animated_line_graph.h"
+#include "support/odd_numbers.h"
 
 #include <cmath>
-#include <limits>
 
 namespace orvelle {
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 class LineGraph : public AtScale {
 protected:

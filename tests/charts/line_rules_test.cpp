@@ -1,14 +1,12 @@
 #include "charts/line_rules.h"
+#include "support/odd_numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace orvelle {
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<QPainterPath::Element> elementsOf(const QPainterPath& path) {
     std::vector<QPainterPath::Element> elements;

@@ -4,20 +4,18 @@
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
 #include "settings/system_colors.h"
+#include "support/odd_numbers.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <numbers>
 
 namespace orvelle {
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 const QRectF square(0, 0, 100, 100);
 
-void expectNear(const QPointF& actual, const QPointF& expected) {
+void expectSamePoint(const QPointF& actual, const QPointF& expected) {
     EXPECT_NEAR(actual.x(), expected.x(), 1e-3);
     EXPECT_NEAR(actual.y(), expected.y(), 1e-3);
 }
@@ -61,24 +59,24 @@ TEST(RingTrims, CoverTheirStylesStretch) {
 TEST(TrimmedCircle, StartsAtTwelveOClockForAFullRing) {
     const double rotation = ringRotation(RingChartStyle::fullRing);
     const QPainterPath quarter = trimmedCircle(square, {0, 0.25}, rotation);
-    expectNear(quarter.pointAtPercent(0), {50, 0});
-    expectNear(quarter.pointAtPercent(1), {100, 50});
+    expectSamePoint(quarter.pointAtPercent(0), {50, 0});
+    expectSamePoint(quarter.pointAtPercent(1), {100, 50});
 }
 
 TEST(TrimmedCircle, FillsAHalfGaugeFromLeftOverTheTopToTheRight) {
     const double rotation = ringRotation(RingChartStyle::halfGauge);
     const QPainterPath track = trimmedCircle(square, ringTrack(RingChartStyle::halfGauge), rotation);
-    expectNear(track.pointAtPercent(0), {0, 50});
-    expectNear(track.pointAtPercent(0.5), {50, 0});
-    expectNear(track.pointAtPercent(1), {100, 50});
+    expectSamePoint(track.pointAtPercent(0), {0, 50});
+    expectSamePoint(track.pointAtPercent(0.5), {50, 0});
+    expectSamePoint(track.pointAtPercent(1), {100, 50});
 }
 
 TEST(TrimmedCircle, LeavesAnArcGaugeOpenAtTheBottom) {
     const double rotation = ringRotation(RingChartStyle::arcGauge);
     const QPainterPath track = trimmedCircle(square, ringTrack(RingChartStyle::arcGauge), rotation);
     const double offset = 50 * std::numbers::sqrt2 / 2;
-    expectNear(track.pointAtPercent(0), {50 - offset, 50 + offset});
-    expectNear(track.pointAtPercent(1), {50 + offset, 50 + offset});
+    expectSamePoint(track.pointAtPercent(0), {50 - offset, 50 + offset});
+    expectSamePoint(track.pointAtPercent(1), {50 + offset, 50 + offset});
 }
 
 TEST(TrimmedCircle, IsEmptyWhenItDoesNotGoForward) {

@@ -2,14 +2,11 @@
 #include "charts/animated_ring_chart.h"
 #include "charts/multi_segment_ring.h"
 #include "settings/system_colors.h"
-
-#include <limits>
+#include "support/odd_numbers.h"
 
 namespace orvelle {
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double middle = 60; ///< of the image, in which a ring of 80 points has room for stroke and glow
 
 class Rings : public AtScale {

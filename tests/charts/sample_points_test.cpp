@@ -1,15 +1,12 @@
 #include "charts/sample_points.h"
+#include "support/odd_numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 namespace orvelle {
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(SampleRatio, IsCappedAtTheTopOnly) {
     EXPECT_EQ(sampleRatio(2, 4), 0.5);

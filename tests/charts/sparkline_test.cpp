@@ -2,14 +2,10 @@
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
 #include "charts/sparkline_view.h"
-
-#include <limits>
+#include "support/odd_numbers.h"
 
 namespace orvelle {
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(SparklineScale, IsTheMaximumThatIsGiven) {
     EXPECT_EQ(sparklineScale({1, 2, 4}, 10), 10);

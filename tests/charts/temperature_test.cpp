@@ -2,15 +2,12 @@
 #include "charts/temperature_gauge.h"
 #include "charts/temperature_rules.h"
 #include "settings/system_colors.h"
+#include "support/odd_numbers.h"
 
 #include <clocale>
-#include <limits>
 
 namespace orvelle {
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(TemperatureFraction, IsTheShareOfTheMaximum) {
     EXPECT_DOUBLE_EQ(temperatureFraction(55, 110), 0.5);

@@ -16,14 +16,14 @@ struct Components {
     double opacity = 1;
 };
 
-struct Row {
+struct ThemeRow {
     const char* id;
     const char* name;
     std::array<Components, 16> colors; ///< in the order of the theme's properties
 };
 
 // clang-format off
-const Row table[] = {
+const ThemeRow themeTable[] = {
     {"midnight", "Midnight",
      {{{0.2, 0.5, 1.0}, {0.0, 0.85, 0.55}, {0.6, 0.4, 1.0}, {1.0, 0.6, 0.1},
        {0.2, 0.9, 0.4}, {1.0, 0.3, 0.3}, {0.06, 0.07, 0.15}, {1, 1, 1},
@@ -90,11 +90,11 @@ const Row table[] = {
 
 TEST(BuiltInThemesTest, HaveTheColorsOfTheTableInItsOrder) {
     const QMetaObject& meta = AppTheme::staticMetaObject;
-    ASSERT_EQ(builtInThemes().size(), static_cast<qsizetype>(std::size(table)));
+    ASSERT_EQ(builtInThemes().size(), static_cast<qsizetype>(std::size(themeTable)));
     ASSERT_EQ(meta.propertyCount(), 18);
     for (qsizetype index = 0; index < builtInThemes().size(); ++index) {
         const AppTheme& theme = builtInThemes().at(index);
-        const Row& row = table[index];
+        const ThemeRow& row = themeTable[index];
         EXPECT_EQ(theme.id, QLatin1StringView(row.id));
         EXPECT_EQ(theme.name, QLatin1StringView(row.name));
         for (int field = 2; field < meta.propertyCount(); ++field) {

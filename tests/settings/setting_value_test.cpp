@@ -1,19 +1,15 @@
 #include "settings/setting_value.h"
 #include "settings/styles.h"
+#include "support/odd_numbers.h"
 
 #include <QLocale>
 #include <QRect>
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace orvelle {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(SettingValueTest, ASwitchIsReadFromTheUsualWordsInAnyCase) {
     for (const QString& word : {u"true"_s, u"TRUE"_s, u"yes"_s, u"Yes"_s, u"on"_s, u"1"_s})

@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Row {
+struct SettingRow {
     const char* key;
     const char* typeName;
     QVariant defaultValue; ///< an enumeration's case by its name
@@ -24,8 +24,8 @@ struct Row {
     QByteArray otherText; ///< how the other value stands in the file
 };
 
-const QList<Row>& table() {
-    static const QList<Row> rows{
+const QList<SettingRow>& settingTable() {
+    static const QList<SettingRow> rows{
         {"showCPU", "bool", true, false, "false"},
         {"showMemory", "bool", true, false, "false"},
         {"showNetwork", "bool", true, false, "false"},
@@ -64,18 +64,18 @@ const QList<Row>& table() {
     return rows;
 }
 
-QMetaProperty propertyOf(const SettingsStore& store, const Row& row) {
+QMetaProperty propertyOf(const SettingsStore& store, const SettingRow& row) {
     const QMetaObject* meta = store.metaObject();
     return meta->property(meta->indexOfProperty(row.key));
 }
 
 /// Enumerations read as the names of their cases, everything else as it is.
-QVariant valueOf(const SettingsStore& store, const Row& row) {
+QVariant valueOf(const SettingsStore& store, const SettingRow& row) {
     const QVariant value = propertyOf(store, row).read(&store);
     return propertyOf(store, row).isEnumType() ? QVariant(value.toString()) : value;
 }
 
-bool setValue(SettingsStore& store, const Row& row, QVariant value) {
+bool setValue(SettingsStore& store, const SettingRow& row, QVariant value) {
     const QMetaProperty property = propertyOf(store, row);
     return value.convert(property.metaType()) && property.write(&store, value);
 }
@@ -87,8 +87,8 @@ protected:
 
 TEST_F(SettingsStoreTest, AFreshStoreHasExactlyTheTablesPropertiesAtTheirDefaults) {
     const SettingsStore store(settings.path());
-    ASSERT_EQ(table().size(), 32);
-    for (const Row& row : table()) {
+    ASSERT_EQ(settingTable().size(), 32);
+    for (const SettingRow& row : settingTable()) {
         ASSERT_GE(store.metaObject()->indexOfProperty(row.key), 0) << row.key;
         EXPECT_STREQ(propertyOf(store, row).typeName(), row.typeName);
         EXPECT_TRUE(propertyOf(store, row).hasNotifySignal()) << row.key;
@@ -105,7 +105,7 @@ TEST_F(SettingsStoreTest, DefaultsAreNotWritten) {
 }
 
 TEST_F(SettingsStoreTest, EachPropertyIsStoredUnderItsNameAndComesBack) {
-    for (const Row& row : table()) {
+    for (const SettingRow& row : settingTable()) {
         {
             SettingsStore store(settings.path());
             ASSERT_TRUE(setValue(store, row, row.otherValue)) << row.key;
@@ -116,23 +116,23 @@ TEST_F(SettingsStoreTest, EachPropertyIsStoredUnderItsNameAndComesBack) {
             << row.key;
     }
     const SettingsStore store(settings.path());
-    for (const Row& row : table())
+    for (const SettingRow& row : settingTable())
         EXPECT_EQ(valueOf(store, row), row.otherValue) << row.key;
     EXPECT_EQ(settings.text().count('\n'), 33) << settings.text().toStdString();
 }
 
 TEST_F(SettingsStoreTest, SettingOnePropertyAnnouncesItOnceAndNoOther) {
     SettingsStore store(settings.path());
-    for (const Row& row : table()) {
+    for (const SettingRow& row : settingTable()) {
         std::vector<std::unique_ptr<QSignalSpy>> spies;
-        for (const Row& each : table())
+        for (const SettingRow& each : settingTable())
             spies.push_back(std::make_unique<QSignalSpy>(&store, propertyOf(store, each).notifySignal()));
         QSignalSpy changed(&store, &SettingsStore::changed);
         ASSERT_TRUE(setValue(store, row, row.otherValue));
-        for (qsizetype index = 0; index < table().size(); ++index) {
-            const bool isSet = table().at(index).key == row.key;
+        for (qsizetype index = 0; index < settingTable().size(); ++index) {
+            const bool isSet = settingTable().at(index).key == row.key;
             EXPECT_EQ(spies[static_cast<std::size_t>(index)]->count(), isSet ? 1 : 0)
-                << row.key << " announced " << table().at(index).key;
+                << row.key << " announced " << settingTable().at(index).key;
         }
         EXPECT_EQ(changed.count(), 1) << row.key;
     }
@@ -215,7 +215,7 @@ TEST_F(SettingsStoreTest, OtherKeysSurviveEveryWrite) {
         "# mine\n[General]\nsomethingElse=@Variant(\\0\\0\\0\\x7f)\nlist=1, 2\n\n[Window]\nshowCPU=7\n";
     settings.writeInPlace(others);
     SettingsStore store(settings.path());
-    for (const Row& row : table())
+    for (const SettingRow& row : settingTable())
         ASSERT_TRUE(setValue(store, row, row.otherValue)) << row.key;
     const QByteArray text = settings.text();
     for (const QByteArray& line : others.split('\n'))

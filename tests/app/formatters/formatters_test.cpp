@@ -1,11 +1,11 @@
 #include "app/formatters/formatters.h"
+#include "support/odd_numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <clocale>
 #include <cstdio>
-#include <limits>
 #include <random>
 
 namespace orvelle {
@@ -17,9 +17,6 @@ void PrintTo(const QString& text, std::ostream* stream) {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 QString printed(const char* format, double value) {
     std::array<char, 512> buffer{};

@@ -8,24 +8,24 @@
 namespace orvelle {
 namespace {
 
-const QColor moduleColor(40, 80, 120);
+const QColor batteryModuleColor(40, 80, 120);
 
 qsizetype litBatteryDots(qint64 charge) {
-    return batteryDotColors(charge, moduleColor).count(moduleColor);
+    return batteryDotColors(charge, batteryModuleColor).count(batteryModuleColor);
 }
 
 TEST(BatteryColor, WarnsOfALowCharge) {
-    EXPECT_EQ(batteryColor(0, false, moduleColor), SystemColors::red);
-    EXPECT_EQ(batteryColor(20, false, moduleColor), SystemColors::red);
-    EXPECT_EQ(batteryColor(21, false, moduleColor), SystemColors::yellow);
-    EXPECT_EQ(batteryColor(40, false, moduleColor), SystemColors::yellow);
-    EXPECT_EQ(batteryColor(41, false, moduleColor), moduleColor);
-    EXPECT_EQ(batteryColor(100, false, moduleColor), moduleColor);
+    EXPECT_EQ(batteryColor(0, false, batteryModuleColor), SystemColors::red);
+    EXPECT_EQ(batteryColor(20, false, batteryModuleColor), SystemColors::red);
+    EXPECT_EQ(batteryColor(21, false, batteryModuleColor), SystemColors::yellow);
+    EXPECT_EQ(batteryColor(40, false, batteryModuleColor), SystemColors::yellow);
+    EXPECT_EQ(batteryColor(41, false, batteryModuleColor), batteryModuleColor);
+    EXPECT_EQ(batteryColor(100, false, batteryModuleColor), batteryModuleColor);
 }
 
 TEST(BatteryColor, IsGreenWheneverCharging) {
     for (const qint64 charge : {0, 20, 21, 41, 100})
-        EXPECT_EQ(batteryColor(charge, true, moduleColor), SystemColors::green);
+        EXPECT_EQ(batteryColor(charge, true, batteryModuleColor), SystemColors::green);
 }
 
 TEST(BatteryFill, GrowsWithTheChargeUpToEighteenPoints) {
@@ -48,7 +48,7 @@ TEST(BatteryDots, LightOneForEachFullFifth) {
     EXPECT_EQ(litBatteryDots(99), 4);
     EXPECT_EQ(litBatteryDots(100), 5);
     EXPECT_EQ(litBatteryDots(std::numeric_limits<qint64>::max()), 5);
-    EXPECT_EQ(batteryDotColors(0, moduleColor).size(), 5);
+    EXPECT_EQ(batteryDotColors(0, batteryModuleColor).size(), 5);
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double length = 65;
+constexpr double batteryLength = 65;
 
 class BatteryMenuBarItemTest : public ItemFixture {
 protected:
@@ -20,7 +20,7 @@ protected:
     }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item, length);
+        return picture(item, batteryLength);
     }
     [[nodiscard]] static ItemPart bolt() { return symbolPart(u"bolt.fill", 7, SystemColors::yellow); }
     [[nodiscard]] QColor color() const { return themes.batteryColor(settings); }
@@ -33,23 +33,25 @@ protected:
 TEST_F(BatteryMenuBarItemTest, MiniBarsAndIconAndTextShowTheGlyphBesideTheCharge) {
     charge(63);
     const QImage expected =
-        picture(row({batteryGlyphPart(63, color()), valuePart(QStringLiteral("63%"), 10)}, 2), length);
+        picture(row({batteryGlyphPart(63, color()), valuePart(QStringLiteral("63%"), 10)}, 2), batteryLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), expected);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), expected);
 }
 
 TEST_F(BatteryMenuBarItemTest, TextOnlyShowsTheChargeAlone) {
     charge(9);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(valuePart(QStringLiteral("9%")), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
+              picture(valuePart(QStringLiteral("9%")), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, ABoltFollowsTheChargeWhileCharging) {
     charge(50, true);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(row({valuePart(QStringLiteral("50%")), bolt()}, 2), length));
+              picture(row({valuePart(QStringLiteral("50%")), bolt()}, 2), batteryLength));
     const ItemPart glyph = batteryGlyphPart(50, SystemColors::green);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars),
-              picture(row({glyph, row({valuePart(QStringLiteral("50%"), 10), bolt()}, 2)}, 2), length));
+    EXPECT_EQ(
+        pictureIn(MenuBarDisplayStyle::miniBars),
+        picture(row({glyph, row({valuePart(QStringLiteral("50%"), 10), bolt()}, 2)}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, TheSparklineShowsTheChargeHistoryInTheBatterysColour) {
@@ -57,19 +59,20 @@ TEST_F(BatteryMenuBarItemTest, TheSparklineShowsTheChargeHistoryInTheBatterysCol
         charge(percent);
     const ItemPart icon = iconPart(u"battery.100", SystemColors::yellow);
     const ItemPart history = historyPart({0.6, 0.5, 0.3}, SystemColors::yellow, 1.0, {28, 12});
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, DotsShowTheChargeInTheBatterysColour) {
     charge(15);
     const ItemPart icon = iconPart(u"battery.100", SystemColors::red);
     const ItemPart dots = dotsPart(batteryDotColors(15, SystemColors::red));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon, dots}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon, dots}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, WithoutABatteryEveryStyleShowsExternalPower) {
-    const QImage expected = picture(
-        row({iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), 10)}, 2), length);
+    const QImage expected =
+        picture(row({iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), 10)}, 2),
+                batteryLength);
     for (const MenuBarDisplayStyle style : allDisplayStyles)
         EXPECT_EQ(pictureIn(style), expected) << "style " << static_cast<int>(style);
     EXPECT_EQ(item.accessibleText(), QStringLiteral("Battery: none, on AC power"));
@@ -87,13 +90,13 @@ TEST_F(BatteryMenuBarItemTest, ABatteryThatWentAwayLeavesExternalPower) {
 TEST_F(BatteryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     charge(99, true);
     charge(100, true);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, batteryLength);
 }
 
 TEST_F(BatteryMenuBarItemTest, AChargeThatCannotBeStillFitsItsPlace) {
     charge(std::numeric_limits<std::int64_t>::max(), true);
     charge(std::numeric_limits<std::int64_t>::max(), true);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, batteryLength);
 }
 
 TEST_F(BatteryMenuBarItemTest, TellsTheChargeInWords) {
@@ -108,7 +111,7 @@ using BatteryGlyphTest = ItemFixture;
 TEST_F(BatteryGlyphTest, IsFilledInProportionToTheCharge) {
     const QColor fill(10, 200, 30);
     const auto filledPixels = [&](qint64 charge) {
-        return countPixels(picture(batteryGlyphPart(charge, fill), length), fill);
+        return countPixels(picture(batteryGlyphPart(charge, fill), batteryLength), fill);
     };
     EXPECT_EQ(filledPixels(0), 0);
     EXPECT_NEAR(filledPixels(50), 18 * 16, 24) << "half of 18 points, 8 high, without the corners";

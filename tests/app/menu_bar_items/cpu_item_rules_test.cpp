@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-const QColor moduleColor(40, 80, 120);
+const QColor cpuModuleColor(40, 80, 120);
 
 TEST(CoreBars, TakeThreeAndAHalfPointsEachUpToTwelveCores) {
     EXPECT_EQ(coreBarsWidth(0), 0);
@@ -48,18 +48,18 @@ TEST(CoreDots, StopAtEightCores) {
 }
 
 TEST(CoreDots, GrowStrongerWithTheLoadAndTurnRed) {
-    QColor faint = moduleColor;
+    QColor faint = cpuModuleColor;
     faint.setAlphaF(0.3F);
-    QColor half = moduleColor;
+    QColor half = cpuModuleColor;
     half.setAlphaF(0.6F);
-    EXPECT_EQ(coreDotColor(0, moduleColor), faint);
-    EXPECT_EQ(coreDotColor(0.2999, moduleColor), faint);
-    EXPECT_EQ(coreDotColor(0.3, moduleColor), half);
-    EXPECT_EQ(coreDotColor(0.5999, moduleColor), half);
-    EXPECT_EQ(coreDotColor(0.6, moduleColor), moduleColor);
-    EXPECT_EQ(coreDotColor(0.7999, moduleColor), moduleColor);
-    EXPECT_EQ(coreDotColor(0.8, moduleColor), SystemColors::red);
-    EXPECT_EQ(coreDotColor(1, moduleColor), SystemColors::red);
+    EXPECT_EQ(coreDotColor(0, cpuModuleColor), faint);
+    EXPECT_EQ(coreDotColor(0.2999, cpuModuleColor), faint);
+    EXPECT_EQ(coreDotColor(0.3, cpuModuleColor), half);
+    EXPECT_EQ(coreDotColor(0.5999, cpuModuleColor), half);
+    EXPECT_EQ(coreDotColor(0.6, cpuModuleColor), cpuModuleColor);
+    EXPECT_EQ(coreDotColor(0.7999, cpuModuleColor), cpuModuleColor);
+    EXPECT_EQ(coreDotColor(0.8, cpuModuleColor), SystemColors::red);
+    EXPECT_EQ(coreDotColor(1, cpuModuleColor), SystemColors::red);
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double length = 60;
+constexpr double cpuLength = 60;
 
 class CPUMenuBarItemTest : public ItemFixture {
 protected:
@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] CPUMenuBarItem item() { return {*monitor, settings, themes}; }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item(), length);
+        return picture(item(), cpuLength);
     }
     [[nodiscard]] QColor color() const { return themes.cpuColor(settings); }
 
@@ -41,13 +41,14 @@ protected:
 TEST_F(CPUMenuBarItemTest, TextOnlyShowsTheUsageAlone) {
     run({0.25, 0.65});
     const QImage shown = pictureIn(MenuBarDisplayStyle::textOnly);
-    EXPECT_EQ(shown, picture(valuePart(QStringLiteral("45%")), length));
+    EXPECT_EQ(shown, picture(valuePart(QStringLiteral("45%")), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, IconAndTextShowsTheIconBesideTheUsage) {
     run({1, 1});
     const QImage shown = pictureIn(MenuBarDisplayStyle::iconAndText);
-    EXPECT_EQ(shown, picture(row({iconPart(u"cpu", color()), valuePart(QStringLiteral("100%"))}, 3), length));
+    EXPECT_EQ(shown,
+              picture(row({iconPart(u"cpu", color()), valuePart(QStringLiteral("100%"))}, 3), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, SixteenCoresDrawSixteenBarsInFortyTwoPoints) {
@@ -79,8 +80,8 @@ TEST_F(CPUMenuBarItemTest, PaintsTheBarsThatItIsGivenInTheMiddleOfAChange) {
     EXPECT_EQ(bars, (QList<BarLook>{{0.4, color()}, {1, SystemColors::red}}));
     EXPECT_EQ(item().bars().fullLength, 14);
     const QList<BarLook> moving{{0.8, Qt::magenta}, {0.2, Qt::magenta}};
-    const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item().picture(moving).paint(painter, {0, 0, length, barHeight});
+    const QImage shown = paintedImage({cpuLength, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
+        item().picture(moving).paint(painter, {0, 0, cpuLength, barHeight});
     });
     EXPECT_GT(countPixels(shown, Qt::magenta), 0);
     EXPECT_EQ(countPixels(shown, SystemColors::red), 0);
@@ -97,7 +98,7 @@ TEST_F(CPUMenuBarItemTest, HasBarsToMoveInTheStyleOfBarsAlone) {
 TEST_F(CPUMenuBarItemTest, WithoutCoresTheBarsAndDotsTakeNoRoom) {
     source.ticks = std::vector<CoreTicks>();
     monitor.emplace(source, clock.reader());
-    const QImage iconAlone = picture(row({iconPart(u"cpu", color()), dotsPart({})}, 3), length);
+    const QImage iconAlone = picture(row({iconPart(u"cpu", color()), dotsPart({})}, 3), cpuLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), iconAlone);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), iconAlone);
 }
@@ -117,7 +118,7 @@ TEST_F(CPUMenuBarItemTest, DotsShowEachCoresLoad) {
     half.setAlphaF(0.6F);
     const ItemPart dots = dotsPart({faint, half, color(), SystemColors::red});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator),
-              picture(row({iconPart(u"cpu", color()), dots}, 3), length));
+              picture(row({iconPart(u"cpu", color()), dots}, 3), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, TheSparklineShowsTheUsageHistoryAtFullScaleOne) {
@@ -125,7 +126,7 @@ TEST_F(CPUMenuBarItemTest, TheSparklineShowsTheUsageHistoryAtFullScaleOne) {
         run({load});
     const ItemPart history = historyPart({0.1, 0.9, 0.3}, color(), 1.0, {32, 12});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({iconPart(u"cpu", color()), history}, 3), length));
+              picture(row({iconPart(u"cpu", color()), history}, 3), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, TheUsersOwnColourReplacesTheThemes) {
@@ -147,7 +148,7 @@ TEST_F(CPUMenuBarItemTest, OtherSettingsDoNotChangeTheItem) {
 TEST_F(CPUMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     run(QList<double>(16, 1.0));
     run(QList<double>(16, 0.1));
-    expectItStaysInItsPlace(item(), length);
+    expectItStaysInItsPlace(item(), cpuLength);
 }
 
 TEST_F(CPUMenuBarItemTest, TellsTheUsageInWords) {

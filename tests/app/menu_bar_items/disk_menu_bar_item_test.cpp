@@ -11,7 +11,7 @@ namespace {
 
 using std::chrono::seconds;
 
-constexpr double length = 45;
+constexpr double diskLength = 45;
 
 class DiskMenuBarItemTest : public ItemFixture {
 protected:
@@ -31,7 +31,7 @@ protected:
     }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item, length);
+        return picture(item, diskLength);
     }
     [[nodiscard]] ItemPart icon() const { return iconPart(u"internaldrive", color()); }
     [[nodiscard]] QColor color() const { return themes.diskColor(settings); }
@@ -56,24 +56,24 @@ TEST_F(DiskMenuBarItemTest, MiniBarsShowsActivityAboveTheBarOfTheFirstVolume) {
     transfer(4096, 100);
     const ItemPart bar = levelBarPart({20, 4}, 2, 0.75, color());
     const ItemPart expected = row({icon(), column({arrows(100, 4096), bar}, 1, ColumnAlignment::center)}, 2);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, TheBarIsLeftOutWithoutVolumes) {
     const ItemPart expected = row({icon(), arrows(0, 0)}, 2);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, TextShowsTheUsedShareOfTheFirstVolume) {
     mount(1000, 250);
     const ItemPart text = valuePart(QStringLiteral("75%"));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(text, length));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), picture(row({icon(), text}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(text, diskLength));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), picture(row({icon(), text}, 2), diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, NoTextIsShownWithoutVolumes) {
     EXPECT_TRUE(paintedRect(pictureIn(MenuBarDisplayStyle::textOnly)).isEmpty());
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), picture(icon(), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), picture(icon(), diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, TheSparklineShowsBothHistories) {
@@ -87,7 +87,7 @@ TEST_F(DiskMenuBarItemTest, TheSparklineShowsBothHistories) {
                                      .height = 12};
     ASSERT_EQ(expected.topData, QList<double>({5000, 900, 7000}));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({icon(), sparklinePart(expected)}, 2), length));
+              picture(row({icon(), sparklinePart(expected)}, 2), diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, DotsShowReadingAndThenWriting) {
@@ -95,14 +95,14 @@ TEST_F(DiskMenuBarItemTest, DotsShowReadingAndThenWriting) {
     transfer(1024, 1025);
     const ItemPart dots = dotsPart(
         {activityDotColor(0, theme().diskReadColor), activityDotColor(9999, theme().diskWriteColor)});
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     mount(1000, 0);
     for (const std::uint64_t bytes : {0U, 5000U, 900U, 7000U})
         transfer(bytes, bytes);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, diskLength);
 }
 
 TEST_F(DiskMenuBarItemTest, TellsUsageAndActivityInWords) {

@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double length = 70;
+constexpr double memoryLength = 70;
 
 class MemoryMenuBarItemTest : public ItemFixture {
 protected:
@@ -21,11 +21,11 @@ protected:
     }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item, length);
+        return picture(item, memoryLength);
     }
     [[nodiscard]] ItemPart icon() const { return iconPart(u"memorychip", color()); }
     [[nodiscard]] QImage pictureOfDots(qsizetype lit) const {
-        return picture(row({icon(), dotsPart(meterColors(color(), lit, 5, 0.2))}, 3), length);
+        return picture(row({icon(), dotsPart(meterColors(color(), lit, 5, 0.2))}, 3), memoryLength);
     }
     [[nodiscard]] QColor color() const { return themes.memoryColor(settings); }
 
@@ -38,7 +38,7 @@ TEST_F(MemoryMenuBarItemTest, MiniBarsShowsIconBarAndSmallText) {
     use(42);
     const ItemPart expected =
         row({icon(), levelBarPart({28, 8}, 3, 0.42, color()), valuePart(QStringLiteral("42%"), 10)}, 3);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, PaintsTheLevelThatItIsGivenInTheMiddleOfAChange) {
@@ -48,10 +48,10 @@ TEST_F(MemoryMenuBarItemTest, PaintsTheLevelThatItIsGivenInTheMiddleOfAChange) {
     const ItemPart expected = row({icon(), levelBarPart({28, 8}, 3, 0.2, Qt::magenta),
                                    valuePart(QStringLiteral("42%"), 10)}, // the text does not wait
                                   3);
-    const QImage shown = paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item.picture({{0.2, Qt::magenta}}).paint(painter, {0, 0, length, barHeight});
+    const QImage shown = paintedImage({memoryLength, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
+        item.picture({{0.2, Qt::magenta}}).paint(painter, {0, 0, memoryLength, barHeight});
     });
-    EXPECT_EQ(shown, picture(expected, length));
+    EXPECT_EQ(shown, picture(expected, memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, HasALevelToMoveInTheStyleOfBarsAlone) {
@@ -64,20 +64,21 @@ TEST_F(MemoryMenuBarItemTest, HasALevelToMoveInTheStyleOfBarsAlone) {
 
 TEST_F(MemoryMenuBarItemTest, TextOnlyShowsTheUsedShareAlone) {
     use(7);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(valuePart(QStringLiteral("7.0%")), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
+              picture(valuePart(QStringLiteral("7.0%")), memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, IconAndTextShowsTheIconBesideTheShare) {
     use(100);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
-              picture(row({icon(), valuePart(QStringLiteral("100%"))}, 3), length));
+              picture(row({icon(), valuePart(QStringLiteral("100%"))}, 3), memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, TheSparklineShowsThePressureHistory) {
     for (const std::uint64_t used : {20U, 60U, 30U})
         use(used);
     const ItemPart history = historyPart({0.2, 0.6, 0.3}, color(), 1.0, {28, 12});
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), history}, 3), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), history}, 3), memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, NinetyNinePercentLightsFourOfFiveDots) {
@@ -90,7 +91,8 @@ TEST_F(MemoryMenuBarItemTest, NinetyNinePercentLightsFourOfFiveDots) {
 
 TEST_F(MemoryMenuBarItemTest, AnUnknownTotalIsNothingUsed) {
     use(0, 0);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(valuePart(QStringLiteral("0.0%")), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
+              picture(valuePart(QStringLiteral("0.0%")), memoryLength));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), pictureOfDots(0));
     EXPECT_EQ(item.accessibleText(), QStringLiteral("Memory 0.0%"));
 }
@@ -99,7 +101,7 @@ TEST_F(MemoryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     use(100);
     use(80);
     use(100);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, memoryLength);
 }
 
 TEST_F(MemoryMenuBarItemTest, TellsTheShareInWords) {

@@ -13,7 +13,7 @@ namespace {
 
 using std::chrono::seconds;
 
-constexpr double length = 90;
+constexpr double networkLength = 90;
 
 class NetworkMenuBarItemTest : public ItemFixture {
 protected:
@@ -27,7 +27,7 @@ protected:
     }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item, length);
+        return picture(item, networkLength);
     }
     [[nodiscard]] ItemPart icon() const { return iconPart(u"network", themes.networkColor(settings)); }
     [[nodiscard]] const AppTheme& theme() const { return themes.currentTheme(); }
@@ -62,13 +62,13 @@ TEST_F(NetworkMenuBarItemTest, MiniBarsShowsTheRatePairBesideTheHistories) {
     transfer(0, 0);
     transfer(2048, 500);
     const ItemPart rates = ratePair(QStringLiteral("500B"), QStringLiteral("2.0K"));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(row({rates, history(32)}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(row({rates, history(32)}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, TheRatePairStandsAloneWhileThereIsNoHistory) {
     const ItemPart rates = ratePair(QStringLiteral("0.0B"), QStringLiteral("0.0B"));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(rates, length));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), rates}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(rates, networkLength));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), rates}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, TextOnlyShowsUploadAboveDownloadAtTheTrailingEdge) {
@@ -79,21 +79,22 @@ TEST_F(NetworkMenuBarItemTest, TextOnlyShowsUploadAboveDownloadAtTheTrailingEdge
     };
     const ItemPart expected =
         column({rate(QStringLiteral("100K")), rate(QStringLiteral("2.0K"))}, 0, ColumnAlignment::trailing);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(expected, length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(expected, networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, IconAndTextShowsTheRatePairWithoutTheIcon) {
     transfer(0, 0);
     transfer(1023, 1024);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
-              picture(ratePair(QStringLiteral("1.0K"), QStringLiteral("1023B")), length));
+              picture(ratePair(QStringLiteral("1.0K"), QStringLiteral("1023B")), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, TheSparklineShowsBothHistoriesBesideTheIcon) {
     for (const std::uint64_t bytes : {0U, 5000U, 900U, 7000U})
         transfer(bytes, bytes / 3);
     ASSERT_EQ(monitor.downloadHistory(), QList<double>({0, 5000, 900, 7000}));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), history(36)}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
+              picture(row({icon(), history(36)}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, HistoriesAreCutToTwentySamples) {
@@ -109,7 +110,7 @@ TEST_F(NetworkMenuBarItemTest, HistoriesAreCutToTwentySamples) {
                                  .width = 36,
                                  .height = 14};
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({icon(), sparklinePart(flat)}, 2), length));
+              picture(row({icon(), sparklinePart(flat)}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, DotsShowDownloadAndThenUpload) {
@@ -117,13 +118,13 @@ TEST_F(NetworkMenuBarItemTest, DotsShowDownloadAndThenUpload) {
     transfer(1025, 1024);
     const ItemPart dots =
         dotsPart({theme().networkDownloadColor, withOpacity(theme().networkUploadColor, 0.2)}, 5);
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     transfer(0, 0);
     transfer(std::uint64_t{1023} << 20, std::uint64_t{1023} << 40);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, networkLength);
 }
 
 TEST_F(NetworkMenuBarItemTest, TellsBothRatesInWords) {

@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-const QColor moduleColor(40, 80, 120);
+const QColor sensorModuleColor(40, 80, 120);
 
 /// How many of the dots, from the left, are at full strength; the others must be dimmed to 0.15.
 qsizetype litTemperatureDots(double celsius) {
@@ -30,12 +30,12 @@ TEST(TemperatureText, HasDashesWhereNoTemperatureIsKnown) {
 }
 
 TEST(TemperatureColor, WarnsOfHeat) {
-    QColor cool = moduleColor;
+    QColor cool = sensorModuleColor;
     cool.setAlphaF(0.7F);
-    EXPECT_EQ(temperatureColor(59.9, moduleColor), cool);
-    EXPECT_EQ(temperatureColor(60, moduleColor), SystemColors::yellow);
-    EXPECT_EQ(temperatureColor(79.9, moduleColor), SystemColors::yellow);
-    EXPECT_EQ(temperatureColor(80, moduleColor), SystemColors::red);
+    EXPECT_EQ(temperatureColor(59.9, sensorModuleColor), cool);
+    EXPECT_EQ(temperatureColor(60, sensorModuleColor), SystemColors::yellow);
+    EXPECT_EQ(temperatureColor(79.9, sensorModuleColor), SystemColors::yellow);
+    EXPECT_EQ(temperatureColor(80, sensorModuleColor), SystemColors::red);
 }
 
 TEST(TemperatureDots, LightOneForEachFullTwentyDegrees) {

@@ -10,7 +10,7 @@
 namespace orvelle {
 namespace {
 
-constexpr double length = 50;
+constexpr double sensorLength = 50;
 
 class SensorMenuBarItemTest : public ItemFixture {
 protected:
@@ -20,7 +20,7 @@ protected:
     }
     [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
-        return picture(item, length);
+        return picture(item, sensorLength);
     }
     [[nodiscard]] static ItemPart text(const QString& text, const QColor& color) {
         return textPart(text, monospacedSystemFont(10, QFont::Medium), color);
@@ -34,7 +34,7 @@ protected:
 
 TEST_F(SensorMenuBarItemTest, MiniBarsAndTextOnlyShowTheTemperature) {
     warm(45);
-    const QImage expected = picture(text(QStringLiteral("45°"), cool()), length);
+    const QImage expected = picture(text(QStringLiteral("45°"), cool()), sensorLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), expected);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), expected);
 }
@@ -43,12 +43,12 @@ TEST_F(SensorMenuBarItemTest, IconAndTextShowsBothInTheTemperaturesColour) {
     warm(85);
     const ItemPart icon = iconPart(u"thermometer.medium", SystemColors::red);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
-              picture(row({icon, text(QStringLiteral("85°"), SystemColors::red)}, 2), length));
+              picture(row({icon, text(QStringLiteral("85°"), SystemColors::red)}, 2), sensorLength));
 }
 
 TEST_F(SensorMenuBarItemTest, DashesInTheSecondaryColourStandForNoTemperature) {
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(text(QStringLiteral("--°"), LabelColors::secondary), length));
+              picture(text(QStringLiteral("--°"), LabelColors::secondary), sensorLength));
     EXPECT_EQ(item.accessibleText(), QStringLiteral("Sensors: no temperature"));
 }
 
@@ -65,20 +65,20 @@ TEST_F(SensorMenuBarItemTest, TheSparklineShowsTheTemperatureHistoryUpTo110Degre
         warm(celsius);
     const ItemPart icon = iconPart(u"thermometer.medium", SystemColors::yellow);
     const ItemPart history = historyPart({40, 90, 65}, SystemColors::yellow, 110, {24, 10});
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), length));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), sensorLength));
 }
 
 TEST_F(SensorMenuBarItemTest, DotsShowHowWarmItIs) {
     warm(39);
     const ItemPart icon = iconPart(u"thermometer.medium", cool());
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator),
-              picture(row({icon, dotsPart(temperatureDotColors(39))}, 2), length));
+              picture(row({icon, dotsPart(temperatureDotColors(39))}, 2), sensorLength));
 }
 
 TEST_F(SensorMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     warm(100);
     warm(120);
-    expectItStaysInItsPlace(item, length);
+    expectItStaysInItsPlace(item, sensorLength);
 }
 
 } // namespace

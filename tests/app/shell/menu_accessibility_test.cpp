@@ -1,6 +1,7 @@
 #include "announcements.h"
 #include "app/shell/x11/menu_rules.h"
 #include "app/shell/x11/menu_window.h"
+#include "three_entries.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -8,12 +9,6 @@
 
 namespace orvelle {
 namespace {
-
-std::vector<MenuEntry> threeEntries() {
-    return {{QStringLiteral("Settings..."), QStringLiteral(","), nullptr},
-            {},
-            {QStringLiteral("Quit Orvelle"), QStringLiteral("q"), nullptr}};
-}
 
 class MenuAccessibilityTest : public ::testing::Test {
 protected:

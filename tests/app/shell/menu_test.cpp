@@ -1,17 +1,12 @@
 #include "app/shell/x11/menu_rules.h"
 #include "app/shell/x11/menu_window.h"
+#include "three_entries.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace orvelle {
 namespace {
-
-std::vector<MenuEntry> threeEntries() {
-    return {{QStringLiteral("Settings..."), QStringLiteral(","), nullptr},
-            {},
-            {QStringLiteral("Quit Orvelle"), QStringLiteral("q"), nullptr}};
-}
 
 TEST(MenuRows, StandBelowOneAnotherWithALowSeparator) {
     const QList<QRect> rows = menuRows(threeEntries(), 200);

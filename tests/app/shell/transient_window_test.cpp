@@ -10,15 +10,15 @@
 namespace orvelle {
 namespace {
 
-const QRect screen(0, 0, 1280, 800);
+const QRect wholeScreen(0, 0, 1280, 800);
 
 TEST(MenuGeometry, BeginsAtTheItemsLowerLeftCorner) {
-    EXPECT_EQ(menuGeometry(QRectF(600, 0, 60, 22), QSize(180, 60), screen), QRect(600, 22, 180, 60));
+    EXPECT_EQ(menuGeometry(QRectF(600, 0, 60, 22), QSize(180, 60), wholeScreen), QRect(600, 22, 180, 60));
 }
 
 TEST(MenuGeometry, StaysOnTheScreen) {
-    EXPECT_EQ(menuGeometry(QRectF(1212, 0, 60, 22), QSize(180, 60), screen), QRect(1096, 22, 180, 60));
-    EXPECT_EQ(menuGeometry(QRectF(-30, 0, 60, 22), QSize(180, 60), screen), QRect(4, 22, 180, 60));
+    EXPECT_EQ(menuGeometry(QRectF(1212, 0, 60, 22), QSize(180, 60), wholeScreen), QRect(1096, 22, 180, 60));
+    EXPECT_EQ(menuGeometry(QRectF(-30, 0, 60, 22), QSize(180, 60), wholeScreen), QRect(4, 22, 180, 60));
     EXPECT_EQ(menuGeometry(QRectF(20, 0, 60, 22), QSize(180, 60), QRect(0, 0, 100, 100)).left(), 4);
 }
 

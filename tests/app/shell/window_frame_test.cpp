@@ -6,7 +6,7 @@ namespace orvelle {
 namespace {
 
 constexpr QSize smallest{340, 240};
-const QRect screen(0, 22, 1280, 778);
+const QRect roomBelowTheBar(0, 22, 1280, 778);
 
 TEST(WindowFrameTest, IsReadAsItIsWritten) {
     for (const QRect& frame : {QRect(10, 20, 460, 640), QRect(-1500, -3, 1, 1)})
@@ -24,33 +24,35 @@ TEST(WindowFrameTest, IsNothingWhenTheTextIsNonsense) {
 
 TEST(WindowFrameTest, StaysWhereItFits) {
     const QRect frame(400, 100, 460, 640);
-    EXPECT_EQ(frameOnScreens(frame, {screen}, smallest), frame);
+    EXPECT_EQ(frameOnScreens(frame, {roomBelowTheBar}, smallest), frame);
     EXPECT_EQ(frameOnScreens(frame, {}, smallest), frame);
 }
 
 TEST(WindowFrameTest, IsMovedOntoAScreenThatIsStillThere) {
-    EXPECT_EQ(frameOnScreens({2000, 100, 460, 640}, {screen}, smallest), QRect(812, 100, 460, 640));
-    EXPECT_EQ(frameOnScreens({-900, -900, 460, 640}, {screen}, smallest), QRect(0, 22, 460, 640));
-    EXPECT_EQ(frameOnScreens({1200, 700, 460, 640}, {screen}, smallest), QRect(812, 120, 460, 640));
+    EXPECT_EQ(frameOnScreens({2000, 100, 460, 640}, {roomBelowTheBar}, smallest), QRect(812, 100, 460, 640));
+    EXPECT_EQ(frameOnScreens({-900, -900, 460, 640}, {roomBelowTheBar}, smallest), QRect(0, 22, 460, 640));
+    EXPECT_EQ(frameOnScreens({1200, 700, 460, 640}, {roomBelowTheBar}, smallest), QRect(812, 120, 460, 640));
 }
 
 TEST(WindowFrameTest, GoesToTheScreenThatShowsMostOfIt) {
     const QRect right(1280, 0, 1920, 1080);
-    EXPECT_EQ(frameOnScreens({1100, 100, 460, 640}, {screen, right}, smallest), QRect(1280, 100, 460, 640));
-    EXPECT_EQ(frameOnScreens({900, 100, 460, 640}, {screen, right}, smallest), QRect(812, 100, 460, 640));
+    EXPECT_EQ(frameOnScreens({1100, 100, 460, 640}, {roomBelowTheBar, right}, smallest),
+              QRect(1280, 100, 460, 640));
+    EXPECT_EQ(frameOnScreens({900, 100, 460, 640}, {roomBelowTheBar, right}, smallest),
+              QRect(812, 100, 460, 640));
 }
 
 TEST(WindowFrameTest, IsNoLargerThanItsScreenAndNoSmallerThanAllowed) {
-    EXPECT_EQ(frameOnScreens({0, 22, 5000, 5000}, {screen}, smallest), QRect(0, 22, 1272, 738));
-    EXPECT_EQ(frameOnScreens({5, 30, 10, 10}, {screen}, smallest).size(), smallest);
+    EXPECT_EQ(frameOnScreens({0, 22, 5000, 5000}, {roomBelowTheBar}, smallest), QRect(0, 22, 1272, 738));
+    EXPECT_EQ(frameOnScreens({5, 30, 10, 10}, {roomBelowTheBar}, smallest).size(), smallest);
     const QRect tiny(0, 0, 200, 100);
     EXPECT_EQ(frameOnScreens({50, 50, 460, 640}, {tiny}, smallest), QRect({0, 0}, smallest))
         << "its title bar can be reached";
 }
 
 TEST(WindowFrameTest, IsCentredOnAScreen) {
-    EXPECT_EQ(centredFrame({460, 640}, screen), QRect(410, 91, 460, 640));
-    EXPECT_EQ(centredFrame({5000, 100}, screen).width(), screen.width());
+    EXPECT_EQ(centredFrame({460, 640}, roomBelowTheBar), QRect(410, 91, 460, 640));
+    EXPECT_EQ(centredFrame({5000, 100}, roomBelowTheBar).width(), roomBelowTheBar.width());
 }
 
 } // namespace

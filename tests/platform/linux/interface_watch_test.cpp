@@ -10,33 +10,33 @@
 namespace orvelle::linux_platform {
 namespace {
 
-enum Outcome : int { asExpected, notPermitted, noFirstChange, neverQuiet, linkMissed, addressMissed };
+enum class WatchOutcome { asExpected, notPermitted, noFirstChange, neverQuiet, linkMissed, addressMissed };
 
 /// Watches a network of this process's own, in which nothing but the test changes anything.
-Outcome watchOwnNetwork() {
+WatchOutcome watchOwnNetwork() {
     if (!enterOwnNetwork())
-        return notPermitted;
+        return WatchOutcome::notPermitted;
     InterfaceWatch watch;
     if (!watch.mayHaveChanged())
-        return noFirstChange;
+        return WatchOutcome::noFirstChange;
     if (watch.mayHaveChanged() || watch.mayHaveChanged())
-        return neverQuiet;
+        return WatchOutcome::neverQuiet;
     if (!changeLoopbackSize())
-        return notPermitted;
+        return WatchOutcome::notPermitted;
     if (!watch.mayHaveChanged())
-        return linkMissed;
+        return WatchOutcome::linkMissed;
     if (!giveLoopbackAddress("127.0.0.2"))
-        return notPermitted;
+        return WatchOutcome::notPermitted;
     if (!watch.mayHaveChanged())
-        return addressMissed;
-    return watch.mayHaveChanged() ? neverQuiet : asExpected;
+        return WatchOutcome::addressMissed;
+    return watch.mayHaveChanged() ? WatchOutcome::neverQuiet : WatchOutcome::asExpected;
 }
 
 TEST(InterfaceWatch, TellsOfAChangeOnceAndIsQuietElse) {
-    const int outcome = inChildProcess(watchOwnNetwork);
-    if (outcome == notPermitted)
+    const auto outcome = inChildProcess(watchOwnNetwork);
+    if (outcome == WatchOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
-    EXPECT_EQ(outcome, asExpected);
+    EXPECT_EQ(outcome, WatchOutcome::asExpected);
 }
 
 TEST(InterfaceWatch, ReplacesASocketThatFailsAndAnswersYesForWhatWasMissed) {

@@ -138,7 +138,14 @@ TEST(LinuxNetworkSourceOfTheHost, TellsTheAddressesThatTheKernelLists) {
         << "ports of a bridge may be missing, no more may be told";
 }
 
-enum Outcome : int { asExpected, notPermitted, cannotRead, wrongBefore, changedUnannounced, wrongAfter };
+enum class AddressOutcome {
+    asExpected,
+    notPermitted,
+    cannotRead,
+    wrongBefore,
+    changedUnannounced,
+    wrongAfter
+};
 
 /// The IPv4 addresses of the loopback that the source tells now.
 std::vector<std::string> loopbackAddresses(LinuxNetworkSource& source) {
@@ -150,26 +157,27 @@ std::vector<std::string> loopbackAddresses(LinuxNetworkSource& source) {
     return addresses;
 }
 
-Outcome followAnAddress() {
+AddressOutcome followAnAddress() {
     if (!enterOwnNetwork())
-        return notPermitted;
+        return AddressOutcome::notPermitted;
     LinuxNetworkSource source("/");
     if (!source.read())
-        return cannotRead;
+        return AddressOutcome::cannotRead;
     if (loopbackAddresses(source) != std::vector<std::string>{"127.0.0.1"})
-        return wrongBefore;
+        return AddressOutcome::wrongBefore;
     if (loopbackAddresses(source) != std::vector<std::string>{"127.0.0.1"})
-        return changedUnannounced;
+        return AddressOutcome::changedUnannounced;
     if (!giveLoopbackAddress("127.0.0.2"))
-        return notPermitted;
-    return loopbackAddresses(source) == std::vector<std::string>{"127.0.0.2"} ? asExpected : wrongAfter;
+        return AddressOutcome::notPermitted;
+    return loopbackAddresses(source) == std::vector<std::string>{"127.0.0.2"} ? AddressOutcome::asExpected
+                                                                              : AddressOutcome::wrongAfter;
 }
 
 TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressAtTheNextReading) {
-    const int outcome = inChildProcess(followAnAddress);
-    if (outcome == notPermitted)
+    const auto outcome = inChildProcess(followAnAddress);
+    if (outcome == AddressOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
-    EXPECT_EQ(outcome, asExpected);
+    EXPECT_EQ(outcome, AddressOutcome::asExpected);
 }
 
 } // namespace

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <limits>
+
+/// Numbers that no measurement gives and that every rule must survive.
+namespace orvelle {
+
+inline constexpr double infinity = std::numeric_limits<double>::infinity();
+inline constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace orvelle
