@@ -24,14 +24,27 @@ function(orvelle_qml_module target uri)
 
   set_property(GLOBAL APPEND PROPERTY ORVELLE_QML_MODULES ${target}) # for tests that hold for all modules
 
-  # What the QML compiler writes is not ours to keep free of warnings, nor to search for faults.
-  set(generated_options -w)
+  orvelle_compile_generated_qml(${target})
+endfunction()
+
+# What the QML compiler writes is not ours to keep free of warnings, nor to search for faults. Its files read the same
+# headers each, so a fast build compiles those of a module as one.
+function(orvelle_compile_generated_qml target)
+  set(options -w)
   if(ORVELLE_SANITIZE)
-    list(APPEND generated_options -O0 -fno-sanitize=all)
+    list(APPEND options -O0 -fno-sanitize=all)
   endif()
-  get_target_property(generated_sources ${target} SOURCES)
-  list(FILTER generated_sources INCLUDE REGEX "/\\.rcc/qmlcache/")
-  set_source_files_properties(${generated_sources} PROPERTIES
-    COMPILE_OPTIONS "${generated_options}"
-    SKIP_PRECOMPILE_HEADERS ON)
+  get_target_property(generated ${target} SOURCES)
+  list(FILTER generated INCLUDE REGEX "/\\.rcc/qmlcache/.*\\.cpp$")
+  if(ORVELLE_FAST_BUILD AND generated)
+    set_source_files_properties(${generated} PROPERTIES HEADER_FILE_ONLY ON SKIP_AUTOGEN ON)
+    list(TRANSFORM generated REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE includes)
+    string(REPLACE ";" "" includes "${includes}")
+    set(whole ${CMAKE_CURRENT_BINARY_DIR}/${target}_compiled_qml.cpp)
+    file(CONFIGURE OUTPUT ${whole} CONTENT "${includes}")
+    target_sources(${target} PRIVATE ${whole})
+    set_source_files_properties(${whole} PROPERTIES OBJECT_DEPENDS "${generated}")
+    set(generated ${whole})
+  endif()
+  set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "${options}" SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
