@@ -17,6 +17,7 @@ function(orvelle_qml_module target uri)
     URI ${uri}
     VERSION 1.0
     OUTPUT_DIRECTORY ${ORVELLE_QML_DIRECTORY}/${folder}
+    RESOURCE_PREFIX / # where `makeEngine` looks; its default differs between releases of Qt
     NO_PLUGIN
     DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
     IMPORTS ${ARG_IMPORTS}

@@ -54,25 +54,45 @@ known_name() {
   printf '%s\n' "${1%%|*}"
 }
 
-# install_packages WHY PACKAGE...: installs what is missing and says so; does nothing when all is there.
+# Where no Debian package can be asked for: what the build calls must be there, however it came.
+require_commands() {
+  local command missing=()
+  for command in c++ cmake ninja pkg-config; do
+    command -v "$command" >/dev/null || missing+=("$command")
+  done
+  if [ ${#missing[@]} -gt 0 ]; then
+    echo "orvelle: missing ${missing[*]} ($1), and there is no apt here to install them" >&2
+    return 1
+  fi
+}
+
+# install_packages WHY PACKAGE...: installs what is missing and says so; does nothing when all is there. What apt says is
+# kept in build/packages.log; a failure is one line that names what is missing.
 install_packages() {
   local why=$1; shift
-  local missing as_root=() names=() entry
-  if ! command -v dpkg-query >/dev/null; then
-    echo "orvelle: packages cannot be looked up here; needed $why: $*" >&2
-    return 0
+  local missing as_root=() names=() entry log=build/packages.log
+  if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    require_commands "$why"
+    return
   fi
   mapfile -t missing < <(missing_packages "$@")
   [ ${#missing[@]} -gt 0 ] || return 0
-  echo "orvelle: installing ${missing[*]} ($why)"
   if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || { echo "orvelle: run as root, or install sudo, to install them" >&2; return 1; }
+    if ! command -v sudo >/dev/null; then
+      echo "orvelle: missing ${missing[*]} ($why); run as root, or install sudo, to install them" >&2
+      return 1
+    fi
     as_root=(sudo)
     echo "orvelle: sudo may ask for your password, to install packages with apt"
   fi
+  echo "orvelle: installing ${missing[*]} ($why)"
+  mkdir -p build
   # One broken source of packages need not matter: the installation decides.
-  "${as_root[@]}" apt-get update -q >/dev/null || echo "orvelle: the package lists could not all be renewed" >&2
+  "${as_root[@]}" apt-get update -q >"$log" 2>&1 || echo "orvelle: the package lists could not all be renewed" >&2
   for entry in "${missing[@]}"; do names+=("$(known_name "$entry")"); done
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "${names[@]}" >/dev/null
+  if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "${names[@]}" >>"$log" 2>&1; then
+    echo "orvelle: apt could not install ${names[*]}: $(grep '^E: ' "$log" | tail -1); $log has all that it said" >&2
+    return 1
+  fi
 }

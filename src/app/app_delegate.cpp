@@ -1,22 +1,15 @@
 #include "app/app_delegate.h"
 
 #include "app/context_menu_entries.h"
+#include "app/shell/open_log.h"
 #include "app/throttle.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 namespace orvelle {
-namespace {
-
-/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
-Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
-
-} // namespace
-
 AppDelegate::AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
                          AppSurroundings surroundings, QObject* parent)
     : QObject(parent)

@@ -1,15 +1,12 @@
 #include "app/shell/x11/x11_popover.h"
 
+#include "app/shell/open_log.h"
 #include "app/shell/x11/transient_geometry.h"
 
-#include <QLoggingCategory>
 #include <QScreen>
 
 namespace orvelle {
 namespace {
-
-/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
-Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
 constexpr std::size_t keptWindowCount = 3;
 

@@ -1,6 +1,7 @@
 #include "app/shell/x11/x11_settings_window.h"
 
 #include "app/shell/desktop.h"
+#include "app/shell/open_log.h"
 #include "app/shell/x11/present_desktop.h"
 #include "app/shell/x11/state_file.h"
 #include "app/shell/x11/window_frame.h"
@@ -9,7 +10,6 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLoggingCategory>
 #include <QScreen>
 
 #include <chrono>
@@ -17,9 +17,6 @@
 
 namespace orvelle {
 namespace {
-
-/// Off by default; QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
-Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
 
 constexpr std::chrono::milliseconds restTime{500};
 
