@@ -1,4 +1,5 @@
 import QtQuick
+import Orvelle.Look
 import Orvelle.Panels
 
 PanelBody {
@@ -11,7 +12,8 @@ PanelBody {
     children: NoBatteryNotice {
         objectName: "notice"
         visible: !panel.info.isPresent
-        anchors.centerIn: parent
+        x: Look.centred(parent.width, width)
+        y: Look.centred(parent.height, height)
     }
     BatteryDetails {
         objectName: "details"

@@ -22,7 +22,8 @@ RowLayout {
         Symbol {
             id: symbol
             objectName: "symbol"
-            anchors.centerIn: parent
+            x: Look.centred(parent.width, width)
+            y: Look.centred(parent.height, height)
             name: PanelRules.interfaceSymbol(row.info.name)
             fontSize: 9
             color: Look.faded(row.moduleColor, 0.7)

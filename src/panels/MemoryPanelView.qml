@@ -80,7 +80,8 @@ PanelBody {
                 PlainText {
                     id: badge
                     objectName: "pressureBadge"
-                    anchors.centerIn: parent
+                    x: Look.centred(parent.width, width)
+                    y: Look.centred(parent.height, height)
                     text: PanelRules.pressureBadgeText(panel.pressure)
                     size: 9
                     weight: Font.Bold

@@ -34,15 +34,16 @@ Item {
             { value: ring.info.free, color: MemoryColors.freeInRing, label: "Free" }
         ]
         children: Column {
-            anchors.centerIn: parent
+            x: Look.centred(parent.width, width)
+            y: Look.centred(parent.height, height)
             PlainText {
-                anchors.horizontalCenter: parent.horizontalCenter
+                x: Look.centred(parent.width, width)
                 text: PanelRules.formatPercent(ring.used)
                 size: 16
                 weight: Font.Bold
             }
             PlainText {
-                anchors.horizontalCenter: parent.horizontalCenter
+                x: Look.centred(parent.width, width)
                 text: "Used"
                 size: 8
                 color: Look.secondaryLabel

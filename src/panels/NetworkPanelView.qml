@@ -81,16 +81,21 @@ PanelBody {
     }
     Divider {}
     ColumnLayout {
+        id: totals
+
+        /// Without its type: whether the QML compiler knows that of the totals depends on its release.
+        readonly property var network: panel.network
+
         spacing: 4
         DetailRow {
             label: "Total Downloaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(panel.network.totalBytesIn) // qmllint disable type
+            value: PanelRules.byteSizeText(totals.network.totalBytesIn)
         }
         DetailRow {
             label: "Total Uploaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(panel.network.totalBytesOut) // qmllint disable type
+            value: PanelRules.byteSizeText(totals.network.totalBytesOut)
         }
     }
 }

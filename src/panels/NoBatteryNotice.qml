@@ -5,18 +5,18 @@ Column {
     spacing: 6
 
     Symbol {
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Look.centred(parent.width, width)
         name: "powerplug.fill"
         fontSize: 24
         color: Look.green
     }
     PlainText {
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Look.centred(parent.width, width)
         text: "No Battery Detected"
         size: 12
     }
     PlainText {
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Look.centred(parent.width, width)
         text: "This Mac is running on AC power"
         size: 10
         color: Look.secondaryLabel

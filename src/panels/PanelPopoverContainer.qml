@@ -61,7 +61,7 @@ FocusScope {
             objectName: "settingsButton"
             anchors.right: parent.right
             anchors.rightMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
+            y: Look.centred(parent.height, height)
             focusColor: container.themeManager.currentTheme.accentColor
             onPressed: container.openSettings()
         }

@@ -31,7 +31,8 @@ Item {
         border.color: button.focusColor
     }
     Symbol {
-        anchors.centerIn: parent
+        x: Look.centred(parent.width, width)
+        y: Look.centred(parent.height, height)
         name: "gearshape"
         fontSize: 13
         weight: Font.DemiBold

@@ -8,13 +8,21 @@ ProcessDisplayMode displayMode(int mode) {
                                                              : ProcessDisplayMode::memory;
 }
 
+/// The records of a list that has been a property of type `var`: such a list keeps its type from Qt 6.5 on, and is one
+/// of variants before.
+QList<ProcessInfo> processRecords(const QVariant& processes) {
+    if (processes.metaType() == QMetaType::fromType<QList<ProcessInfo>>())
+        return processes.value<QList<ProcessInfo>>();
+    QList<ProcessInfo> records;
+    for (const QVariant& process : processes.toList())
+        records.append(process.value<ProcessInfo>());
+    return records;
+}
+
 } // namespace
 
-double PanelRules::processBarScale(const QVariantList& processes, int mode) {
-    QList<ProcessInfo> records;
-    for (const QVariant& process : processes)
-        records.append(process.value<ProcessInfo>());
-    return orvelle::processBarScale(records, displayMode(mode));
+double PanelRules::processBarScale(const QVariant& processes, int mode) {
+    return orvelle::processBarScale(processRecords(processes), displayMode(mode));
 }
 
 double PanelRules::processBarFraction(const ProcessInfo& process, int mode, double scale) {

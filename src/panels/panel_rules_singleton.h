@@ -82,7 +82,7 @@ public:
     }
 
     /// `processes` are records of type ProcessInfo; `mode` is a ProcessDisplayMode.
-    Q_INVOKABLE static double processBarScale(const QVariantList& processes, int mode);
+    Q_INVOKABLE static double processBarScale(const QVariant& processes, int mode);
     Q_INVOKABLE static double processBarFraction(const orvelle::ProcessInfo& process, int mode, double scale);
     Q_INVOKABLE static QString processValueText(const orvelle::ProcessInfo& process, int mode);
 

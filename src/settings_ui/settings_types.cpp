@@ -4,11 +4,18 @@
 
 void qml_register_types_Orvelle_SettingsUI(); // written by the build
 
+// From a static library nothing else takes in the files that were compiled ahead of time. The macro works in no
+// namespace.
+static void registerSettingsTypesAndFiles() {
+    Q_INIT_RESOURCE(qmlcache_orvelle_settings_ui);
+    qml_register_types_Orvelle_SettingsUI();
+}
+
 namespace orvelle {
 
 void registerSettingsTypes() {
     static std::once_flag once;
-    std::call_once(once, qml_register_types_Orvelle_SettingsUI);
+    std::call_once(once, registerSettingsTypesAndFiles);
 }
 
 } // namespace orvelle

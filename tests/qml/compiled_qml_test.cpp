@@ -1,12 +1,13 @@
+#include "charts/quick/chart_types.h"
 #include "look/quick/quick_engine.h"
+#include "panels/panel_types.h"
+#include "settings_ui/settings_types.h"
 
 #include <QDirIterator>
 #include <QLoggingCategory>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <gtest/gtest.h>
-
-void registerAllModules(); // written by the build
 
 namespace orvelle {
 namespace {
@@ -17,7 +18,9 @@ namespace {
 class CompiledQml : public ::testing::Test {
 protected:
     CompiledQml() {
-        registerAllModules();
+        registerChartTypes();
+        registerPanelTypes();
+        registerSettingsTypes();
         QLoggingCategory::setFilterRules(QStringLiteral("qt.qml.diskcache.debug=true"));
         s_compiled.clear();
         s_previousHandler = qInstallMessageHandler(&CompiledQml::noteCompilation);

@@ -32,7 +32,8 @@ Rectangle {
     }
     PlainText {
         id: label
-        anchors.centerIn: parent
+        x: Look.centred(parent.width, width)
+        y: Look.centred(parent.height, height)
         text: tooltip.text
     }
 }

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include <cmath>
+
 namespace orvelle {
 
 /// The desktop's colours and fonts by role, to QML. No other place of the windows names a colour, apart from
@@ -94,6 +96,12 @@ public:
 
     /// The colour at an opacity, 0 to 1, whatever opacity it had.
     Q_INVOKABLE [[nodiscard]] static QColor faded(const QColor& color, double opacity);
+
+    /// Where something of this extent begins that stands in the middle of a room: at a whole point, so that it is as
+    /// crisp as its neighbours. Anchors round in another way in each release of Qt.
+    Q_INVOKABLE [[nodiscard]] static double centred(double room, double extent) {
+        return std::round((room - extent) / 2);
+    }
 
     /// Fonts of a size in points; the weight is one of QML's `Font` weights.
     Q_INVOKABLE [[nodiscard]] static QFont systemFont(double size, int weight);

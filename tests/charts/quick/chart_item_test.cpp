@@ -74,11 +74,13 @@ TEST_F(ChartItemTest, DoesNotMoveWhileItIsHidden) {
 }
 
 TEST_F(ChartItemTest, DoesNotMoveInAHiddenPartOfTheWindowOrAHiddenWindow) {
+    QQuickItem part(window.contentItem());
+    chart->setParentItem(&part);
     showWindow();
     setValue(0.9);
-    window.contentItem()->setVisible(false);
+    part.setVisible(false);
     EXPECT_FALSE(motion.isRunning());
-    window.contentItem()->setVisible(true);
+    part.setVisible(true);
     setValue(0.3);
     EXPECT_TRUE(motion.isRunning());
     window.hide();

@@ -24,6 +24,10 @@ void* operator new(std::size_t size) {
         return memory;
     throw std::bad_alloc();
 }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    ++allocationCount;
+    return std::malloc(size == 0 ? 1 : size);
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
