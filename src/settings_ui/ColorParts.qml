@@ -51,6 +51,7 @@ FocusScope {
             value: parts.hue
             colors: parts.shades(hue => Qt.hsva(hue, 1, 1, 1))
             handleColor: Qt.hsva(parts.hue, 1, 1, 1)
+            KeyNavigation.backtab: digits
             onMoved: { parts.hue = value; parts.picked(parts.shown); }
         }
         ColorSlider {
@@ -81,7 +82,9 @@ FocusScope {
                 border.color: Look.pressed
             }
             HexField {
+                id: digits
                 objectName: "hex"
+                KeyNavigation.tab: firstSlider // some releases of Qt would leave the picker
                 pickedColor: parts.shown
                 onPicked: picked => parts.picked(picked)
             }

@@ -32,7 +32,7 @@ T.Popup {
     margins: 8
     padding: 12
     focus: true
-    closePolicy: T.Popup.CloseOnPressOutsideParent
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     background: Rectangle {
         radius: 8
@@ -44,8 +44,6 @@ T.Popup {
         color: picker.color
         focus: true
         onPicked: picked => picker.picked(picked)
-        // The popup's own way leaves the key to the window in some releases of Qt, and the window would close too.
-        Keys.onEscapePressed: picker.close()
         Accessible.role: Accessible.Dialog
         Accessible.name: picker.title
     }

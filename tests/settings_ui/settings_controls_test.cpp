@@ -283,6 +283,9 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     type("zz");
     press(Qt::Key_Tab);
     EXPECT_EQ(digits->property("text").toString(), QStringLiteral("#00FF80")) << "put back";
+    EXPECT_EQ(focused(), hue) << "the keys stay in the picker";
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focused(), digits);
 
     settings.setCustomCPUColorHex(QStringLiteral("#0000FF"));
     EXPECT_NEAR(hue->property("value").toDouble(), 240.0 / 360, 0.005) << "chosen elsewhere";
