@@ -107,7 +107,7 @@ def type_color(window, module, digits):
 
 def use_colors(window):
     for number, module in enumerate(MODULES):
-        type_color(window, module, f"#FF00{number:02X}")
+        type_color(window, module, f"#C000{0xE0 + number:02X}")
 
 
 def click_and_look(program, window):
@@ -163,9 +163,9 @@ def check_panel(program):
     panel = wait_until("the CPU panel opens", lambda: shown_panel(program, "CPU"))
     if panel is None:
         return
-    wait_until("it has the own color", lambda: has_color(panel, 255, 0, 0))
+    wait_until("it has the own color", lambda: has_color(panel, 192, 0, 224))
     settings_text.write(SETTINGS_FILE, "customCPUColorHex", "#00FF80")
-    wait_until("it takes another", lambda: has_color(panel, 0, 255, 128) and not has_color(panel, 255, 0, 0))
+    wait_until("it takes another", lambda: has_color(panel, 0, 255, 128) and not has_color(panel, 192, 0, 224))
     gear = settings_window.find(panel, Role.PUSH_BUTTON, "Open Orvelle Settings")
     settings_window.press(gear, "the gear can be pressed")
     wait_until("it leads to the settings", lambda: has_state(settings_window.shown(program), State.ACTIVE))
