@@ -90,9 +90,12 @@ install_packages() {
   # One broken source of packages need not matter: the installation decides.
   "${as_root[@]}" apt-get update -q >"$log" 2>&1 || echo "orvelle: the package lists could not all be renewed" >&2
   for entry in "${missing[@]}"; do names+=("$(known_name "$entry")"); done
+  # Waiting for the disk after each of several hundred packages takes half of the time: once at the end is enough.
   if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "${names[@]}" >>"$log" 2>&1; then
+    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 -o Dpkg::Options::=--force-unsafe-io \
+    "${names[@]}" >>"$log" 2>&1; then
     echo "orvelle: apt could not install ${names[*]}: $(grep '^E: ' "$log" | tail -1); $log has all that it said" >&2
     return 1
   fi
+  sync
 }
