@@ -117,9 +117,3 @@ function(orvelle_test name)
   add_test(NAME ${name} COMMAND ${name})
   orvelle_test_environment(${name})
 endfunction()
-
-# Every test runs off-screen, under one locale, with the sanitizers told to stop at the first finding.
-function(orvelle_test_environment name)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
-endfunction()

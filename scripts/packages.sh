@@ -24,6 +24,8 @@ test_packages=(
   dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
   # A session manager.
   libsm-dev libice-dev
+  # A narrower font, in which the windows are laid out too.
+  fonts-dejavu-extra
 )
 
 # Prints those of the given packages that are installed, one a line.
