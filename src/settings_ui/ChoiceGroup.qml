@@ -51,6 +51,7 @@ Item {
     Grid {
         id: grid
         columns: repeater.count
+        horizontalItemAlignment: Grid.AlignHCenter
 
         Repeater { id: repeater }
     }

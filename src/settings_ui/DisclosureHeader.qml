@@ -10,7 +10,7 @@ T.AbstractButton {
     required property string title
     required property bool isExpanded
 
-    implicitHeight: 24
+    implicitHeight: Math.max(24, implicitContentHeight + 8)
     // The ground reaches beyond the row, which stands in line with the other titles.
     leftInset: -6
     rightInset: -6

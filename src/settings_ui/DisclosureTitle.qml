@@ -8,11 +8,16 @@ Item {
     required property string title
     required property bool isExpanded
 
+    implicitHeight: title.implicitHeight
+
     SectionTitle {
+        id: title
         anchors.verticalCenter: parent.verticalCenter
         anchors.alignWhenCentered: false // a line of odd height would stand higher than the symbol
         width: advanced.x - 8
         text: row.title.toUpperCase()
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         Accessible.ignored: true
     }
     PlainText {

@@ -21,7 +21,7 @@ ChoiceButton {
             }
         }
         Rectangle { // between two that are not chosen
-            visible: segment.index > 0 && !segment.checked && !segment.followsChosen
+            visible: segment.index % segment.group.columns > 0 && !segment.checked && !segment.followsChosen
             width: 1
             height: parent.height / 2
             anchors.verticalCenter: parent.verticalCenter

@@ -1,15 +1,22 @@
 import QtQuick
+import QtQuick.Layouts
 import Orvelle.Look
 import Orvelle.SettingsUI
 
-/// A setting's values side by side in one frame; a symbol stands above its name.
+/// A setting's values side by side in one frame, in more rows where they do not fit in one; a symbol stands above
+/// its name.
 SettingGroup {
     id: picker
 
-    readonly property var widths: SettingsRules.sharedWidths(neededWidths(), width)
+    readonly property var needed: SettingsRules.fittingColumns(neededWidths(), 0, width)
+    readonly property var widths: SettingsRules.sharedWidths(needed, width)
+    readonly property real widthOfOneRow: SettingsRules.fittingColumns(neededWidths(), 0, Infinity)
+                                          .reduce((sum, width) => sum + width, 0)
+    readonly property real rowHeight: choices.some(choice => choice.symbol !== "") ? 42 : 24
 
-    implicitWidth: 200
-    implicitHeight: choices.some(choice => choice.symbol !== "") ? 42 : 24
+    Layout.fillWidth: true
+    implicitWidth: Math.max(200, widthOfOneRow)
+    columns: widths.length
 
     Rectangle {
         anchors.fill: parent
@@ -19,7 +26,7 @@ SettingGroup {
     }
     delegate: SegmentButton {
         group: picker // qmllint disable unqualified
-        width: picker.widths[index] ?? 0 // qmllint disable unqualified
-        height: picker.height // qmllint disable unqualified
+        width: picker.widths[index % picker.columns] ?? 0 // qmllint disable unqualified
+        height: picker.rowHeight // qmllint disable unqualified
     }
 }

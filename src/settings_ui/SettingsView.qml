@@ -107,7 +107,6 @@ Item {
                 text: "Every"
                 SegmentedPicker {
                     name: "Every"
-                    implicitWidth: 200
                     settings: view.settings
                     setting: "updateInterval"
                     choices: SettingsRules.updateIntervals
@@ -128,14 +127,12 @@ Item {
             objectName: "graphs"
             title: "GRAPH STYLE"
             SectionLabel { text: "Line Style" }
-            SettingGroup {
+            PreviewGroup {
                 id: lineGroup
                 name: "Line Style"
                 settings: view.settings
                 setting: "graphLineStyle"
                 choices: SettingsRules.graphLineStyles
-                columnSpacing: 12
-                Layout.leftMargin: -3 // the frames stand in line with the titles
                 delegate: PreviewButton {
                     id: lineButton
                     group: lineGroup // qmllint disable unqualified
@@ -149,7 +146,6 @@ Item {
             SectionLabel { text: "Fill Style" }
             SegmentedPicker {
                 name: "Fill Style"
-                Layout.fillWidth: true
                 settings: view.settings
                 setting: "graphFillStyle"
                 choices: SettingsRules.graphFillStyles
@@ -159,14 +155,12 @@ Item {
         SettingsSection {
             objectName: "bars"
             title: "BAR CHART STYLE"
-            SettingGroup {
+            PreviewGroup {
                 id: barGroup
                 name: "Bar Chart Style"
                 settings: view.settings
                 setting: "barChartStyle"
                 choices: SettingsRules.barChartStyles
-                columnSpacing: 12
-                Layout.leftMargin: -3 // the frames stand in line with the titles
                 delegate: PreviewButton {
                     id: barButton
                     group: barGroup // qmllint disable unqualified
@@ -182,14 +176,12 @@ Item {
         SettingsSection {
             objectName: "rings"
             title: "RING CHART STYLE"
-            SettingGroup {
+            PreviewGroup {
                 id: ringGroup
                 name: "Ring Chart Style"
                 settings: view.settings
                 setting: "ringChartStyle"
                 choices: SettingsRules.ringChartStyles
-                columnSpacing: 12
-                Layout.leftMargin: -3 // the frames stand in line with the titles
                 delegate: PreviewButton {
                     id: ringButton
                     group: ringGroup // qmllint disable unqualified
@@ -207,7 +199,6 @@ Item {
             title: "MENU BAR DISPLAY"
             SegmentedPicker {
                 name: "Menu Bar Display"
-                Layout.fillWidth: true
                 settings: view.settings
                 setting: "menuBarDisplayStyle"
                 choices: SettingsRules.menuBarDisplayStyles
@@ -219,7 +210,6 @@ Item {
             title: "ANIMATION SPEED"
             SegmentedPicker {
                 name: "Animation Speed"
-                Layout.fillWidth: true
                 settings: view.settings
                 setting: "animationSpeed"
                 choices: SettingsRules.animationSpeeds
@@ -231,7 +221,6 @@ Item {
             title: "GLOW EFFECT"
             SegmentedPicker {
                 name: "Glow Effect"
-                Layout.fillWidth: true
                 settings: view.settings
                 setting: "glowIntensity"
                 choices: SettingsRules.glowIntensities

@@ -59,6 +59,8 @@ ChoiceButton {
             objectName: "name"
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             text: card.text
             size: 9
             weight: card.isSelected ? Font.Bold : Font.Medium

@@ -48,10 +48,11 @@ public:
         return toQml(orvelle::themeGridColumns(width));
     }
     Q_INVOKABLE static QVariantList sharedWidths(const QVariantList& needed, double available) {
-        QList<double> widths;
-        for (const QVariant& width : needed)
-            widths.append(width.toDouble());
-        return toQml(orvelle::sharedWidths(widths, available));
+        return toQml(orvelle::sharedWidths(fromQml(needed), available));
+    }
+    Q_INVOKABLE static QVariantList fittingColumns(const QVariantList& needed, double spacing,
+                                                   double available) {
+        return toQml(orvelle::fittingColumns(fromQml(needed), spacing, available));
     }
 
     /// The colour that a text spells, or the other one without its opacity when it spells none.
@@ -67,6 +68,12 @@ private:
         for (const Record& record : records)
             values.append(QVariant::fromValue(record));
         return values;
+    }
+    static QList<double> fromQml(const QVariantList& values) {
+        QList<double> numbers;
+        for (const QVariant& value : values)
+            numbers.append(value.toDouble());
+        return numbers;
     }
 };
 

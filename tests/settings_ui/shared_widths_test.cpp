@@ -32,5 +32,38 @@ TEST(SharedWidthsTest, AreNeverNegative) {
         EXPECT_GE(width, 0);
 }
 
+TEST(SharedWidthsTest, KeepWhatEachNeedsInWholePointsThroughTheRounding) {
+    for (const QList<double>& needed : {QList<double>{44, 53, 63, 50, 76}, QList<double>{30, 31, 120}}) {
+        const double sum = std::accumulate(needed.begin(), needed.end(), 0.0);
+        for (double spare = 0; spare < 10; ++spare) {
+            const QList<double> widths = sharedWidths(needed, sum + spare);
+            for (qsizetype index = 0; index < needed.size(); ++index)
+                EXPECT_GE(widths[index], needed[index]);
+        }
+    }
+}
+
+TEST(FittingColumnsTest, AreOneForEachCellWhereAllFitSideBySide) {
+    EXPECT_EQ(fittingColumns({40, 20, 30}, 0, 90), QList<double>({40, 20, 30}));
+    EXPECT_EQ(fittingColumns({40, 20, 30}, 5, 100), QList<double>({40, 20, 30}));
+}
+
+TEST(FittingColumnsTest, AreWholePointsSoThatNoTextLosesAFractionOfItsRoom) {
+    EXPECT_EQ(fittingColumns({40.1, 19.9}, 0, 61), QList<double>({41, 20}));
+    EXPECT_EQ(fittingColumns({40.1, 19.9}, 0, 60.5).size(), 1);
+}
+
+TEST(FittingColumnsTest, BreakIntoEvenRowsAndAreAsWideAsTheWidestCellInThem) {
+    EXPECT_EQ(fittingColumns({40, 20, 30, 50, 10}, 0, 149), QList<double>({50, 20, 30})) << "three and two";
+    EXPECT_EQ(fittingColumns({40, 20, 30, 50}, 5, 95), QList<double>({40, 50})) << "two and two";
+    EXPECT_EQ(fittingColumns({40, 20, 30, 50, 10}, 5, 94), QList<double>({50})) << "below each other";
+}
+
+TEST(FittingColumnsTest, AreOneWhateverTheWidth) {
+    EXPECT_EQ(fittingColumns({}, 10, 100), QList<double>({0}));
+    for (const double available : {0.0, -10.0, std::nan("")})
+        EXPECT_EQ(fittingColumns({40, 20}, 10, available), QList<double>({40}));
+}
+
 } // namespace
 } // namespace orvelle
