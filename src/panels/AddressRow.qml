@@ -36,6 +36,7 @@ RowLayout {
             activeFocusOnTab: true
             clip: true
             horizontalAlignment: TextInput.AlignRight
+            wrapMode: TextInput.WrapAnywhere
             Accessible.role: Accessible.EditableText
             Accessible.readOnly: true
             Accessible.name: row.label

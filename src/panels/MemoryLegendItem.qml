@@ -10,6 +10,9 @@ RowLayout {
     required property string name
     required property color swatchColor
     required property real bytes
+    /// The sizes stand below each other, so all names have the room of the longest.
+    required property real nameWidth
+    readonly property alias neededNameWidth: label.implicitWidth
 
     spacing: 6
 
@@ -20,10 +23,11 @@ RowLayout {
         color: item.swatchColor
     }
     PlainText {
+        id: label
         text: item.name
         size: 10
         color: Look.secondaryLabel
-        Layout.preferredWidth: 70
+        Layout.preferredWidth: item.nameWidth
     }
     PlainText {
         text: PanelRules.byteSizeText(item.bytes)

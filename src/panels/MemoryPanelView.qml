@@ -36,31 +36,39 @@ PanelBody {
             moduleColor: panel.moduleColor
         }
         ColumnLayout {
+            id: legend
+            readonly property real nameWidth: Math.max(70, longest.neededNameWidth)
             spacing: 6
             MemoryLegendItem {
                 name: "Active"
                 swatchColor: panel.moduleColor
                 bytes: panel.info.active
+                nameWidth: legend.nameWidth
             }
             MemoryLegendItem {
                 name: "Wired"
                 swatchColor: MemoryColors.wired
                 bytes: panel.info.wired
+                nameWidth: legend.nameWidth
             }
             MemoryLegendItem {
+                id: longest
                 name: "Compressed"
                 swatchColor: MemoryColors.compressed
                 bytes: panel.info.compressed
+                nameWidth: legend.nameWidth
             }
             MemoryLegendItem {
                 name: "Cached"
                 swatchColor: MemoryColors.cached
                 bytes: panel.info.cached
+                nameWidth: legend.nameWidth
             }
             MemoryLegendItem {
                 name: "Free"
                 swatchColor: MemoryColors.freeInLegend
                 bytes: panel.info.free
+                nameWidth: legend.nameWidth
             }
         }
     }
