@@ -24,7 +24,7 @@ T.Slider {
             x: 1
             width: parent.width - 2
             height: 12
-            anchors.verticalCenter: parent.verticalCenter
+            y: Look.centred(parent.height, height)
             radius: 6
             gradient: Gradient { // a stop for each corner of the circle of hues
                 orientation: Gradient.Horizontal

@@ -12,8 +12,7 @@ Item {
 
     SectionTitle {
         id: title
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.alignWhenCentered: false // a line of odd height would stand higher than the symbol
+        y: Look.centred(parent.height, height)
         width: advanced.x - 8
         text: row.title.toUpperCase()
         wrapMode: Text.Wrap
@@ -24,8 +23,7 @@ Item {
         id: advanced
         anchors.right: chevron.left
         anchors.rightMargin: 6
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.alignWhenCentered: false
+        y: Look.centred(parent.height, height)
         text: "Advanced"
         size: 10
         color: Look.secondaryLabel
@@ -35,7 +33,7 @@ Item {
         id: chevron
         objectName: "chevron"
         anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
+        y: Look.centred(parent.height, height)
         name: row.isExpanded ? "chevron.down" : "chevron.right"
         fontSize: 9
         weight: Font.DemiBold

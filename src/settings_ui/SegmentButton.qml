@@ -24,7 +24,7 @@ ChoiceButton {
             visible: segment.index % segment.group.columns > 0 && !segment.checked && !segment.followsChosen
             width: 1
             height: parent.height / 2
-            anchors.verticalCenter: parent.verticalCenter
+            y: Look.centred(parent.height, height)
             color: Look.pressed
         }
     }

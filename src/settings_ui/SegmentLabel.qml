@@ -14,13 +14,13 @@ Item {
     implicitWidth: name.implicitWidth + 2 * inset
 
     Column {
-        anchors.verticalCenter: parent.verticalCenter
+        y: Look.centred(parent.height, height)
         width: parent.width
         spacing: 3
 
         Symbol {
             visible: label.symbol !== ""
-            anchors.horizontalCenter: parent.horizontalCenter
+            x: Look.centred(parent.width, width)
             name: label.symbol
             fontSize: 12
             color: label.color

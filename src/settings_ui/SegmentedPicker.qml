@@ -10,12 +10,10 @@ SettingGroup {
 
     readonly property var needed: SettingsRules.fittingColumns(neededWidths(), 0, width)
     readonly property var widths: SettingsRules.sharedWidths(needed, width)
-    readonly property real widthOfOneRow: SettingsRules.fittingColumns(neededWidths(), 0, Infinity)
-                                          .reduce((sum, width) => sum + width, 0)
     readonly property real rowHeight: choices.some(choice => choice.symbol !== "") ? 42 : 24
 
     Layout.fillWidth: true
-    implicitWidth: Math.max(200, widthOfOneRow)
+    implicitWidth: Math.max(200, SettingsRules.widthOfOneRow(neededWidths()))
     columns: widths.length
 
     Rectangle {

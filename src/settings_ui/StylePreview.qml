@@ -14,7 +14,7 @@ Column {
 
     Item {
         id: frame
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Look.centred(parent.width, width)
         width: 50
         height: 24
 
@@ -35,7 +35,7 @@ Column {
     }
     PlainText {
         objectName: "caption"
-        anchors.horizontalCenter: parent.horizontalCenter
+        x: Look.centred(parent.width, width)
         text: preview.caption
         size: 8
         weight: preview.isSelected ? Font.Bold : Font.Normal

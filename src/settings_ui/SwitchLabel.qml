@@ -21,7 +21,7 @@ Item {
     Symbol {
         visible: label.symbol !== ""
         x: 7 - width / 2
-        anchors.verticalCenter: parent.verticalCenter
+        y: Look.centred(parent.height, height)
         name: label.symbol
         fontSize: label.symbolSize
         color: label.symbolColor
@@ -30,8 +30,7 @@ Item {
         id: text
         x: label.slotWidth
         width: parent.width - x - label.rightInset
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.alignWhenCentered: false // a line of odd height would stand higher than the symbol
+        y: Look.centred(parent.height, height)
         text: label.text
         size: label.size
         weight: Font.Medium

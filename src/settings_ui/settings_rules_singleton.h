@@ -10,6 +10,9 @@
 #include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
+#include <limits>
+#include <numeric>
+
 namespace orvelle {
 
 /// What the settings window offers, and its rules, to QML.
@@ -53,6 +56,13 @@ public:
     Q_INVOKABLE static QVariantList fittingColumns(const QVariantList& needed, double spacing,
                                                    double available) {
         return toQml(orvelle::fittingColumns(fromQml(needed), spacing, available));
+    }
+
+    /// How wide cells are that stand in one row without a space between them.
+    Q_INVOKABLE static double widthOfOneRow(const QVariantList& needed) {
+        const QList<double> widths =
+            orvelle::fittingColumns(fromQml(needed), 0, std::numeric_limits<double>::infinity());
+        return std::accumulate(widths.cbegin(), widths.cend(), 0.0);
     }
 
     /// The colour that a text spells, or the other one without its opacity when it spells none.
