@@ -18,6 +18,18 @@ inline constexpr double maximumIntervalSeconds = 86400.0;
 /// The longest text that a setting holds, in UTF-16 units; theme names and colours need a handful.
 inline constexpr qsizetype maximumTextLength = 4096;
 
+/// The name of an enumeration's case; null for a number that names none.
+template <class Enum>
+requires std::is_enum_v<Enum>
+[[nodiscard]] QString caseName(Enum value) {
+    const QMetaEnum cases = QMetaEnum::fromType<Enum>();
+    for (int index = 0; index < cases.keyCount(); ++index) {
+        if (cases.value(index) == static_cast<int>(value))
+            return QString::fromLatin1(cases.key(index));
+    }
+    return {};
+}
+
 [[nodiscard]] constexpr bool isLegalSetting(bool) {
     return true;
 }
@@ -28,7 +40,7 @@ inline constexpr qsizetype maximumTextLength = 4096;
 template <class Enum>
 requires std::is_enum_v<Enum>
 [[nodiscard]] bool isLegalSetting(Enum value) {
-    return QMetaEnum::fromType<Enum>().valueToKey(static_cast<int>(value)) != nullptr;
+    return !caseName(value).isNull();
 }
 
 /// true, yes, on and 1, or false, no, off and 0, in any case; also a stored boolean or the numbers 1 and 0.
@@ -58,7 +70,7 @@ template <class Value>
 template <class Value>
 [[nodiscard]] QVariant storedForm(const Value& value) {
     if constexpr (std::is_enum_v<Value>)
-        return QString::fromLatin1(QMetaEnum::fromType<Value>().valueToKey(static_cast<int>(value)));
+        return caseName(value);
     else
         return value;
 }

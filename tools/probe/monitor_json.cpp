@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QMetaProperty>
-#include <QSequentialIterable>
 
 namespace orvelle {
 namespace {
@@ -25,9 +24,9 @@ QJsonValue jsonFrom(const QVariant& value) {
     const QMetaType type = value.metaType();
     if (type.flags().testFlag(QMetaType::IsGadget))
         return jsonFromRecord(value, *type.metaObject());
-    if (type.id() != QMetaType::QString && value.canView<QSequentialIterable>()) {
+    if (type.id() != QMetaType::QString && value.canConvert<QVariantList>()) {
         QJsonArray array;
-        for (const QVariant& element : value.value<QSequentialIterable>())
+        for (const QVariant& element : value.toList())
             array.append(jsonFrom(element));
         return array;
     }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "settings/setting_value.h" // caseName
+
 #include <QList>
 #include <QMetaEnum>
-#include <QString>
 
 namespace orvelle {
 
@@ -14,11 +15,6 @@ template <typename Style>
     for (int index = 0; index < type.keyCount(); ++index)
         cases.append(static_cast<Style>(type.value(index)));
     return cases;
-}
-
-template <typename Style>
-[[nodiscard]] QString caseName(Style style) {
-    return QString::fromLatin1(QMetaEnum::fromType<Style>().valueToKey(static_cast<int>(style)));
 }
 
 } // namespace orvelle
