@@ -7,11 +7,16 @@ foreach(folder IN ITEMS config data cache state runtime)
 endforeach()
 file(CHMOD ${ORVELLE_TEST_HOME}/runtime DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
-# orvelle_test_fonts(NAME FONT SANS_SERIF FILE...): writes a configuration that knows only these font files, and
-# SANS_SERIF of them as the desktop's font. FONT is the family and style that the desktop's font then has.
+# orvelle_test_fonts(NAME FONT SANS_SERIF FILE...): writes a configuration that knows only these font files, by links
+# in a folder of their own, and SANS_SERIF of them as the desktop's font. FONT is the family and style that the desktop's
+# font then has.
 function(orvelle_test_fonts name font sans_serif)
-  list(TRANSFORM ARGN REPLACE "(.+)" "      <glob>*/\\1.ttf</glob>" OUTPUT_VARIABLE accepted)
-  list(JOIN accepted "\n" accepted)
+  set(folder ${ORVELLE_TEST_HOME}/fonts-${name})
+  file(REMOVE_RECURSE ${folder})
+  file(MAKE_DIRECTORY ${folder})
+  foreach(file IN LISTS ARGN)
+    file(CREATE_LINK /usr/share/fonts/truetype/dejavu/${file}.ttf ${folder}/${file}.ttf SYMBOLIC)
+  endforeach()
   configure_file(${CMAKE_SOURCE_DIR}/tests/support/fonts.conf.in ${ORVELLE_TEST_HOME}/fonts-${name}.conf @ONLY)
   set(ORVELLE_TEST_FONT_${name} ${font} PARENT_SCOPE)
 endfunction()

@@ -1,4 +1,3 @@
-import QtQuick
 import QtQuick.Layouts
 import Orvelle.SettingsUI
 
