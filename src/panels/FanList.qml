@@ -44,6 +44,7 @@ ColumnLayout {
             key: "index"
             records: list.fans
         }
+        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
         delegate: FanRow {
             required property var record
             fan: record

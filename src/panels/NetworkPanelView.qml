@@ -72,6 +72,7 @@ PanelBody {
                 key: "name"
                 records: panel.interfaces
             }
+            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
             delegate: InterfaceRow {
                 required property var record
                 info: record

@@ -31,6 +31,7 @@ ColumnLayout {
             key: "pid"
             records: view.processes
         }
+        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
         delegate: ProcessRow {
             required property var record
             process: record

@@ -62,6 +62,7 @@ PanelBody {
                 key: "key"
                 records: panel.sensors
             }
+            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
             delegate: SensorRow {
                 required property var record
                 sensor: record

@@ -59,6 +59,7 @@ T.AbstractButton {
     Loader {
         id: loader
         active: false
+        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
         sourceComponent: ColorPicker {
             parent: well // qmllint disable unqualified
             title: well.text // qmllint disable unqualified

@@ -23,6 +23,7 @@ ColumnLayout {
     }
     Repeater {
         model: SettingsRules.modules
+        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
         delegate: ModuleColorRow {
             settings: list.settings // qmllint disable unqualified
             themeManager: list.themeManager // qmllint disable unqualified

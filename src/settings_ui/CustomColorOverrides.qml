@@ -26,6 +26,7 @@ ColumnLayout {
         Layout.fillWidth: true
         active: overrides.showCustomColors
         visible: active
+        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
         sourceComponent: CustomColorList {
             settings: overrides.settings // qmllint disable unqualified
             themeManager: overrides.themeManager // qmllint disable unqualified

@@ -22,6 +22,7 @@ SettingGroup {
         radius: 6
         color: Look.hovered
     }
+    // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
     delegate: SegmentButton {
         group: picker // qmllint disable unqualified
         width: picker.widths[index % picker.columns] ?? 0 // qmllint disable unqualified

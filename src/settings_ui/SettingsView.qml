@@ -60,6 +60,8 @@ Item {
                 spacing: 2
                 Repeater {
                     model: SettingsRules.modules
+                    // Here and below: only from Qt 6.5 on can a file say that a component may use an outer id
+                    // (ComponentBehavior).
                     delegate: ModuleToggle {
                         settings: view.settings // qmllint disable unqualified
                         colors: view.colors // qmllint disable unqualified

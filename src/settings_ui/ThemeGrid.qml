@@ -17,6 +17,7 @@ ChoiceGroup {
     rowSpacing: SettingsRules.themeGridSpacing
     onChosen: index => themeManager.selectTheme(choices[index].id)
 
+    // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
     delegate: ThemePreviewCard {
         group: grid // qmllint disable unqualified
         width: grid.columnWidths[index % grid.columns] // qmllint disable unqualified
