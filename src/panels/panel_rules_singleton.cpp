@@ -8,8 +8,8 @@ ProcessDisplayMode displayMode(int mode) {
                                                              : ProcessDisplayMode::memory;
 }
 
-/// The records of a list that has been a property of type `var`: such a list keeps its type from Qt 6.5 on, and is one
-/// of variants before.
+/// The records of a list that has been a property of type `var`: such a list keeps its type from Qt 6.5 on,
+/// and is one of variants before.
 QList<ProcessInfo> processRecords(const QVariant& processes) {
     if (processes.metaType() == QMetaType::fromType<QList<ProcessInfo>>())
         return processes.value<QList<ProcessInfo>>();

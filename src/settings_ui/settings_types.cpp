@@ -4,8 +4,8 @@
 
 void qml_register_types_Orvelle_SettingsUI(); // written by the build
 
-// From a static library nothing else takes in the files that were compiled ahead of time. The macro works in no
-// namespace.
+// From a static library nothing else takes in the files that were compiled ahead of time. The macro works in
+// no namespace.
 static void registerSettingsTypesAndFiles() {
     Q_INIT_RESOURCE(qmlcache_orvelle_settings_ui);
     qml_register_types_Orvelle_SettingsUI();

@@ -97,8 +97,8 @@ public:
     /// The colour at an opacity, 0 to 1, whatever opacity it had.
     Q_INVOKABLE [[nodiscard]] static QColor faded(const QColor& color, double opacity);
 
-    /// Where something of this extent begins that stands in the middle of a room: at a whole point, so that it is as
-    /// crisp as its neighbours. Anchors round in another way in each release of Qt.
+    /// Where something of this extent begins that stands in the middle of a room: at a whole point, so that
+    /// it is as crisp as its neighbours. Anchors round in another way in each release of Qt.
     Q_INVOKABLE [[nodiscard]] static double centred(double room, double extent) {
         return std::round((room - extent) / 2);
     }
