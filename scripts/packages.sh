@@ -27,6 +27,8 @@ test_packages=(
   # A narrower font, in which the windows are laid out too.
   fonts-dejavu-extra
 )
+# What looks for faults without running anything; ./lint says why these versions.
+lint_packages=(clang-format-19 clang-tidy-19 shellcheck pylint)
 
 # Prints those of the given packages that are installed, one a line.
 installed_packages() {
