@@ -7,8 +7,9 @@
 namespace orvelle {
 namespace {
 
-bool isAboveZero(const std::optional<std::int64_t>& value) {
-    return value && *value > 0;
+/// The value where it is above zero, or else nothing.
+std::optional<std::int64_t> aboveZero(const std::optional<std::int64_t>& value) {
+    return value && *value > 0 ? value : std::nullopt;
 }
 
 } // namespace
@@ -74,12 +75,10 @@ void BatteryMonitor::take(const SmartBatteryProperties& properties) {
 }
 
 void BatteryMonitor::takeCapacities(const SmartBatteryProperties& properties) {
-    if (isAboveZero(properties.designCapacity))
-        assign(&BatteryInfo::designCapacity, *properties.designCapacity);
-    if (isAboveZero(properties.rawMaxCapacity))
-        assign(&BatteryInfo::maxCapacity, *properties.rawMaxCapacity);
-    else if (isAboveZero(properties.nominalChargeCapacity))
-        assign(&BatteryInfo::maxCapacity, *properties.nominalChargeCapacity);
+    assignIfKnown(&BatteryInfo::designCapacity, aboveZero(properties.designCapacity));
+    const std::optional<std::int64_t> measured = aboveZero(properties.rawMaxCapacity);
+    assignIfKnown(&BatteryInfo::maxCapacity,
+                  measured ? measured : aboveZero(properties.nominalChargeCapacity));
     if (m_battery.designCapacity >= 1 && m_battery.maxCapacity >= 1)
         assign(&BatteryInfo::health,
                static_cast<double>(m_battery.maxCapacity) / static_cast<double>(m_battery.designCapacity));

@@ -130,7 +130,8 @@ void NetworkMonitor::publishPrimaryAddresses() {
         m_interfaces, [](const InterfaceInfo& info) { return info.ipv4Address.has_value(); });
     if (primary == m_interfaces.end())
         return;
-    publish(this, m_primaryIPv4, *primary->ipv4Address, &NetworkMonitor::primaryIPv4Changed);
+    publish(this, m_primaryIPv4, primary->ipv4Address.value_or(noAddress),
+            &NetworkMonitor::primaryIPv4Changed);
     publish(this, m_primaryIPv6, primary->ipv6Address.value_or(noAddress),
             &NetworkMonitor::primaryIPv6Changed);
 }
