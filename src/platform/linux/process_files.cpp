@@ -39,8 +39,10 @@ ProcessFiles::ProcessFiles(const std::filesystem::path& root)
     : m_path(root / "proc") {}
 
 bool ProcessFiles::open() {
-    if (!m_directory)
+    if (!m_directory) {
         m_directory.reset(::opendir(m_path.c_str()));
+        m_descriptor = m_directory ? ::dirfd(m_directory.get()) : -1;
+    }
     return m_directory != nullptr;
 }
 
@@ -59,8 +61,7 @@ const std::vector<std::int32_t>& ProcessFiles::list() {
 
 std::optional<std::string_view> ProcessFiles::readStat(std::int32_t pid) {
     const FileOfProcess file(pid, "stat");
-    const int descriptor =
-        ::openat(::dirfd(m_directory.get()), file.path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const int descriptor = ::openat(m_descriptor, file.path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0)
         return std::nullopt;
     // The kernel makes the whole line for one read.
@@ -73,8 +74,7 @@ std::optional<std::string_view> ProcessFiles::readStat(std::int32_t pid) {
 
 std::optional<std::string_view> ProcessFiles::readExecutablePath(std::int32_t pid) {
     const FileOfProcess file(pid, "exe");
-    const ssize_t size =
-        ::readlinkat(::dirfd(m_directory.get()), file.path(), m_buffer.data(), m_buffer.size());
+    const ssize_t size = ::readlinkat(m_descriptor, file.path(), m_buffer.data(), m_buffer.size());
     if (size <= 0)
         return std::nullopt;
     return std::string_view(m_buffer.data(), static_cast<std::size_t>(size));

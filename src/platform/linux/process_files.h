@@ -37,6 +37,7 @@ private:
 
     std::string m_path;
     std::unique_ptr<DIR, CloseDirectory> m_directory;
+    int m_descriptor = -1; ///< of the directory, which owns it
     std::vector<std::int32_t> m_listed;
     std::array<char, 4096> m_buffer{}; ///< a stat line needs some 400 bytes; no path of a link is longer
 };
