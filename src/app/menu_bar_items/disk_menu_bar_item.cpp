@@ -24,7 +24,8 @@ DiskMenuBarItem::DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore
     , m_themes(themes) {}
 
 QString DiskMenuBarItem::accessibleText() const {
-    const QString usedText = used() ? QStringLiteral(" %1").arg(formatPercent(*used())) : QString();
+    const std::optional<double> fraction = used();
+    const QString usedText = fraction ? QStringLiteral(" %1").arg(formatPercent(*fraction)) : QString();
     return QStringLiteral("Disk%1, read %2, write %3")
         .arg(usedText, formatRate(m_monitor.diskIO().readSpeed), formatRate(m_monitor.diskIO().writeSpeed));
 }

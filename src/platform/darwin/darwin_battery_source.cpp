@@ -33,8 +33,10 @@ std::optional<std::vector<std::optional<PowerSourceDescription>>> DarwinBatteryS
     const CFOwned<CFArrayRef> list(IOPSCopyPowerSourcesList(information.get()));
     if (!list || CFGetTypeID(list.get()) != CFArrayGetTypeID())
         return std::nullopt;
+    const CFIndex count = CFArrayGetCount(list.get());
     std::vector<std::optional<PowerSourceDescription>> sources;
-    for (CFIndex index = 0; index < CFArrayGetCount(list.get()); ++index)
+    sources.reserve(static_cast<std::size_t>(count));
+    for (CFIndex index = 0; index < count; ++index)
         sources.push_back(describe(information.get(), CFArrayGetValueAtIndex(list.get(), index)));
     return sources;
 }

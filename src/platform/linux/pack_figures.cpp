@@ -53,7 +53,8 @@ Figure product(const Figure& left, const Figure& right) {
 }
 
 Figure quotient(const Figure& dividend, const Figure& divisor) {
-    return dividend && positive(divisor) ? Figure(*dividend / *divisor) : std::nullopt;
+    const Figure parts = positive(divisor);
+    return dividend && parts ? Figure(*dividend / *parts) : std::nullopt;
 }
 
 Figure presentVoltage(const BatteryPack& pack) {

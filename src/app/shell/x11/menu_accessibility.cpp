@@ -86,7 +86,8 @@ public:
         return index ? line(*index) : nullptr;
     }
     [[nodiscard]] QAccessibleInterface* focusChild() const override {
-        return m_menu.current() ? line(*m_menu.current()) : nullptr;
+        const std::optional<std::size_t> current = m_menu.current();
+        return current ? line(*current) : nullptr;
     }
 
 private:
