@@ -2,6 +2,9 @@
 
 namespace orvelle {
 
-NSView* nativeView(QWindow& window) { return reinterpret_cast<NSView*>(window.winId()); }
+NSView* nativeView(QWindow& window) {
+    // Qt hands the pointer out as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    return reinterpret_cast<NSView*>(window.winId());
+}
 
 } // namespace orvelle

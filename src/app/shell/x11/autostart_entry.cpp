@@ -89,11 +89,12 @@ QString execProgram(const QString& exec) {
     bool isQuoted = false;
     for (qsizetype index = 0; index < text.size(); ++index) {
         const QChar character = text[index];
+        const bool isLast = index + 1 == text.size();
+        const bool escapesNext =
+            !isLast && ((isQuoted && character == u'\\') || (character == u'%' && text[index + 1] == u'%'));
         if (character == u'"')
             isQuoted = !isQuoted;
-        else if (isQuoted && character == u'\\' && index + 1 < text.size())
-            program += text[++index];
-        else if (character == u'%' && index + 1 < text.size() && text[index + 1] == u'%')
+        else if (escapesNext)
             program += text[++index];
         else if (!isQuoted && character.isSpace())
             return program;

@@ -42,26 +42,29 @@ void X11Popover::open() {
     const bool isOpen = m_transient && m_transient->isShown();
     if (!isShown() || isOpen)
         return; // it has been closed again, or two of these were on their way
-    if (!m_transient && !makeWindow()) {
+    TransientWindow* transient = transientWindow();
+    if (transient == nullptr) {
         setItem(nullptr);
         return;
     }
     keepWindow();
     QScreen& screen = *m_bar.screen();
     const QRectF bounds = m_bar.desktopBounds(*m_item);
-    m_transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
+    transient->show(screen, popoverGeometry(bounds, m_size, screen.geometry()), bounds);
 }
 
-bool X11Popover::makeWindow() {
+TransientWindow* X11Popover::transientWindow() {
+    if (m_transient)
+        return &*m_transient;
     m_window = m_makeContent(TransientWindow::cornerRadiusPoints);
     if (m_window == nullptr)
-        return false;
+        return nullptr;
     m_size = m_window->size();
-    m_transient.emplace(*m_window);
-    connect(&*m_transient, &TransientWindow::closed, this, [this] { setItem(nullptr); });
-    connect(&*m_transient, &TransientWindow::dismissed, this, [this] { m_dismissed(); });
-    connect(&*m_transient, &TransientWindow::painted, this, &X11Popover::logPainted);
-    return true;
+    TransientWindow& made = m_transient.emplace(*m_window);
+    connect(&made, &TransientWindow::closed, this, [this] { setItem(nullptr); });
+    connect(&made, &TransientWindow::dismissed, this, [this] { m_dismissed(); });
+    connect(&made, &TransientWindow::painted, this, &X11Popover::logPainted);
+    return &made;
 }
 
 void X11Popover::releaseWindow() {

@@ -36,7 +36,8 @@ public:
 private:
     void open();
     void setItem(const StatusItem* item);
-    [[nodiscard]] bool makeWindow();
+    /// The window, made when there is none yet; null when it cannot be made.
+    [[nodiscard]] TransientWindow* transientWindow();
     void releaseWindow();
     /// Keeps the window of this popover at the expense of the one that has been closed for the longest time.
     void keepWindow();
