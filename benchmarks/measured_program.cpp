@@ -30,6 +30,8 @@ pid_t forkDiscarding() {
     const pid_t pid = ::fork();
     if (pid == 0) {
         const int null = ::open("/dev/null", O_RDWR);
+        if (null < 0)
+            ::_exit(127);
         for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
             ::dup2(null, standard);
     }

@@ -89,10 +89,11 @@ std::vector<ProgramCost> measureCosts(const std::string& self, const std::filesy
         passSecond(programs);
     std::vector<ProgramCost> costs;
     for (std::size_t index = 0; index < programs.size(); ++index) {
+        const std::optional<std::uint64_t>& earlier = before[index];
         const std::optional<std::uint64_t> after = programs[index]->nanoseconds();
-        if (!before[index] || !after)
+        if (!earlier || !after)
             continue;
-        const auto nanoseconds = static_cast<double>(*after - *before[index]);
+        const auto nanoseconds = static_cast<double>(*after - *earlier);
         costs.push_back(
             {.name = programs[index]->name(), .milliseconds = nanoseconds / measuredSamples / 1e6});
     }

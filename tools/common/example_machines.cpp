@@ -70,7 +70,7 @@ int liveliness(int cycle, int phase) {
 }
 
 std::uint64_t bytesInCycle(std::uint64_t rate, int cycle, int phase) {
-    const auto share = static_cast<std::uint64_t>(40 + liveliness(cycle, phase));
+    const auto share = 40 + static_cast<std::uint64_t>(liveliness(cycle, phase));
     return rate * secondsPerCycle * share / 100;
 }
 

@@ -4,6 +4,8 @@
 #include "platform/fixed/fixed_sources.h"
 #include "settings/system_colors.h"
 
+#include <cmath>
+
 namespace orvelle {
 namespace {
 
@@ -19,7 +21,7 @@ protected:
             monitor.emplace(source, clock.reader());
         for (qsizetype core = 0; core < loads.size(); ++core) {
             CoreTicks& ticks = source.ticks->at(static_cast<size_t>(core));
-            const auto busy = static_cast<std::uint64_t>(loads.at(core) * 10000 + 0.5);
+            const auto busy = static_cast<std::uint64_t>(std::llround(loads.at(core) * 10000));
             ticks.user += busy / 2;
             ticks.system += busy - busy / 2;
             ticks.idle += 10000 - busy;
