@@ -7,6 +7,7 @@
 #include "system_calls.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -59,7 +60,8 @@ MachineSources withoutProcesses(MachineSources sources) {
 }
 
 std::string measuredRow(const std::string& name, MachineSources sources) {
-    const SettingsStore settings;
+    const QTemporaryDir folder;
+    const SettingsStore settings(folder.filePath(QStringLiteral("orvelle.conf")));
     SystemMonitor monitor(withoutProcesses(std::move(sources)), settings);
     static_cast<void>(timesOf(monitor, 1, {})); // the first one opens the files
     const std::vector<double> inARow = timesOf(monitor, cyclesInARow, {});
@@ -70,7 +72,8 @@ std::string measuredRow(const std::string& name, MachineSources sources) {
 }
 
 void sampleThisMachine(int cycles) {
-    const SettingsStore settings;
+    const QTemporaryDir folder;
+    const SettingsStore settings(folder.filePath(QStringLiteral("orvelle.conf")));
     SystemMonitor monitor(withoutProcesses(makeHostSources()), settings);
     for (int cycle = 0; cycle < cycles; ++cycle)
         monitor.updateCycle();

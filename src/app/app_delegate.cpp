@@ -69,7 +69,7 @@ void AppDelegate::createStatusItem(const Module& module) {
         item.setView(makeView({m_monitor, m_settings, m_themes}));
     };
     redraw();
-    auto throttle = std::make_unique<Throttle>(redrawInterval);
+    auto throttle = std::make_unique<Throttle>(redrawInterval, this);
     connect(&m_monitor, &SystemMonitor::changed, throttle.get(), &Throttle::trigger);
     connect(throttle.get(), &Throttle::passed, throttle.get(), redraw);
     // What the user chooses is seen at once. The theme is one of the settings, and has changed by then.
@@ -150,7 +150,7 @@ void AppDelegate::snapshotVisibility() {
 }
 
 void AppDelegate::startRefreshTimer() {
-    m_refreshTimer = std::make_unique<QTimer>();
+    m_refreshTimer = std::make_unique<QTimer>(this);
     m_refreshTimer->callOnTimeout(this, &AppDelegate::checkVisibility);
     // Coarse, so that it wakes the process together with the sampling timer.
     m_refreshTimer->setTimerType(Qt::CoarseTimer);

@@ -35,7 +35,7 @@ private:
     QElapsedTimer m_sinceStart;
     QGuiApplication m_application;
     TerminationSignals m_terminationSignals;
-    SettingsStore m_settings;
+    SettingsStore m_settings{openUserSettings()};
     ThemeManager m_themes;
     SystemMonitor m_monitor;
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted

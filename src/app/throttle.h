@@ -30,7 +30,7 @@ private:
 
     std::chrono::milliseconds m_interval;
     QElapsedTimer m_sincePassed; ///< not valid before the first event
-    QTimer m_held;
+    QTimer m_held{this};
 };
 
 } // namespace orvelle

@@ -31,7 +31,9 @@ public:
     [[nodiscard]] virtual QString filePath() const = 0;
 };
 
-/// The place where this operating system keeps the user's settings of this program.
-[[nodiscard]] std::unique_ptr<SettingsStorage> openUserSettings();
+/// The place where this operating system keeps the user's settings of this program. Where a folder is named,
+/// the place is in it instead of in the user's folder of all programs' settings: a test leaves the user's own
+/// alone.
+[[nodiscard]] std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder = {});
 
 } // namespace orvelle

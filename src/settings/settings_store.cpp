@@ -14,17 +14,14 @@ namespace {
 /// Editors empty, rename and write in several steps; the file is read when they have come to rest.
 constexpr std::chrono::milliseconds settleTime{100};
 
-std::unique_ptr<SettingsStorage> openStorage(const QString& filePath) {
-    if (filePath.isEmpty())
-        return openUserSettings();
-    return std::make_unique<SettingsFile>(filePath);
-}
-
 } // namespace
 
 SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
+    : SettingsStore(std::make_unique<SettingsFile>(filePath), parent) {}
+
+SettingsStore::SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* parent)
     : QObject(parent)
-    , m_storage(openStorage(filePath))
+    , m_storage(std::move(storage))
     , m_settings{&m_showCPU,
                  &m_showMemory,
                  &m_showNetwork,
@@ -57,9 +54,11 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
                  &m_customBatteryColorHex,
                  &m_customSensorColorHex,
                  &m_launchAtLogin} {
+    m_reloadDelay.setObjectName(QStringLiteral("reloadDelay"));
     m_reloadDelay.setSingleShot(true);
     m_reloadDelay.setInterval(settleTime);
     connect(&m_reloadDelay, &QTimer::timeout, this, &SettingsStore::reload);
+    m_tuningDelay.setObjectName(QStringLiteral("tuningDelay"));
     m_tuningDelay.setSingleShot(true);
     m_tuningDelay.setInterval(tuningInterval);
     connect(&m_tuningDelay, &QTimer::timeout, this, [this] {

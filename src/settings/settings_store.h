@@ -82,8 +82,10 @@ public:
     enum class ColorTheme { standard, monochrome, neon };
     Q_ENUM(ColorTheme)
 
-    /// The user's settings of this program, or those in an ini file of one's own when a path is given.
-    explicit SettingsStore(const QString& filePath = {}, QObject* parent = nullptr);
+    /// The settings that are kept there, as in the user's place for them: see `openUserSettings`.
+    explicit SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* parent = nullptr);
+    /// Those in an ini file of one's own.
+    explicit SettingsStore(const QString& filePath, QObject* parent = nullptr);
     ~SettingsStore() override;
 
     /// Sets the property with this name to a value that follows the user's hand, as under a slider. Of many
@@ -236,8 +238,8 @@ private:
 
     std::unique_ptr<SettingsStorage> m_storage;
     QFileSystemWatcher m_watcher;
-    QTimer m_reloadDelay;
-    QTimer m_tuningDelay; ///< runs for a while after a tuned value was saved
+    QTimer m_reloadDelay{this};
+    QTimer m_tuningDelay{this}; ///< runs for a while after a tuned value was saved
     bool m_isTuning = false;
     bool m_isSaveDue = false; ///< when `m_tuningDelay` ends
     QString m_saveError;

@@ -5,9 +5,13 @@
 namespace orvelle {
 namespace {
 
-/// The user-defaults domain of the program, through QSettings' native format.
+/// The user-defaults domain of the program, or a property list as it has in a folder of one's own, through
+/// QSettings' native format.
 class UserDefaults : public SettingsStorage {
 public:
+    explicit UserDefaults(const QString& folder)
+        : m_folder(folder) {}
+
     std::optional<StoredValues> read(const QStringList& keys) override {
         const std::unique_ptr<QSettings> settings = open();
         settings->sync();
@@ -33,18 +37,23 @@ public:
 
 private:
     /// A new one each time: its status never returns from an error.
-    static std::unique_ptr<QSettings> open() {
+    [[nodiscard]] std::unique_ptr<QSettings> open() const {
+        if (!m_folder.isEmpty())
+            return std::make_unique<QSettings>(m_folder + QStringLiteral("/com.orvelle.orvelle.plist"),
+                                               QSettings::NativeFormat);
         auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
                                                     QStringLiteral("orvelle"), QStringLiteral("orvelle"));
         settings->setFallbacksEnabled(false);
         return settings;
     }
+
+    QString m_folder; ///< empty for the user's own
 };
 
 } // namespace
 
-std::unique_ptr<SettingsStorage> openUserSettings() {
-    return std::make_unique<UserDefaults>();
+std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder) {
+    return std::make_unique<UserDefaults>(folder);
 }
 
 } // namespace orvelle

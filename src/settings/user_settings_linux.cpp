@@ -4,10 +4,11 @@
 
 namespace orvelle {
 
-/// `$XDG_CONFIG_HOME/orvelle/orvelle.conf`, `~/.config` when the variable is not set.
-std::unique_ptr<SettingsStorage> openUserSettings() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return std::make_unique<SettingsFile>(folder + QStringLiteral("/orvelle/orvelle.conf"));
+/// `orvelle/orvelle.conf` in `$XDG_CONFIG_HOME`, in `~/.config` when the variable is not set.
+std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder) {
+    const QString parent =
+        folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) : folder;
+    return std::make_unique<SettingsFile>(parent + QStringLiteral("/orvelle/orvelle.conf"));
 }
 
 } // namespace orvelle

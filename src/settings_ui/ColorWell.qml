@@ -50,6 +50,7 @@ T.AbstractButton {
         }
     }
     Tooltip {
+        objectName: "tooltip"
         text: well.text
         isWanted: well.hovered && !well.isOpen
         anchors.right: parent.right

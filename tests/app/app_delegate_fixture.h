@@ -3,12 +3,12 @@
 #include "app/app_delegate.h"
 #include "app/recording_status_bar.h"
 #include "core/system_monitor.h"
-#include "platform/host.h"
+#include "platform/fixed/fixed_machine.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
+#include "support/temporary_settings.h"
 
-#include <QTemporaryDir>
-#include <QTest>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -60,10 +60,11 @@ protected:
         return keys;
     }
 
-    QTemporaryDir directory;
-    SettingsStore settings{directory.filePath(QStringLiteral("settings.ini"))};
+    TemporarySettings file;
+    SettingsStore settings{file.path()};
     ThemeManager themes{settings};
-    SystemMonitor monitor{makeHostSources(), settings};
+    FixedMachine machine;
+    SystemMonitor monitor{machine.sources(), settings};
     RecordingStatusBar bar;
     /// What the delegate asked of the views and of the settings window, in order.
     QStringList windowCalls;

@@ -1,4 +1,5 @@
 #include "app/app_delegate_fixture.h"
+#include "support/early_timer.h"
 
 namespace orvelle {
 namespace {
@@ -99,8 +100,11 @@ TEST_F(AppDelegateTest, NoticesAVisibilityChangeByItself) {
     delegate.applicationDidFinishLaunching();
     settings.setShowMemory(false);
     EXPECT_TRUE(bar.identifiers().contains(QStringLiteral("memory")));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return !bar.identifiers().contains(QStringLiteral("memory")); }, 20000));
+    const QList<QTimer*> timers = delegate.findChildren<QTimer*>(Qt::FindDirectChildrenOnly);
+    ASSERT_EQ(timers.size(), 1);
+    EXPECT_EQ(timers.front()->intervalAsDuration(), AppDelegate::visibilityInterval);
+    endNow(*timers.front());
+    EXPECT_FALSE(bar.identifiers().contains(QStringLiteral("memory")));
 }
 
 } // namespace

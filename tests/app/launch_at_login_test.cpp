@@ -1,9 +1,9 @@
 #include "app/launch_at_login.h"
 #include "settings/settings_store.h"
+#include "support/temporary_settings.h"
 
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -35,8 +35,8 @@ private:
 
 class LaunchAtLoginTest : public ::testing::Test {
 protected:
-    QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("settings.ini"));
+    TemporarySettings file;
+    QString path = file.path();
     SettingsStore settings{path};
     ItemState state;
     LaunchAtLogin launch{settings, std::make_unique<ScriptedItem>(state)};

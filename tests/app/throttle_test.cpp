@@ -1,85 +1,100 @@
 #include "app/throttle.h"
-
-#include <QTest>
-#include <gtest/gtest.h>
+#include "support/early_timer.h"
+#include "support/waiting.h"
 
 namespace orvelle {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// Long enough that a busy machine still gets from one line of a test to the next within it.
-constexpr std::chrono::milliseconds interval = 400ms;
-constexpr std::chrono::milliseconds patience = 20s;
+/// Longer than any test takes: what is held is let go by the test alone.
+constexpr std::chrono::milliseconds longInterval = 1h;
+constexpr std::chrono::milliseconds shortInterval = 20ms;
 
-class ThrottleTest : public ::testing::Test {
-protected:
-    ThrottleTest() {
+/// Counts what a throttle lets pass.
+struct Counted {
+    explicit Counted(std::chrono::milliseconds interval)
+        : throttle(interval) {
         QObject::connect(&throttle, &Throttle::passed, &throttle, [this] { ++passedCount; });
-        clock.start();
     }
-    void awaitPassed(int count) {
-        ASSERT_TRUE(
-            QTest::qWaitFor([&] { return passedCount >= count; }, static_cast<int>(patience.count())));
+    void trigger(int times) {
+        for (int count = 0; count < times; ++count)
+            throttle.trigger();
+    }
+    void endInterval() {
+        auto* held = throttle.findChild<QTimer*>();
+        ASSERT_NE(held, nullptr);
+        endNow(*held);
     }
 
-    Throttle throttle{interval};
+    Throttle throttle;
     int passedCount = 0;
-    QElapsedTimer clock;
 };
 
-TEST_F(ThrottleTest, LetsTheFirstEventPassAtOnce) {
-    throttle.trigger();
-    EXPECT_EQ(passedCount, 1);
-    EXPECT_FALSE(throttle.isHolding());
+TEST(ThrottleTest, LetsTheFirstEventPassAtOnce) {
+    Counted events(longInterval);
+    events.trigger(1);
+    EXPECT_EQ(events.passedCount, 1);
+    EXPECT_FALSE(events.throttle.isHolding());
 }
 
-TEST_F(ThrottleTest, HoldsASecondEventUntilTheIntervalEnds) {
-    throttle.trigger();
-    throttle.trigger();
-    EXPECT_EQ(passedCount, 1);
-    EXPECT_TRUE(throttle.isHolding());
-    awaitPassed(2);
-    EXPECT_GE(clock.elapsed(), interval.count());
-    EXPECT_FALSE(throttle.isHolding());
+TEST(ThrottleTest, HoldsASecondEvent) {
+    Counted events(longInterval);
+    events.trigger(2);
+    EXPECT_EQ(events.passedCount, 1);
+    EXPECT_TRUE(events.throttle.isHolding());
 }
 
-TEST_F(ThrottleTest, LetsOneEventPassForAllThatItHeld) {
-    for (int count = 0; count < 10; ++count)
-        throttle.trigger();
-    awaitPassed(2);
-    QTest::qWait(static_cast<int>(2 * interval.count()));
-    EXPECT_EQ(passedCount, 2);
+TEST(ThrottleTest, LetsASecondEventPassWhenTheIntervalEnds) {
+    QElapsedTimer clock;
+    Counted events(shortInterval);
+    clock.start();
+    events.trigger(2);
+    ASSERT_TRUE(waitUntil([&] { return events.passedCount == 2; }));
+    EXPECT_GE(clock.elapsed(), shortInterval.count());
+    EXPECT_FALSE(events.throttle.isHolding());
 }
 
-TEST_F(ThrottleTest, StartsANewIntervalWhenAHeldEventPasses) {
-    throttle.trigger();
-    throttle.trigger();
-    awaitPassed(2);
-    throttle.trigger();
-    EXPECT_EQ(passedCount, 2);
-    awaitPassed(3);
-    EXPECT_GE(clock.elapsed(), 2 * interval.count());
+TEST(ThrottleTest, LetsOneEventPassForAllThatItHeld) {
+    Counted events(longInterval);
+    events.trigger(10);
+    events.endInterval();
+    EXPECT_EQ(events.passedCount, 2);
+    EXPECT_FALSE(events.throttle.isHolding());
 }
 
-TEST_F(ThrottleTest, LetsAnEventPassAtOnceAfterAQuietInterval) {
-    throttle.trigger();
-    QTest::qWait(static_cast<int>(interval.count()) + 1);
-    throttle.trigger();
-    EXPECT_EQ(passedCount, 2);
-    EXPECT_FALSE(throttle.isHolding());
+TEST(ThrottleTest, StartsANewIntervalWhenAHeldEventPasses) {
+    Counted events(longInterval);
+    events.trigger(2);
+    events.endInterval();
+    events.trigger(1);
+    EXPECT_EQ(events.passedCount, 2);
+    EXPECT_TRUE(events.throttle.isHolding());
 }
 
-TEST_F(ThrottleTest, DropsWhatItHoldsWhenDestroyed) {
-    int count = 0;
+TEST(ThrottleTest, LetsAnEventPassAtOnceAfterAQuietInterval) {
+    Counted events(shortInterval);
+    events.trigger(1);
+    QElapsedTimer sincePassed;
+    sincePassed.start();
+    ASSERT_TRUE(waitUntil([&] { return sincePassed.hasExpired(shortInterval.count()); }));
+    events.trigger(1);
+    EXPECT_EQ(events.passedCount, 2);
+    EXPECT_FALSE(events.throttle.isHolding());
+}
+
+TEST(ThrottleTest, DropsWhatItHoldsWhenDestroyed) {
+    int passedCount = 0;
     {
-        Throttle shortLived(1ms);
-        QObject::connect(&shortLived, &Throttle::passed, &throttle, [&count] { ++count; });
-        shortLived.trigger();
-        shortLived.trigger();
+        Throttle throttle(longInterval);
+        QObject::connect(&throttle, &Throttle::passed, QCoreApplication::instance(), [&] { ++passedCount; });
+        throttle.trigger();
+        throttle.trigger();
+        ASSERT_TRUE(throttle.isHolding());
+        throttle.findChild<QTimer*>()->setInterval(0); // due with the next event
     }
-    QTest::qWait(20);
-    EXPECT_EQ(count, 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(passedCount, 1);
 }
 
 } // namespace

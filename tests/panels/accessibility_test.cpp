@@ -1,4 +1,5 @@
 #include "panels/panel_fixture.h"
+#include "support/quick_timers.h"
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
@@ -208,27 +209,30 @@ TEST_F(PanelAccessibility, ScrollsByTheKeyboardFromWhereverTheFocusIs) {
 TEST_F(PanelAccessibility, ExplainsTheButtonUnderThePointerAndUnderTheFocus) {
     ASSERT_NE(show(u"cpu"), nullptr);
     QQuickItem* button = item("settingsButton");
-    const QQuickItem* tooltip = item("tooltip");
+    QQuickItem* tooltip = item("tooltip");
+    tooltip->setProperty("restingMilliseconds", 1);
     EXPECT_FALSE(tooltip->isVisible());
     QTest::mouseMove(panel.get(), button->mapToScene({13, 13}).toPoint());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
+    EXPECT_TRUE(waitUntil([&] { return tooltip->isVisible(); }));
     const QRectF place = tooltip->mapRectToScene(tooltip->boundingRect());
     EXPECT_TRUE(QRectF(0, 0, 320, 500).contains(place));
     QTest::mouseMove(panel.get(), {5, 5});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !tooltip->isVisible(); }));
+    EXPECT_FALSE(tooltip->isVisible());
     button->forceActiveFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
+    EXPECT_TRUE(waitUntil([&] { return tooltip->isVisible(); }));
 }
 
 TEST_F(PanelAccessibility, ExplainsTheButtonForAsLongAsOneReads) {
     ASSERT_NE(show(u"cpu"), nullptr);
     QQuickItem* tooltip = item("tooltip");
-    tooltip->setProperty("readingMilliseconds", 50);
+    int appearances = 0;
+    QObject::connect(tooltip, &QQuickItem::visibleChanged, tooltip,
+                     [&] { appearances += tooltip->isVisible() ? 1 : 0; });
+    tooltip->setProperty("restingMilliseconds", 1);
+    tooltip->setProperty("readingMilliseconds", 1);
     item("settingsButton")->forceActiveFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !tooltip->isVisible(); }, 2000));
-    QTest::qWait(900);
-    EXPECT_FALSE(tooltip->isVisible()) << "it does not come back by itself";
+    EXPECT_TRUE(waitUntil([&] { return appearances == 1 && !tooltip->isVisible(); }));
+    EXPECT_FALSE(hasRunningTimer(*tooltip)) << "it does not come back by itself";
 }
 
 TEST_F(PanelAccessibility, StartsAnewWhenThePanelOpensAgain) {
@@ -238,7 +242,8 @@ TEST_F(PanelAccessibility, StartsAnewWhenThePanelOpensAgain) {
     sample();
     ASSERT_NE(show(u"network"), nullptr);
     const QQuickItem* scroller = item("scroller");
-    const QQuickItem* tooltip = item("tooltip");
+    QQuickItem* tooltip = item("tooltip");
+    tooltip->setProperty("restingMilliseconds", 1);
     const auto openAgain = [this] {
         panel->hide();
         panel->show();
@@ -248,13 +253,12 @@ TEST_F(PanelAccessibility, StartsAnewWhenThePanelOpensAgain) {
     item("settingsButton")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_End);
     EXPECT_GT(scroller->property("contentY").toDouble(), 100);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tooltip->isVisible(); }, 2000));
+    EXPECT_TRUE(waitUntil([&] { return tooltip->isVisible(); }));
     openAgain();
     EXPECT_EQ(scroller->property("contentY").toDouble(), 0);
     EXPECT_FALSE(tooltip->isVisible());
     EXPECT_EQ(panel->activeFocusItem(), scroller);
-    QTest::qWait(900);
-    EXPECT_FALSE(tooltip->isVisible());
+    EXPECT_FALSE(hasRunningTimer(*tooltip)) << "nor will it be";
 
     press(Qt::Key_Tab);
     press(Qt::Key_A, Qt::ControlModifier);

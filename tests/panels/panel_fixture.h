@@ -7,11 +7,11 @@
 #include "settings/settings_store.h"
 #include "settings/system_colors.h"
 #include "settings/theme_manager.h"
+#include "support/frames.h"
+#include "support/temporary_settings.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QTemporaryDir>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -42,9 +42,11 @@ protected:
         }
         panel->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(panel.get()));
-        QTest::qWait(20);
+        settle();
         return panel.get();
     }
+    /// Has everything laid out and painted that changed.
+    void settle() { ASSERT_TRUE(orvelle::settle(*panel)) << "it is repainted again and again"; }
 
     /// The item inside the panel with this object name; a failure when there is none.
     [[nodiscard]] QQuickItem* item(const char* name) const {
@@ -91,8 +93,8 @@ protected:
         expectInside(panel->contentItem(), panel->width());
     }
 
-    QTemporaryDir folder;
-    SettingsStore settings{folder.filePath(QStringLiteral("settings.ini"))};
+    TemporarySettings file;
+    SettingsStore settings{file.path()};
     ThemeManager themes{settings};
     FixedMachine machine;
     SystemMonitor monitor{machine.sources(), settings};

@@ -81,7 +81,7 @@ protected:
         SCOPED_TRACE(QString::fromUtf16(key).toStdString());
         expectReadableTexts(*panel->contentItem());
         spreadLetters(*panel->contentItem(), 115); // a font that is wider still
-        settle(*panel);
+        settle();
         expectReadableTexts(*panel->contentItem(), {QStringLiteral("plasmashell")});
     }
 };

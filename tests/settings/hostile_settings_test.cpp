@@ -1,7 +1,7 @@
 #include "settings/plain_ini.h"
 #include "settings/settings_file.h"
 #include "settings/settings_store.h"
-#include "settings/temporary_settings.h"
+#include "support/temporary_settings.h"
 
 #include <QBuffer>
 #include <QMetaEnum>

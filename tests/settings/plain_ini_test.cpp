@@ -1,5 +1,5 @@
 #include "settings/plain_ini.h"
-#include "settings/temporary_settings.h"
+#include "support/temporary_settings.h"
 
 #include <QBuffer>
 

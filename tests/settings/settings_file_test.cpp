@@ -1,23 +1,28 @@
 #include "settings/plain_ini.h"
 #include "settings/settings_file.h"
-#include "settings/temporary_settings.h"
+#include "support/temporary_settings.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 
-#include <chrono>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace orvelle {
 namespace {
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
+
+/// As it is after a while in which nobody touched it.
+void age(QFile& file, int seconds) {
+    ASSERT_TRUE(file.isOpen() || file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-seconds),
+                                 QFileDevice::FileModificationTime));
+    file.close();
+}
 
 class SettingsFileTest : public ::testing::Test {
 protected:
@@ -61,13 +66,18 @@ TEST_F(SettingsFileTest, AFileIsNotWrittenPastTheLargestSize) {
 }
 
 TEST_F(SettingsFileTest, AnEditThatKeepsTheSizeIsReadAndKept) {
-    settings.writeInPlace("a=1\nb=1\n");
+    // What has the time and the size that it had is not read again; each edit is a second younger.
+    int secondsAgo = 60;
+    const auto edit = [&](const QByteArray& text) {
+        settings.writeInPlace(text);
+        QFile edited(settings.path());
+        age(edited, --secondsAgo);
+    };
+    edit("a=1\nb=1\n");
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}}));
-    std::this_thread::sleep_for(5ms); // the file's time is compared in milliseconds
-    settings.writeInPlace("a=2\nb=1\n");
+    edit("a=2\nb=1\n");
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"2"_s}}));
-    std::this_thread::sleep_for(5ms);
-    settings.writeInPlace("a=2\nb=2\n");
+    edit("a=2\nb=2\n");
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "[General]\na=true\nb=2\n");
 }
@@ -113,14 +123,6 @@ TEST_F(SettingsFileTest, ALockWhoseProgramEndedBeforeItNamedItselfIsSoonTakenAwa
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "[General]\na=true\n");
     EXPECT_FALSE(lock.exists());
-}
-
-/// As it is after a while in which nobody touched it.
-void age(QFile& file, int seconds) {
-    ASSERT_TRUE(file.isOpen() || file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-seconds),
-                                 QFileDevice::FileModificationTime));
-    file.close();
 }
 
 TEST_F(SettingsFileTest, ALockWhoseRemovalWasAbandonedIsSoonTakenAway) {

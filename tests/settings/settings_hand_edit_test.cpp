@@ -1,17 +1,13 @@
-#include "settings/settings_store.h"
-#include "settings/temporary_settings.h"
+#include "settings/store_timers.h"
+#include "support/temporary_settings.h"
 
 #include <QDir>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace orvelle {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr int longestWait = 5000; // milliseconds, on a busy machine
-constexpr int quietTime = 400;    // milliseconds in which the store would have read the file
 
 class SettingsHandEditTest : public ::testing::Test {
 protected:
@@ -25,7 +21,7 @@ TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublished) {
     QSignalSpy showDisk(&store, &SettingsStore::showDiskChanged);
     QSignalSpy changed(&store, &SettingsStore::changed);
     settings.writeInPlace("[General]\nshowCPU=false\nshowMemory=true\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !store.showCPU(); }, longestWait));
+    ASSERT_TRUE(waitUntil([&] { return !store.showCPU(); }));
     EXPECT_EQ(showCPU.count(), 1);
     EXPECT_EQ(showDisk.count(), 0);
     EXPECT_EQ(changed.count(), 1);
@@ -36,11 +32,24 @@ TEST_F(SettingsHandEditTest, ReplacingTheFileIsPublishedAgainAndAgain) {
     SettingsStore store(settings.path());
     for (const double seconds : {5.0, 10.0, 20.0}) {
         settings.replaceByRename("[General]\nupdateInterval=" + QByteArray::number(seconds) + '\n');
-        ASSERT_TRUE(QTest::qWaitFor([&] { return store.updateInterval() == seconds; }, longestWait))
-            << seconds;
+        awaitReading(store);
+        ASSERT_EQ(store.updateInterval(), seconds);
     }
     settings.writeInPlace("[General]\nupdateInterval=30\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.updateInterval() == 30.0; }, longestWait));
+    awaitReading(store);
+    EXPECT_EQ(store.updateInterval(), 30);
+}
+
+TEST_F(SettingsHandEditTest, AFileThatIsWrittenInStepsIsReadWhenItHasComeToRest) {
+    settings.writeInPlace("[General]\nshowDisk=true\n");
+    SettingsStore store(settings.path());
+    QSignalSpy showDisk(&store, &SettingsStore::showDiskChanged);
+    settings.writeInPlace("");
+    ASSERT_TRUE(waitUntil([&] { return reloadDelay(store).isActive(); }));
+    settings.writeInPlace("[General]\nshowDisk=true\nshowSensors=true\n");
+    awaitReading(store);
+    EXPECT_TRUE(store.showSensors());
+    EXPECT_EQ(showDisk.count(), 0) << "the empty file was not read";
 }
 
 TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublishedWhileSomeoneStillHoldsTheReplacedFile) {
@@ -49,18 +58,21 @@ TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublishedWhileSomeoneStillHoldsTheRe
     ASSERT_TRUE(held.open(QIODevice::ReadOnly));
     SettingsStore store(settings.path());
     settings.replaceByRename("[General]\nshowDisk=true\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return store.showDisk(); }, longestWait));
+    awaitReading(store);
+    ASSERT_TRUE(store.showDisk());
     settings.writeInPlace("[General]\nshowSensors=true\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.showSensors(); }, longestWait));
+    awaitReading(store);
+    EXPECT_TRUE(store.showSensors());
 }
 
 TEST_F(SettingsHandEditTest, AFileThatAppearsIsPublishedAndOneThatVanishesGivesTheDefaults) {
     SettingsStore store(settings.path());
     settings.writeInPlace("[General]\nglowIntensity=intense\n");
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return store.glowIntensity() == GlowIntensity::intense; }, longestWait));
+    awaitReading(store);
+    ASSERT_EQ(store.glowIntensity(), GlowIntensity::intense);
     ASSERT_TRUE(QFile::remove(settings.path()));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.glowIntensity() == GlowIntensity::medium; }, longestWait));
+    awaitReading(store);
+    EXPECT_EQ(store.glowIntensity(), GlowIntensity::medium);
 }
 
 TEST_F(SettingsHandEditTest, AFileThatAppearsInAMissingFolderIsPublished) {
@@ -70,14 +82,16 @@ TEST_F(SettingsHandEditTest, AFileThatAppearsInAMissingFolderIsPublished) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("showDisk=true\n");
     file.close();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.showDisk(); }, longestWait));
+    awaitReading(store);
+    EXPECT_TRUE(store.showDisk());
 }
 
 TEST_F(SettingsHandEditTest, AValueThatIsNotLegalIsPublishedAsTheDefault) {
     settings.writeInPlace("[General]\nupdateInterval=10\n");
     SettingsStore store(settings.path());
     settings.replaceByRename("[General]\nupdateInterval=-1\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return store.updateInterval() == 3.0; }, longestWait));
+    awaitReading(store);
+    EXPECT_EQ(store.updateInterval(), 3);
     EXPECT_EQ(settings.text(), "[General]\nupdateInterval=-1\n") << "the file is left as it was written";
 }
 
@@ -88,7 +102,7 @@ TEST_F(SettingsHandEditTest, OwnWritesAreAnnouncedOnce) {
     store.setUpdateInterval(2.5);
     store.setGraphLineStyle(GraphLineStyle::dotted);
     store.setCustomCPUColorHex(u"@odd, \"text\"\n"_s);
-    QTest::qWait(quietTime);
+    awaitReading(store);
     EXPECT_EQ(changed.count(), 4);
     EXPECT_EQ(store.customCPUColorHex(), u"@odd, \"text\"\n"_s);
 }
@@ -98,7 +112,10 @@ TEST_F(SettingsHandEditTest, AWriteByAnotherStoreIsPublishedAfterAnOwnOne) {
     SettingsStore other(settings.path());
     store.setShowDisk(true);
     other.setShowSensors(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.showSensors() && other.showDisk(); }, longestWait));
+    awaitReading(store);
+    EXPECT_TRUE(store.showSensors());
+    awaitReading(other);
+    EXPECT_TRUE(other.showDisk());
 }
 
 TEST_F(SettingsHandEditTest, AFileThatCannotBeReadLeavesTheValues) {
@@ -107,7 +124,7 @@ TEST_F(SettingsHandEditTest, AFileThatCannotBeReadLeavesTheValues) {
     QSignalSpy changed(&store, &SettingsStore::changed);
     ASSERT_TRUE(QFile::remove(settings.path()));
     ASSERT_TRUE(QDir().mkpath(settings.path()));
-    QTest::qWait(quietTime);
+    awaitReading(store);
     EXPECT_TRUE(store.showDisk());
     EXPECT_EQ(changed.count(), 0);
 }
@@ -122,12 +139,14 @@ TEST_F(SettingsHandEditTest, AnEditElsewhereLeavesAValueThatCouldNotBeSaved) {
 
     ASSERT_TRUE(QDir().rmdir(settings.path()));
     settings.writeInPlace("[General]\nshowDisk=false\nshowSensors=true\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return store.showSensors(); }, longestWait));
+    awaitReading(store);
+    EXPECT_TRUE(store.showSensors());
     EXPECT_TRUE(store.showDisk());
     EXPECT_FALSE(store.saveError().isEmpty());
 
     settings.writeInPlace("[General]\nshowDisk=no thanks\nshowSensors=true\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !store.showDisk(); }, longestWait)) << "the later edit wins";
+    awaitReading(store);
+    EXPECT_FALSE(store.showDisk()) << "the later edit wins";
     EXPECT_TRUE(store.saveError().isEmpty());
 }
 
@@ -138,7 +157,8 @@ TEST_F(SettingsHandEditTest, ObserversOfOnePropertySeeTheOthersUpToDate) {
     QObject::connect(&store, &SettingsStore::useCustomCPUColorChanged, &store,
                      [&] { isConsistent = store.customCPUColorHex() == u"#102030"_s; });
     settings.replaceByRename("[General]\nuseCustomCPUColor=true\ncustomCPUColorHex=#102030\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return store.useCustomCPUColor(); }, longestWait));
+    awaitReading(store);
+    ASSERT_TRUE(store.useCustomCPUColor());
     EXPECT_TRUE(isConsistent);
 }
 

@@ -1,5 +1,5 @@
 #include "settings/settings_store.h"
-#include "settings/temporary_settings.h"
+#include "support/temporary_settings.h"
 
 #include <QDir>
 #include <QLocale>
@@ -247,13 +247,12 @@ TEST_F(SettingsStoreTest, NumbersDoNotFollowTheLocale) {
         GTEST_SKIP() << "de_DE.UTF-8 is not installed: checked under Qt's German locale only";
 }
 
-TEST_F(SettingsStoreTest, WithoutAPathTheUsersOwnSettingsAreUsed) {
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", settings.folderPath().toLocal8Bit());
-    SettingsStore().setShowDisk(true);
-    EXPECT_TRUE(SettingsStore().showDisk());
-    EXPECT_TRUE(SettingsStore(settings.folderPath() + u"/orvelle/orvelle.conf"_s).showDisk());
-    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+TEST_F(SettingsStoreTest, ThePlaceOfTheUsersSettingsKeepsThem) {
+    const auto open = [this] { return openUserSettings(settings.folderPath()); };
+    ASSERT_TRUE(open()->filePath().startsWith(settings.folderPath())) << "a test leaves the user's own alone";
+    SettingsStore(open()).setShowDisk(true);
+    EXPECT_TRUE(SettingsStore(open()).showDisk());
+    EXPECT_TRUE(QFile::exists(open()->filePath()));
 }
 
 TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucceeds) {

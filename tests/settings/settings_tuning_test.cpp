@@ -1,8 +1,7 @@
-#include "settings/settings_store.h"
-#include "settings/temporary_settings.h"
+#include "settings/store_timers.h"
+#include "support/temporary_settings.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -13,6 +12,11 @@ using namespace Qt::StringLiterals;
 
 class SettingsTuningTest : public ::testing::Test {
 protected:
+    SettingsTuningTest() {
+        using namespace std::chrono_literals;
+        EXPECT_EQ(tuningDelay(*store).intervalAsDuration(), SettingsStore::tuningInterval);
+        tuningDelay(*store).setInterval(1h); // longer than any test takes: a rest ends when the test says so
+    }
     void tune(const QString& hex) { store->tune(u"customCPUColorHex"_s, hex); }
     [[nodiscard]] bool isStored(const QByteArray& line) const {
         return settings.text().contains('\n' + line + '\n');
@@ -31,13 +35,14 @@ TEST_F(SettingsTuningTest, StoresTheFirstValueAtOnceAndTheLastALittleLater) {
     EXPECT_EQ(changed.count(), 9) << "whoever shows it follows at once";
     EXPECT_EQ(store->customCPUColorHex(), u"#000009"_s);
     EXPECT_TRUE(isStored("customCPUColorHex=#000001"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isStored("customCPUColorHex=#000009"); }, 5000));
+    endNow(tuningDelay(*store));
+    EXPECT_TRUE(isStored("customCPUColorHex=#000009"));
     EXPECT_EQ(store->customCPUColorHex(), u"#000009"_s);
 }
 
 TEST_F(SettingsTuningTest, StoresAValueAtOnceAfterARest) {
     tune(u"#000001"_s);
-    QTest::qWait(static_cast<int>(SettingsStore::tuningInterval.count()) + 100);
+    endNow(tuningDelay(*store));
     tune(u"#000002"_s);
     EXPECT_TRUE(isStored("customCPUColorHex=#000002"));
 }
@@ -67,7 +72,7 @@ TEST_F(SettingsTuningTest, StoresWhatIsDueInTheEnd) {
 TEST_F(SettingsTuningTest, KeepsWhatIsDueWhenItReadsItsOwnWrite) {
     tune(u"#000001"_s);
     tune(u"#000002"_s);
-    QTest::qWait(200); // the file is read again when it has come to rest
+    awaitReading(*store);
     EXPECT_EQ(store->customCPUColorHex(), u"#000002"_s);
     EXPECT_TRUE(store->saveError().isEmpty()) << "what is not stored yet did not fail";
 }
@@ -76,7 +81,8 @@ TEST_F(SettingsTuningTest, FollowsSomeoneElseWhoStoresTheSameSettingMeanwhile) {
     tune(u"#000001"_s);
     tune(u"#000002"_s);
     settings.replaceByRename("[General]\ncustomCPUColorHex=#FFFFFF\n");
-    QTest::qWait(static_cast<int>(SettingsStore::tuningInterval.count()) + 300);
+    awaitReading(*store);
+    endNow(tuningDelay(*store));
     EXPECT_EQ(store->customCPUColorHex(), u"#FFFFFF"_s);
     EXPECT_TRUE(isStored("customCPUColorHex=#FFFFFF"));
 }

@@ -1,6 +1,6 @@
 #include "settings/settings_store.h"
-#include "settings/temporary_settings.h"
 #include "settings/theme_manager.h"
+#include "support/temporary_settings.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -73,7 +73,7 @@ TEST_F(ThemeManagerTest, FollowsTheStoreAndTheFile) {
     store.setSelectedThemeId(u"gone"_s);
     EXPECT_EQ(manager.currentTheme().id, u"midnight"_s);
     settings.replaceByRename("[General]\nselectedThemeId=forest\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return manager.currentTheme().id == u"forest"_s; }, 5000));
+    EXPECT_TRUE(waitUntil([&] { return manager.currentTheme().id == u"forest"_s; }));
 }
 
 struct Module {

@@ -154,9 +154,9 @@ TEST_F(SettingsControls, StoreTheIntervalInSeconds) {
     EXPECT_EQ(settings.updateInterval(), 10.0);
     click(control(u"1s"));
     EXPECT_EQ(settings.updateInterval(), 1.0);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("updateInterval=1\n"));
+    QFile stored(path);
+    ASSERT_TRUE(stored.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(stored.readAll().contains("updateInterval=1\n"));
 }
 
 TEST_F(SettingsControls, ShowNoSegmentForAnIntervalThatIsNotOffered) {
@@ -205,9 +205,9 @@ TEST_F(CustomColors, AreHiddenUntilTheyAreAskedForAndWhenTheWindowOpensAgain) {
 TEST_F(CustomColors, ChangeNothingByBeingShownOrHidden) {
     settings.setCustomCPUColorHex(QStringLiteral("no colour"));
     settings.setUseCustomCPUColor(true);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray before = file.readAll();
+    QFile stored(path);
+    ASSERT_TRUE(stored.open(QIODevice::ReadOnly));
+    const QByteArray before = stored.readAll();
     openOverrides();
     openOverrides();
     openOverrides();
@@ -259,7 +259,7 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     EXPECT_EQ(well->width(), 24);
     EXPECT_EQ(well->height(), 18);
     click(well);
-    QTest::qWait(20);
+    settle();
     QQuickItem* hue = control(u"Hue");
     ASSERT_NE(hue, nullptr);
     EXPECT_EQ(settings.customCPUColorHex(), QString()) << "opening it chooses nothing";
@@ -290,7 +290,7 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     settings.setCustomCPUColorHex(QStringLiteral("#0000FF"));
     EXPECT_NEAR(hue->property("value").toDouble(), 240.0 / 360, 0.005) << "chosen elsewhere";
     press(Qt::Key_Escape);
-    QTest::qWait(20);
+    settle();
     EXPECT_TRUE(view->isVisible()) << "Escape closes the picker alone";
     EXPECT_FALSE(well->property("isOpen").toBool());
     EXPECT_EQ(focused(), well);
@@ -300,7 +300,7 @@ TEST_F(CustomColors, FollowADragAtOnceAndAreWrittenAFewTimes) {
     settings.setUseCustomCPUColor(true);
     openOverrides();
     click(item("well", overrideRow(u"CPU")));
-    QTest::qWait(20);
+    settle();
     QQuickItem* hue = control(u"Hue");
     const auto at = [hue](int x) { return hue->mapToScene({double(x), 9}).toPoint(); };
     QStringList written{settingsText()};
@@ -316,7 +316,7 @@ TEST_F(CustomColors, FollowADragAtOnceAndAreWrittenAFewTimes) {
     shown.removeDuplicates();
     EXPECT_GT(shown.size(), 40);
     EXPECT_LT(written.size(), 6);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return settingsText().contains(settings.customCPUColorHex()); }, 2000));
+    EXPECT_TRUE(waitUntil([&] { return settingsText().contains(settings.customCPUColorHex()); }));
 }
 
 TEST_F(CustomColors, KeepTheHueOfWhatIsMadeGrey) {
@@ -324,7 +324,7 @@ TEST_F(CustomColors, KeepTheHueOfWhatIsMadeGrey) {
     settings.setCustomCPUColorHex(QStringLiteral("#0000FF"));
     openOverrides();
     click(item("well", overrideRow(u"CPU")));
-    QTest::qWait(20);
+    settle();
     QQuickItem* saturation = control(u"Saturation");
     saturation->forceActiveFocus();
     for (int count = 0; count < 110; ++count)
@@ -357,7 +357,7 @@ TEST_F(SettingsNotices, TellThatTheProgramCannotStartAtLogin) {
     Q_EMIT login.errorChanged();
     EXPECT_TRUE(notice->isVisible());
     EXPECT_EQ(nameOf(notice), QStringLiteral("It cannot be."));
-    QTest::qWait(20);
+    settle();
     EXPECT_GE(item("scroller")->y(), notice->height());
 }
 

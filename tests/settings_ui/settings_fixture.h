@@ -4,13 +4,13 @@
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 #include "settings_ui/settings_factory.h"
+#include "support/frames.h"
+#include "support/temporary_settings.h"
 
 #include <QAccessible>
 #include <QFile>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QTemporaryDir>
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -44,7 +44,14 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
         view->requestActivate();
         ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
-        QTest::qWait(20);
+        settle();
+    }
+    /// Has everything laid out and painted that changed.
+    void settle() { ASSERT_TRUE(orvelle::settle(*view)) << "it is repainted again and again"; }
+    void resizeTo(const QSize& size) {
+        view->resize(size);
+        settle();
+        ASSERT_EQ(view->rootObject()->size(), size.toSizeF());
     }
 
     /// All items in the tree's order that `isWanted` picks.
@@ -107,7 +114,7 @@ protected:
     void click(QQuickItem* target) {
         ASSERT_NE(target, nullptr);
         QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(target)));
-        QTest::qWait(10);
+        settle();
         const QPointF middle = target->mapToScene({target->width() / 2, target->height() / 2});
         QTest::mouseClick(view.get(), Qt::LeftButton, {}, middle.toPoint());
     }
@@ -120,14 +127,14 @@ protected:
     }
     /// What the file holds in which the settings are stored.
     [[nodiscard]] QString settingsText() const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        QFile stored(path);
+        return stored.open(QIODevice::ReadOnly) ? QString::fromUtf8(stored.readAll()) : QString();
     }
     [[nodiscard]] QQuickItem* focused() const { return view->activeFocusItem(); }
 
     void openOverrides() {
         click(item("disclosure"));
-        QTest::qWait(20);
+        settle();
     }
     /// The row in which a module's own colour is chosen.
     [[nodiscard]] QQuickItem* overrideRow(QStringView label) const {
@@ -139,8 +146,8 @@ protected:
         return rows.isEmpty() ? nullptr : rows.first();
     }
 
-    QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("settings.ini"));
+    TemporarySettings file;
+    QString path = file.path();
     SettingsStore settings{path};
     ThemeManager themes{settings};
     ScriptedLogin login;

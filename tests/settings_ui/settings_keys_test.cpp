@@ -140,11 +140,11 @@ TEST_F(SettingsKeys, AreNotShownToWhoUsesTheMouse) {
         } else {
             click(well);
         }
-        QTest::qWait(20);
+        settle();
         EXPECT_EQ(nameOf(focused()), QStringLiteral("Hue"));
         EXPECT_EQ(focused()->property("visualFocus").toBool(), isByKeys);
         press(Qt::Key_Escape);
-        QTest::qWait(20);
+        settle();
         EXPECT_EQ(focused(), well);
         EXPECT_EQ(well->property("visualFocus").toBool(), isByKeys);
     }

@@ -1,6 +1,8 @@
 #include "charts/motion.h"
 #include "settings/system_colors.h"
 #include "settings_ui/settings_fixture.h"
+#include "support/manual_animations.h"
+#include "support/quick_timers.h"
 
 namespace orvelle {
 namespace {
@@ -23,6 +25,11 @@ QFont fontOf(const QQuickItem* item) {
 }
 
 TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
+    ManualAnimations animations;
+    const auto passTime = [&](qint64 milliseconds) {
+        settle(); // what begins to move begins with the next event
+        animations.pass(milliseconds);
+    };
     QQuickItem* card = control(u"Midnight");
     QQuickItem* selected = item("selectedOutline", card);
     QQuickItem* hovered = item("hoveredOutline", card);
@@ -31,18 +38,20 @@ TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
     EXPECT_EQ(colorOf(hovered).alpha(), 0);
     QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(card)));
     QTest::mouseMove(view.get(), card->mapToScene({card->width() / 2, card->height() / 2}).toPoint());
-    QTest::qWait(50);
-    EXPECT_LT(card->scale(), 1.05) << "it takes its time";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return card->scale() == 1.05; }, 1000));
+    passTime(75);
+    EXPECT_NEAR(card->scale(), 1.025, 1e-6) << "it takes its time";
+    passTime(75);
+    EXPECT_EQ(card->scale(), 1.05);
     EXPECT_EQ(colorOf(selected), SystemColors::blue);
     EXPECT_EQ(opacityOf(hovered), 0.3);
     EXPECT_EQ(lineWidthOf(hovered), 1);
     EXPECT_EQ(card->transformOrigin(), QQuickItem::Center);
 
     QTest::mouseMove(view.get(), {2, 2});
-    QTest::qWait(50);
-    EXPECT_GT(card->scale(), 1.0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return card->scale() == 1.0; }, 1000));
+    passTime(75);
+    EXPECT_NEAR(card->scale(), 1.025, 1e-6);
+    passTime(75);
+    EXPECT_EQ(card->scale(), 1.0);
     EXPECT_EQ(colorOf(hovered).alpha(), 0);
 }
 
@@ -100,12 +109,11 @@ TEST_F(StylePreviews, AreDrawnInTheModulesColour) {
     settings.setCustomCPUColorHex(QStringLiteral("#00FF00"));
     const QImage before = pictureOf(*view, *button);
     settings.setUseCustomCPUColor(true);
-    QTest::qWait(20);
     const QImage after = pictureOf(*view, *button);
     EXPECT_NE(before, after);
     // The second bar, 14 points high, stands 14 points from the left edge of the 50 x 24 frame.
-    const QPointF frame = button->mapFromItem(item("outline", button), {0, 0});
-    const QColor bar = after.pixelColor((frame + QPointF(17, 20)).toPoint());
+    const QPointF corner = button->mapFromItem(item("outline", button), {0, 0});
+    const QColor bar = after.pixelColor((corner + QPointF(17, 20)).toPoint());
     EXPECT_GT(bar.green(), 190);
     EXPECT_LT(bar.red(), 60);
 }
@@ -123,8 +131,7 @@ void expectTextsInside(const QList<QQuickItem*>& texts, double width) {
 TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
     openOverrides();
     for (const QSize& size : {settingsSize, smallestSettingsSize, QSize(1400, 900)}) {
-        view->resize(size);
-        QTest::qWait(50);
+        resizeTo(size);
         expectTextsInside(
             items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }),
             size.width());
@@ -138,8 +145,7 @@ TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
 TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualAndItsSmallestSize) {
     openOverrides();
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
-        view->resize(size);
-        QTest::qWait(50);
+        resizeTo(size);
         for (const QQuickItem* text :
              items([](const QQuickItem* each) { return each->inherits("QQuickText") && each->isVisible(); }))
             EXPECT_FALSE(text->property("truncated").toBool())
@@ -176,11 +182,9 @@ TEST_F(SettingsLook, OutlinesAPreviewOverItsDrawing) {
 }
 
 TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
-    view->resize(smallestSettingsSize);
-    QTest::qWait(20);
+    resizeTo(smallestSettingsSize);
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 3);
-    view->resize(600, 640);
-    QTest::qWait(20);
+    resizeTo({600, 640});
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 6);
 }
 
@@ -189,16 +193,17 @@ TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
     settings.setUseCustomCPUColor(true);
     QQuickItem* well = item("well", overrideRow(u"CPU"));
     QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(well)));
+    QQuickItem* tooltip = item("tooltip", well);
+    tooltip->setProperty("restingMilliseconds", 1);
+    EXPECT_FALSE(tooltip->isVisible());
     QTest::mouseMove(view.get(), well->mapToScene({12, 9}).toPoint());
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            return !items([](const QQuickItem* each) {
-                        return each->isVisible() &&
-                               each->property("text").toString() == QStringLiteral("Color for CPU") &&
-                               each->inherits("QQuickText");
-                    }).isEmpty();
-        },
-        2000));
+    EXPECT_TRUE(waitUntil([&] {
+        return !items([](const QQuickItem* each) {
+                    return each->isVisible() &&
+                           each->property("text").toString() == QStringLiteral("Color for CPU") &&
+                           each->inherits("QQuickText");
+                }).isEmpty();
+    }));
 }
 
 TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
@@ -215,15 +220,15 @@ TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
         for (const double offset : {scroller->height() - 30, 30.0}) {
             const double top = well->mapToItem(item("overrides")->parentItem(), {0, 0}).y();
             QMetaObject::invokeMethod(scroller, "scrollTo", Q_ARG(QVariant, top - offset));
-            QTest::qWait(20);
+            settle();
             QTest::mouseClick(view.get(), Qt::LeftButton, {}, place(well).center().toPoint());
-            QTest::qWait(50);
+            settle();
             ASSERT_NE(focused(), nullptr);
             const QQuickItem* parts = focused()->parentItem()->parentItem();
             EXPECT_FALSE(place(parts).intersects(place(well))) << module.toString().toStdString();
             EXPECT_TRUE(QRectF(QPointF(), view->size()).contains(place(parts)));
             press(Qt::Key_Escape);
-            QTest::qWait(50);
+            settle();
         }
     }
 }
@@ -235,15 +240,16 @@ TEST_F(SettingsLook, IsTitledAndHasTheUsualSize) {
 }
 
 TEST_F(SettingsLook, RestsWhileNothingChanges) {
-    QTest::qWait(300);
     int frames = 0;
     QObject::connect(view.get(), &QQuickWindow::afterRendering, view.get(), [&] { ++frames; });
-    QTest::qWait(300);
+    passAMoment();
     EXPECT_EQ(frames, 0);
+    EXPECT_FALSE(hasRunningTimer(*view->contentItem()));
+    EXPECT_FALSE(Motion::shared().isRunning());
     view->close();
     settings.setShowDisk(true);
     settings.setSelectedThemeId(QStringLiteral("nord"));
-    QTest::qWait(100);
+    settle();
     EXPECT_EQ(frames, 0) << "nobody can see it";
 }
 

@@ -8,7 +8,7 @@ namespace {
 class SettingsTexts : public SettingsFixture {
 protected:
     void expectReadable() {
-        settle(*view);
+        settle();
         expectReadableTexts(*view->contentItem());
     }
 
@@ -64,9 +64,9 @@ TEST_F(SettingsTexts, CanBeReadWhileAColourIsChosen) {
     settings.setUseCustomCPUColor(true);
     openOverrides();
     view->resize(smallestSettingsSize);
-    settle(*view);
+    settle();
     click(item("well", overrideRow(u"CPU")));
-    settle(*view);
+    settle();
     ASSERT_NE(focused(), nullptr);
     const QQuickItem* parts = focused()->parentItem()->parentItem();
     EXPECT_EQ(shownTextsIn(*parts).size(), 1);

@@ -32,14 +32,6 @@ inline QList<QQuickItem*> shownTextsIn(const QQuickItem& root) {
     return texts;
 }
 
-/// Lets everything take its place: what one item needs may move another.
-inline void settle(QQuickWindow& window) {
-    for (int round = 0; round < 3; ++round) {
-        QCoreApplication::processEvents();
-        (void)window.grabWindow();
-    }
-}
-
 /// Writes every text inside `root` with letters further apart, as wide as in a font that is wider still.
 inline void spreadLetters(const QQuickItem& root, double percent) {
     for (QQuickItem* text : shownTextsIn(root)) {

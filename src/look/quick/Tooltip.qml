@@ -8,6 +8,7 @@ Rectangle {
 
     required property string text
     required property bool isWanted
+    property int restingMilliseconds: 700
     property int readingMilliseconds: 5000
 
     visible: false
@@ -21,7 +22,7 @@ Rectangle {
     onIsWantedChanged: if (!isWanted) visible = false
 
     Timer {
-        interval: 700
+        interval: tooltip.restingMilliseconds
         running: tooltip.isWanted
         onTriggered: tooltip.visible = true
     }

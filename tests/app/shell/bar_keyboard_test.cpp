@@ -1,8 +1,8 @@
 #include "announcements.h"
 #include "app/shell/x11/bar_geometry.h"
 #include "app/shell/x11/bar_keyboard.h"
+#include "support/waiting.h"
 
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -194,10 +194,10 @@ TEST_F(BarKeyboardTest, PaintsARingAroundTheItem) {
     };
     const QColor plain = cornerless(0);
     take();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return cornerless(0).blue() > plain.blue() + 60; }));
+    EXPECT_TRUE(waitUntil([&] { return cornerless(0).blue() > plain.blue() + 60; }));
     EXPECT_EQ(cornerless(1), plain);
     press(Qt::Key_Right);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return cornerless(0) == plain; }));
+    EXPECT_TRUE(waitUntil([&] { return cornerless(0) == plain; }));
     EXPECT_GT(cornerless(1).blue(), plain.blue() + 60);
 }
 

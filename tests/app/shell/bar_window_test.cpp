@@ -1,9 +1,9 @@
 #include "app/shell/x11/bar_geometry.h"
 #include "app/shell/x11/bar_window.h"
+#include "support/frames.h"
 #include "support/manual_motion.h"
 
 #include <QScreen>
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -64,7 +64,7 @@ protected:
     void showBar() {
         bar.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return leftCount > 0; }));
+        ASSERT_TRUE(waitUntil([this] { return leftCount > 0; }));
     }
 
     BarWindow bar{motion};
@@ -107,7 +107,7 @@ TEST_F(BarWindowTest, FollowsItsWidth) {
     bar.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
     bar.resize(500, barHeightPoints);
-    ASSERT_TRUE(QTest::qWaitFor([&item] { return item.bounds().right() == 500 - barRightMarginPoints; }));
+    ASSERT_TRUE(waitUntil([&item] { return item.bounds().right() == 500 - barRightMarginPoints; }));
 }
 
 TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseViewChanged) {
@@ -120,7 +120,7 @@ TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseViewChanged) {
     const int rightBefore = rightCount;
 
     right.setView(std::make_shared<FilledView>(Qt::green, rightCount));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return rightCount > rightBefore; }));
+    ASSERT_TRUE(waitUntil([&] { return rightCount > rightBefore; }));
     EXPECT_EQ(rightCount, rightBefore + 1);
     EXPECT_EQ(leftCount, leftBefore);
 }
@@ -131,7 +131,7 @@ TEST_F(BarWindowTest, PaintsNothingWhenANewViewLooksLikeTheOneBefore) {
     showBar();
     const int before = leftCount;
     item.setView(std::make_shared<FilledView>(Qt::red, leftCount));
-    QTest::qWait(50);
+    ASSERT_TRUE(settle(bar));
     EXPECT_EQ(leftCount, before);
 }
 
@@ -149,13 +149,13 @@ TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseBarsMoveAndOnlyWhileTheyDo) {
     for (int step = 0; step < 4; ++step) {
         const int before = rightCount;
         pass(0.04);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return rightCount > before; }));
+        ASSERT_TRUE(waitUntil([&] { return rightCount > before; }));
     }
     pass(0.3);
     EXPECT_FALSE(motion.isRunning());
-    QTest::qWait(50);
+    ASSERT_TRUE(settle(bar));
     const int settledCount = rightCount;
-    QTest::qWait(100);
+    passAMoment();
     EXPECT_EQ(rightCount, settledCount);
     EXPECT_EQ(leftCount, leftBefore);
 }
@@ -275,9 +275,9 @@ TEST_F(BarClickTest, PaintsAPlateBehindAnItemThatIsHeldDown) {
     };
     const QColor before = plateColor();
     QTest::mousePress(&bar, Qt::LeftButton, {}, middle(memory));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return plateColor().lightness() > before.lightness() + 20; }));
+    EXPECT_TRUE(waitUntil([&] { return plateColor().lightness() > before.lightness() + 20; }));
     QTest::mouseRelease(&bar, Qt::LeftButton, {}, middle(memory));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return plateColor() == before; }));
+    EXPECT_TRUE(waitUntil([&] { return plateColor() == before; }));
 }
 
 TEST_F(BarWindowTest, PaintsNothingForAnItemWithoutAView) {
@@ -285,7 +285,7 @@ TEST_F(BarWindowTest, PaintsNothingForAnItemWithoutAView) {
     bool painted = false;
     QObject::connect(&bar, &BarWindow::painted, &bar, [&painted] { painted = true; });
     bar.show();
-    EXPECT_TRUE(QTest::qWaitFor([&painted] { return painted; }));
+    EXPECT_TRUE(waitUntil([&painted] { return painted; }));
 }
 
 } // namespace

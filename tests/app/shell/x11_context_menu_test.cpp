@@ -1,7 +1,7 @@
 #include "app/shell/x11/x11_context_menu.h"
+#include "support/waiting.h"
 
 #include <QGuiApplication>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -53,7 +53,7 @@ TEST_F(X11ContextMenuTest, OpensAgainAfterItWasClosed) {
 TEST_F(X11ContextMenuTest, ClosesWhenTheBarMoves) {
     show(left);
     bar.setY(30);
-    EXPECT_TRUE(QTest::qWaitFor([] { return !isShown(); }));
+    EXPECT_TRUE(waitUntil([] { return !isShown(); }));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "charts/quick/chart_item.h"
+#include "support/frames.h"
 #include "support/manual_motion.h"
 
 #include <QQuickWindow>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -14,8 +14,6 @@ namespace orvelle {
 /// A window on the software scene graph, as the panels have it, with items that move by the test's own time.
 class QuickFixture : public ::testing::Test, protected ManualMotion {
 protected:
-    static constexpr int framesWithinWait = 100; ///< milliseconds; a frame that is due takes some 10
-
     QuickFixture() {
         window.setColor(Qt::black);
         window.resize(200, 120);
@@ -33,30 +31,26 @@ protected:
     }
 
     void showWindow() {
+        const int before = frames;
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
         ASSERT_EQ(window.rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
-        waitForFrame();
+        waitUntilQuiet();
+        ASSERT_GT(frames, before) << "nothing was painted";
     }
     /// Waits until what has changed is on the screen.
     void waitForFrame() {
         const int before = frames;
-        ASSERT_TRUE(QTest::qWaitFor([&] { return frames > before; })) << "nothing was repainted";
         waitUntilQuiet();
+        ASSERT_GT(frames, before) << "nothing was repainted";
     }
     /// Waits until no frame follows the ones before.
-    void waitUntilQuiet() {
-        int before = -1;
-        while (before != frames) {
-            before = frames;
-            QTest::qWait(framesWithinWait / 2);
-        }
-    }
+    void waitUntilQuiet() { ASSERT_TRUE(settle(window)) << "it is repainted again and again"; }
     /// How many frames are painted while the test lets no time pass.
     [[nodiscard]] int framesWhenLeftAlone() {
         waitUntilQuiet();
         const int before = frames;
-        QTest::qWait(framesWithinWait);
+        passAMoment();
         return frames - before;
     }
 

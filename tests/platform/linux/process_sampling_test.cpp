@@ -3,6 +3,7 @@
 #include "platform/host.h"
 #include "process_tree.h"
 #include "settings/settings_store.h"
+#include "support/temporary_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -78,7 +79,8 @@ protected:
     }
 
     ProcessTree tree;
-    SettingsStore settings;
+    TemporarySettings file;
+    SettingsStore settings{file.path()};
     SystemMonitor monitor{makeTreeSources(tree.root(), [] { return WallTime{}; }), settings};
 };
 

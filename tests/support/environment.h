@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <optional>
+
+namespace orvelle {
+
+/// Gives a variable of the environment another value, or takes it away, for as long as the object lives.
+class EnvironmentVariable {
+public:
+    EnvironmentVariable(const char* name, const std::optional<QByteArray>& value)
+        : m_name(name)
+        , m_before(qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt) {
+        set(value);
+    }
+    ~EnvironmentVariable() { set(m_before); }
+    EnvironmentVariable(const EnvironmentVariable&) = delete;
+    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+
+private:
+    void set(const std::optional<QByteArray>& value) const {
+        if (value)
+            qputenv(m_name, *value);
+        else
+            qunsetenv(m_name);
+    }
+
+    const char* m_name;
+    std::optional<QByteArray> m_before;
+};
+
+} // namespace orvelle
