@@ -53,7 +53,9 @@ void askToClose(xcb_connection_t* connection, xcb_window_t window) {
     message.type = atom(connection, "WM_PROTOCOLS");
     message.data.data32[0] = atom(connection, "WM_DELETE_WINDOW");
     xcb_send_event(connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
-    xcb_flush(connection);
+    // A server may drop what it has not read when the connection ends: an answer shows that it has.
+    const std::unique_ptr<xcb_get_input_focus_reply_t, FreeReply> answer{
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)};
 }
 
 } // namespace
