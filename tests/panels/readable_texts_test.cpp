@@ -44,9 +44,10 @@ protected:
         machine.sensor->sensors = {{.key = "a", .name = "Package id 0", .value = 104}};
         machine.sensor->fanSpeeds = {12'000, 800};
         settings.setUseFahrenheit(true);
-        sample();
-        work();
-        sample(2);
+        for (int cycle = 0; cycle < 7; ++cycle) { // processes are sampled in every third
+            work();
+            sample();
+        }
     }
 
     void describeBattery(bool isCharged) {
@@ -64,16 +65,18 @@ protected:
                                                                .amperage = 10'000};
     }
 
-    /// Everything counts as much as it can.
+    /// Everything counts on, as much as it can.
     void work() {
         for (CoreTicks& core : *machine.processor->ticks)
             core.user += 300;
         for (ProcessRecord& process : *machine.process->processes)
             process.userNanoseconds += 384 * nanosecondsPerSecond;
-        for (InterfaceEntry& entry : *machine.network->entries)
-            entry.bytesIn = entry.bytesOut = 3 * 1000 * oneGibibyte;
-        machine.disk->counters->front() = {.bytesRead = 3000 * oneGibibyte,
-                                           .bytesWritten = 3000 * oneGibibyte};
+        for (InterfaceEntry& entry : *machine.network->entries) {
+            entry.bytesIn += 3000 * oneGibibyte;
+            entry.bytesOut += 3000 * oneGibibyte;
+        }
+        machine.disk->counters->front().bytesRead += 3000 * oneGibibyte;
+        machine.disk->counters->front().bytesWritten += 3000 * oneGibibyte;
     }
 
     void expectReadable(const char16_t* key) {
@@ -93,6 +96,15 @@ TEST_F(ReadableTexts, AreWrittenInTheFontOfThisRun) {
 TEST_F(ReadableTexts, StandInEveryPanelWholeAndApart) {
     for (const char16_t* key : {u"cpu", u"memory", u"network", u"disk", u"battery", u"sensor"})
         expectReadable(key);
+}
+
+TEST_F(ReadableTexts, AreThoseOfAMachineThatIsBusy) {
+    ASSERT_NE(show(u"cpu"), nullptr);
+    EXPECT_TRUE(shows(u"100.0%") && shows(u"800.0%"));
+    ASSERT_NE(show(u"network"), nullptr);
+    EXPECT_TRUE(shows(u"2000.0 GB/s") && shows(u"\u2193 1000.0 GB/s"));
+    ASSERT_NE(show(u"disk"), nullptr);
+    EXPECT_TRUE(shows(u"1000.0 GB/s"));
 }
 
 TEST_F(ReadableTexts, StandInThePanelsOfAMachineThatHasLittle) {
