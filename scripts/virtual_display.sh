@@ -4,12 +4,12 @@
 x_server_process=""
 window_manager_process=""
 
-# wait_until SECONDS COMMAND...: tries the command every tenth of a second.
+# wait_until SECONDS COMMAND...: tries the command again and again.
 wait_until() {
   local deadline=$((SECONDS + $1)); shift
   until "$@" >/dev/null 2>&1; do
     [ $SECONDS -lt $deadline ] || return 1
-    sleep 0.1
+    sleep 0.02
   done
 }
 
@@ -26,16 +26,19 @@ start_x_server() {
   export DISPLAY
 }
 
-# A window manager that ended may leave its name behind, but not the window that the name points to.
+# A window manager that ended may leave its name behind, but not the window that the name points to. One that is just
+# starting has told its name before it attends to windows; afterwards it tells which there are, or which is active.
 window_manager_runs() {
   local window
   window=$(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | sed -n 's/.*# //p')
-  [ -n "$window" ] && xprop -id "$window" _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
+  [ -n "$window" ] && xprop -id "$window" _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window" &&
+    xprop -root _NET_CLIENT_LIST _NET_ACTIVE_WINDOW 2>/dev/null | grep -q '#'
 }
 
 # start_window_manager [COMMAND...]
 start_window_manager() {
   [ $# -gt 0 ] || set -- openbox --sm-disable
+  xprop -root -remove _NET_CLIENT_LIST -remove _NET_ACTIVE_WINDOW >/dev/null 2>&1 # of an earlier one
   "$@" >/dev/null 2>&1 &
   window_manager_process=$!
   wait_until 20 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }

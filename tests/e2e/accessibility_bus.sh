@@ -2,7 +2,6 @@
 # end-to-end tests.
 
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
-unset "${!QT_@}" WAYLAND_DISPLAY AT_SPI_BUS_ADDRESS
 requireTools dbus-daemon dbus-send
 
 # The system's Python first, because packages install for that one.

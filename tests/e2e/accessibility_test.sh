@@ -6,7 +6,6 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop xdotool
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 log=$workDirectory/orvelle.log
 
 programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
@@ -14,10 +13,8 @@ programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
 start_x_server 1280x800 && start_window_manager || exit 1
 startAccessibilityBus
 mkdir -p "$XDG_CONFIG_HOME/orvelle"
-printf '%s\n' '[General]' showDisk=true showSensors=true >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
-"$orvelle" 2>"$log" &
-orvellePid=$!
-ownedPids+=("$orvellePid")
+printf '%s\n' '[General]' showDisk=true showSensors=true updateInterval=1 >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+launch "$log" "$orvelle"
 
 assist assistive_program.py
 if waitUntil "\"Quit Orvelle\" ends the program" programIsGone; then

@@ -9,15 +9,11 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr xrdb wmctrl import convert
 
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 
 # startOrvelle [NAME=VALUE...]: sets orvellePid and bar, the id of the shown bar.
 startOrvelle() {
-    env "$@" "$orvelle" 2>"$workDirectory/orvelle.log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" env "$@" "$orvelle"
     waitUntil "the bar appears" barIsShown || cat "$workDirectory/orvelle.log"
 }
 barIsShown() {
@@ -45,6 +41,7 @@ expectBar() {
 
 # The first column of the bar that shows something other than its background.
 firstInkedColumn() {
+    [[ -n $bar ]] || return # without an id import would wait for a click
     import -window "$bar" "$workDirectory/bar.png" 2>/dev/null || return
     convert "$workDirectory/bar.png" -crop x20+0+0 +repage -trim -format '%X' info: | tr -d +
 }
@@ -111,7 +108,7 @@ testPanelAbove() {
     ownedPids+=("$pid")
     expectBar "0,30 1280x22" 52 1279
     waitUntil "the space of both is reserved" workAreaIs "0, 52, 1280, 748"
-    sleep 0.3
+    sleep 0.2 # a bar that fell out with the panel over the place would move several times meanwhile
     expectBar "0,30 1280x22" 52 1279
     kill "$pid"
     expectBar "0,0 1280x22" 22 1279
@@ -146,7 +143,7 @@ testWindowManagerRestart() {
 
 testSecondStart() {
     local message
-    message=$("$orvelle" 2>&1)
+    message=$(startAgain "$orvelle" 2>&1)
     expectEqual "a second start ends with status" 0 $?
     [[ $message == *"already running"* ]] || fail "a second start says that the program runs, not: $message"
     waitUntil "the first one's bar is still shown" barIsShown

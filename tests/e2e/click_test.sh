@@ -8,9 +8,6 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool import convert
 
-export XDG_CONFIG_HOME=$workDirectory/config QT_FORCE_STDERR_LOGGING=1
-unset QT_QPA_PLATFORM QT_SCALE_FACTOR
-
 windowIsShown() { [[ -n $(xdotool search --onlyvisible --name "$1" 2>/dev/null) ]]; }
 menuIsShown() { windowIsShown '^Orvelle menu$'; }
 menuIsHidden() { ! menuIsShown; }
@@ -19,9 +16,7 @@ menuWindow() { xdotool search --onlyvisible --name '^Orvelle menu$' | tail -1; }
 
 # startOrvelle SCALE
 startOrvelle() {
-    QT_SCALE_FACTOR=$1 "$orvelle" 2>"$workDirectory/orvelle.log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" env QT_SCALE_FACTOR="$1" "$orvelle"
     scale=$1
     waitUntil "the bar appears" windowIsShown '^Orvelle$' || cat "$workDirectory/orvelle.log"
 }
@@ -80,7 +75,7 @@ testClicksOnTheItemOfAnOpenMenu() {
     openMenu
     clickAt 3 "$(lastItemMiddle)" 11
     waitUntil "a right click on its item closes the menu" menuIsHidden
-    sleep 0.3
+    awaitAnswer "$client"
     expectEqual "and does not open it again" "" "$(menuWindow 2>/dev/null)"
     openMenu
     clickAt 1 "$(lastItemMiddle)" 11

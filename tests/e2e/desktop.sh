@@ -1,4 +1,5 @@
-# An X server and a window manager of the test's own. Sourced by the end-to-end tests.
+# An X server and a window manager of the test's own, and folders in the place of the user's. Sourced by the end-to-end
+# tests.
 
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 
@@ -10,19 +11,23 @@ readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # less of it helps whoever writ
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 
 workDirectory=$(mktemp -d)
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
+# Of the desktop that the test is started on, if any.
+unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
+export QT_FORCE_STDERR_LOGGING=1
 ownedPids=()
 failures=0
 
 # Ends what the test started, and only that.
 cleanUp() {
     local pid
-    disown -a # the shell would announce each of them
+    exec 2>/dev/null # the shell would announce each of them
     # Of the children that still run only: a number that was given back may be another's by now.
     for pid in $(jobs -rp); do
-        [[ " ${ownedPids[*]} " != *" $pid "* ]] || kill -KILL "$pid" 2>/dev/null
+        [[ " ${ownedPids[*]} " != *" $pid "* ]] || kill -KILL "$pid"
     done
     stop_virtual_display
-    wait 2>/dev/null
+    wait
     rm -rf "$workDirectory"
 }
 trap cleanUp EXIT
@@ -46,7 +51,7 @@ waitUntil() {
             fail "$description"
             return 1
         fi
-        sleep 0.05
+        sleep 0.02
     done
     echo "ok: $description"
 }
@@ -64,6 +69,21 @@ expectEqual() {
         fail "$1: expected '$2', found '$3'"
     fi
 }
+
+# launch LOG COMMAND...: the program in the background, by that command; sets orvellePid. LOG gets what it complains of
+# and holds nothing of an earlier program's when the function returns.
+launch() {
+    : >"$1"
+    "${@:2}" 2>>"$1" &
+    orvellePid=$!
+    ownedPids+=("$orvellePid")
+}
+
+# awaitAnswer CLIENT: returns when the program has handled every key and click that came before.
+awaitAnswer() { timeout "$patienceSeconds" "$1" ping "$(windowsTitled Orvelle | tail -1)" || fail "the bar answers"; }
+
+# startAgain PROGRAM [ARGUMENT...]: it finds that it runs already, and ends. Where it does not find that it is ended.
+startAgain() { timeout "$patienceSeconds" "$@"; }
 
 # The numbers or names of a window property, separated by ", ".
 property() { xprop -id "$1" -notype "$2" 2>/dev/null | sed -n 's/^[^=]* = //p'; }

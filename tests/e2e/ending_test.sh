@@ -7,8 +7,6 @@ orvelle=$1
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool
 
-unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 log=$workDirectory/orvelle.log
 
 barIsShown() { [[ -n $(xdotool search --onlyvisible --name '^Orvelle$' 2>/dev/null) ]]; }
@@ -24,9 +22,7 @@ panelIsShown() {
 programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
 
 startOrvelle() {
-    "$orvelle" 2>"$log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$log" "$orvelle"
     waitUntil "the bar appears" barIsShown || cat "$log"
 }
 clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }

@@ -9,29 +9,24 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xfwm4 dbus-daemon xprop xwininfo xdotool import
 
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
-
 keyboardIsIn() { [[ $(xdotool getwindowfocus 2>/dev/null) == "$1" ]]; }
 keyboardIsInTitled() { keyboardIsIn "$(windowsTitled "$1" | tail -1)"; }
 # The number that xdotool gives for the id of the other window.
 otherWindow() { printf '%d' "$window"; }
 
-startAgain() {
-    "$orvelle" 2>/dev/null
+expectAnotherStart() {
+    startAgain "$orvelle" 2>/dev/null
     expectEqual "$1" 0 $?
 }
 
 testKeys() {
     openOtherWindow "$client"
     xdotool windowfocus --sync "$(otherWindow)"
-    "$orvelle" 2>"$workDirectory/orvelle.log" &
-    local orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" "$orvelle"
     waitUntil "the bar appears" isShown Orvelle
     expectEqual "the other window keeps the keyboard" "$(otherWindow)" "$(xdotool getwindowfocus)"
 
-    startAgain "a second start ends with status"
+    expectAnotherStart "a second start ends with status"
     waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle
     [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/keyboard.png"
     xdotool key Right Return
@@ -55,7 +50,15 @@ testKeys() {
     xdotool key Escape
     waitUntil "Escape gives the keyboard back" keyboardIsIn "$(otherWindow)"
 
-    startAgain "another start ends with status"
+    # Qt tells the bar of a lost keyboard some time later, when it may be back already.
+    for _ in 1 2 3 4 5; do
+        expectAnotherStart "another start ends with status"
+        waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle
+        xdotool key Escape
+        waitUntil "Escape gives it back at once" keyboardIsIn "$(otherWindow)"
+    done
+
+    expectAnotherStart "one more start ends with status"
     waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle
     closeOtherWindow
     xdotool key Escape

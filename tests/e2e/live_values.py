@@ -11,7 +11,7 @@ import sys
 from assistive import (Role, State, connect, descendants, do, find_child, finish, has_state, report, shown_panel,
                        wait_until)
 
-# The processes are compared at every third sample, and a sample is taken every 3 seconds.
+# The processes are compared at every third sample, and a busy machine may take its time for each.
 VALUE_PATIENCE_SECONDS = 40
 
 

@@ -6,14 +6,11 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 namespaces=()
 
 # startOrvelle [COMMAND...]: runs the program, by the command where one is given.
 startOrvelle() {
-    "$@" "$orvelle" 2>"$workDirectory/orvelle.log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" "$@" "$orvelle"
 }
 endOrvelle() {
     kill -TERM "$orvellePid"
@@ -99,7 +96,7 @@ testTraffic() {
 start_x_server 1280x800 && start_window_manager || exit 1
 startAccessibilityBus
 mkdir -p "$XDG_CONFIG_HOME/orvelle"
-printf '%s\n' '[General]' showDisk=true >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
+printf '%s\n' '[General]' showDisk=true updateInterval=1 >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
 startOrvelle
 testBusyProcess
 testWriting

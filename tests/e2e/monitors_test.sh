@@ -9,9 +9,6 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr
 
-unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
-
 # Titles of the panels, and where the middle of each item is: in points from the right edge of the bar.
 readonly titles=(CPU Memory Network Disk Battery Sensors) middles=(358 293 213 145 90 33)
 
@@ -30,9 +27,7 @@ pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * s
 # startOrvelle SCALE
 startOrvelle() {
     scale=$1
-    QT_SCALE_FACTOR=$1 "$orvelle" 2>"$workDirectory/orvelle.log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" env QT_SCALE_FACTOR="$1" "$orvelle"
     waitUntil "the bar appears at scale $1" isShown Orvelle || cat "$workDirectory/orvelle.log"
 }
 endOrvelle() {

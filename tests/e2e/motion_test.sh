@@ -8,15 +8,11 @@ manager=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xdotool
 
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 export QT_LOGGING_RULES="orvelle.motion.debug=true"
 log=$workDirectory/orvelle.log
 
 startOrvelle() {
-    "$orvelle" 2>"$log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$log" "$orvelle"
     waitUntil "the program starts" grep -q "motion is" "$log"
 }
 endOrvelle() {

@@ -9,8 +9,6 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr import
 
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_CONFIG_HOME=$workDirectory/config XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 # Freed memory that a sanitizer keeps back would look like growth.
 export ASAN_OPTIONS+=:quarantine_size_mb=1
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -45,9 +43,7 @@ hasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(panel "$1")" 
 # startOrvelle SCALE
 startOrvelle() {
     scale=$1
-    QT_SCALE_FACTOR=$1 QT_LOGGING_RULES=orvelle.open.debug=true "$orvelle" 2>"$workDirectory/orvelle.log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/orvelle.log" env QT_SCALE_FACTOR="$1" QT_LOGGING_RULES=orvelle.open.debug=true "$orvelle"
     waitUntil "the bar appears at scale $1" isShown Orvelle || cat "$workDirectory/orvelle.log"
 }
 
@@ -104,7 +100,7 @@ testEachPanel() {
     done
     clickItem 5
     waitUntil "a second click closes it" noPanelIsShown
-    sleep 0.3
+    awaitAnswer "$client"
     expectEqual "and does not open it again" 0 "$(shownPanels)"
 }
 
@@ -163,13 +159,13 @@ serverWindows() { xwininfo -root -tree | wc -l; }
 
 # Opens and closes every panel in turn.
 playRounds() {
-    local round
+    local round painted
+    morePanelsArePainted() { (($(paintedPanels) > painted)); }
     for ((round = 0; round < $1; ++round)); do
+        painted=$(paintedPanels)
         clickItem $((round % 6))
-        wait_until 5 panelIsShown "$(titleOf $((round % 6)))"
-        sleep 0.1
+        wait_until "$patienceSeconds" morePanelsArePainted
         clickItem $((round % 6))
-        sleep 0.05
     done
     waitUntil "no panel is left open after $1 rounds" noPanelIsShown
 }

@@ -8,9 +8,7 @@ manager=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
 
-unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
-export QT_FORCE_STDERR_LOGGING=1 ICEAUTHORITY=$workDirectory/authority
+export ICEAUTHORITY=$workDirectory/authority
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 stateFile=$XDG_STATE_HOME/orvelle/state.conf
 log=$workDirectory/orvelle.log
@@ -54,9 +52,7 @@ order() { echo "$1" >&7; }
 
 # startOrvelle [ARGUMENT...]
 startOrvelle() {
-    QT_LOGGING_RULES=orvelle.sample.debug=true "$orvelle" "$@" 2>"$log" 7>&- &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    QT_LOGGING_RULES=orvelle.sample.debug=true launch "$log" "$orvelle" "$@" 7>&-
     waitUntil "the program runs" grep -q 'cycle 1' "$log" || cat "$log"
     waitUntil "it joins the session" isSeen registered
     waitUntil "it answers the session manager" isSeen saved
@@ -75,7 +71,10 @@ expectEnd() {
     expectEqual "$1 without a question" 0 "$(timesSeen interacts)"
 }
 
-clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }
+clickLastItem() {
+    waitUntil "the bar is shown" isShown Orvelle
+    xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"
+}
 settingsWindow() { shownWindows 'Orvelle Settings' | tail -1; }
 
 openSettings() {
@@ -139,7 +138,7 @@ testRestart() {
     waitUntil "the bar appears" isShown Orvelle
     expectEqual "there is a command all the same" "$orvelle" "$(lastProperty RestartCommand | sed 's/ -session .*//')"
     # As the autostart entry and a restored session do at the same time.
-    seen=$("$orvelle" -session 10d2a3c4_1600000000_500001 2>&1)
+    seen=$(startAgain "$orvelle" -session 10d2a3c4_1600000000_500001 2>&1)
     expectEqual "a second start by the session manager ends with status" 0 $?
     [[ $seen == *"already running"* ]] || fail "a second start says that the program runs, not: $seen"
     expectEqual "there is one bar" 1 "$(shownBars)"

@@ -1,11 +1,12 @@
 // Changes the settings in an ini file one after the other, without end, for a test that ends it in the
 // middle.
 //
-//   settings_changer FILE FIRST
+//   settings_changer FILE
 //
-// Each change has a number, from FIRST on, and only the number decides which setting gets which value. The
-// number is written to the standard output when the change is made. It ends by itself only when a change is
-// not saved.
+// For each number on the standard input a process of its own begins to change settings. Each change has a
+// number, from that one on, and only the number decides which setting gets which value. The process writes
+// its id to the standard output, and then the number of each change when it is made. It ends by itself only
+// when a change is not saved. When it has ended, a line follows: "ended" and by which signal.
 
 #include "settings/settings_store.h"
 
@@ -14,6 +15,8 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,20 +40,38 @@ void change(SettingsStore& settings, int number) {
     }
 }
 
-} // namespace
+void tell(const char* format, int number) {
+    std::printf(format, number);
+    std::fflush(stdout);
+}
 
-int main(int argumentCount, char** arguments) {
+[[noreturn]] void changeWithoutEnd(int argumentCount, char** arguments, int first) {
     const QCoreApplication program(argumentCount, arguments);
-    if (argumentCount != 3)
-        return EXIT_FAILURE;
     SettingsStore settings(QString::fromLocal8Bit(arguments[1]));
-    for (int number = std::atoi(arguments[2]);; ++number) {
+    tell("%d\n", ::getpid());
+    for (int number = first;; ++number) {
         change(settings, number);
         if (!settings.saveError().isEmpty()) {
             std::fprintf(stderr, "change %d: %s\n", number, qPrintable(settings.saveError()));
-            return EXIT_FAILURE;
+            ::_exit(EXIT_FAILURE);
         }
-        std::printf("%d\n", number);
-        std::fflush(stdout);
+        tell("%d\n", number);
+    }
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount != 2)
+        return EXIT_FAILURE;
+    int first = 0;
+    while (std::scanf("%d", &first) == 1) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            changeWithoutEnd(argumentCount, arguments, first);
+        int status = 0;
+        if (child < 0 || ::waitpid(child, &status, 0) != child)
+            return EXIT_FAILURE;
+        tell("\nended %d\n", WIFSIGNALED(status) ? WTERMSIG(status) : 0);
     }
 }

@@ -6,14 +6,10 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop xdotool import
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
-export QT_FORCE_STDERR_LOGGING=1
 
 start_x_server 1280x800 && start_window_manager || exit 1
 startAccessibilityBus
-"$orvelle" 2>"$workDirectory/log" &
-orvellePid=$!
-ownedPids+=("$orvellePid")
+launch "$workDirectory/log" "$orvelle"
 assist settings_choices.py "$XDG_CONFIG_HOME/orvelle/orvelle.conf"
 [[ -f $XDG_CONFIG_HOME/autostart/orvelle.desktop ]] || fail "the program starts at login"
 kill -TERM "$orvellePid"

@@ -6,7 +6,6 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
-export XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory QT_FORCE_STDERR_LOGGING=1
 
 # prepare NAME: a place for settings of its own.
 prepare() {
@@ -16,9 +15,7 @@ prepare() {
 }
 # expectNotice REASON
 expectNotice() {
-    "$orvelle" 2>"$workDirectory/log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    launch "$workDirectory/log" "$orvelle"
     assist settings_faults.py "$1"
     kill -TERM "$orvellePid"
     wait "$orvellePid"

@@ -7,8 +7,6 @@ orvelle=$1
 changer=$2
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
-export QT_FORCE_STDERR_LOGGING=1
 
 assist settings_kills.py "$changer" "$workDirectory/changed.conf" 200
 

@@ -7,8 +7,6 @@ orvelle=$1
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
 
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state QT_FORCE_STDERR_LOGGING=1
-unset QT_QPA_PLATFORM QT_SCALE_FACTOR
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 stateFile=$XDG_STATE_HOME/orvelle/state.conf
 autostartFile=$XDG_CONFIG_HOME/autostart/orvelle.desktop
@@ -23,9 +21,7 @@ hideEveryModule() {
     done
 }
 startOrvelle() {
-    QT_LOGGING_RULES="orvelle.sample.debug=true" "$orvelle" 2>"$workDirectory/log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    QT_LOGGING_RULES="orvelle.sample.debug=true" launch "$workDirectory/log" "$orvelle"
     # Else the second start might come first.
     waitUntil "the program runs" grep -q 'cycle 1' "$workDirectory/log" || exit 1
 }
@@ -37,16 +33,15 @@ stopOrvelle() {
 settingsWindow() { xdotool search --onlyvisible --name '^Orvelle Settings$' 2>/dev/null | tail -1; }
 windowIsShown() { [[ -n $(settingsWindow) ]]; }
 windowIsGone() { ! windowIsShown; }
-startAgain() { "$orvelle" 2>/dev/null; }
-opened() { startAgain; windowIsShown; }
 hasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(settingsWindow)" ]]; }
 openWindow() {
-    waitUntil "the settings open" opened || cat "$workDirectory/log"
+    startAgain "$orvelle" 2>/dev/null
+    waitUntil "the settings open" windowIsShown || cat "$workDirectory/log"
     waitUntil "the settings have the keyboard" hasTheKeyboard
 }
 place() { geometry "$(settingsWindow)"; }
 placeIs() { [[ $(place) == "$1" ]]; }
-placeIsKept() { grep -q '^OrvelleSettings=' "$stateFile" 2>/dev/null; }
+sizeIsKept() { grep -q '^OrvelleSettings=.* 500 520"$' "$stateFile" 2>/dev/null; }
 
 testFirstTime() {
     openWindow
@@ -94,9 +89,8 @@ testPlace() {
     wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
     isMoved() { [[ $(place) == *" 500x520" ]]; }
     waitUntil "the window is moved" isMoved
-    sleep 0.2
+    waitUntil "its place is remembered when it has come to rest" sizeIsKept || cat "$stateFile"
     before=$(place)
-    waitUntil "its place is remembered" placeIsKept
     for _ in 1 2 3; do
         xdotool key Escape
         waitUntil "the window closes" windowIsGone
@@ -127,7 +121,7 @@ testChanges() {
     waitUntil "the second switch is stored" grep -q '^showMemory=true' "$settingsFile"
     waitUntil "and shown in the bar" isShown Orvelle
     hideEveryModule
-    sleep 3.5
+    waitUntil "hiding every module elsewhere takes the bar away" isHidden Orvelle
     # Backward: the first switch, the button that quits, and the last switch.
     xdotool key shift+Tab shift+Tab shift+Tab space
     waitUntil "the program will start at login" test -f "$autostartFile" || cat "$settingsFile"

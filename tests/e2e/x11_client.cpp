@@ -5,6 +5,7 @@
 //   x11_client window
 //   x11_client panel HEIGHT      (pixels)
 //   x11_client close WINDOW      asks a window to close, and ends
+//   x11_client ping WINDOW       asks a window for an answer, and ends when it came
 //   x11_client owner SELECTION   a window that owns a selection, as a compositor does
 
 #include <xcb/xcb.h>
@@ -44,18 +45,43 @@ void becomePanel(xcb_connection_t* connection, xcb_window_t window, std::uint32_
     set("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, height, 0, 0, 0, 0, 0, 0, width - 1, 0, 0});
 }
 
-/// Asks a window to close, as the button in a title bar does (ICCCM, section 4.2.8.1).
-void askToClose(xcb_connection_t* connection, xcb_window_t window) {
+using Event = std::unique_ptr<xcb_generic_event_t, FreeReply>;
+
+/// Sends a window a message of the kind that window managers send.
+void sendProtocol(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t protocol) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = window;
     message.type = atom(connection, "WM_PROTOCOLS");
-    message.data.data32[0] = atom(connection, "WM_DELETE_WINDOW");
+    message.data.data32[0] = protocol;
+    message.data.data32[2] = window; // a ping is answered with it
     xcb_send_event(connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
-    // A server may drop what it has not read when the connection ends: an answer shows that it has.
-    const std::unique_ptr<xcb_get_input_focus_reply_t, FreeReply> answer{
-        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)};
+}
+
+/// Asks a window to close, as the button in a title bar does (ICCCM, section 4.2.8.1). The server may drop
+/// what a client asked for just before it leaves, so this waits until everything is done.
+void askToClose(xcb_connection_t* connection, xcb_window_t window) {
+    sendProtocol(connection, window, atom(connection, "WM_DELETE_WINDOW"));
+    std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
+
+/// Returns when the window's program has handled all that came before: the answer to a ping goes to the root
+/// window.
+void awaitAnswer(xcb_connection_t* connection, xcb_window_t root, xcb_window_t window) {
+    const xcb_atom_t ping = atom(connection, "_NET_WM_PING");
+    // Answers are sent to who selects the latter; Qt sends them to who selects the former.
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &events);
+    sendProtocol(connection, window, ping);
+    xcb_flush(connection);
+    while (const Event event{xcb_wait_for_event(connection)}) {
+        constexpr std::uint8_t sentByClient = 0x80;
+        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
+        if ((event->response_type & ~sentByClient) == XCB_CLIENT_MESSAGE && message.data.data32[0] == ping &&
+            message.data.data32[2] == window)
+            return;
+    }
 }
 
 } // namespace
@@ -64,14 +90,19 @@ int main(int argumentCount, char** arguments) {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     if (argumentCount < 2 || xcb_connection_has_error(connection) != 0)
         return EXIT_FAILURE;
-    if (std::string_view(arguments[1]) == "close" && argumentCount == 3) {
-        askToClose(connection, static_cast<xcb_window_t>(std::strtoul(arguments[2], nullptr, 0)));
+    const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const std::string_view task = arguments[1];
+    if ((task == "close" || task == "ping") && argumentCount == 3) {
+        const auto other = static_cast<xcb_window_t>(std::strtoul(arguments[2], nullptr, 0));
+        if (task == "close")
+            askToClose(connection, other);
+        else
+            awaitAnswer(connection, screen->root, other);
         xcb_disconnect(connection);
         return EXIT_SUCCESS;
     }
-    const bool isPanel = std::string_view(arguments[1]) == "panel" && argumentCount == 3;
-    const bool isOwner = std::string_view(arguments[1]) == "owner" && argumentCount == 3;
-    const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const bool isPanel = task == "panel" && argumentCount == 3;
+    const bool isOwner = task == "owner" && argumentCount == 3;
     const std::uint16_t width = isPanel ? screen->width_in_pixels : 400;
     const auto height = static_cast<std::uint16_t>(isPanel ? std::atoi(arguments[2]) : 300);
     const std::array<std::uint32_t, 2> values{0x3070A0, XCB_EVENT_MASK_BUTTON_PRESS}; // background, events
@@ -89,7 +120,7 @@ int main(int argumentCount, char** arguments) {
     xcb_flush(connection);
     std::printf("0x%x\n", window);
     std::fflush(stdout);
-    while (const std::unique_ptr<xcb_generic_event_t, FreeReply> event{xcb_wait_for_event(connection)}) {
+    while (const Event event{xcb_wait_for_event(connection)}) {
         if (event->response_type == XCB_BUTTON_PRESS) {
             std::puts("pressed");
             std::fflush(stdout);

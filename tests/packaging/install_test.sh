@@ -9,7 +9,7 @@ source "$(dirname "$0")/../e2e/desktop.sh"
 requireTools readelf
 
 prefix="$workDirectory/a place"
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state QT_FORCE_STDERR_LOGGING=1
+orvelle=$prefix/bin/orvelle
 "$cmake" --install "$build" --prefix "$prefix" >"$workDirectory/install.log" || { cat "$workDirectory/install.log"; exit 1; }
 
 for file in bin/orvelle lib/orvelle/liborvelle_views.so share/applications/orvelle.desktop \
@@ -27,9 +27,7 @@ done
 
 # startInstalled: with the settings of a user who has hidden every module, so that a second start opens the window.
 startInstalled() {
-    QT_LOGGING_RULES="orvelle.start.debug=true;orvelle.sample.debug=true" "$prefix/bin/orvelle" 2>"$workDirectory/log" &
-    orvellePid=$!
-    ownedPids+=("$orvellePid")
+    QT_LOGGING_RULES="orvelle.start.debug=true;orvelle.sample.debug=true" launch "$workDirectory/log" "$orvelle"
 }
 stopInstalled() {
     kill -TERM "$orvellePid"
@@ -47,7 +45,6 @@ for tool in Xvfb openbox xdotool xprop; do
         exit $((failures > 0))
     fi
 done
-unset QT_QPA_PLATFORM
 mkdir -p "$XDG_CONFIG_HOME/orvelle"
 printf '[General]\nshow%s=false\n' CPU >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
 for module in Memory Network Disk Battery Sensors; do
@@ -57,11 +54,8 @@ start_x_server 1280x800 && start_window_manager || exit 1
 startInstalled
 # Else the second start might come first.
 waitUntil "the installed program runs on a display" grep -q 'cycle 1' "$workDirectory/log" || exit 1
-settingsAreShown() {
-    "$prefix/bin/orvelle" 2>/dev/null # tells the first one, and ends
-    [[ -n $(xdotool search --onlyvisible --name '^Orvelle Settings$' 2>/dev/null) ]]
-}
-waitUntil "the installed program finds its windows" settingsAreShown || cat "$workDirectory/log"
+startAgain "$orvelle" 2>/dev/null # tells the first one, and ends
+waitUntil "the installed program finds its windows" isShown 'Orvelle Settings' || cat "$workDirectory/log"
 stopInstalled
 echo "$failures failures"
 ((failures == 0))
