@@ -54,6 +54,8 @@ void BarKeyboard::take() {
     m_hasClicked = false;
     m_isTaken = true;
     m_focus.take(m_bar.winId());
+    if (m_bar.isActive()) // Qt tells nothing of a keyboard that was away for a moment only
+        showFocus();
 }
 
 void BarKeyboard::resume() {
@@ -61,6 +63,13 @@ void BarKeyboard::resume() {
         return;
     m_isTaken = true;
     m_focus.takeOver(m_bar.winId());
+    if (m_bar.isActive())
+        showFocus();
+}
+
+void BarKeyboard::showFocus() {
+    m_current = m_bar.items()[currentIndex()]->identifier();
+    m_bar.setFocusedItem(m_current);
 }
 
 bool BarKeyboard::canTake() const {
@@ -78,14 +87,13 @@ bool BarKeyboard::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusIn:
         // Some window managers hand the keyboard to whatever is clicked; then no item shows it.
-        if (m_isTaken && !m_bar.isEmpty()) {
-            m_current = m_bar.items()[currentIndex()]->identifier();
-            m_bar.setFocusedItem(m_current);
-        }
+        if (m_isTaken && !m_bar.isEmpty())
+            showFocus();
         break;
     case QEvent::FocusOut:
-        m_isTaken = false;
-        m_bar.setFocusedItem({});
+        // Qt tells it a tenth of a second late: the keyboard may have come back since.
+        if (!m_isTaken || !InputFocus::isIn(m_bar.winId()))
+            forget();
         break;
     case QEvent::MouseButtonPress:
         m_hasClicked = false;
@@ -122,9 +130,13 @@ void BarKeyboard::click(ClickButton button) {
     m_bar.items()[currentIndex()]->click(button);
 }
 
-void BarKeyboard::giveBack() {
+void BarKeyboard::forget() {
     m_isTaken = false;
     m_bar.setFocusedItem({});
+}
+
+void BarKeyboard::giveBack() {
+    forget();
     m_focus.giveBack();
 }
 

@@ -34,6 +34,9 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     [[nodiscard]] bool handleKey(const QKeyEvent& event);
     void click(ClickButton button);
+    /// Shows which item has the keyboard.
+    void showFocus();
+    void forget();
     void giveBack();
     [[nodiscard]] bool canTake() const;
     [[nodiscard]] std::size_t currentIndex() const;

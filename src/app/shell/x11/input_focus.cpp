@@ -2,6 +2,8 @@
 
 #include "app/shell/x11/x11_connection.h"
 
+#include <optional>
+
 namespace orvelle {
 namespace {
 
@@ -12,17 +14,28 @@ bool setInputFocus(xcb_connection_t* connection, xcb_window_t window) {
     return takeReply(xcb_request_check(connection, cookie)) == nullptr;
 }
 
+/// The window with the keyboard, or what the server says in the place of one; nothing when it does not
+/// answer.
+std::optional<xcb_window_t> inputFocus() {
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return std::nullopt;
+    const auto focus =
+        takeReply(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return focus ? std::optional(focus->focus) : std::nullopt;
+}
+
 } // namespace
 
 void InputFocus::take(WId window) {
-    xcb_connection_t* connection = xcbConnection();
-    if (connection == nullptr)
-        return;
-    const auto focus =
-        takeReply(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-    if (focus && focus->focus != static_cast<xcb_window_t>(window))
-        m_previous = focus->focus;
+    const std::optional<xcb_window_t> focus = inputFocus();
+    if (focus && *focus != static_cast<xcb_window_t>(window))
+        m_previous = *focus;
     takeOver(window);
+}
+
+bool InputFocus::isIn(WId window) {
+    return inputFocus() == static_cast<xcb_window_t>(window);
 }
 
 void InputFocus::takeOver(WId window) {

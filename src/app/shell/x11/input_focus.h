@@ -14,6 +14,8 @@ public:
     void take(WId window);
     /// Moves the keyboard to the window from another one of this program, to which it will not go back.
     void takeOver(WId window);
+    /// Whether the window has the keyboard now, whatever the window's own events have told so far.
+    [[nodiscard]] static bool isIn(WId window);
     /// Moves it back; when that window has gone, to the one under the pointer.
     void giveBack();
 
