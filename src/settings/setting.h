@@ -52,14 +52,13 @@ public:
 
     [[nodiscard]] const Value& value() const { return m_value; }
 
-    /// Assigns a value that is to be saved. Returns false where there is nothing to do: the value is not
-    /// legal, or it is the present one and stored already.
+    /// Assigns a value, to be saved unless the storage holds it. One that is not legal is not taken. Returns
+    /// whether the value changed.
     [[nodiscard]] bool assign(const Value& value) {
-        if (!isLegalSetting(value) || (value == m_value && value == m_stored))
+        if (!isLegalSetting(value))
             return false;
-        m_value = value;
-        m_isUnsaved = true;
-        return true;
+        m_isUnsaved = value != m_stored;
+        return std::exchange(m_value, value) != value;
     }
 
     [[nodiscard]] QVariant storedForm() const override { return orvelle::storedForm(m_value); }

@@ -1,8 +1,8 @@
 #include "settings/settings_file.h"
 
-#include "settings/abandoned_replacements.h"
-#include "settings/plain_ini.h"
+#include "settings/ini_text.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -14,49 +14,31 @@
 namespace orvelle {
 namespace {
 
-constexpr std::chrono::milliseconds longestLockWait{500};
 constexpr std::chrono::milliseconds namelessLockAge{200};
-
-bool isFolderWritable(const QString& filePath) {
-    return QFileInfo(QFileInfo(filePath).path()).isWritable();
-}
 
 QString lockPathOf(const QString& filePath) {
     return filePath + QStringLiteral(".lock");
 }
 
-/// Whether the lock could be had within the longest wait.
-bool canLock(const QString& lockPath) {
-    QLockFile lock(lockPath);
+/// The lock, held; null while another program has it, or when something else stands in its place.
+std::unique_ptr<QLockFile> takeLock(const QString& lockPath) {
+    const QFileInfo file(lockPath);
+    if ((file.exists() || file.isSymLink()) && !file.isFile())
+        return nullptr;
+    auto lock = std::make_unique<QLockFile>(lockPath);
     // A program names itself in its lock as soon as it has made it. One that was ended in between would keep
     // everybody out for half a minute.
-    if (QFileInfo(lockPath).size() == 0)
-        lock.setStaleLockTime(namelessLockAge);
-    return lock.tryLock(longestLockWait);
+    if (file.size() == 0)
+        lock->setStaleLockTime(namelessLockAge);
+    return lock->tryLock() ? std::move(lock) : nullptr;
 }
 
-/// QSettings waits for its lock without end: for a stopped program, and for what is no file at all.
-bool isLockFree(const QString& filePath) {
-    const QString lockPath = lockPathOf(filePath);
-    const QFileInfo lock(lockPath);
-    if (!lock.exists() && !lock.isSymLink())
-        return true;
-    if (!lock.isFile())
-        return false;
+std::unique_ptr<QLockFile> takeLockOf(const QString& filePath) {
     // QLockFile takes an abandoned lock away under another one, which can be abandoned as well.
-    const QString removalLockPath = lockPath + QStringLiteral(".rmlock");
+    const QString removalLockPath = lockPathOf(filePath) + QStringLiteral(".rmlock");
     if (QFileInfo(removalLockPath).isFile())
-        static_cast<void>(canLock(removalLockPath)); // else the next one is not to be had either
-    return canLock(lockPath);
-}
-
-/// Whether saving should succeed. Values that QSettings fails to save stay pending in it for good, also when
-/// someone edits the file meanwhile, so as much as possible is found out before it is given any.
-bool canSave(const QSettings& settings) {
-    const QString path = settings.fileName();
-    const QFileInfo file(path);
-    return settings.isWritable() && isFolderWritable(path) &&
-           (!file.isSymLink() || isFolderWritable(file.symLinkTarget())) && isLockFree(path);
+        static_cast<void>(takeLock(removalLockPath)); // else the next one is not to be had either
+    return takeLock(lockPathOf(filePath));
 }
 
 /// What is wrong with the folder that the file stands in; empty when nothing is.
@@ -72,7 +54,7 @@ QString faultOfFolder(const QFileInfo& folder) {
 
 /// What is wrong with what stands in the file's place; empty when nothing is, or nothing stands there.
 QString faultOfFile(const QFileInfo& file) {
-    if (file.isSymLink() && !file.exists())
+    if (file.isSymLink() && !file.exists() && !QFileInfo(QFileInfo(file.symLinkTarget()).path()).isWritable())
         return QStringLiteral("%1 is a link that leads nowhere").arg(file.filePath());
     if (!file.exists())
         return {};
@@ -82,71 +64,98 @@ QString faultOfFile(const QFileInfo& file) {
         return QStringLiteral("%1 is not a file").arg(file.filePath());
     if (!file.isReadable() || !file.isWritable())
         return QStringLiteral("%1 may not be changed").arg(file.filePath());
-    if (file.size() > PlainIni::maximumSize)
+    if (file.size() > IniText::maximumSize)
         return QStringLiteral("%1 is too large for a settings file").arg(file.filePath());
     return {};
 }
 
+/// What keeps a file from being replaced, but for a lock; empty when nothing does.
+QString faultAt(const QString& filePath) {
+    const QFileInfo file(filePath);
+    const QString fault = faultOfFolder(QFileInfo(file.path()));
+    return fault.isEmpty() ? faultOfFile(file) : fault;
+}
+
+/// Where the path leads to, which is a file or may become one.
+QString targetOf(const QString& filePath) {
+    const QFileInfo file(filePath);
+    if (!file.isSymLink())
+        return filePath;
+    return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+}
+
 } // namespace
 
-SettingsFile::SettingsFile(QString filePath)
-    : m_filePath(std::move(filePath)) {}
+SettingsFile::SettingsFile(QString filePath, ReplacedFile::Flush flush)
+    : m_filePath(std::move(filePath))
+    , m_flush(std::move(flush)) {
+    if (ReplacedFile& file = target(); file.isInterrupted()) {
+        if (const std::unique_ptr<QLockFile> lock = takeLockOf(m_filePath))
+            file.recover();
+    }
+}
 
 std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
-    if (!isFileOrMissing())
-        return std::nullopt;
-    // Read past QSettings, which keeps what it read before while the file's size and time are the same: a
-    // file system's clock is coarse enough for a quick edit of equal size to go unnoticed.
-    QFile file(m_filePath);
-    QSettings::SettingsMap stored;
-    if (QFileInfo::exists(m_filePath) && !(file.open(QIODevice::ReadOnly) && PlainIni::read(file, stored)))
+    const std::optional<QByteArray> stored = text();
+    if (!stored)
         return std::nullopt;
     StoredValues values;
-    for (const QString& key : keys) {
-        if (const auto value = stored.constFind(key); value != stored.constEnd())
-            values.insert(key, *value);
-    }
+    const QHash<QString, QString> texts = IniText::values(*stored, keys);
+    for (auto value = texts.cbegin(); value != texts.cend(); ++value)
+        values.insert(value.key(), value.value());
     return values;
 }
 
-bool SettingsFile::write(const StoredValues& values) {
-    const std::unique_ptr<QSettings> settings = open();
-    if (!settings || !canSave(*settings))
-        return false;
-    removeAbandonedReplacements(m_filePath, lockPathOf(m_filePath));
-    for (auto value = values.begin(); value != values.end(); ++value)
-        settings->setValue(value.key(), value->toString());
-    settings->sync();
-    return settings->status() == QSettings::NoError;
+SaveResult SettingsFile::write(const StoredValues& values) {
+    QDir().mkpath(QFileInfo(m_filePath).path());
+    if (!faultAt(m_filePath).isEmpty())
+        return SaveResult::failed;
+    const std::unique_ptr<QLockFile> lock = takeLockOf(m_filePath);
+    if (!lock)
+        return SaveResult::locked;
+    const std::optional<QByteArray> before = text();
+    if (!before)
+        return SaveResult::failed;
+    QHash<QString, QString> texts;
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        texts.insert(value.key(), value->toString());
+    const QByteArray after = IniText::withValues(*before, texts);
+    const bool isStored =
+        after == *before || (after.size() <= IniText::maximumSize && target().replace(after));
+    return isStored ? SaveResult::saved : SaveResult::failed;
 }
 
 QString SettingsFile::failureReason() const {
-    const QFileInfo file(m_filePath);
-    for (const QString& fault : {faultOfFolder(QFileInfo(file.path())), faultOfFile(file)}) {
-        if (!fault.isEmpty())
-            return fault;
-    }
-    if (QStorageInfo(file.path()).bytesAvailable() == 0)
+    if (const QString fault = faultAt(m_filePath); !fault.isEmpty())
+        return fault;
+    if (QStorageInfo(QFileInfo(m_filePath).path()).bytesAvailable() == 0)
         return QStringLiteral("the disk is full");
-    if (!isLockFree(m_filePath))
+    if (!takeLockOf(m_filePath))
         return QStringLiteral("another program keeps %1 locked").arg(m_filePath);
     return QStringLiteral("%1 cannot be written").arg(m_filePath);
 }
 
-bool SettingsFile::isFileOrMissing() const {
-    const QFileInfo file(m_filePath);
-    // Opening a pipe or a device could wait for ever.
-    return !file.exists() || (file.isFile() && file.isReadable());
+ReplacedFile& SettingsFile::target() {
+    // A link may lead elsewhere by now.
+    if (const QString path = targetOf(m_filePath); !m_target || path != m_targetPath) {
+        m_target = std::make_unique<ReplacedFile>(path, m_flush);
+        m_targetPath = path;
+    }
+    return *m_target;
 }
 
-std::unique_ptr<QSettings> SettingsFile::open() const {
-    if (!isFileOrMissing())
-        return nullptr;
-    // A new one each time: its status never returns from an error.
-    auto settings = std::make_unique<QSettings>(m_filePath, PlainIni::format());
-    // QSettings would go on with a file that it could not read as with an empty one, and replace it.
-    const bool isRead = QFileInfo(m_filePath).size() == 0 || !settings->allKeys().isEmpty();
-    return settings->status() == QSettings::NoError && isRead ? std::move(settings) : nullptr;
+std::optional<QByteArray> SettingsFile::text() const {
+    const QFileInfo info(m_filePath);
+    if (!info.exists())
+        return QByteArray();
+    QFile file(m_filePath);
+    // Opening a pipe or a device could wait for ever.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray text = file.read(IniText::maximumSize + 1);
+    if (file.error() != QFileDevice::NoError || text.size() > IniText::maximumSize)
+        return std::nullopt;
+    return text;
 }
 
 } // namespace orvelle

@@ -1,32 +1,38 @@
 #pragma once
 
+#include "settings/replaced_file.h"
 #include "settings/settings_storage.h"
 
-class QSettings;
+#include <memory>
+
+class QFileInfo;
+class QLockFile;
 
 namespace orvelle {
 
-/// Settings in a file of plain ini text (see `PlainIni`), kept by QSettings: it locks the file while it
-/// writes, merges the values into what the file then holds and replaces it as a whole, so that no reader and
-/// no power cut ever sees half of it. A missing file is an empty one; its folder is created when first
-/// needed.
+/// Settings in a file of ini text (see `IniText`), read anew and merged with the values under a lock whenever
+/// some are written, and replaced as a whole (see `ReplacedFile`). A missing file is an empty one; its folder
+/// is created when first needed. Neither a lock that another program holds nor a busy disk is waited for.
 class SettingsFile : public SettingsStorage {
 public:
-    explicit SettingsFile(QString filePath);
+    explicit SettingsFile(QString filePath, ReplacedFile::Flush flush = ReplacedFile::systemFlush());
 
     /// Nothing when something other than a readable file of a sensible size stands in the file's place.
     [[nodiscard]] std::optional<StoredValues> read(const QStringList& keys) override;
-    [[nodiscard]] bool write(const StoredValues& values) override;
+    [[nodiscard]] SaveResult write(const StoredValues& values) override;
     [[nodiscard]] QString failureReason() const override;
     [[nodiscard]] QString filePath() const override { return m_filePath; }
 
 private:
-    /// Whether the path leads to a readable file or to nothing.
-    [[nodiscard]] bool isFileOrMissing() const;
-    /// Null when the file cannot be read.
-    [[nodiscard]] std::unique_ptr<QSettings> open() const;
+    /// The file itself where the path leads to it by links.
+    [[nodiscard]] ReplacedFile& target();
+    /// The text of the file, empty where there is none; nothing where it cannot be read.
+    [[nodiscard]] std::optional<QByteArray> text() const;
 
-    QString m_filePath;
+    const QString m_filePath;
+    const ReplacedFile::Flush m_flush;
+    QString m_targetPath;
+    std::unique_ptr<ReplacedFile> m_target;
 };
 
 } // namespace orvelle

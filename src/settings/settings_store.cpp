@@ -2,10 +2,12 @@
 
 #include "settings/settings_file.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <thread>
 #include <vector>
 
 namespace orvelle {
@@ -13,6 +15,13 @@ namespace {
 
 /// Editors empty, rename and write in several steps; the file is read when they have come to rest.
 constexpr std::chrono::milliseconds settleTime{100};
+
+/// Programs lock the settings for a moment. The user hears of a lock that outlasts these tries, two seconds.
+constexpr int quickTries = 40;
+constexpr std::chrono::milliseconds retryInterval{50};
+constexpr std::chrono::milliseconds lateRetryInterval{1000};
+/// How long the end of the program may take.
+constexpr std::chrono::milliseconds lastLockWait{500};
 
 } // namespace
 
@@ -65,6 +74,9 @@ SettingsStore::SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* 
         if (m_isSaveDue)
             saveSoon();
     });
+    m_retryDelay.setObjectName(QStringLiteral("retryDelay"));
+    m_retryDelay.setSingleShot(true);
+    connect(&m_retryDelay, &QTimer::timeout, this, &SettingsStore::save);
     // Not started anew by each event: a folder that is never at rest would keep the file from being read.
     const auto startDelay = [this] {
         if (!m_reloadDelay.isActive())
@@ -78,8 +90,9 @@ SettingsStore::SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* 
 }
 
 SettingsStore::~SettingsStore() {
-    if (m_isSaveDue)
-        store();
+    const QDeadlineTimer deadline(lastLockWait);
+    while (store() == SaveResult::locked && !deadline.hasExpired())
+        std::this_thread::sleep_for(retryInterval);
 }
 
 void SettingsStore::tune(const QString& property, const QVariant& value) {
@@ -88,12 +101,17 @@ void SettingsStore::tune(const QString& property, const QVariant& value) {
     m_isTuning = false;
 }
 
-void SettingsStore::saveAndAnnounce(const AnySetting& setting) {
+void SettingsStore::finishAssignment(const AnySetting& setting, bool isChanged) {
     // Observers that set something else in turn are not tuning.
-    if (std::exchange(m_isTuning, false))
+    const bool isTuned = std::exchange(m_isTuning, false);
+    if (!setting.isUnsaved())
+        updateSaveError();
+    else if (isTuned)
         saveSoon();
     else
         save();
+    if (!isChanged)
+        return;
     Q_EMIT(this->*setting.changedSignal())();
     Q_EMIT changed();
 }
@@ -109,28 +127,38 @@ void SettingsStore::saveSoon() {
 
 void SettingsStore::save() {
     m_isSaveDue = false;
-    store();
+    if (store() == SaveResult::locked)
+        retry();
+    else
+        m_lockedTries = 0;
     updateSaveError();
     watch();
 }
 
-/// Writes what is not stored yet.
-void SettingsStore::store() {
+SaveResult SettingsStore::store() {
     StoredValues values;
     for (const AnySetting* setting : m_settings) {
         if (setting->isUnsaved())
             values.insert(setting->key(), setting->storedForm());
     }
-    if (m_storage->write(values)) {
+    const SaveResult result = values.isEmpty() ? SaveResult::saved : m_storage->write(values);
+    if (result == SaveResult::saved) {
         for (AnySetting* setting : m_settings) {
             if (setting->isUnsaved())
                 setting->markSaved();
         }
     }
+    return result;
+}
+
+void SettingsStore::retry() {
+    ++m_lockedTries;
+    m_retryDelay.start(m_lockedTries > quickTries ? lateRetryInterval : retryInterval);
 }
 
 void SettingsStore::updateSaveError() {
-    if (m_isSaveDue)
+    const bool isLocked = m_lockedTries > 0 && m_lockedTries <= quickTries;
+    if (m_isSaveDue || isLocked)
         return; // what is not stored yet did not fail
     const bool failed = std::ranges::any_of(m_settings, &AnySetting::isUnsaved);
     const QString error = failed ? m_storage->failureReason() : QString();

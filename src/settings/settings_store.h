@@ -15,10 +15,10 @@
 namespace orvelle {
 
 /// Every preference of the user, each a property that is stored under its own name. A property reads as its
-/// default while nothing legal is stored for it. Setting one stores it at once and tells the observers, after
-/// which `changed()` follows; setting the value that is already stored, or one that is not legal, does
-/// nothing. When another program or a person changes the storage, the properties follow within a moment. Main
-/// thread only; reading is as cheap as reading a member.
+/// default while nothing legal is stored for it. Setting one stores it at once and, if the value changed,
+/// tells the observers, after which `changed()` follows; a value that is not legal is not taken. When another
+/// program or a person changes the storage, the properties follow within a moment. Main thread only; reading
+/// is as cheap as reading a member.
 class SettingsStore : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool showCPU READ showCPU WRITE setShowCPU NOTIFY showCPUChanged)
@@ -181,7 +181,8 @@ public:
     void setLaunchAtLogin(bool value) { assign(m_launchAtLogin, value); }
 
     /// Why a value that was set could not be stored, in a few words for the user; empty when all are. The
-    /// value holds until the program ends and is stored together with the next one that can be.
+    /// value holds until the program ends and is stored together with the next one that can be. While another
+    /// program has the storage for itself, saving is tried again and again; this tells of it when that lasts.
     [[nodiscard]] const QString& saveError() const { return m_saveError; }
 
 Q_SIGNALS:
@@ -224,13 +225,15 @@ Q_SIGNALS:
 private:
     template <class Value>
     void assign(Setting<Value>& setting, const Value& value) {
-        if (setting.assign(value))
-            saveAndAnnounce(setting);
+        const bool isChanged = setting.assign(value);
+        finishAssignment(setting, isChanged);
     }
-    void saveAndAnnounce(const AnySetting& setting);
+    void finishAssignment(const AnySetting& setting, bool isChanged);
     void saveSoon();
     void save();
-    void store();
+    /// Writes what is not stored yet.
+    SaveResult store();
+    void retry();
     void updateSaveError();
     /// Takes over what changed in the storage; nothing when it cannot be read.
     void reload();
@@ -240,6 +243,8 @@ private:
     QFileSystemWatcher m_watcher;
     QTimer m_reloadDelay{this};
     QTimer m_tuningDelay{this}; ///< runs for a while after a tuned value was saved
+    QTimer m_retryDelay{this};  ///< runs while another program has the storage for itself
+    int m_lockedTries = 0;      ///< how often saving was tried in vain since
     bool m_isTuning = false;
     bool m_isSaveDue = false; ///< when `m_tuningDelay` ends
     QString m_saveError;

@@ -23,12 +23,12 @@ public:
         return values;
     }
 
-    bool write(const StoredValues& values) override {
+    SaveResult write(const StoredValues& values) override {
         const std::unique_ptr<QSettings> settings = open();
         for (auto value = values.begin(); value != values.end(); ++value)
             settings->setValue(value.key(), value.value());
         settings->sync();
-        return settings->status() == QSettings::NoError;
+        return settings->status() == QSettings::NoError ? SaveResult::saved : SaveResult::failed;
     }
 
     QString failureReason() const override { return QStringLiteral("%1 cannot be written").arg(filePath()); }

@@ -1,4 +1,4 @@
-#include "settings/plain_ini.h"
+#include "settings/ini_text.h"
 #include "settings/settings_file.h"
 #include "support/temporary_settings.h"
 
@@ -24,10 +24,17 @@ void age(QFile& file, int seconds) {
     file.close();
 }
 
+ino_t inodeOf(const QString& path) {
+    struct stat status{};
+    EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+    return status.st_ino;
+}
+
 class SettingsFileTest : public ::testing::Test {
 protected:
     [[nodiscard]] std::optional<StoredValues> read() { return file.read({u"a"_s}); }
-    [[nodiscard]] bool write() { return file.write({{u"a"_s, true}}); }
+    [[nodiscard]] SaveResult save() { return file.write({{u"a"_s, true}}); }
+    [[nodiscard]] bool write() { return save() == SaveResult::saved; }
 
     TemporarySettings settings;
     SettingsFile file{settings.path()};
@@ -42,16 +49,16 @@ TEST_F(SettingsFileTest, AMissingFileIsEmptyAndIsCreatedByTheFirstWrite) {
 TEST_F(SettingsFileTest, MissingFoldersAreCreatedByTheFirstWrite) {
     SettingsFile deepFile(settings.folderPath() + u"/x/y/orvelle.conf"_s);
     EXPECT_EQ(deepFile.read({u"a"_s}), StoredValues());
-    EXPECT_TRUE(deepFile.write({{u"a"_s, true}}));
+    EXPECT_EQ(deepFile.write({{u"a"_s, true}}), SaveResult::saved);
     EXPECT_EQ(deepFile.read({u"a"_s}), (StoredValues{{u"a"_s, u"true"_s}}));
 }
 
 TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
     const QByteArray line = "a=1\n";
-    settings.writeInPlace(line + QByteArray(PlainIni::maximumSize - line.size(), ';'));
+    settings.writeInPlace(line + QByteArray(IniText::maximumSize - line.size(), ';'));
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}}));
 
-    const QByteArray tooLarge = line + QByteArray(PlainIni::maximumSize - line.size() + 1, ';');
+    const QByteArray tooLarge = line + QByteArray(IniText::maximumSize - line.size() + 1, ';');
     settings.writeInPlace(tooLarge);
     EXPECT_EQ(read(), std::nullopt);
     EXPECT_FALSE(write());
@@ -59,7 +66,7 @@ TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
 }
 
 TEST_F(SettingsFileTest, AFileIsNotWrittenPastTheLargestSize) {
-    const QByteArray full(PlainIni::maximumSize, '#');
+    const QByteArray full(IniText::maximumSize, '#');
     settings.writeInPlace(full);
     EXPECT_FALSE(write());
     EXPECT_EQ(settings.text(), full);
@@ -79,13 +86,13 @@ TEST_F(SettingsFileTest, AnEditThatKeepsTheSizeIsReadAndKept) {
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"2"_s}}));
     edit("a=2\nb=2\n");
     EXPECT_TRUE(write());
-    EXPECT_EQ(settings.text(), "[General]\na=true\nb=2\n");
+    EXPECT_EQ(settings.text(), "a=true\nb=2\n");
 }
 
 TEST_F(SettingsFileTest, ProgramsThatWriteAtOnceKeepEachOthersValues) {
     const auto writeKeys = [this](QChar name) {
         for (int number = 0; number < 20; ++number) {
-            while (!file.write({{name + QString::number(number), u"x"_s}}))
+            while (file.write({{name + QString::number(number), u"x"_s}}) != SaveResult::saved)
                 continue;
         }
     };
@@ -120,6 +127,8 @@ TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
 TEST_F(SettingsFileTest, ALockWhoseProgramEndedBeforeItNamedItselfIsSoonTakenAway) {
     QFile lock(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    EXPECT_EQ(save(), SaveResult::locked) << "it may be about to name itself";
+    age(lock, 1);
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "[General]\na=true\n");
     EXPECT_FALSE(lock.exists());
@@ -136,50 +145,35 @@ TEST_F(SettingsFileTest, ALockWhoseRemovalWasAbandonedIsSoonTakenAway) {
     EXPECT_FALSE(removal.exists());
 }
 
-class AbandonedFileTest : public SettingsFileTest {
-protected:
-    /// Puts a file beside that of the settings, saves, and tells whether the file is still there.
-    bool isKept(const QString& suffix, int ageSeconds) {
-        QFile left(settings.path() + suffix);
-        age(left, ageSeconds);
-        EXPECT_TRUE(write());
-        return left.exists();
-    }
-};
-
-TEST_F(AbandonedFileTest, WhatAProgramLeftThatWasEndedWhileItWroteIsRemoved) {
-    for (const QString& suffix : {u".AbCdEf"_s, u".xxxxxX"_s, u".qZZZZZ"_s})
-        EXPECT_FALSE(isKept(suffix, 3600)) << suffix.toStdString();
-}
-
-TEST_F(AbandonedFileTest, WhatMayBeInUseIsKept) {
-    EXPECT_TRUE(isKept(u".AbCdEf"_s, 30));
-}
-
-TEST_F(AbandonedFileTest, WhatSomeoneElseNamedIsKept) {
-    for (const QString& suffix : {u".backup"_s, u".BACKUP"_s, u".Backup"_s, u".before"_s, u".old"_s,
-                                  u".AbCdE"_s, u".AbCdEfG"_s, u".AbCd12"_s, u"x.AbCdEf"_s, u".AbCdEf~"_s})
-        EXPECT_TRUE(isKept(suffix, 3600)) << suffix.toStdString();
-}
-
-TEST_F(AbandonedFileTest, AFolderAndALinkAreKept) {
-    const QString target = settings.folderPath() + u"/target"_s;
-    QFile targetFile(target);
-    age(targetFile, 3600);
-    ASSERT_TRUE(QFile::link(target, settings.path() + u".AbCdEf"_s));
-    ASSERT_TRUE(QDir().mkpath(settings.path() + u".GhIjKl"_s));
-    EXPECT_TRUE(write());
-    EXPECT_TRUE(QFileInfo(settings.path() + u".AbCdEf"_s).isSymLink());
-    EXPECT_TRUE(QFileInfo(settings.path() + u".GhIjKl"_s).isDir());
-}
-
 TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
     QLockFile lock(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock.lock());
-    EXPECT_FALSE(write());
+    EXPECT_EQ(save(), SaveResult::locked);
     EXPECT_EQ(read(), StoredValues());
+    EXPECT_EQ(file.failureReason(), u"another program keeps %1 locked"_s.arg(settings.path()));
     lock.unlock();
     EXPECT_TRUE(write());
+}
+
+TEST_F(SettingsFileTest, WhatIsStoredAlreadyIsNotWrittenAgain) {
+    settings.writeInPlace("a = \"true\" ; mine\n");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(settings.text(), "a = true ; mine\n");
+    const QDateTime before = QFileInfo(settings.path()).lastModified();
+    const auto inode = inodeOf(settings.path());
+    EXPECT_TRUE(write());
+    EXPECT_EQ(inodeOf(settings.path()), inode);
+    EXPECT_EQ(QFileInfo(settings.path()).lastModified(), before);
+}
+
+TEST_F(SettingsFileTest, WhatAPowerCutLeftIsReadAsItWasBefore) {
+    settings.writeInPlace("");
+    QFile last(settings.folderPath() + u"/.orvelle.conf.last"_s);
+    ASSERT_TRUE(last.open(QIODevice::WriteOnly));
+    ASSERT_EQ(last.write("a=1\n"), 4);
+    last.close();
+    EXPECT_EQ(SettingsFile(settings.path()).read({u"a"_s}), (StoredValues{{u"a"_s, u"1"_s}}));
+    EXPECT_EQ(settings.text(), "a=1\n");
 }
 
 TEST_F(SettingsFileTest, AFolderInTheFilesPlaceIsNeitherReadNorReplaced) {
@@ -223,11 +217,11 @@ TEST_F(SettingsFileTest, ALinkIntoAMissingFolderOrToItselfIsEmptyAndDoesNotHang)
 TEST_F(SettingsFileTest, WhereNoFolderCanBeMadeNothingIsWritten) {
     SettingsFile unwritable(u"/proc/no-such-folder/orvelle.conf"_s);
     EXPECT_EQ(unwritable.read({u"a"_s}), StoredValues());
-    EXPECT_FALSE(unwritable.write({{u"a"_s, true}}));
+    EXPECT_EQ(unwritable.write({{u"a"_s, true}}), SaveResult::failed);
     EXPECT_EQ(unwritable.failureReason(), u"the folder /proc/no-such-folder does not exist"_s);
     SettingsFile belowAFile(u"/proc/version/orvelle.conf"_s);
     EXPECT_EQ(belowAFile.read({u"a"_s}), StoredValues());
-    EXPECT_FALSE(belowAFile.write({{u"a"_s, true}}));
+    EXPECT_EQ(belowAFile.write({{u"a"_s, true}}), SaveResult::failed);
     EXPECT_EQ(belowAFile.failureReason(), u"/proc/version is not a folder"_s);
 }
 
@@ -265,7 +259,7 @@ TEST_F(SettingsFileTest, InAReadOnlyFolderNothingIsWritten) {
 }
 
 TEST_F(SettingsFileTest, NoTemporaryFilesStayBehind) {
-    ASSERT_TRUE(write());
+    ASSERT_EQ(SettingsFile(settings.path()).write({{u"a"_s, true}}), SaveResult::saved);
     EXPECT_EQ(QDir(settings.folderPath()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
               QStringList{u"orvelle.conf"_s});
 }

@@ -1,8 +1,9 @@
-#include "settings/settings_store.h"
+#include "settings/store_timers.h"
 #include "support/temporary_settings.h"
 
 #include <QDir>
 #include <QLocale>
+#include <QLockFile>
 #include <QMetaProperty>
 #include <QSignalSpy>
 
@@ -167,10 +168,15 @@ TEST_F(SettingsStoreTest, SettingTheStoredValueAgainDoesNothing) {
     EXPECT_FALSE(QFile::exists(settings.path()));
 }
 
-TEST_F(SettingsStoreTest, SettingADefaultStoresIt) {
+TEST_F(SettingsStoreTest, SettingADefaultStoresItAndTellsNobody) {
     SettingsStore store(settings.path());
+    QSignalSpy changed(&store, &SettingsStore::changed);
+    QSignalSpy intervals(&store, &SettingsStore::updateIntervalChanged);
+    store.setUpdateInterval(3.0);
     store.setShowCPU(true);
-    EXPECT_EQ(settings.text(), "[General]\nshowCPU=true\n");
+    EXPECT_EQ(settings.text(), "[General]\nupdateInterval=3\nshowCPU=true\n");
+    EXPECT_EQ(intervals.count(), 0);
+    EXPECT_EQ(changed.count(), 0);
 }
 
 TEST_F(SettingsStoreTest, ValuesThatAreNotLegalAreNotTaken) {
@@ -272,6 +278,57 @@ TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucce
     EXPECT_TRUE(store.saveError().isEmpty());
     EXPECT_EQ(saveErrors.count(), 2);
     EXPECT_EQ(settings.text(), "[General]\nshowDisk=true\nshowSensors=true\nuseFahrenheit=true\n");
+}
+
+class LockedSettingsTest : public SettingsStoreTest {
+protected:
+    LockedSettingsTest() { EXPECT_TRUE(lock.lock()); }
+    [[nodiscard]] bool isStored() const { return settings.text().contains("showDisk=true\n"); }
+
+    QLockFile lock{settings.path() + u".lock"_s};
+    SettingsStore store{settings.path()};
+};
+
+TEST_F(LockedSettingsTest, HoldNobodyUpAndAreSavedSoonAfterwards) {
+    store.setShowDisk(true);
+    EXPECT_TRUE(store.showDisk());
+    EXPECT_FALSE(isStored());
+    EXPECT_TRUE(store.saveError().isEmpty()) << "other programs lock for a moment";
+    lock.unlock();
+    endNow(retryDelay(store));
+    EXPECT_TRUE(isStored());
+    EXPECT_TRUE(store.saveError().isEmpty());
+    EXPECT_FALSE(retryDelay(store).isActive());
+}
+
+TEST_F(LockedSettingsTest, AreToldWhenTheLockLasts) {
+    store.setShowDisk(true);
+    for (int tries = 0; tries < 40; ++tries) {
+        EXPECT_TRUE(store.saveError().isEmpty());
+        endNow(retryDelay(store));
+    }
+    EXPECT_EQ(store.saveError(), u"another program keeps %1 locked"_s.arg(settings.path()));
+    lock.unlock();
+    endNow(retryDelay(store));
+    EXPECT_TRUE(store.saveError().isEmpty());
+    EXPECT_TRUE(isStored());
+}
+
+TEST_F(LockedSettingsTest, GetTheNewestValue) {
+    store.setShowDisk(true);
+    store.setShowSensors(true);
+    store.setShowDisk(false);
+    lock.unlock();
+    endNow(retryDelay(store));
+    EXPECT_EQ(settings.text(), "[General]\nshowDisk=false\nshowSensors=true\n");
+}
+
+TEST_F(LockedSettingsTest, AreSavedInTheEnd) {
+    auto ending = std::make_unique<SettingsStore>(settings.path());
+    ending->setShowDisk(true);
+    lock.unlock();
+    ending.reset();
+    EXPECT_TRUE(isStored());
 }
 
 } // namespace

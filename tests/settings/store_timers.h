@@ -14,6 +14,10 @@ namespace orvelle {
 [[nodiscard]] inline QTimer& tuningDelay(const SettingsStore& store) {
     return *store.findChild<QTimer*>(QStringLiteral("tuningDelay"));
 }
+/// After which a store tries again to save what another program's lock kept it from.
+[[nodiscard]] inline QTimer& retryDelay(const SettingsStore& store) {
+    return *store.findChild<QTimer*>(QStringLiteral("retryDelay"));
+}
 
 /// Waits until the store has seen that something changed, and has it read the file again.
 inline void awaitReading(const SettingsStore& store) {

@@ -108,7 +108,7 @@ void X11SettingsWindow::remember() {
     if (!m_content->isVisible() || m_content->windowStates() != Qt::WindowNoState)
         return;
     const QRect frame(m_content->framePosition(), m_content->size());
-    if (frame != m_remembered && m_storage->write({{frameKey(), frameText(frame)}}))
+    if (frame != m_remembered && m_storage->write({{frameKey(), frameText(frame)}}) == SaveResult::saved)
         m_remembered = frame;
 }
 
