@@ -22,7 +22,10 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
     m_monitor.start();
-    connect(&m_settings, &SettingsStore::updateIntervalChanged, &m_monitor, &SystemMonitor::restart);
+    connect(&m_settings, &SettingsStore::updateIntervalChanged, &m_monitor, [this] {
+        m_monitor.restart();
+        startRefreshTimer();
+    });
     setupStatusItems();
     snapshotVisibility();
     startRefreshTimer();
@@ -152,9 +155,12 @@ void AppDelegate::snapshotVisibility() {
 void AppDelegate::startRefreshTimer() {
     m_refreshTimer = std::make_unique<QTimer>(this);
     m_refreshTimer->callOnTimeout(this, &AppDelegate::checkVisibility);
-    // Coarse, so that it wakes the process together with the sampling timer.
-    m_refreshTimer->setTimerType(Qt::CoarseTimer);
-    m_refreshTimer->start(visibilityInterval);
+    m_refreshTimer->setTimerType(Qt::PreciseTimer); // a coarse one may be late by a twentieth
+    m_refreshTimer->setInterval(visibilityInterval);
+    // A sample is a tick as well. Where samples come as often, the process need not wake for another one.
+    connect(&m_monitor, &SystemMonitor::changed, m_refreshTimer.get(), [this] { checkVisibility(); });
+    if (m_monitor.activeInterval() > std::chrono::duration<double>(visibilityInterval).count())
+        m_refreshTimer->start();
 }
 
 void AppDelegate::checkVisibility() {

@@ -95,8 +95,8 @@ private:
     ThemeManager& m_themes;
     /// One per item; what an item is subscribed to ends with it.
     std::vector<std::unique_ptr<Throttle>> m_cancellables;
-    std::unique_ptr<ContextMenu> m_contextMenu; ///< null before the first right click
-    std::unique_ptr<QTimer> m_refreshTimer;
+    std::unique_ptr<ContextMenu> m_contextMenu;       ///< null before the first right click
+    std::unique_ptr<QTimer> m_refreshTimer;           ///< runs while samples come less often
     std::unique_ptr<SettingsWindow> m_settingsWindow; ///< null before it is first asked for
     Visibility m_previousVisibility;
 };

@@ -45,6 +45,7 @@ void SystemMonitor::start() {
     updateCycle();
     const double seconds = std::max(m_settings.updateInterval(), minimumIntervalSeconds);
     m_timer = new QTimer(this);
+    m_timer->setTimerType(Qt::PreciseTimer); // a coarse one may end early, below the minimum
     m_timer->callOnTimeout(this, &SystemMonitor::updateCycle);
     m_timer->start(
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double>(seconds)));

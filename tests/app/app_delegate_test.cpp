@@ -96,15 +96,34 @@ TEST_F(AppDelegateTest, SwitchingTheLastModuleOffLeavesNoItem) {
     EXPECT_TRUE(delegate.statusItems().isEmpty());
 }
 
-TEST_F(AppDelegateTest, NoticesAVisibilityChangeByItself) {
+class AppDelegateVisibilityTest : public AppDelegateTest {
+protected:
+    [[nodiscard]] QTimer* refreshTimer() const {
+        return delegate.findChild<QTimer*>({}, Qt::FindDirectChildrenOnly);
+    }
+    [[nodiscard]] bool showsMemory() const { return bar.identifiers().contains(QStringLiteral("memory")); }
+};
+
+TEST_F(AppDelegateVisibilityTest, NoticesAChangeWithTheNextSample) {
     delegate.applicationDidFinishLaunching();
+    EXPECT_FALSE(refreshTimer()->isActive()) << "one tick does for both";
     settings.setShowMemory(false);
-    EXPECT_TRUE(bar.identifiers().contains(QStringLiteral("memory")));
-    const QList<QTimer*> timers = delegate.findChildren<QTimer*>(Qt::FindDirectChildrenOnly);
-    ASSERT_EQ(timers.size(), 1);
-    EXPECT_EQ(timers.front()->intervalAsDuration(), AppDelegate::visibilityInterval);
-    endNow(*timers.front());
-    EXPECT_FALSE(bar.identifiers().contains(QStringLiteral("memory")));
+    EXPECT_TRUE(showsMemory());
+    monitor.updateCycle();
+    EXPECT_FALSE(showsMemory());
+}
+
+TEST_F(AppDelegateVisibilityTest, NoticesAChangeByItselfWhereSamplesAreRare) {
+    delegate.applicationDidFinishLaunching();
+    settings.setUpdateInterval(10);
+    settings.setShowMemory(false);
+    EXPECT_TRUE(showsMemory());
+    EXPECT_EQ(refreshTimer()->intervalAsDuration(), AppDelegate::visibilityInterval);
+    EXPECT_EQ(refreshTimer()->timerType(), Qt::PreciseTimer);
+    endNow(*refreshTimer());
+    EXPECT_FALSE(showsMemory());
+    settings.setUpdateInterval(1);
+    EXPECT_FALSE(refreshTimer()->isActive());
 }
 
 } // namespace

@@ -44,6 +44,11 @@ TEST_F(SystemMonitorTest, NeverSamplesFasterThanEveryThreeSeconds) {
     }
 }
 
+TEST_F(SystemMonitorTest, NeverSamplesEarly) {
+    monitor.start();
+    EXPECT_EQ(monitor.findChild<QTimer*>()->timerType(), Qt::PreciseTimer);
+}
+
 TEST_F(SystemMonitorTest, RestartLeavesExactlyOneTimerAndSamplesOnceMore) {
     monitor.start();
     settings.setUpdateInterval(10);
