@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace orvelle {
@@ -48,19 +47,6 @@ QByteArray nameBeside(const QString& path, const char* suffix) {
 }
 
 } // namespace
-
-FileDescriptor::FileDescriptor(FileDescriptor&& other) noexcept
-    : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
-
-FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
-    std::swap(m_descriptor, other.m_descriptor);
-    return *this;
-}
-
-FileDescriptor::~FileDescriptor() {
-    if (isOpen())
-        ::close(m_descriptor);
-}
 
 ReplacedFile::ReplacedFile(const QString& path, Flush flush)
     : m_path(QFile::encodeName(path))

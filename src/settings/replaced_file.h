@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/file_descriptor.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QThreadPool>
@@ -9,22 +11,6 @@
 #include <optional>
 
 namespace orvelle {
-
-/// A descriptor of an open file, closed with this object; -1 when there is none.
-class FileDescriptor {
-public:
-    explicit FileDescriptor(int descriptor = -1)
-        : m_descriptor(descriptor) {}
-    FileDescriptor(FileDescriptor&& other) noexcept;
-    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
-    ~FileDescriptor();
-
-    [[nodiscard]] bool isOpen() const { return m_descriptor >= 0; }
-    [[nodiscard]] int get() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
 
 /// A file that is replaced as a whole, so that no reader sees half of it. Every reader has the new text when
 /// `replace` returns; the disk gets it afterwards, without anybody waiting for it. A program that is killed

@@ -1,44 +1,20 @@
 #include "settings/settings_file.h"
 
+#include "settings/file_lock.h"
 #include "settings/ini_text.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStorageInfo>
 
-#include <chrono>
 #include <utility>
 
 namespace orvelle {
 namespace {
 
-constexpr std::chrono::milliseconds namelessLockAge{200};
-
-QString lockPathOf(const QString& filePath) {
-    return filePath + QStringLiteral(".lock");
-}
-
-/// The lock, held; null while another program has it, or when something else stands in its place.
-std::unique_ptr<QLockFile> takeLock(const QString& lockPath) {
-    const QFileInfo file(lockPath);
-    if ((file.exists() || file.isSymLink()) && !file.isFile())
-        return nullptr;
-    auto lock = std::make_unique<QLockFile>(lockPath);
-    // A program names itself in its lock as soon as it has made it. One that was ended in between would keep
-    // everybody out for half a minute.
-    if (file.size() == 0)
-        lock->setStaleLockTime(namelessLockAge);
-    return lock->tryLock() ? std::move(lock) : nullptr;
-}
-
-std::unique_ptr<QLockFile> takeLockOf(const QString& filePath) {
-    // QLockFile takes an abandoned lock away under another one, which can be abandoned as well.
-    const QString removalLockPath = lockPathOf(filePath) + QStringLiteral(".rmlock");
-    if (QFileInfo(removalLockPath).isFile())
-        static_cast<void>(takeLock(removalLockPath)); // else the next one is not to be had either
-    return takeLock(lockPathOf(filePath));
+std::optional<FileLock> takeLockOf(const QString& filePath) {
+    return FileLock::take(filePath + QStringLiteral(".lock"));
 }
 
 /// What is wrong with the folder that the file stands in; empty when nothing is.
@@ -90,7 +66,7 @@ SettingsFile::SettingsFile(QString filePath, ReplacedFile::Flush flush)
     : m_filePath(std::move(filePath))
     , m_flush(std::move(flush)) {
     if (ReplacedFile& file = target(); file.isInterrupted()) {
-        if (const std::unique_ptr<QLockFile> lock = takeLockOf(m_filePath))
+        if (const std::optional<FileLock> lock = takeLockOf(m_filePath))
             file.recover();
     }
 }
@@ -110,7 +86,7 @@ SaveResult SettingsFile::write(const StoredValues& values) {
     QDir().mkpath(QFileInfo(m_filePath).path());
     if (!faultAt(m_filePath).isEmpty())
         return SaveResult::failed;
-    const std::unique_ptr<QLockFile> lock = takeLockOf(m_filePath);
+    const std::optional<FileLock> lock = takeLockOf(m_filePath);
     if (!lock)
         return SaveResult::locked;
     const std::optional<QByteArray> before = text();

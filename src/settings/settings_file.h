@@ -5,9 +5,6 @@
 
 #include <memory>
 
-class QFileInfo;
-class QLockFile;
-
 namespace orvelle {
 
 /// Settings in a file of ini text (see `IniText`), read anew and merged with the values under a lock whenever

@@ -11,7 +11,6 @@
 #include "settings/settings_store.h"
 
 #include <QCoreApplication>
-#include <QTimer>
 
 #include <array>
 #include <cstdio>
@@ -49,13 +48,9 @@ void tell(const char* format, int number) {
 [[noreturn]] void changeWithoutEnd(int argumentCount, char** arguments, int first) {
     const QCoreApplication program(argumentCount, arguments);
     SettingsStore settings(QString::fromLocal8Bit(arguments[1]));
-    const QTimer& retryDelay = *settings.findChild<QTimer*>(QStringLiteral("retryDelay"));
     tell("%d\n", ::getpid());
     for (int number = first;; ++number) {
         change(settings, number);
-        // A process that was ended a moment ago may have left its lock.
-        while (retryDelay.isActive())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         if (!settings.saveError().isEmpty()) {
             std::fprintf(stderr, "change %d: %s\n", number, qPrintable(settings.saveError()));
             ::_exit(EXIT_FAILURE);

@@ -1,3 +1,4 @@
+#include "settings/file_lock.h"
 #include "settings/ini_text.h"
 #include "settings/settings_file.h"
 #include "support/temporary_settings.h"
@@ -5,7 +6,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -124,34 +124,20 @@ TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
     EXPECT_TRUE(write());
 }
 
-TEST_F(SettingsFileTest, ALockWhoseProgramEndedBeforeItNamedItselfIsSoonTakenAway) {
+TEST_F(SettingsFileTest, ALockThatAProgramLeftIsTakenOver) {
     QFile lock(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    EXPECT_EQ(save(), SaveResult::locked) << "it may be about to name itself";
-    age(lock, 1);
-    EXPECT_TRUE(write());
-    EXPECT_EQ(settings.text(), "[General]\na=true\n");
-    EXPECT_FALSE(lock.exists());
-}
-
-TEST_F(SettingsFileTest, ALockWhoseRemovalWasAbandonedIsSoonTakenAway) {
-    QFile lock(settings.path() + u".lock"_s);
-    QFile removal(lock.fileName() + u".rmlock"_s);
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && removal.open(QIODevice::WriteOnly));
-    age(lock, 1);
-    age(removal, 1);
     EXPECT_TRUE(write());
     EXPECT_FALSE(lock.exists());
-    EXPECT_FALSE(removal.exists());
 }
 
 TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
-    QLockFile lock(settings.path() + u".lock"_s);
-    ASSERT_TRUE(lock.lock());
+    std::optional<FileLock> lock = FileLock::take(settings.path() + u".lock"_s);
+    ASSERT_TRUE(lock);
     EXPECT_EQ(save(), SaveResult::locked);
     EXPECT_EQ(read(), StoredValues());
     EXPECT_EQ(file.failureReason(), u"another program keeps %1 locked"_s.arg(settings.path()));
-    lock.unlock();
+    lock.reset();
     EXPECT_TRUE(write());
 }
 

@@ -1,9 +1,9 @@
+#include "settings/file_lock.h"
 #include "settings/store_timers.h"
 #include "support/temporary_settings.h"
 
 #include <QDir>
 #include <QLocale>
-#include <QLockFile>
 #include <QMetaProperty>
 #include <QSignalSpy>
 
@@ -282,10 +282,10 @@ TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucce
 
 class LockedSettingsTest : public SettingsStoreTest {
 protected:
-    LockedSettingsTest() { EXPECT_TRUE(lock.lock()); }
+    LockedSettingsTest() { EXPECT_TRUE(lock); }
     [[nodiscard]] bool isStored() const { return settings.text().contains("showDisk=true\n"); }
 
-    QLockFile lock{settings.path() + u".lock"_s};
+    std::optional<FileLock> lock = FileLock::take(settings.path() + u".lock"_s);
     SettingsStore store{settings.path()};
 };
 
@@ -294,7 +294,7 @@ TEST_F(LockedSettingsTest, HoldNobodyUpAndAreSavedSoonAfterwards) {
     EXPECT_TRUE(store.showDisk());
     EXPECT_FALSE(isStored());
     EXPECT_TRUE(store.saveError().isEmpty()) << "other programs lock for a moment";
-    lock.unlock();
+    lock.reset();
     endNow(retryDelay(store));
     EXPECT_TRUE(isStored());
     EXPECT_TRUE(store.saveError().isEmpty());
@@ -308,7 +308,7 @@ TEST_F(LockedSettingsTest, AreToldWhenTheLockLasts) {
         endNow(retryDelay(store));
     }
     EXPECT_EQ(store.saveError(), u"another program keeps %1 locked"_s.arg(settings.path()));
-    lock.unlock();
+    lock.reset();
     endNow(retryDelay(store));
     EXPECT_TRUE(store.saveError().isEmpty());
     EXPECT_TRUE(isStored());
@@ -318,7 +318,7 @@ TEST_F(LockedSettingsTest, GetTheNewestValue) {
     store.setShowDisk(true);
     store.setShowSensors(true);
     store.setShowDisk(false);
-    lock.unlock();
+    lock.reset();
     endNow(retryDelay(store));
     EXPECT_EQ(settings.text(), "[General]\nshowDisk=false\nshowSensors=true\n");
 }
@@ -326,7 +326,7 @@ TEST_F(LockedSettingsTest, GetTheNewestValue) {
 TEST_F(LockedSettingsTest, AreSavedInTheEnd) {
     auto ending = std::make_unique<SettingsStore>(settings.path());
     ending->setShowDisk(true);
-    lock.unlock();
+    lock.reset();
     ending.reset();
     EXPECT_TRUE(isStored());
 }
