@@ -19,7 +19,7 @@ start_x_server() {
   number_file=$(mktemp)
   Xvfb -displayfd 3 -screen 0 "$1x24" "${@:2}" -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
   x_server_process=$!
-  wait_until 20 test -s "$number_file" || true
+  wait_until 60 test -s "$number_file" || true
   DISPLAY=:$(<"$number_file")
   rm -f "$number_file"
   [ "$DISPLAY" != : ] || { echo "the X server did not start" >&2; return 1; }
@@ -41,7 +41,7 @@ start_window_manager() {
   xprop -root -remove _NET_CLIENT_LIST -remove _NET_ACTIVE_WINDOW >/dev/null 2>&1 # of an earlier one
   "$@" >/dev/null 2>&1 &
   window_manager_process=$!
-  wait_until 20 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }
+  wait_until 60 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }
 }
 
 stop_virtual_display() {

@@ -10,7 +10,7 @@ namespace orvelle {
 class AnimatedLineGraphItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedLineGraph)
-    Q_PRIVATE_PROPERTY(chart(), QList<double> data MEMBER data NOTIFY changed)
+    Q_PRIVATE_PROPERTY(chart(), QList<double> data MEMBER data NOTIFY changed FINAL)
     Q_PRIVATE_PROPERTY(chart(), double maxValue MEMBER maxValue NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), QColor lineColor MEMBER lineColor NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), bool fillGradient MEMBER fillGradient NOTIFY changed)
