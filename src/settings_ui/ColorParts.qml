@@ -14,16 +14,16 @@ FocusScope {
     property real hue: 0
     property real saturation: 0
     property real brightness: 0
-    readonly property color shown: Qt.hsva(hue, saturation, brightness, 1)
+    readonly property color shown: SettingsRules.colorOfParts(hue, saturation, brightness)
 
     /// Takes over a colour that did not come from here.
     function follow() {
         if (SettingsRules.hexFromColor(color) === SettingsRules.hexFromColor(shown))
             return;
-        if (color.hsvHue >= 0)
-            hue = color.hsvHue;
-        saturation = color.hsvSaturation;
-        brightness = color.hsvValue;
+        const taken = SettingsRules.partsOfColor(color, hue);
+        hue = taken.hue;
+        saturation = taken.saturation;
+        brightness = taken.brightness;
     }
     function showKeys() {
         firstSlider.focusReason = Qt.TabFocusReason;

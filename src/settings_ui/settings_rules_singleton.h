@@ -3,6 +3,7 @@
 #include "settings/hex_color.h"
 #include "settings/theme_manager.h"
 #include "settings_ui/choices.h"
+#include "settings_ui/color_parts.h"
 #include "settings_ui/preview_rules.h"
 #include "settings_ui/shared_widths.h"
 
@@ -70,6 +71,13 @@ public:
         return hexToColor(hex).value_or(QColor::fromRgb(otherwise.rgb()));
     }
     Q_INVOKABLE static QString hexFromColor(const QColor& color) { return colorToHex(color); }
+
+    Q_INVOKABLE static orvelle::ColorParts partsOfColor(const QColor& color, double hueOfGrey) {
+        return colorParts(color, hueOfGrey);
+    }
+    Q_INVOKABLE static QColor colorOfParts(double hue, double saturation, double brightness) {
+        return orvelle::colorOfParts({hue, saturation, brightness});
+    }
 
 private:
     template <class Record>
