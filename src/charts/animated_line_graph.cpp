@@ -7,6 +7,7 @@
 #include "charts/line_rules.h"
 #include "charts/sample_points.h"
 #include "look/device_pixels.h"
+#include "look/opacity.h"
 
 #include <QLinearGradient>
 

@@ -10,6 +10,7 @@
 #include "charts/ring_shades.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
+#include "look/opacity.h"
 
 #include <algorithm>
 

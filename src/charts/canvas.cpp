@@ -1,7 +1,5 @@
 #include "charts/canvas.h"
 
-#include <algorithm>
-
 namespace orvelle {
 namespace {
 
@@ -24,12 +22,6 @@ Canvas::~Canvas() {
 bool isPaintable(const QSizeF& size) {
     return size.width() > 0 && size.height() > 0 && size.width() <= largestCanvasSide &&
            size.height() <= largestCanvasSide;
-}
-
-QColor withOpacity(const QColor& color, double opacity) {
-    QColor result = color;
-    result.setAlphaF(static_cast<float>(std::clamp(color.alphaF() * opacity, 0.0, 1.0)));
-    return result;
 }
 
 QRectF centred(const QSizeF& size, const QRectF& bounds) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QPainter>
 #include <QRectF>
 
@@ -22,9 +21,6 @@ private:
 /// Whether anything can be drawn in this size: both sides are above 0 and no larger than a screen could show.
 /// The limit keeps coordinates within what the painter can count and loops over a side short.
 [[nodiscard]] bool isPaintable(const QSizeF& size);
-
-/// `color` with its opacity multiplied by `opacity`.
-[[nodiscard]] QColor withOpacity(const QColor& color, double opacity);
 
 /// The rectangle of `size` whose centre is that of `bounds`.
 [[nodiscard]] QRectF centred(const QSizeF& size, const QRectF& bounds);

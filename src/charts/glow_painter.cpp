@@ -1,8 +1,8 @@
 #include "charts/glow_painter.h"
 
 #include "charts/blur.h"
-#include "charts/canvas.h"
 #include "charts/glow.h"
+#include "look/opacity.h"
 
 namespace orvelle {
 

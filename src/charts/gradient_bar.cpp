@@ -2,6 +2,7 @@
 
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
+#include "look/opacity.h"
 
 #include <QLinearGradient>
 

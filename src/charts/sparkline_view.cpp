@@ -6,6 +6,7 @@
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
 #include "look/device_pixels.h"
+#include "look/opacity.h"
 
 namespace orvelle {
 namespace {

@@ -9,6 +9,7 @@
 #include "charts/temperature_rules.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 
 namespace orvelle {

@@ -30,7 +30,7 @@ RowLayout {
             font: Look.systemFont(row.addressSize, Font.Normal)
             color: Look.valueLabel
             selectedTextColor: Look.primaryLabel
-            selectionColor: Look.faded(row.selectionColor, 0.4)
+            selectionColor: Look.withOpacity(row.selectionColor, 0.4)
             readOnly: true
             selectByMouse: true
             activeFocusOnTab: true

@@ -54,7 +54,7 @@ PanelBody {
             }
             LegendItem {
                 text: "System: " + PanelRules.percentText(panel.cpu.systemUsage * 100)
-                swatchColor: Look.faded(panel.moduleColor, 0.5)
+                swatchColor: Look.withOpacity(panel.moduleColor, 0.5)
             }
         }
     }

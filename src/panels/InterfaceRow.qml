@@ -26,7 +26,7 @@ RowLayout {
             y: Look.centred(parent.height, height)
             name: PanelRules.interfaceSymbol(row.info.name)
             fontSize: 9
-            color: Look.faded(row.moduleColor, 0.7)
+            color: Look.withOpacity(row.moduleColor, 0.7)
         }
     }
     PlainText {

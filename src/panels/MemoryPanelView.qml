@@ -84,7 +84,7 @@ PanelBody {
                 implicitWidth: badge.implicitWidth + 2 * 6
                 implicitHeight: badge.implicitHeight + 2 * 2
                 radius: 4
-                color: Look.faded(badge.color, 0.15)
+                color: Look.withOpacity(badge.color, 0.15)
                 PlainText {
                     id: badge
                     objectName: "pressureBadge"

@@ -9,7 +9,7 @@ Rectangle {
 
     visible: text !== ""
     implicitHeight: text !== "" ? label.implicitHeight + 16 : 0
-    color: Look.faded(Look.red, 0.25)
+    color: Look.withOpacity(Look.red, 0.25)
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 

@@ -1,7 +1,7 @@
 #include "settings_ui/preview_items.h"
 
-#include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 #include "settings_ui/preview_rules.h"
 

@@ -1,6 +1,6 @@
 #include "charts/animated_line_graph.h"
-#include "charts/canvas.h"
 #include "charts/sparkline_view.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"

@@ -1,6 +1,6 @@
 #include "app/menu_bar_items/cpu_item_rules.h"
 
-#include "charts/canvas.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "app/menu_bar_items/disk_item_rules.h"
 
 #include "app/menu_bar_items/item_rules.h"
-#include "charts/canvas.h"
 #include "core/disk_monitor.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 
 namespace orvelle {

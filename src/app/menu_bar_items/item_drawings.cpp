@@ -2,11 +2,11 @@
 
 #include "app/menu_bar_items/item_rules.h"
 #include "app/menu_bar_items/part_key.h"
-#include "charts/canvas.h"
 #include "charts/sparkline_view.h"
 #include "look/device_pixels.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
+#include "look/opacity.h"
 #include "look/symbols.h"
 
 #include <QFontMetricsF>

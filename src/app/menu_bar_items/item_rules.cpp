@@ -1,7 +1,7 @@
 #include "app/menu_bar_items/item_rules.h"
 
-#include "charts/canvas.h"
 #include "core/checked.h"
+#include "look/opacity.h"
 
 #include <algorithm>
 

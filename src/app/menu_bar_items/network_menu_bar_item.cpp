@@ -3,11 +3,11 @@
 #include "app/formatters/formatters.h"
 #include "app/menu_bar_items/item_drawings.h"
 #include "app/menu_bar_items/item_rules.h"
-#include "charts/canvas.h"
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
+#include "look/opacity.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 

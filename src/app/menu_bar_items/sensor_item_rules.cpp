@@ -1,7 +1,7 @@
 #include "app/menu_bar_items/sensor_item_rules.h"
 
 #include "app/menu_bar_items/item_rules.h"
-#include "charts/canvas.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 
 #include <fmt/format.h>

@@ -4,12 +4,6 @@
 
 namespace orvelle {
 
-QColor Look::faded(const QColor& color, double opacity) {
-    QColor result = color;
-    result.setAlphaF(static_cast<float>(opacity));
-    return result;
-}
-
 QFont Look::systemFont(double size, int weight) {
     return orvelle::systemFont(size, static_cast<QFont::Weight>(weight));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "look/label_colors.h"
+#include "look/opacity.h"
 #include "settings/system_colors.h"
 
 #include <QFont>
@@ -94,8 +95,9 @@ public:
     /// The ground of what opens over such a window.
     [[nodiscard]] static QColor popup() { return QColor::fromRgbF(0.16F, 0.16F, 0.17F); }
 
-    /// The colour at an opacity, 0 to 1, whatever opacity it had.
-    Q_INVOKABLE [[nodiscard]] static QColor faded(const QColor& color, double opacity);
+    Q_INVOKABLE [[nodiscard]] static QColor withOpacity(const QColor& color, double opacity) {
+        return orvelle::withOpacity(color, opacity);
+    }
 
     /// Where something of this extent begins that stands in the middle of a room: at a whole point, so that
     /// it is as crisp as its neighbours. Anchors round in another way in each release of Qt.
@@ -108,7 +110,7 @@ public:
     Q_INVOKABLE [[nodiscard]] static QFont monospacedFont(double size, int weight);
 
 private:
-    [[nodiscard]] static QColor whiteAt(double opacity) { return faded(SystemColors::white, opacity); }
+    [[nodiscard]] static QColor whiteAt(double opacity) { return withOpacity(SystemColors::white, opacity); }
 };
 
 } // namespace orvelle

@@ -2,9 +2,9 @@
 #include "app/menu_bar_items/cpu_menu_bar_item.h"
 #include "app/menu_bar_items/memory_menu_bar_item.h"
 #include "app/menu_bar_items/sensor_menu_bar_item.h"
-#include "charts/canvas.h"
 #include "core/system_monitor.h"
 #include "item_fixture.h"
+#include "look/opacity.h"
 #include "platform/fixed/fixed_machine.h"
 #include "settings/system_colors.h"
 

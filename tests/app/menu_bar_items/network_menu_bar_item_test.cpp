@@ -1,11 +1,11 @@
 #include "app/menu_bar_items/item_rules.h"
 #include "app/menu_bar_items/network_menu_bar_item.h"
-#include "charts/canvas.h"
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
 #include "item_fixture.h"
 #include "look/fonts.h"
 #include "look/label_colors.h"
+#include "look/opacity.h"
 #include "platform/fixed/fixed_sources.h"
 
 namespace orvelle {
