@@ -30,7 +30,6 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_launchAtLogin(m_settings, makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
                  {*m_statusBar, &loadViews, &makeSettingsWindow, &m_launchAtLogin}) {
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Orvelle"));
     // The bar may be empty and every window closed; the program stays.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_terminationSignals, &TerminationSignals::received, &m_application,

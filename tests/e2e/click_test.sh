@@ -48,7 +48,8 @@ menuIsInside() {
     ((left >= 0 && left + width <= 1280 && top >= $(pixels 22) && top <= $(pixels 22) + 1 && height > 0))
 }
 
-panelIsShown() { windowIsShown '^Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)$'; }
+panelWindow() { windowsTitled 'Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)' | tail -1; }
+panelIsShown() { [[ -n $(panelWindow) ]]; }
 panelIsHidden() { ! panelIsShown; }
 
 # keepPicture NAME: for whoever wants to see what was tested.
@@ -57,6 +58,7 @@ keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICT
 testMenu() {
     openMenu
     waitUntil "the menu stands below the bar, on the screen" menuIsInside || geometry "$(menuWindow)"
+    expectTitle "Orvelle menu" "$(menuWindow)"
     keepPicture "menu-$scale"
     xdotool key Escape
     waitUntil "Escape closes the menu" menuIsHidden
@@ -65,6 +67,7 @@ testMenu() {
 testLeftClick() {
     clickAt 1 "$(lastItemMiddle)" 11
     waitUntil "a left click opens the panel" panelIsShown
+    expectTitle "Orvelle Battery" "$(panelWindow)"
     expectEqual "and no menu" "" "$(menuWindow 2>/dev/null)"
     clickAt 1 "$(lastItemMiddle)" 11
     waitUntil "a second one closes it" panelIsHidden

@@ -88,6 +88,9 @@ startAgain() { timeout "$patienceSeconds" "$@"; }
 # The numbers or names of a window property, separated by ", ".
 property() { xprop -id "$1" -notype "$2" 2>/dev/null | sed -n 's/^[^=]* = //p'; }
 
+# expectTitle TITLE WINDOW: what window managers and assistive programs call it, which is not what xdotool finds it by.
+expectTitle() { expectEqual "a window is titled $1" "\"$1\"" "$(property "$2" _NET_WM_NAME)"; }
+
 windowsTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
 isShown() { [[ -n $(windowsTitled "$1") ]]; }
 isHidden() { ! isShown "$1"; }

@@ -47,6 +47,7 @@ testFirstTime() {
     openWindow
     local left top width height
     IFS=', x' read -r left top width height < <(place)
+    expectTitle "Orvelle Settings" "$(settingsWindow)"
     expectEqual "the window has its size" "460x640" "${width}x$height"
     ((left >= 400 && left <= 420)) || fail "the window is in the middle: $left"
     expectEqual "it can be closed and minimized" 2 \
