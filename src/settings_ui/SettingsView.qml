@@ -28,7 +28,7 @@ Item {
 
     ColumnLayout {
         id: sections
-        x: (view.width - width) / 2
+        x: Look.centred(view.width, width)
         y: view.padding
         width: Math.min(view.width, view.largestWidth) - 2 * view.padding
         spacing: 12
@@ -119,7 +119,13 @@ Item {
         SettingsSection {
             objectName: "themes"
             title: "THEME"
+            // As wide as the window, unlike what is read in lines.
+            readonly property real fullWidth: Math.min(view.width - 2 * view.padding, themeGrid.largestWidth)
+            readonly property real overhang: Math.floor(Math.max(0, fullWidth - sections.width) / 2)
+            Layout.leftMargin: -overhang
+            Layout.rightMargin: -overhang
             ThemeGrid {
+                id: themeGrid
                 Layout.fillWidth: true
                 themeManager: view.themeManager
             }

@@ -7,7 +7,8 @@ ChoiceGroup {
     id: grid
 
     required property ThemeManager themeManager
-    readonly property var columnWidths: SettingsRules.themeGridColumns(width)
+    readonly property real largestWidth: SettingsRules.largestThemeGridWidth(choices.length)
+    readonly property var columnWidths: SettingsRules.themeGridColumns(width, choices.length)
 
     name: "Theme"
     choices: SettingsRules.themes

@@ -121,12 +121,16 @@ ThemeCardLayout themeCardLayout(const QRectF& content) {
     return layout;
 }
 
-QList<double> themeGridColumns(double availableWidth) {
+QList<double> themeGridColumns(double availableWidth, int cardCount) {
     const double fitting = (availableWidth + themeGridSpacing) / (smallestColumn + themeGridSpacing);
-    const int count = fitting > 1 ? static_cast<int>(std::min(fitting, 100.0)) : 1;
+    const int count = fitting > 1 ? static_cast<int>(std::min<double>(fitting, cardCount)) : 1;
     const double columnsWidth = availableWidth - (count - 1) * themeGridSpacing;
     return sharedWidths(QList<double>(count, 0),
                         std::clamp(columnsWidth, count * smallestColumn, count * largestColumn));
+}
+
+double largestThemeGridWidth(int cardCount) {
+    return cardCount * (largestColumn + themeGridSpacing) - themeGridSpacing;
 }
 
 } // namespace orvelle

@@ -48,9 +48,12 @@ struct ThemeCardLayout {
 };
 [[nodiscard]] ThemeCardLayout themeCardLayout(const QRectF& content);
 
-/// The widths of as many equal columns as fit a width, each within its limits. They are whole, so one may
-/// be a point wider than another; with the spacing they fill the width.
-[[nodiscard]] QList<double> themeGridColumns(double availableWidth);
+/// The widths of as many equal columns as fit a width and there are cards for, each within its limits. They
+/// are whole, so one may be a point wider than another; with the spacing they fill the width.
+[[nodiscard]] QList<double> themeGridColumns(double availableWidth, int cardCount);
+
+/// What the cards fill when they stand in one row and are at their widest.
+[[nodiscard]] double largestThemeGridWidth(int cardCount);
 
 inline constexpr double themeGridSpacing = 10;
 

@@ -48,8 +48,11 @@ public:
     [[nodiscard]] static QVariantList themes() { return toQml(builtInThemes()); }
     [[nodiscard]] static double themeGridSpacing() { return orvelle::themeGridSpacing; }
 
-    Q_INVOKABLE static QVariantList themeGridColumns(double width) {
-        return toQml(orvelle::themeGridColumns(width));
+    Q_INVOKABLE static QVariantList themeGridColumns(double width, int cardCount) {
+        return toQml(orvelle::themeGridColumns(width, cardCount));
+    }
+    Q_INVOKABLE static double largestThemeGridWidth(int cardCount) {
+        return orvelle::largestThemeGridWidth(cardCount);
     }
     Q_INVOKABLE static QVariantList sharedWidths(const QVariantList& needed, double available) {
         return toQml(orvelle::sharedWidths(fromQml(needed), available));

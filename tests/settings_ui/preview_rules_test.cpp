@@ -170,16 +170,16 @@ TEST(ThemeCardTest, KeepsItsBarsAndDotsApartAndInside) {
 }
 
 TEST(ThemeGridTest, FitsAsManyColumnsAsTheWidthHolds) {
-    EXPECT_EQ(themeGridColumns(440), QList<double>({80, 80, 80, 80, 80}));
-    EXPECT_EQ(themeGridColumns(439).size(), 4);
-    EXPECT_EQ(themeGridColumns(169), QList<double>({120})) << "no wider than the widest";
-    EXPECT_EQ(themeGridColumns(170), QList<double>({80, 80}));
+    EXPECT_EQ(themeGridColumns(440, 12), QList<double>({80, 80, 80, 80, 80}));
+    EXPECT_EQ(themeGridColumns(439, 12).size(), 4);
+    EXPECT_EQ(themeGridColumns(169, 12), QList<double>({120})) << "no wider than the widest";
+    EXPECT_EQ(themeGridColumns(170, 12), QList<double>({80, 80}));
 }
 
 TEST(ThemeGridTest, FillsTheWidthWithColumnsOfWholePointsUnlessTheyAreAtTheirWidest) {
-    EXPECT_EQ(themeGridColumns(428), QList<double>({100, 99, 100, 99}));
+    EXPECT_EQ(themeGridColumns(428, 12), QList<double>({100, 99, 100, 99}));
     for (int width = 170; width < 700; ++width) {
-        const QList<double> columns = themeGridColumns(width);
+        const QList<double> columns = themeGridColumns(width, 12);
         double end = -themeGridSpacing;
         for (const double column : columns) {
             EXPECT_EQ(column, std::round(column));
@@ -192,11 +192,18 @@ TEST(ThemeGridTest, FillsTheWidthWithColumnsOfWholePointsUnlessTheyAreAtTheirWid
     }
 }
 
+TEST(ThemeGridTest, HasNoMoreColumnsThanCards) {
+    EXPECT_EQ(themeGridColumns(428, 3), QList<double>({120, 120, 120}));
+    EXPECT_EQ(themeGridColumns(1400, 12).size(), 12);
+    EXPECT_EQ(themeGridColumns(largestThemeGridWidth(12), 12), QList<double>(12, 120));
+    EXPECT_EQ(largestThemeGridWidth(12), 12 * 120 + 11 * themeGridSpacing);
+}
+
 TEST(ThemeGridTest, HasAColumnWhateverTheWidth) {
     for (const double width : {0.0, -10.0, std::nan(""), 10.0}) {
-        EXPECT_EQ(themeGridColumns(width).size(), 1);
+        EXPECT_EQ(themeGridColumns(width, 12).size(), 1);
     }
-    EXPECT_EQ(themeGridColumns(1e300).size(), 100);
+    EXPECT_EQ(themeGridColumns(1e300, 12).size(), 12);
 }
 
 } // namespace

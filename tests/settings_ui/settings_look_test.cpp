@@ -24,6 +24,10 @@ QFont fontOf(const QQuickItem* item) {
     return item->property("font").value<QFont>();
 }
 
+QRectF placeOf(const QQuickItem* item) {
+    return item->mapRectToScene({0, 0, item->width(), item->height()});
+}
+
 TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
     ManualAnimations animations;
     const auto passTime = [&](qint64 milliseconds) {
@@ -186,6 +190,26 @@ TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 3);
     resizeTo({600, 640});
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 6);
+    resizeTo({900, 640});
+    EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 9);
+}
+
+TEST_F(SettingsLook, KeepsTheThemesInTheMiddleOfALargeWindow) {
+    for (const int width : {700, 701, 1000, 1400, 2500}) {
+        resizeTo({width, 640});
+        const QRectF first = placeOf(control(u"Midnight"));
+        const QRectF last = placeOf(control(u"Pastel"));
+        const QRectF grid = placeOf(group(u"Theme"));
+        EXPECT_EQ(first.left(), grid.left()) << width;
+        EXPECT_LE(last.right(), grid.right()) << width;
+        EXPECT_NEAR(grid.left(), width - grid.right(), 1) << width;
+        EXPECT_EQ(first.left(), std::round(first.left())) << "crisp";
+        if (width >= 1400) {
+            EXPECT_EQ(last.top(), first.top()) << "one row";
+            EXPECT_EQ(last.right(), grid.right()) << "no column stays empty";
+        }
+        EXPECT_EQ(placeOf(item("display")).width(), 588) << "lines that are read stay short";
+    }
 }
 
 TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
