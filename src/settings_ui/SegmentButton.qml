@@ -8,6 +8,8 @@ ChoiceButton {
 
     readonly property bool followsChosen: index - 1 === group.chosenIndex
 
+    Accessible.description: modelData.help
+
     background: Item {
         Rectangle {
             anchors.fill: parent
@@ -32,5 +34,9 @@ ChoiceButton {
         text: segment.text
         symbol: segment.modelData.symbol
         isChosen: segment.checked
+    }
+    ControlHelp {
+        control: segment
+        text: segment.modelData.help
     }
 }

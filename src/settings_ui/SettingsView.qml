@@ -96,6 +96,7 @@ Item {
                     objectName: "compactMode"
                     Layout.fillWidth: true
                     text: "Compact Mode"
+                    help: SettingsRules.unchangedBarHelp
                     checked: view.settings.compactMode
                     onToggled: view.settings.compactMode = checked
                 }

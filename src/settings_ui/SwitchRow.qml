@@ -12,6 +12,7 @@ T.Switch {
     property color symbolColor: Look.secondaryLabel
     property real size: 11
     property color labelColor: Look.valueLabel
+    property string help: ""
 
     implicitWidth: implicitContentWidth + spacing + implicitIndicatorWidth + leftPadding + rightPadding
     implicitHeight: 24
@@ -29,6 +30,7 @@ T.Switch {
     Keys.onReturnPressed: switchOver()
     Keys.onEnterPressed: switchOver()
     Accessible.name: text
+    Accessible.description: help
     Accessible.onPressAction: switchOver()
     Accessible.onToggleAction: switchOver()
 
@@ -55,5 +57,9 @@ T.Switch {
         size: row.size
         labelColor: row.labelColor
         rightInset: row.implicitIndicatorWidth + row.spacing
+    }
+    ControlHelp {
+        control: row
+        text: row.help
     }
 }

@@ -8,21 +8,26 @@ namespace {
 using namespace Qt::StringLiterals;
 
 template <class Enum>
-Choice choice(Enum value, const QString& label, const QString& symbol = {}) {
-    return {static_cast<int>(value), label, symbol};
+Choice choice(Enum value, const QString& label, const QString& symbol = {}, const QString& help = {}) {
+    return {static_cast<int>(value), label, symbol, help};
 }
 
 } // namespace
 
 const QList<Choice>& cpuDisplayModeChoices() {
     using enum SettingsStore::CPUDisplayMode;
-    static const QList<Choice> choices{choice(barChart, u"Bar Chart"_s), choice(percentage, u"Percentage"_s)};
+    static const QList<Choice> choices{choice(barChart, u"Bar Chart"_s, {}, unchangedBarHelp()),
+                                       choice(percentage, u"Percentage"_s, {}, unchangedBarHelp())};
     return choices;
 }
 
 const QList<Choice>& updateIntervalChoices() {
-    static const QList<Choice> choices{
-        {1.0, u"1s"_s}, {2.0, u"2s"_s}, {3.0, u"3s"_s}, {5.0, u"5s"_s}, {10.0, u"10s"_s}};
+    const QString tooShort = u"Acts as 3s, the shortest interval"_s;
+    static const QList<Choice> choices{{1.0, u"1s"_s, {}, tooShort},
+                                       {2.0, u"2s"_s, {}, tooShort},
+                                       {3.0, u"3s"_s},
+                                       {5.0, u"5s"_s},
+                                       {10.0, u"10s"_s}};
     return choices;
 }
 
@@ -76,6 +81,10 @@ const QList<Choice>& glowIntensityChoices() {
     static const QList<Choice> choices{choice(none, u"None"_s), choice(subtle, u"Subtle"_s),
                                        choice(medium, u"Medium"_s), choice(intense, u"Intense"_s)};
     return choices;
+}
+
+QString unchangedBarHelp() {
+    return u"Changes nothing in the menu bar"_s;
 }
 
 const QList<ModuleRow>& moduleRows() {

@@ -14,10 +14,12 @@ struct Choice {
     Q_PROPERTY(QVariant value MEMBER value CONSTANT)
     Q_PROPERTY(QString label MEMBER label CONSTANT)
     Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
+    Q_PROPERTY(QString help MEMBER help CONSTANT)
 public:
     QVariant value; ///< a number: that of an enumeration's case, or seconds
     QString label;
     QString symbol = {}; ///< empty where the label stands alone
+    QString help = {};   ///< empty where nothing is to be explained
 
     bool operator==(const Choice&) const = default;
 };
@@ -31,6 +33,9 @@ public:
 [[nodiscard]] const QList<Choice>& menuBarDisplayStyleChoices();
 [[nodiscard]] const QList<Choice>& animationSpeedChoices();
 [[nodiscard]] const QList<Choice>& glowIntensityChoices();
+
+/// Explains a setting that is kept, and does not alter the menu bar.
+[[nodiscard]] QString unchangedBarHelp();
 
 /// A module with the names of the properties that its rows in the window read and write.
 struct ModuleRow {

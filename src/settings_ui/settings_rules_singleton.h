@@ -33,6 +33,7 @@ class SettingsRules : public QObject {
     Q_PROPERTY(QVariantList modules READ modules CONSTANT)
     Q_PROPERTY(QVariantList themes READ themes CONSTANT)
     Q_PROPERTY(double themeGridSpacing READ themeGridSpacing CONSTANT)
+    Q_PROPERTY(QString unchangedBarHelp READ unchangedBarHelp CONSTANT)
 
 public:
     [[nodiscard]] static QVariantList cpuDisplayModes() { return toQml(cpuDisplayModeChoices()); }
@@ -47,6 +48,7 @@ public:
     [[nodiscard]] static QVariantList modules() { return toQml(moduleRows()); }
     [[nodiscard]] static QVariantList themes() { return toQml(builtInThemes()); }
     [[nodiscard]] static double themeGridSpacing() { return orvelle::themeGridSpacing; }
+    [[nodiscard]] static QString unchangedBarHelp() { return orvelle::unchangedBarHelp(); }
 
     Q_INVOKABLE static QVariantList themeGridColumns(double width, int cardCount) {
         return toQml(orvelle::themeGridColumns(width, cardCount));
