@@ -120,14 +120,13 @@ Item {
         SettingsSection {
             objectName: "themes"
             title: "THEME"
-            // As wide as the window, unlike what is read in lines.
-            readonly property real fullWidth: Math.min(view.width - 2 * view.padding, themeGrid.largestWidth)
-            readonly property real overhang: Math.floor(Math.max(0, fullWidth - sections.width) / 2)
-            Layout.leftMargin: -overhang
-            Layout.rightMargin: -overhang
             ThemeGrid {
-                id: themeGrid
+                // As wide as the window, unlike what is read in lines.
+                readonly property real fullWidth: Math.min(view.width - 2 * view.padding, largestWidth)
+                readonly property real overhang: Math.floor(Math.max(0, fullWidth - sections.width) / 2)
                 Layout.fillWidth: true
+                Layout.leftMargin: -overhang
+                Layout.rightMargin: -overhang
                 themeManager: view.themeManager
             }
         }

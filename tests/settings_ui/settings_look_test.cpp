@@ -208,7 +208,9 @@ TEST_F(SettingsLook, KeepsTheThemesInTheMiddleOfALargeWindow) {
             EXPECT_EQ(last.top(), first.top()) << "one row";
             EXPECT_EQ(last.right(), grid.right()) << "no column stays empty";
         }
-        EXPECT_EQ(placeOf(item("display")).width(), 588) << "lines that are read stay short";
+        const QRectF lines = placeOf(item("display"));
+        EXPECT_EQ(lines.width(), 588) << "lines that are read stay short";
+        EXPECT_EQ(placeOf(item("themes")).left(), lines.left()) << "the titles stand in line";
     }
 }
 
