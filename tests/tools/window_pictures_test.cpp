@@ -14,6 +14,8 @@ protected:
     ~SettingsPicture() override { Motion::shared().setReduced(false); }
 
     FreshSettings settings;
+    SettingsPose unfolded{
+        .name = QStringLiteral("unfolded"), .size = settingsSize, .isUnfolded = true, .isWhole = true};
 };
 
 /// Of the lowest pixel that differs from the corner at the bottom; -1 when there is none.
@@ -29,8 +31,8 @@ int lowestContent(const QImage& image) {
 }
 
 TEST_F(SettingsPicture, ShowsEverythingThatTheWindowScrollsTo) {
-    const WindowPicture picture = settingsPicture(settings);
-    EXPECT_EQ(picture.name, QStringLiteral("settings"));
+    const WindowPicture picture = settingsPicture(settings, unfolded);
+    EXPECT_EQ(picture.name, unfolded.name);
     EXPECT_EQ(picture.image.width(), settingsSize.width());
     EXPECT_GT(picture.image.height(), settingsSize.height());
     // It ends with the margin below the last row, and not in the middle of something or far below.
@@ -40,13 +42,25 @@ TEST_F(SettingsPicture, ShowsEverythingThatTheWindowScrollsTo) {
 }
 
 TEST_F(SettingsPicture, ShowsWhatIsSet) {
-    const QImage before = settingsPicture(settings).image;
+    const QImage before = settingsPicture(settings, unfolded).image;
     settings.store.setSelectedThemeId(QStringLiteral("pastel"));
-    const QImage inAnotherTheme = settingsPicture(settings).image;
+    const QImage inAnotherTheme = settingsPicture(settings, unfolded).image;
     EXPECT_NE(inAnotherTheme, before);
     EXPECT_EQ(inAnotherTheme.size(), before.size());
     settings.store.setUseCustomCPUColor(true);
-    EXPECT_NE(settingsPicture(settings).image, inAnotherTheme) << "the colours of one's own are unfolded";
+    EXPECT_NE(settingsPicture(settings, unfolded).image, inAnotherTheme)
+        << "the colours of one's own are unfolded";
+}
+
+TEST_F(SettingsPicture, HasTheSizeOfItsPose) {
+    for (const SettingsPose& pose : settingsPoses()) {
+        const QImage image = settingsPicture(settings, pose).image;
+        EXPECT_EQ(image.width(), pose.size.width()) << pose.name.toStdString();
+        if (pose.isWhole)
+            EXPECT_GT(image.height(), pose.size.height()) << pose.name.toStdString();
+        else
+            EXPECT_EQ(image.height(), pose.size.height()) << pose.name.toStdString();
+    }
 }
 
 } // namespace

@@ -44,7 +44,9 @@ int paintSheets(const SnapshotArguments& arguments) {
         return fail(error->message, exitFailed);
     SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
     settings.store.setSelectedThemeId(arguments.theme);
-    const auto windows = panelPictures(monitor, settings) << settingsPicture(settings);
+    QList<WindowPicture> windows = panelPictures(monitor, settings);
+    for (const SettingsPose& pose : settingsPoses())
+        windows.append(settingsPicture(settings, pose));
     for (const WindowPicture& window : windows) {
         if (const auto error =
                 writePicture(window.image, sheetFileName(window.name, arguments.scale), arguments.directory))

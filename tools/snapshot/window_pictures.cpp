@@ -54,17 +54,29 @@ QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settin
     return pictures;
 }
 
-WindowPicture settingsPicture(FreshSettings& settings) {
+QList<SettingsPose> settingsPoses() {
+    return {{.name = QStringLiteral("settings"), .size = settingsSize, .isUnfolded = true, .isWhole = true},
+            {.name = QStringLiteral("settings-folded"), .size = settingsSize, .isWhole = true},
+            {.name = QStringLiteral("settings-small"), .size = smallestSettingsSize},
+            {.name = QStringLiteral("settings-narrow"),
+             .size = smallestSettingsSize,
+             .isUnfolded = true,
+             .isWhole = true}};
+}
+
+WindowPicture settingsPicture(FreshSettings& settings, const SettingsPose& pose) {
     const std::unique_ptr<QQmlEngine> engine = makeStillEngine();
     const std::unique_ptr<QQuickView> window =
         makeSettingsView(*engine, {.settings = settings.store, .themes = settings.themes, .quitApp = [] {}});
+    window->resize(pose.size);
     window->show();
     if (auto* overrides = window->findChild<QQuickItem*>(QStringLiteral("overrides")))
-        overrides->setProperty("showCustomColors", true);
+        overrides->setProperty("showCustomColors", pose.isUnfolded);
     (void)pictureOf(*window); // everything takes its place before the height is known
-    if (const auto* scroller = window->findChild<QQuickItem*>(QStringLiteral("scroller")))
+    const auto* scroller = window->findChild<QQuickItem*>(QStringLiteral("scroller"));
+    if (scroller != nullptr && pose.isWhole)
         growToContent(*window, *scroller);
-    return {QStringLiteral("settings"), pictureOf(*window)};
+    return {pose.name, pictureOf(*window)};
 }
 
 } // namespace orvelle

@@ -23,8 +23,19 @@ struct WindowPicture {
 /// The panels of all modules with what `monitor` holds now. Their windows are shown while they are painted.
 [[nodiscard]] QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settings);
 
-/// The settings as high as they are, with what can be unfolded unfolded. The window is shown while it is
-/// painted.
-[[nodiscard]] WindowPicture settingsPicture(FreshSettings& settings);
+/// How the settings window stands in a picture.
+struct SettingsPose {
+    QString name;            ///< of the picture
+    QSize size;              ///< points
+    bool isUnfolded = false; ///< what can be unfolded
+    bool isWhole = false;    ///< as high as everything that could be scrolled to
+};
+
+/// All of it, unfolded and folded; as it stands at its smallest; and all of it unfolded at its smallest
+/// width.
+[[nodiscard]] QList<SettingsPose> settingsPoses();
+
+/// The window is shown while it is painted.
+[[nodiscard]] WindowPicture settingsPicture(FreshSettings& settings, const SettingsPose& pose);
 
 } // namespace orvelle
