@@ -86,9 +86,25 @@ Figure meanVoltage(const std::vector<BatteryPack>& packs) {
     return firstOf(weighted, quotient(sum, count));
 }
 
-/// Minutes until `wattHours` have flowed; -1 when that cannot be told.
-std::int64_t minutesUntil(const Figure& wattHours, const Figure& watts) {
-    const Figure minutes = product(quotient(wattHours, watts ? Figure(std::abs(*watts)) : watts), 60.0);
+/// What all packs together hold and take. Packs that all count in charge are told in ampere-hours and
+/// amperes: turned into energy by one voltage and into power by another, their times would be those of
+/// neither.
+struct Store {
+    Figure held;
+    Figure full;
+    Figure flow; ///< negative while they give
+};
+
+Store storeOf(const std::vector<BatteryPack>& packs, const Flow& flow) {
+    const Figure charge = sumOverAll(packs, chargeNow);
+    if (charge && flow.amperes)
+        return {.held = charge, .full = sumOverAll(packs, chargeFull), .flow = flow.amperes};
+    return {.held = sumOverAll(packs, energyNow), .full = sumOverAll(packs, energyFull), .flow = flow.watts};
+}
+
+/// Minutes until `amount` has flowed; -1 when that cannot be told.
+std::int64_t minutesUntil(const Figure& amount, const Figure& flow) {
+    const Figure minutes = product(quotient(amount, flow ? Figure(std::abs(*flow)) : flow), 60.0);
     return minutes && *minutes >= 0 && *minutes <= longestMinutes ? rounded(*minutes) : -1;
 }
 
@@ -116,10 +132,8 @@ PackStatus parsePackStatus(std::string_view text) {
 PowerSourceDescription describePacks(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
     const bool isCharging = isAny(packs, PackStatus::charging);
     const bool isDischarging = !isCharging && (!isOnExternalPower || isAny(packs, PackStatus::discharging));
-    const Figure watts = flowInto(packs, isOnExternalPower).watts;
-    const Figure held = sumOverAll(packs, energyNow);
-    const Figure full = sumOverAll(packs, energyFull);
-    const Figure missing = held && full ? Figure(*full - *held) : std::nullopt;
+    const Store store = storeOf(packs, flowInto(packs, isOnExternalPower));
+    const Figure missing = store.held && store.full ? Figure(*store.full - *store.held) : std::nullopt;
 
     PowerSourceDescription description;
     description.currentCapacity = chargePercent(packs);
@@ -129,9 +143,10 @@ PowerSourceDescription describePacks(const std::vector<BatteryPack>& packs, bool
     description.isCharged =
         std::ranges::all_of(packs, [](const BatteryPack& pack) { return pack.status == PackStatus::full; });
     description.timeToEmpty =
-        isDischarging ? minutesGivenOr(packs, &BatteryPack::timeToEmpty, minutesUntil(held, watts)) : -1;
+        isDischarging ? minutesGivenOr(packs, &BatteryPack::timeToEmpty, minutesUntil(store.held, store.flow))
+                      : -1;
     description.timeToFullCharge =
-        isCharging ? minutesGivenOr(packs, &BatteryPack::timeToFull, minutesUntil(missing, watts)) : -1;
+        isCharging ? minutesGivenOr(packs, &BatteryPack::timeToFull, minutesUntil(missing, store.flow)) : -1;
     return description;
 }
 

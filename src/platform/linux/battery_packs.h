@@ -33,8 +33,8 @@ struct BatteryPack {
 [[nodiscard]] PackStatus parsePackStatus(std::string_view text);
 
 /// All packs as one power source. Charge is energy over full energy, whatever the packs' sizes; charging when
-/// one pack is, charged when all are. Times that the drivers do not give follow from energy and power.
-/// `packs` is not empty.
+/// one pack is, charged when all are. Times that the drivers do not give follow from energy and power, those
+/// of packs that all count in charge from charge and current. `packs` is not empty.
 [[nodiscard]] PowerSourceDescription describePacks(const std::vector<BatteryPack>& packs,
                                                    bool isOnExternalPower);
 

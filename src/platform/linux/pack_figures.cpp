@@ -12,6 +12,10 @@ Figure fromMillionths(const Reading& value) {
     return value && *value >= 0 ? Figure(static_cast<double>(*value) / 1e6) : std::nullopt;
 }
 
+bool countsInEnergy(const BatteryPack& pack) {
+    return fromMillionths(pack.energyNow).has_value();
+}
+
 /// Volts that turn energy into charge and back: those that the pack was designed for, as its maker counts,
 /// else the present ones.
 Figure countingVoltage(const BatteryPack& pack) {
@@ -68,6 +72,16 @@ Figure energyNow(const BatteryPack& pack) {
 Figure energyFull(const BatteryPack& pack) {
     return firstOf(wattHours(pack, pack.energyFull, pack.chargeFull),
                    wattHours(pack, pack.energyFullDesign, pack.chargeFullDesign));
+}
+
+Figure chargeNow(const BatteryPack& pack) {
+    return countsInEnergy(pack) ? std::nullopt : fromMillionths(pack.chargeNow);
+}
+
+Figure chargeFull(const BatteryPack& pack) {
+    if (countsInEnergy(pack))
+        return std::nullopt;
+    return firstOf(fromMillionths(pack.chargeFull), fromMillionths(pack.chargeFullDesign));
 }
 
 Figure designCapacity(const BatteryPack& pack) {

@@ -22,6 +22,11 @@ using Figure = std::optional<double>;
 [[nodiscard]] Figure energyNow(const BatteryPack& pack);
 /// Watt-hours that the full pack holds, those that it was designed for when it tells no others.
 [[nodiscard]] Figure energyFull(const BatteryPack& pack);
+/// Ampere-hours that the pack holds now; nothing when it counts in energy.
+[[nodiscard]] Figure chargeNow(const BatteryPack& pack);
+/// Ampere-hours that the full pack holds, those that it was designed for when it tells no others; nothing
+/// when it counts in energy.
+[[nodiscard]] Figure chargeFull(const BatteryPack& pack);
 /// Milliampere-hours that the pack was designed to hold, from charge or energy files.
 [[nodiscard]] Figure designCapacity(const BatteryPack& pack);
 /// Milliampere-hours that the full pack holds, from charge or energy files.

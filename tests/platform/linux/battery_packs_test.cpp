@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace orvelle::linux_platform {
@@ -91,6 +92,51 @@ TEST(BatteryPacks, ChargeFilesAloneAreEnough) {
 
 TEST(BatteryPacks, ChargeIsKnownWithoutAnyVoltage) {
     EXPECT_EQ(describe({.chargeNow = 3, .chargeFull = 4}).currentCapacity, 75);
+}
+
+/// A pack as a driver that counts in charge gives it: 1.6 of 4 Ah at 0.8 A, its voltage above the designed
+/// one.
+BatteryPack countedInCharge(PackStatus status) {
+    return {.status = status,
+            .chargeNow = 1600 * milli,
+            .chargeFull = 4000 * milli,
+            .voltageNow = 12300 * milli,
+            .voltageMinDesign = 11400 * milli,
+            .currentNow = 800 * milli};
+}
+
+TEST(BatteryPacks, TimesOfAPackThatCountsInChargeFollowFromChargeAndCurrentAlone) {
+    BatteryPack pack = countedInCharge(PackStatus::discharging);
+    EXPECT_EQ(describe(pack).timeToEmpty, 120) << "1600 mAh at 800 mA";
+    pack.status = PackStatus::charging;
+    EXPECT_EQ(describe(pack, true).timeToFullCharge, 180) << "2400 mAh at 800 mA";
+    pack.voltageNow.reset();
+    pack.voltageMinDesign.reset();
+    EXPECT_EQ(describe(pack, true).timeToFullCharge, 180) << "no voltage is needed";
+    pack.chargeFullDesign = pack.chargeFull;
+    pack.chargeFull.reset();
+    EXPECT_EQ(describe(pack, true).timeToFullCharge, 180) << "the designed charge stands in";
+}
+
+TEST(BatteryPacks, TimesOfAPackThatCountsInChargeAndTellsItsPowerFollowFromEnergy) {
+    BatteryPack pack = countedInCharge(PackStatus::discharging);
+    pack.currentNow.reset();
+    pack.powerNow = 9120 * milli;
+    EXPECT_EQ(describe(pack).timeToEmpty, 120) << "1600 mAh of 11.4 V at 9.12 W";
+}
+
+TEST(BatteryPacks, TimesOfPacksThatCountInChargeFollowFromTheirSums) {
+    BatteryPack idle = countedInCharge(PackStatus::unknown);
+    idle.currentNow.reset();
+    const std::vector packs{countedInCharge(PackStatus::discharging), idle};
+    EXPECT_EQ(describePacks(packs, false).timeToEmpty, 240) << "3200 mAh at 800 mA";
+}
+
+TEST(BatteryPacks, TimesOfPacksThatCountDifferentlyFollowFromEnergy) {
+    BatteryPack inCharge = countedInCharge(PackStatus::discharging);
+    inCharge.voltageNow = inCharge.voltageMinDesign;
+    const std::int64_t minutes = std::lround((30 + 18.24) / (10 + 9.12) * 60);
+    EXPECT_EQ(describePacks({discharging(), inCharge}, false).timeToEmpty, minutes);
 }
 
 TEST(BatteryPacks, ThePercentFileStandsInForMissingEnergy) {
