@@ -3,6 +3,8 @@
 #include "core/checked.h"
 #include "core/published.h"
 
+#include <algorithm>
+
 namespace orvelle {
 namespace {
 
@@ -35,6 +37,16 @@ DiskCounters sumOf(const std::vector<DiskCounters>& disks) {
 }
 
 } // namespace
+
+quint64 usedBytes(const DiskVolumeInfo& volume) {
+    return volume.totalSpace - std::min(volume.freeSpace, volume.totalSpace);
+}
+
+double usedFraction(const DiskVolumeInfo& volume) {
+    if (volume.totalSpace == 0)
+        return 0;
+    return static_cast<double>(usedBytes(volume)) / static_cast<double>(volume.totalSpace);
+}
 
 DiskMonitor::DiskMonitor(DiskSource& source, WallClock now, QObject* parent)
     : QObject(parent)

@@ -25,6 +25,12 @@ public:
     bool operator==(const DiskVolumeInfo&) const = default;
 };
 
+/// Bytes of the volume that are taken; 0 when it reports more free space than space.
+[[nodiscard]] quint64 usedBytes(const DiskVolumeInfo& volume);
+
+/// The taken share of the volume, 0 to 1; 0 when its size is not known.
+[[nodiscard]] double usedFraction(const DiskVolumeInfo& volume);
+
 /// Throughput of all disks together.
 struct DiskIOInfo {
     Q_GADGET

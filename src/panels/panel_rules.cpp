@@ -1,7 +1,5 @@
 #include "panels/panel_rules.h"
 
-#include "core/checked.h"
-#include "core/disk_monitor.h"
 #include "core/process_monitor.h"
 #include "panels/panel_texts.h"
 #include "settings/system_colors.h"
@@ -42,16 +40,6 @@ QColor pressureGraphColor(PressureLevel level, const QColor& moduleColor) {
         break;
     }
     return moduleColor;
-}
-
-quint64 volumeUsedBytes(const DiskVolumeInfo& volume) {
-    return checkedSubtract(volume.totalSpace, volume.freeSpace);
-}
-
-double volumeUsedFraction(const DiskVolumeInfo& volume) {
-    if (volume.totalSpace == 0)
-        return 0;
-    return static_cast<double>(volumeUsedBytes(volume)) / static_cast<double>(volume.totalSpace);
 }
 
 QColor volumeUsageColor(double usedFraction, const QColor& moduleColor) {

@@ -7,7 +7,6 @@
 /// What the panels decide from the monitors' values: levels, colours, scales and motion.
 namespace orvelle {
 
-struct DiskVolumeInfo;
 struct ProcessInfo;
 
 /// How short of memory the machine is.
@@ -24,13 +23,6 @@ enum class PressureLevel { normal, warning, critical };
 
 /// Like the badge, but `moduleColor` while the pressure is normal.
 [[nodiscard]] QColor pressureGraphColor(PressureLevel level, const QColor& moduleColor);
-
-/// Bytes of the volume that are taken. More free space than there is space stops the process: no source
-/// reports that.
-[[nodiscard]] quint64 volumeUsedBytes(const DiskVolumeInfo& volume);
-
-/// The taken share of the volume, 0 to 1; 0 when its size is not known.
-[[nodiscard]] double volumeUsedFraction(const DiskVolumeInfo& volume);
 
 /// `moduleColor` below 0.7, yellow below 0.9, else red.
 [[nodiscard]] QColor volumeUsageColor(double usedFraction, const QColor& moduleColor);

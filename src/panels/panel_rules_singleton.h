@@ -61,10 +61,10 @@ public:
         return orvelle::pressureGraphColor(pressureLevel(pressure), moduleColor);
     }
     Q_INVOKABLE static quint64 volumeUsedBytes(const orvelle::DiskVolumeInfo& volume) {
-        return orvelle::volumeUsedBytes(volume);
+        return usedBytes(volume);
     }
     Q_INVOKABLE static double volumeUsedFraction(const orvelle::DiskVolumeInfo& volume) {
-        return orvelle::volumeUsedFraction(volume);
+        return orvelle::usedFraction(volume);
     }
     Q_INVOKABLE static QColor volumeUsageColor(double usedFraction, const QColor& moduleColor) {
         return orvelle::volumeUsageColor(usedFraction, moduleColor);

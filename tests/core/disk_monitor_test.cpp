@@ -29,6 +29,30 @@ MountedVolume volumeAt(std::string path) {
     return {.path = std::move(path), .isLocal = true, .totalBytes = 1000, .freeBytes = 400};
 }
 
+DiskVolumeInfo volumeOf(quint64 totalSpace, quint64 freeSpace) {
+    DiskVolumeInfo volume;
+    volume.totalSpace = totalSpace;
+    volume.freeSpace = freeSpace;
+    return volume;
+}
+
+TEST(DiskVolume, IsUsedAsFarAsItIsNotFree) {
+    EXPECT_EQ(usedBytes(volumeOf(1000, 250)), 750U);
+    EXPECT_EQ(usedFraction(volumeOf(1000, 300)), 0.7);
+    EXPECT_EQ(usedFraction(volumeOf(1000, 1000)), 0);
+    EXPECT_EQ(usedFraction(volumeOf(1000, 0)), 1);
+}
+
+TEST(DiskVolume, OfUnknownSizeIsNotUsed) {
+    EXPECT_EQ(usedFraction(volumeOf(0, 0)), 0);
+    EXPECT_EQ(usedFraction(volumeOf(0, 5)), 0);
+}
+
+TEST(DiskVolume, WithMoreFreeSpaceThanSpaceIsNotUsed) {
+    EXPECT_EQ(usedBytes(volumeOf(1000, 1001)), 0U);
+    EXPECT_EQ(usedFraction(volumeOf(1000, 1001)), 0);
+}
+
 TEST_F(DiskMonitorTest, HasNothingToTellAfterConstruction) {
     EXPECT_TRUE(monitor.volumes().isEmpty());
     EXPECT_EQ(monitor.diskIO(), DiskMonitor::DiskIO());

@@ -92,6 +92,14 @@ TEST_F(DarwinDiskSourceTest, ValuesOfAnotherTypeAreAbsent) {
     EXPECT_EQ(readVolumes(), (std::vector<MountedVolume>{{.path = "/Volumes/Odd"}}));
 }
 
+TEST_F(DarwinDiskSourceTest, NoMoreIsFreeThanThereIs) {
+    machine().volumes = {{.path = "/", .values = {{{"local", true}, {"total", 5}, {"free", 6}}}},
+                         {.path = "/Volumes/Plain", .values = {{{"free", 6}}}}};
+    EXPECT_EQ(readVolumes(),
+              (std::vector<MountedVolume>{{.path = "/", .isLocal = true, .totalBytes = 5, .freeBytes = 5},
+                                          {.path = "/Volumes/Plain"}}));
+}
+
 TEST_F(DarwinDiskSourceTest, AVolumeThatCannotBeAskedOrHasNoPathIsLeftOut) {
     machine().volumes = {{.path = "/Volumes/Gone"},
                          {.values = Properties{{"local", true}}},

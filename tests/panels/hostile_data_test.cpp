@@ -105,6 +105,15 @@ TEST_F(HostileData, OfVolumes) {
     expectEverythingCanBeRead();
 }
 
+TEST_F(HostileData, OfAVolumeWithMoreFreeThanThereIs) {
+    machine.disk->volumes = {{.path = "/", .isLocal = true, .totalBytes = 1024, .freeBytes = 2048}};
+    sample();
+    ASSERT_NE(show(u"disk"), nullptr);
+    EXPECT_TRUE(shows(u"0.0%"));
+    EXPECT_TRUE(shows(u"0 B used"));
+    EXPECT_TRUE(shows(u"1.0 KB total"));
+}
+
 TEST_F(HostileData, OfInterfaces) {
     machine.network->entries.emplace();
     for (std::size_t index = 0; index < 60; ++index)

@@ -1,4 +1,3 @@
-#include "core/disk_monitor.h"
 #include "core/process_monitor.h"
 #include "panels/panel_rules.h"
 #include "settings/system_colors.h"
@@ -9,13 +8,6 @@ namespace orvelle {
 namespace {
 
 const QColor moduleColor(40, 80, 120);
-
-DiskVolumeInfo volumeOf(quint64 totalSpace, quint64 freeSpace) {
-    DiskVolumeInfo volume;
-    volume.totalSpace = totalSpace;
-    volume.freeSpace = freeSpace;
-    return volume;
-}
 
 ProcessInfo processOf(double cpuUsage, quint64 memoryBytes = 0, double memoryPercent = 0) {
     ProcessInfo process;
@@ -48,22 +40,12 @@ TEST(MemoryPressure, IsDrawnInTheModulesColourWhileItIsNormal) {
     EXPECT_EQ(pressureGraphColor(PressureLevel::critical, moduleColor), SystemColors::red);
 }
 
-TEST(Volume, IsUsedAsFarAsItIsNotFree) {
-    EXPECT_EQ(volumeUsedBytes(volumeOf(1000, 250)), 750U);
-    EXPECT_DOUBLE_EQ(volumeUsedFraction(volumeOf(1000, 250)), 0.75);
-    EXPECT_EQ(volumeUsedFraction(volumeOf(0, 0)), 0);
-}
-
-TEST(VolumeDeathTest, NeverHasMoreFreeSpaceThanSpace) {
-    EXPECT_DEATH(static_cast<void>(volumeUsedFraction(volumeOf(1000, 1001))), "subtraction");
-}
-
 TEST(Volume, TurnsYellowAtSeventyPercentAndRedAtNinety) {
     EXPECT_EQ(volumeUsageColor(0, moduleColor), moduleColor);
-    EXPECT_EQ(volumeUsageColor(volumeUsedFraction(volumeOf(1000, 301)), moduleColor), moduleColor);
-    EXPECT_EQ(volumeUsageColor(volumeUsedFraction(volumeOf(1000, 300)), moduleColor), SystemColors::yellow);
-    EXPECT_EQ(volumeUsageColor(volumeUsedFraction(volumeOf(1000, 101)), moduleColor), SystemColors::yellow);
-    EXPECT_EQ(volumeUsageColor(volumeUsedFraction(volumeOf(1000, 100)), moduleColor), SystemColors::red);
+    EXPECT_EQ(volumeUsageColor(0.699, moduleColor), moduleColor);
+    EXPECT_EQ(volumeUsageColor(0.7, moduleColor), SystemColors::yellow);
+    EXPECT_EQ(volumeUsageColor(0.899, moduleColor), SystemColors::yellow);
+    EXPECT_EQ(volumeUsageColor(0.9, moduleColor), SystemColors::red);
 }
 
 TEST(BatteryHealth, IsGreenAboveEightTenthsAndYellowAboveSix) {

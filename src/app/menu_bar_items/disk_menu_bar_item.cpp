@@ -51,7 +51,7 @@ ItemPart DiskMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
 std::optional<double> DiskMenuBarItem::used() const {
     if (m_monitor.volumes().isEmpty())
         return std::nullopt;
-    return usedSpaceFraction(m_monitor.volumes().first());
+    return usedFraction(m_monitor.volumes().first());
 }
 
 ItemPart DiskMenuBarItem::withUsedText(QList<ItemPart> parts) const {

@@ -4,6 +4,7 @@
 
 #include <Foundation/Foundation.h>
 
+#include <algorithm>
 #include <array>
 
 // Compiled with manual reference counting.
@@ -45,7 +46,10 @@ std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
     volume.name = stringIn(values, NSURLVolumeNameKey);
     volume.isLocal = [numberIn(values, NSURLVolumeIsLocalKey) boolValue];
     volume.totalBytes = [numberIn(values, NSURLVolumeTotalCapacityKey) longLongValue];
-    volume.freeBytes = [numberIn(values, NSURLVolumeAvailableCapacityForImportantUsageKey) longLongValue];
+    // What can be purged counts as free, and by another account than the capacity.
+    const std::int64_t freeBytes =
+        [numberIn(values, NSURLVolumeAvailableCapacityForImportantUsageKey) longLongValue];
+    volume.freeBytes = std::min(freeBytes, volume.totalBytes);
     return volume;
 }
 
