@@ -14,19 +14,19 @@ namespace {
 /// The choice is made anew after so many readings in any case: a label may be written without a mount.
 constexpr unsigned readingsPerChoice = 20;
 
-/// Up to so many volumes are measured at each reading; of more, so many in turn that none waits longer.
-constexpr std::size_t leastMeasured = 4;
-constexpr std::size_t longestTurn = 10;
-
 /// What container runtimes bind into every container. A tree of files need not hold them to be told.
 constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/hosts", "/etc/resolv.conf"};
 
 } // namespace
 
 LinuxVolumes::LinuxVolumes(std::filesystem::path root)
+    : LinuxVolumes(root, isHostRoot(root) ? hostVolumeSpace : SpaceReader()) {}
+
+LinuxVolumes::LinuxVolumes(std::filesystem::path root, SpaceReader readSpace)
     : m_root(std::move(root))
     , m_isHost(isHostRoot(m_root))
-    , m_mountinfo(m_root / "proc/self/mountinfo", KeptFile::Layout::records) {}
+    , m_mountinfo(m_root / "proc/self/mountinfo", KeptFile::Layout::records)
+    , m_readSpace(std::move(readSpace)) {}
 
 std::optional<std::vector<MountedVolume>> LinuxVolumes::read() {
     const bool mustChoose = !m_isHost || m_mountinfo.hasAnnouncedChange() || m_readingsUntilChoice == 0;
@@ -35,11 +35,10 @@ std::optional<std::vector<MountedVolume>> LinuxVolumes::read() {
         return std::nullopt;
     }
     m_readingsUntilChoice = mustChoose ? readingsPerChoice : m_readingsUntilChoice - 1;
-    if (!m_isHost)
-        measureFromTree();
+    if (m_readSpace)
+        measure();
     else
-        measure(mustChoose ? m_volumes.size()
-                           : std::max(leastMeasured, (m_volumes.size() + longestTurn - 1) / longestTurn));
+        measureFromTree();
 
     std::vector<MountedVolume> measured;
     for (const Volume& volume : m_volumes) {
@@ -58,21 +57,26 @@ bool LinuxVolumes::choose() {
         return false;
     const HiddenPaths hidden = hiddenPathsInFstab(readFile(m_root / "etc/fstab").value_or(""));
     const VolumeLabels labels(m_root);
-    m_volumes.clear();
-    m_nextToMeasure = 0;
+    std::vector<Volume> volumes;
     const auto isFile = [this](const Mount& mount) { return isSingleFile(mount); };
     std::vector<Mount> mounts = chosenVolumes(parseMountinfo(*text), hidden, isFile);
     // In a changed root directory (chroot) the kernel lists no mount at "/", yet there is one.
     if (std::ranges::find(mounts, "/", &Mount::path) == mounts.end())
         mounts.insert(mounts.begin(), Mount{.root = "/", .path = "/", .fileSystem = {}, .source = {}});
     for (const Mount& mount : mounts) {
-        MountedVolume published;
-        published.path = sanitizedName(mount.path);
-        published.name = labels.labelOf(mount);
-        published.isLocal = true;
-        m_volumes.push_back({mount.path, std::move(published), std::nullopt});
+        Volume volume = asKnownBefore(mount);
+        volume.published.path = sanitizedName(mount.path);
+        volume.published.name = labels.labelOf(mount);
+        volume.published.isLocal = true;
+        volumes.push_back(std::move(volume));
     }
+    m_volumes = std::move(volumes);
     return true;
+}
+
+LinuxVolumes::Volume LinuxVolumes::asKnownBefore(const Mount& mount) const {
+    const auto known = std::ranges::find(m_volumes, mount, &Volume::mount);
+    return known != m_volumes.end() ? *known : Volume{.mount = mount, .published = {}};
 }
 
 bool LinuxVolumes::isSingleFile(const Mount& mount) const {
@@ -86,20 +90,23 @@ bool LinuxVolumes::isSingleFile(const Mount& mount) const {
     return std::ranges::find(containerFiles, mount.path) != containerFiles.end();
 }
 
-void LinuxVolumes::measure(std::size_t count) {
-    for (std::size_t measured = 0; measured < std::min(count, m_volumes.size()); ++measured) {
-        Volume& volume = m_volumes[m_nextToMeasure];
-        volume.space = hostVolumeSpace(volume.path);
-        m_nextToMeasure = (m_nextToMeasure + 1) % m_volumes.size();
+void LinuxVolumes::measure() {
+    for (Volume& volume : m_volumes) {
+        if (volume.readingsToSkip > 0) {
+            --volume.readingsToSkip;
+            continue;
+        }
+        const SpaceAnswer answer = m_readSpace(volume.mount.path);
+        volume.space = answer.space;
+        volume.readingsToSkip = readingsToSkipAfter(answer.took);
     }
 }
 
 void LinuxVolumes::measureFromTree() {
     const auto spaces = parseVolumeSpaces(readFile(m_root / "statfs").value_or(""));
     for (Volume& volume : m_volumes) {
-        const auto position = spaces.find(volume.path);
-        if (position != spaces.end())
-            volume.space = position->second;
+        const auto position = spaces.find(volume.mount.path);
+        volume.space = position != spaces.end() ? std::optional(position->second) : std::nullopt;
     }
 }
 

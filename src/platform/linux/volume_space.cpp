@@ -16,12 +16,25 @@ VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes) {
             .freeBytes = static_cast<std::int64_t>(std::min(freeBytes, total))};
 }
 
-std::optional<VolumeSpace> hostVolumeSpace(const std::string& path) {
+SpaceAnswer hostVolumeSpace(const std::string& path) {
+    using Clock = std::chrono::steady_clock;
     struct statvfs space = {};
-    if (::statvfs(path.c_str(), &space) != 0)
-        return std::nullopt;
-    return volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
-                       saturatingMultiply(space.f_bavail, space.f_frsize));
+    const Clock::time_point start = Clock::now();
+    const bool isTold = ::statvfs(path.c_str(), &space) == 0;
+    SpaceAnswer answer{.space = std::nullopt, .took = Clock::now() - start};
+    if (isTold)
+        answer.space = volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
+                                   saturatingMultiply(space.f_bavail, space.f_frsize));
+    return answer;
+}
+
+unsigned readingsToSkipAfter(std::chrono::duration<double> took) {
+    constexpr std::chrono::milliseconds patience{50};
+    constexpr unsigned skippedPerPatience = 10;
+    constexpr double mostSkipped = 200;
+    if (took <= patience)
+        return 0;
+    return static_cast<unsigned>(std::min(took / patience * skippedPerPatience, mostSkipped));
 }
 
 std::map<std::string, VolumeSpace> parseVolumeSpaces(std::string_view text) {

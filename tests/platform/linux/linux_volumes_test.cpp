@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 namespace orvelle::linux_platform {
 namespace {
@@ -115,13 +116,78 @@ TEST_F(LinuxVolumesTest, DoesNotLeaveTheTree) {
     EXPECT_EQ(volumes.read()->size(), 2u); // the second is no file in this tree
 }
 
+/// Five volumes on an answering machine, of which some may be slow.
+class MeasuredVolumesTest : public ::testing::Test {
+protected:
+    MeasuredVolumesTest() { mount(17); }
+
+    /// Mounts the volumes, the last of them from the disk of this number.
+    void mount(int lastDisk) const {
+        std::string mounts = "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n";
+        for (int number = 2; number <= 4; ++number) {
+            const std::string digit = std::to_string(number);
+            mounts += digit + " 1 8:" + digit + " / /v" + digit + " rw - ext4 /dev/sda" + digit + " rw\n";
+        }
+        mounts += "5 1 8:" + std::to_string(lastDisk) + " / /slow rw - fuseblk /dev/sdb rw\n";
+        tree.write("proc/self/mountinfo", mounts);
+    }
+    SpaceAnswer answer(const std::string& path) {
+        ++timesAsked[path];
+        return {.space = VolumeSpace{.totalBytes = 1000, .freeBytes = timesAsked[path]}, .took = took[path]};
+    }
+    /// What is free on a volume according to the next reading; nothing when it is not listed.
+    std::optional<std::int64_t> freeOn(const std::string& path) {
+        const Volumes listed = volumes.read().value_or(Volumes());
+        const auto found = std::ranges::find(listed, path, &MountedVolume::path);
+        return found != listed.end() ? std::optional(found->freeBytes) : std::nullopt;
+    }
+
+    TemporaryTree tree;
+    std::map<std::string, int> timesAsked;
+    std::map<std::string, std::chrono::duration<double>> took;
+    LinuxVolumes volumes{tree.root(), [this](const std::string& path) { return answer(path); }};
+};
+
+TEST_F(MeasuredVolumesTest, AreAllMeasuredAtEachReading) {
+    for (int reading = 1; reading <= 25; ++reading) {
+        EXPECT_EQ(freeOn("/slow"), reading);
+        for (const char* path : {"/", "/v2", "/v3", "/v4"})
+            EXPECT_EQ(timesAsked[path], reading) << path;
+    }
+}
+
+TEST_F(MeasuredVolumesTest, AreAskedLessOftenWhileTheyTakeLong) {
+    took["/slow"] = std::chrono::milliseconds(100);
+    for (int reading = 1; reading <= 21; ++reading)
+        EXPECT_EQ(freeOn("/slow"), 1) << "what it told first is kept at reading " << reading;
+    took["/slow"] = std::chrono::milliseconds(1);
+    EXPECT_EQ(freeOn("/slow"), 2);
+    EXPECT_EQ(freeOn("/slow"), 3) << "it is quick again";
+    EXPECT_EQ(timesAsked["/"], 23) << "the others are not held up";
+}
+
+TEST_F(MeasuredVolumesTest, AreAskedAtOnceWhenAnotherDiskIsMountedInTheirPlace) {
+    took["/slow"] = std::chrono::seconds(5);
+    EXPECT_EQ(freeOn("/slow"), 1);
+    mount(33);
+    EXPECT_EQ(freeOn("/slow"), 2);
+}
+
+TEST_F(MeasuredVolumesTest, AreNeverAskedWhileTheyMayHang) {
+    tree.write("proc/self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                                      "2 1 0:40 / /net rw - nfs4 server:/ rw\n"
+                                      "3 2 8:17 / /net/disk rw - ext4 /dev/sdb1 rw\n");
+    EXPECT_EQ(volumes.read()->size(), 1U);
+    EXPECT_EQ(timesAsked, (std::map<std::string, int>{{"/", 1}}));
+}
+
 TEST(LinuxVolumesOfTheHost, ListTheRootDirectoryWithItsSpace) {
     LinuxVolumes volumes("/");
     const std::optional<Volumes> first = volumes.read();
     ASSERT_TRUE(first);
     const auto root = std::ranges::find(*first, "/", &MountedVolume::path);
     ASSERT_NE(root, first->end());
-    EXPECT_EQ(root->totalBytes, hostVolumeSpace("/")->totalBytes);
+    EXPECT_EQ(root->totalBytes, hostVolumeSpace("/").space->totalBytes);
     EXPECT_EQ(volumes.read()->size(), first->size());
 }
 

@@ -27,8 +27,19 @@ TEST(VolumeSpace, IsReadFromATextByMountPath) {
 }
 
 TEST(VolumeSpace, OfTheHostIsToldOnlyWhereSomethingIs) {
-    EXPECT_TRUE(hostVolumeSpace("/"));
-    EXPECT_FALSE(hostVolumeSpace("/no such directory"));
+    EXPECT_TRUE(hostVolumeSpace("/").space);
+    EXPECT_FALSE(hostVolumeSpace("/no such directory").space);
+    EXPECT_GT(hostVolumeSpace("/").took.count(), 0);
+}
+
+TEST(VolumeSpace, IsAskedForLessOftenTheLongerTheAnswerTakes) {
+    using std::chrono::milliseconds;
+    EXPECT_EQ(readingsToSkipAfter(milliseconds(0)), 0U);
+    EXPECT_EQ(readingsToSkipAfter(milliseconds(50)), 0U);
+    EXPECT_EQ(readingsToSkipAfter(milliseconds(51)), 10U);
+    EXPECT_EQ(readingsToSkipAfter(milliseconds(200)), 40U);
+    EXPECT_EQ(readingsToSkipAfter(std::chrono::seconds(5)), 200U) << "ten minutes at most";
+    EXPECT_EQ(readingsToSkipAfter(std::chrono::hours(24 * 365)), 200U);
 }
 
 } // namespace
