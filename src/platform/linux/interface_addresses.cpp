@@ -51,10 +51,10 @@ std::optional<InterfaceAddress> addressFrom(std::string_view name, std::string_v
 
 } // namespace
 
-std::vector<InterfaceAddress> hostAddresses() {
+std::optional<std::vector<InterfaceAddress>> hostAddresses() {
     ifaddrs* first = nullptr;
     if (::getifaddrs(&first) != 0)
-        return {};
+        return std::nullopt;
     const std::unique_ptr<ifaddrs, decltype(&::freeifaddrs)> owner(first, &::freeifaddrs);
     std::vector<InterfaceAddress> addresses;
     for (const ifaddrs* entry = first; entry != nullptr; entry = entry->ifa_next) {

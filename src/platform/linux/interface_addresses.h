@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,8 +19,11 @@ struct InterfaceAddress {
     bool operator==(const InterfaceAddress&) const = default;
 };
 
-/// The addresses of the running system in the kernel's order (getifaddrs); none when it does not tell.
-[[nodiscard]] std::vector<InterfaceAddress> hostAddresses();
+/// Tells the addresses of all interfaces; nothing when the system does not answer.
+using AddressReader = std::function<std::optional<std::vector<InterfaceAddress>>()>;
+
+/// The addresses of the running system in the kernel's order (getifaddrs).
+[[nodiscard]] std::optional<std::vector<InterfaceAddress>> hostAddresses();
 
 /// The addresses that stand beside a tree of files: an interface name and a numeric address on each line.
 /// Anything else is left out.

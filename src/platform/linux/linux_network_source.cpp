@@ -16,40 +16,45 @@ InterfaceEntry withAddress(InterfaceEntry entry, const InterfaceAddress& address
 
 } // namespace
 
-LinuxNetworkSource::LinuxNetworkSource(std::filesystem::path root)
+LinuxNetworkSource::LinuxNetworkSource(std::filesystem::path root, AddressReader readAddresses)
     : m_root(std::move(root))
+    , m_readHostAddresses(std::move(readAddresses))
     , m_counters(m_root / "proc/net/dev", KeptFile::Layout::records) {
     if (isHostRoot(m_root))
         m_watch.emplace();
 }
 
 std::optional<std::vector<InterfaceEntry>> LinuxNetworkSource::read() {
-    // Asked before the counters are read, so that a change in between is announced to the next reading.
+    // Asked before anything is read, so that a change in between is announced to the next reading.
     if (!m_watch || m_watch->mayHaveChanged())
         m_isStale = true;
     const std::optional<std::string_view> text = m_counters.read();
     if (!text)
         return std::nullopt;
     const std::vector<InterfaceCounters> interfaces = parseNetDev(*text);
-    if (m_isStale || !knowsAll(interfaces))
-        learn(interfaces);
+    if ((m_isStale || !knowsAll(interfaces)) && !learn(interfaces))
+        return std::nullopt;
 
     std::vector<InterfaceEntry> entries;
-    for (const InterfaceCounters& counters : interfaces) {
-        const KnownInterface& known = m_known.find(counters.name)->second;
-        InterfaceEntry entry;
-        entry.name = sanitizedName(counters.name);
-        if (known.state.isPort || entry.name.empty())
-            continue;
-        entry.isUp = known.state.isUp;
-        entry.isLoopback = known.state.isLoopback;
-        for (const InterfaceAddress& address : known.addresses)
-            entries.push_back(withAddress(entry, address));
-        entry.bytesIn = counters.bytesIn;
-        entry.bytesOut = counters.bytesOut;
-        entries.push_back(std::move(entry));
-    }
+    for (const InterfaceCounters& counters : interfaces)
+        addEntries(counters, entries);
     return entries;
+}
+
+void LinuxNetworkSource::addEntries(const InterfaceCounters& counters,
+                                    std::vector<InterfaceEntry>& entries) const {
+    const KnownInterface& known = m_known.find(counters.name)->second;
+    InterfaceEntry entry;
+    entry.name = sanitizedName(counters.name);
+    if (known.state.isPort || entry.name.empty())
+        return;
+    entry.isUp = known.state.isUp;
+    entry.isLoopback = known.state.isLoopback;
+    for (const InterfaceAddress& address : known.addresses)
+        entries.push_back(withAddress(entry, address));
+    entry.bytesIn = counters.bytesIn;
+    entry.bytesOut = counters.bytesOut;
+    entries.push_back(std::move(entry));
 }
 
 bool LinuxNetworkSource::knowsAll(const std::vector<InterfaceCounters>& interfaces) const {
@@ -58,21 +63,28 @@ bool LinuxNetworkSource::knowsAll(const std::vector<InterfaceCounters>& interfac
     });
 }
 
-void LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces) {
-    m_known.clear();
+/// Whether everything could be learnt. Otherwise what was known stays, and the next reading tries again.
+bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces) {
+    m_isStale = true;
+    std::optional<std::vector<InterfaceAddress>> addresses = readAddresses();
+    if (!addresses)
+        return false;
+    std::map<std::string, KnownInterface, std::less<>> known;
     for (const InterfaceCounters& counters : interfaces)
-        m_known[std::string(counters.name)].state = readInterfaceState(m_root, counters.name);
-    for (InterfaceAddress& address : readAddresses()) {
-        const auto position = m_known.find(address.interfaceName);
-        if (position != m_known.end())
+        known[std::string(counters.name)].state = readInterfaceState(m_root, counters.name);
+    for (InterfaceAddress& address : *addresses) {
+        const auto position = known.find(address.interfaceName);
+        if (position != known.end())
             position->second.addresses.push_back(std::move(address));
     }
+    m_known = std::move(known);
     m_isStale = false;
+    return true;
 }
 
-std::vector<InterfaceAddress> LinuxNetworkSource::readAddresses() const {
+std::optional<std::vector<InterfaceAddress>> LinuxNetworkSource::readAddresses() const {
     if (m_watch)
-        return hostAddresses();
+        return m_readHostAddresses();
     return parseAddresses(readFile(m_root / "addresses").value_or(""));
 }
 

@@ -16,21 +16,24 @@ namespace orvelle::linux_platform {
 /// another tree they are read each time, the addresses from its file `addresses`.
 class LinuxNetworkSource final : public NetworkSource {
 public:
-    explicit LinuxNetworkSource(std::filesystem::path root);
+    /// `readAddresses` is asked on the running system. While it does not answer there is no reading.
+    explicit LinuxNetworkSource(std::filesystem::path root, AddressReader readAddresses = hostAddresses);
 
     [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override;
 
 private:
     struct KnownInterface {
         InterfaceState state;
-        std::vector<InterfaceAddress> addresses;
+        std::vector<InterfaceAddress> addresses{};
     };
 
     [[nodiscard]] bool knowsAll(const std::vector<InterfaceCounters>& interfaces) const;
-    void learn(const std::vector<InterfaceCounters>& interfaces);
-    [[nodiscard]] std::vector<InterfaceAddress> readAddresses() const;
+    [[nodiscard]] bool learn(const std::vector<InterfaceCounters>& interfaces);
+    [[nodiscard]] std::optional<std::vector<InterfaceAddress>> readAddresses() const;
+    void addEntries(const InterfaceCounters& counters, std::vector<InterfaceEntry>& entries) const;
 
     std::filesystem::path m_root;
+    AddressReader m_readHostAddresses;
     KeptFile m_counters;
     /// Empty when the root is not the running system.
     std::optional<InterfaceWatch> m_watch;

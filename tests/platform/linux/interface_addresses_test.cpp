@@ -31,7 +31,9 @@ TEST(InterfaceAddresses, LeaveOutWhatIsNoAddress) {
 }
 
 TEST(InterfaceAddresses, OfTheHostNameAnInterfaceAndAreNumeric) {
-    for (const InterfaceAddress& address : hostAddresses()) {
+    const std::optional<Addresses> addresses = hostAddresses();
+    ASSERT_TRUE(addresses);
+    for (const InterfaceAddress& address : *addresses) {
         EXPECT_FALSE(address.interfaceName.empty());
         EXPECT_EQ(parseAddresses(address.interfaceName + " " + address.text), Addresses{address});
     }

@@ -6,11 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sys/resource.h>
 
 namespace orvelle::linux_platform {
 namespace {
 
 using Entries = std::vector<InterfaceEntry>;
+using Addresses = std::vector<InterfaceAddress>;
 
 class LinuxNetworkSourceTest : public ::testing::Test {
 protected:
@@ -129,13 +131,30 @@ TEST(LinuxNetworkSourceOfTheHost, TellsTheAddressesThatTheKernelLists) {
         if (!address.empty())
             told.emplace_back(entry.name, address);
     }
-    for (const InterfaceAddress& address : hostAddresses())
+    for (const InterfaceAddress& address : hostAddresses().value_or(Addresses()))
         listed.emplace_back(address.interfaceName, address.text);
     std::ranges::sort(told);
     std::ranges::sort(listed);
     EXPECT_FALSE(told.empty()) << "there is a loopback at least";
     EXPECT_TRUE(std::ranges::includes(listed, told))
         << "ports of a bridge may be missing, no more may be told";
+}
+
+TEST(LinuxNetworkSourceOfTheHost, HasNoReadingWhileAddressesFailAndAsksAgainAtEachOne) {
+    int timesAsked = 0;
+    bool isAnswering = false;
+    LinuxNetworkSource source("/", [&]() -> std::optional<Addresses> {
+        ++timesAsked;
+        return isAnswering ? hostAddresses() : std::nullopt;
+    });
+    EXPECT_FALSE(source.read());
+    EXPECT_FALSE(source.read());
+    EXPECT_EQ(timesAsked, 2);
+    isAnswering = true;
+    const std::optional<Entries> answered = source.read();
+    ASSERT_TRUE(answered);
+    EXPECT_EQ(withoutCounters(*answered), withoutCounters(*LinuxNetworkSource("/").read()));
+    EXPECT_EQ(timesAsked, 3);
 }
 
 enum class AddressOutcome {
@@ -171,6 +190,47 @@ AddressOutcome followAnAddress() {
         return AddressOutcome::notPermitted;
     return loopbackAddresses(source) == std::vector<std::string>{"127.0.0.2"} ? AddressOutcome::asExpected
                                                                               : AddressOutcome::wrongAfter;
+}
+
+/// Has no number left for another descriptor while it lives, as a program that has opened too many files.
+class NoDescriptorLeft {
+public:
+    NoDescriptorLeft() {
+        ::getrlimit(RLIMIT_NOFILE, &m_usual);
+        rlimit none = m_usual;
+        none.rlim_cur = 0;
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoDescriptorLeft() { ::setrlimit(RLIMIT_NOFILE, &m_usual); }
+    NoDescriptorLeft(const NoDescriptorLeft&) = delete;
+    NoDescriptorLeft& operator=(const NoDescriptorLeft&) = delete;
+
+private:
+    rlimit m_usual{};
+};
+
+AddressOutcome followAnAddressThatCannotBeAskedFor() {
+    if (!enterOwnNetwork())
+        return AddressOutcome::notPermitted;
+    LinuxNetworkSource source("/");
+    if (loopbackAddresses(source) != std::vector<std::string>{"127.0.0.1"})
+        return AddressOutcome::wrongBefore;
+    if (!giveLoopbackAddress("127.0.0.2"))
+        return AddressOutcome::notPermitted;
+    {
+        const NoDescriptorLeft exhausted;
+        if (source.read())
+            return AddressOutcome::changedUnannounced;
+    }
+    return loopbackAddresses(source) == std::vector<std::string>{"127.0.0.2"} ? AddressOutcome::asExpected
+                                                                              : AddressOutcome::wrongAfter;
+}
+
+TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressOnceItCanBeAskedFor) {
+    const auto outcome = inChildProcess(followAnAddressThatCannotBeAskedFor);
+    if (outcome == AddressOutcome::notPermitted)
+        GTEST_SKIP() << "this system does not let a process have a network of its own";
+    EXPECT_EQ(outcome, AddressOutcome::asExpected);
 }
 
 TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressAtTheNextReading) {
