@@ -3,7 +3,6 @@
 #include "core/checked.h"
 #include "core/published.h"
 
-#include <algorithm>
 #include <array>
 
 namespace orvelle {
@@ -48,6 +47,7 @@ std::map<QString, NetworkInterfaceInfo> groupedByName(const std::vector<Interfac
         if (isNew) {
             position->second.name = name;
             position->second.displayName = interfaceDisplayName(name);
+            position->second.defaultRouteMetric = entry.defaultRouteMetric;
         }
         addEntry(position->second, entry);
     }
@@ -57,6 +57,12 @@ std::map<QString, NetworkInterfaceInfo> groupedByName(const std::vector<Interfac
 /// An interface that never carried a byte and has no address is of no interest to the user.
 bool isListed(const NetworkInterfaceInfo& info) {
     return info.bytesIn != 0 || info.bytesOut != 0 || info.ipv4Address.has_value();
+}
+
+/// The lowest rank comes first: any default route before none.
+quint64 primaryRank(const NetworkInterfaceInfo& info) {
+    constexpr quint64 withoutRoute = quint64{1} << 32;
+    return info.defaultRouteMetric ? *info.defaultRouteMetric : withoutRoute;
 }
 
 } // namespace
@@ -126,9 +132,12 @@ void NetworkMonitor::publishInterfaces(const InterfacesByName& interfaces) {
 }
 
 void NetworkMonitor::publishPrimaryAddresses() {
-    const auto primary = std::ranges::find_if(
-        m_interfaces, [](const InterfaceInfo& info) { return info.ipv4Address.has_value(); });
-    if (primary == m_interfaces.end())
+    const InterfaceInfo* primary = nullptr;
+    for (const InterfaceInfo& info : m_interfaces) {
+        if (info.ipv4Address && (primary == nullptr || primaryRank(info) < primaryRank(*primary)))
+            primary = &info;
+    }
+    if (primary == nullptr)
         return;
     publish(this, m_primaryIPv4, primary->ipv4Address.value_or(noAddress),
             &NetworkMonitor::primaryIPv4Changed);

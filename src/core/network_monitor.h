@@ -33,6 +33,8 @@ public:
     double uploadSpeed = 0;             ///< bytes per second sent since the previous sample
     std::optional<QString> ipv4Address; ///< in numeric form
     std::optional<QString> ipv6Address; ///< in numeric form, never link-local
+    /// Metric of the IPv4 default route that leads here; nothing where none does or the system does not tell.
+    std::optional<quint32> defaultRouteMetric;
 
     [[nodiscard]] QVariant ipv4AddressValue() const { return valueOrNull(ipv4Address); }
     [[nodiscard]] QVariant ipv6AddressValue() const { return valueOrNull(ipv6Address); }
@@ -73,8 +75,9 @@ public:
     /// The total speeds of the last samples, oldest first, at most `maxHistoryCount`.
     [[nodiscard]] const QList<double>& downloadHistory() const { return m_downloadHistory; }
     [[nodiscard]] const QList<double>& uploadHistory() const { return m_uploadHistory; }
-    /// Addresses of the first listed interface that has an IPv4 address, "N/A" where there is none. While no
-    /// interface has an IPv4 address both stay what they were.
+    /// Addresses of that listed interface with an IPv4 address to which the default route of the lowest
+    /// metric leads, or of the first one; "N/A" where there is none. While no interface has an IPv4 address
+    /// both stay what they were.
     [[nodiscard]] const QString& primaryIPv4() const { return m_primaryIPv4; }
     [[nodiscard]] const QString& primaryIPv6() const { return m_primaryIPv6; }
 

@@ -27,6 +27,38 @@ TEST(InterfaceDisplayName, IsTheNameItselfWhereNoPrefixFits) {
     EXPECT_EQ(interfaceDisplayName(QString()), QString());
 }
 
+InterfaceEntry withRoute(std::string name, std::string address, std::uint32_t metric) {
+    InterfaceEntry entry = withIPv4(std::move(name), std::move(address));
+    entry.defaultRouteMetric = metric;
+    return entry;
+}
+
+TEST_F(NetworkMonitorTest, PrimaryAddressesAreThoseOfTheDefaultRouteWithTheLowestMetric) {
+    updateWith({withIPv4("docker0", "172.17.0.1"), withRoute("wlp2s0", "192.0.2.2", 600),
+                withRoute("enp3s0", "192.0.2.3", 100), withIPv6("enp3s0", "2001:db8::3")});
+    EXPECT_EQ(monitor.primaryIPv4(), u"192.0.2.3"_s);
+    EXPECT_EQ(monitor.primaryIPv6(), u"2001:db8::3"_s);
+    updateWith({withIPv4("docker0", "172.17.0.1"), withRoute("wlp2s0", "192.0.2.2", 0xFFFFFFFF)});
+    EXPECT_EQ(monitor.primaryIPv4(), u"192.0.2.2"_s) << "the only route, however dear";
+    EXPECT_EQ(monitor.primaryIPv6(), u"N/A"_s);
+}
+
+TEST_F(NetworkMonitorTest, PrimaryAddressesAreThoseOfTheFirstNameOfRoutesAlike) {
+    updateWith({withRoute("b", "192.0.2.2", 0), withRoute("c", "192.0.2.3", 0), withIPv4("a", "192.0.2.1")});
+    EXPECT_EQ(monitor.primaryIPv4(), u"192.0.2.2"_s);
+}
+
+TEST_F(NetworkMonitorTest, PrimaryAddressesAreNotThoseOfARouteWithoutAnAddress) {
+    InterfaceEntry tunnel = up("tun0", 5, 5);
+    tunnel.defaultRouteMetric = 0;
+    InterfaceEntry down = withRoute("eth1", "192.0.2.9", 1);
+    down.isUp = false;
+    updateWith({tunnel, down, withIPv4("docker0", "172.17.0.1"), withRoute("eth0", "192.0.2.1", 5)});
+    EXPECT_EQ(monitor.primaryIPv4(), u"192.0.2.1"_s);
+    updateWith({tunnel, down, withIPv4("docker0", "172.17.0.1")});
+    EXPECT_EQ(monitor.primaryIPv4(), u"172.17.0.1"_s);
+}
+
 TEST_F(NetworkMonitorTest, LeavesOutLoopbacksAndWhatIsDown) {
     InterfaceEntry loopback = up("lo0", 10, 10);
     loopback.isLoopback = true;

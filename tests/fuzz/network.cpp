@@ -1,4 +1,5 @@
 #include "parsers.h"
+#include "platform/linux/default_routes.h"
 #include "platform/linux/interface_addresses.h"
 #include "platform/linux/interface_state.h"
 #include "platform/linux/net_dev.h"
@@ -30,6 +31,16 @@ void fuzzAddresses(std::string_view text) {
         written += address.interfaceName + ' ' + address.text + '\n';
     }
     require(parseAddresses(written) == addresses, "an address that was read is read again as it is");
+}
+
+void fuzzDefaultRoutes(std::string_view text) {
+    const DefaultRoutes metrics = parseDefaultRoutes(text);
+    std::string written;
+    for (const auto& [name, metric] : metrics) {
+        require(!name.empty() && text.find(name) != std::string_view::npos, "a name stands in the text");
+        written += name + "\t00000000\t0\t0001\t0\t0\t" + std::to_string(metric) + "\t00000000\n";
+    }
+    require(parseDefaultRoutes(written) == metrics, "a route that was read is read again as it is");
 }
 
 /// The first line is the text of `flags`, the rest that of `operstate`.

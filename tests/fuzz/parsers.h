@@ -12,6 +12,7 @@ void fuzzAddresses(std::string_view text);
 void fuzzArcStatistics(std::string_view text);
 void fuzzAttribute(std::string_view text);
 void fuzzBattery(std::string_view text);
+void fuzzDefaultRoutes(std::string_view text);
 void fuzzDiskstats(std::string_view text);
 void fuzzEscapes(std::string_view text);
 void fuzzExecutablePath(std::string_view text);
@@ -41,6 +42,7 @@ inline constexpr std::array parsers{
     Parser{"ArcStatistics", fuzzArcStatistics},
     Parser{"Attribute", fuzzAttribute},
     Parser{"Battery", fuzzBattery},
+    Parser{"DefaultRoutes", fuzzDefaultRoutes},
     Parser{"Diskstats", fuzzDiskstats},
     Parser{"Escapes", fuzzEscapes},
     Parser{"ExecutablePath", fuzzExecutablePath},

@@ -19,6 +19,9 @@ struct InterfaceEntry {
     std::string ipv6Address{}; ///< in numeric form, link-local ones included; empty when the entry tells none
     std::uint64_t bytesIn = 0; ///< received since the interface appeared
     std::uint64_t bytesOut = 0; ///< sent since the interface appeared
+    /// Metric of the IPv4 default route that leads to the interface, the lowest of several; nothing where
+    /// none leads there or the system does not tell. In every entry of the interface.
+    std::optional<std::uint32_t> defaultRouteMetric{};
 
     bool operator==(const InterfaceEntry&) const = default;
 };

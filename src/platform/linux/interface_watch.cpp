@@ -12,14 +12,20 @@ namespace {
 
 constexpr unsigned callsPerAttempt = 10;
 
-/// A socket that hears of links and addresses; -1 when there is none to be had.
-int openSocket() {
+unsigned groupsOf(InterfaceWatch::Subject subject) {
+    if (subject == InterfaceWatch::Subject::ipv4Routes)
+        return RTMGRP_IPV4_ROUTE;
+    return RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR;
+}
+
+/// A socket that hears of these groups; -1 when there is none to be had.
+int openSocket(unsigned groups) {
     const int descriptor = ::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE);
     if (descriptor < 0)
         return -1;
     sockaddr_nl address{};
     address.nl_family = AF_NETLINK;
-    address.nl_groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR;
+    address.nl_groups = groups;
     const void* untyped = &address;
     if (::bind(descriptor, static_cast<const sockaddr*>(untyped), sizeof address) != 0) {
         ::close(descriptor);
@@ -47,7 +53,7 @@ bool InterfaceWatch::mayHaveChanged() {
         return takeAnnouncements();
     const bool isDue = m_callsWithoutSocket++ % callsPerAttempt == 0;
     if (isDue)
-        m_socket = openSocket();
+        m_socket = openSocket(groupsOf(m_subject));
     return isDue;
 }
 

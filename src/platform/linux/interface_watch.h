@@ -2,13 +2,16 @@
 
 namespace orvelle::linux_platform {
 
-/// Tells when the running system's interfaces or addresses may have changed, so that they need not be asked
-/// for at each sample: the kernel announces changes on a routing socket (rtnetlink(7)). Asking costs one
-/// system call while nothing changes. Where no such socket can be had, every tenth question is answered yes.
-/// A socket that fails is replaced, with a yes for what it may have missed.
+/// Tells when the running system's interfaces and addresses, or its routes, may have changed, so that they
+/// need not be asked for at each sample: the kernel announces changes on a routing socket (rtnetlink(7)).
+/// Asking costs one system call while nothing changes. Where no such socket can be had, every tenth question
+/// is answered yes. A socket that fails is replaced, with a yes for what it may have missed.
 class InterfaceWatch {
 public:
-    InterfaceWatch() = default;
+    enum class Subject { interfacesAndAddresses, ipv4Routes };
+
+    explicit InterfaceWatch(Subject subject)
+        : m_subject(subject) {}
     ~InterfaceWatch();
     InterfaceWatch(const InterfaceWatch&) = delete;
     InterfaceWatch& operator=(const InterfaceWatch&) = delete;
@@ -21,6 +24,7 @@ private:
     [[nodiscard]] bool takeAnnouncements();
     void close();
 
+    Subject m_subject;
     int m_socket = -1;
     unsigned m_callsWithoutSocket = 0;
 };

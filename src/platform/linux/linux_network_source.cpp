@@ -8,6 +8,9 @@
 namespace orvelle::linux_platform {
 namespace {
 
+/// The kernel lists the default routes first, and a router may have a million others.
+constexpr std::size_t readOfRoutes = std::size_t{64} << 10;
+
 InterfaceEntry withAddress(InterfaceEntry entry, const InterfaceAddress& address) {
     const bool isIPv4 = address.family == InterfaceAddress::Family::ipv4;
     (isIPv4 ? entry.ipv4Address : entry.ipv6Address) = address.text;
@@ -20,20 +23,26 @@ LinuxNetworkSource::LinuxNetworkSource(std::filesystem::path root, AddressReader
     : m_root(std::move(root))
     , m_readHostAddresses(std::move(readAddresses))
     , m_counters(m_root / "proc/net/dev", KeptFile::Layout::records) {
-    if (isHostRoot(m_root))
-        m_watch.emplace();
+    if (!isHostRoot(m_root))
+        return;
+    m_watch.emplace(InterfaceWatch::Subject::interfacesAndAddresses);
+    m_routeWatch.emplace(InterfaceWatch::Subject::ipv4Routes);
 }
 
 std::optional<std::vector<InterfaceEntry>> LinuxNetworkSource::read() {
     // Asked before anything is read, so that a change in between is announced to the next reading.
     if (!m_watch || m_watch->mayHaveChanged())
         m_isStale = true;
+    if (!m_routeWatch || m_routeWatch->mayHaveChanged())
+        m_areRoutesStale = true;
     const std::optional<std::string_view> text = m_counters.read();
     if (!text)
         return std::nullopt;
     const std::vector<InterfaceCounters> interfaces = parseNetDev(*text);
     if ((m_isStale || !knowsAll(interfaces)) && !learn(interfaces))
         return std::nullopt;
+    if (m_areRoutesStale)
+        learnRoutes();
 
     std::vector<InterfaceEntry> entries;
     for (const InterfaceCounters& counters : interfaces)
@@ -50,6 +59,9 @@ void LinuxNetworkSource::addEntries(const InterfaceCounters& counters,
         return;
     entry.isUp = known.state.isUp;
     entry.isLoopback = known.state.isLoopback;
+    const auto route = m_defaultRoutes.find(counters.name);
+    if (route != m_defaultRoutes.end())
+        entry.defaultRouteMetric = route->second;
     for (const InterfaceAddress& address : known.addresses)
         entries.push_back(withAddress(entry, address));
     entry.bytesIn = counters.bytesIn;
@@ -79,7 +91,15 @@ bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces)
     }
     m_known = std::move(known);
     m_isStale = false;
+    // The kernel removes the routes of a link that goes down without announcing it.
+    m_areRoutesStale = true;
     return true;
+}
+
+void LinuxNetworkSource::learnRoutes() {
+    const std::optional<std::string> text = readFile(m_root / "proc/net/route", readOfRoutes);
+    m_defaultRoutes = parseDefaultRoutes(text.value_or(""));
+    m_areRoutesStale = !text;
 }
 
 std::optional<std::vector<InterfaceAddress>> LinuxNetworkSource::readAddresses() const {

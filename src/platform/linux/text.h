@@ -66,6 +66,16 @@ requires std::integral<Number> || std::floating_point<Number>
     return value;
 }
 
+/// The hexadecimal number that `word` begins with, a leading 0x allowed; nothing when there is none or it
+/// does not fit.
+[[nodiscard]] inline std::optional<std::uint32_t> parseHexadecimal(std::string_view word) {
+    if (word.starts_with("0x"))
+        word.remove_prefix(2);
+    std::uint32_t value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value, 16);
+    return error == std::errc{} ? std::optional(value) : std::nullopt;
+}
+
 /// The next word of a line as a number.
 template <class Number>
 [[nodiscard]] std::optional<Number> takeNumber(std::string_view& line) {

@@ -10,16 +10,27 @@
 namespace orvelle::linux_platform {
 namespace {
 
-enum class WatchOutcome { asExpected, notPermitted, noFirstChange, neverQuiet, linkMissed, addressMissed };
+using Subject = InterfaceWatch::Subject;
+
+enum class WatchOutcome {
+    asExpected,
+    notPermitted,
+    noFirstChange,
+    neverQuiet,
+    linkMissed,
+    addressMissed,
+    routeMissed
+};
 
 /// Watches a network of this process's own, in which nothing but the test changes anything.
 WatchOutcome watchOwnNetwork() {
     if (!enterOwnNetwork())
         return WatchOutcome::notPermitted;
-    InterfaceWatch watch;
-    if (!watch.mayHaveChanged())
+    InterfaceWatch watch(Subject::interfacesAndAddresses);
+    InterfaceWatch routes(Subject::ipv4Routes);
+    if (!watch.mayHaveChanged() || !routes.mayHaveChanged())
         return WatchOutcome::noFirstChange;
-    if (watch.mayHaveChanged() || watch.mayHaveChanged())
+    if (routes.mayHaveChanged() || watch.mayHaveChanged() || watch.mayHaveChanged())
         return WatchOutcome::neverQuiet;
     if (!changeLoopbackSize())
         return WatchOutcome::notPermitted;
@@ -29,6 +40,13 @@ WatchOutcome watchOwnNetwork() {
         return WatchOutcome::notPermitted;
     if (!watch.mayHaveChanged())
         return WatchOutcome::addressMissed;
+    static_cast<void>(routes.mayHaveChanged()); // an address brings a route of its own
+    if (!addDefaultRoute())
+        return WatchOutcome::notPermitted;
+    if (!routes.mayHaveChanged())
+        return WatchOutcome::routeMissed;
+    if (routes.mayHaveChanged())
+        return WatchOutcome::neverQuiet;
     return watch.mayHaveChanged() ? WatchOutcome::neverQuiet : WatchOutcome::asExpected;
 }
 
@@ -42,7 +60,7 @@ TEST(InterfaceWatch, TellsOfAChangeOnceAndIsQuietElse) {
 TEST(InterfaceWatch, ReplacesASocketThatFailsAndAnswersYesForWhatWasMissed) {
     const int watched = ::dup(STDIN_FILENO); // the number that the watch's socket gets
     ::close(watched);
-    InterfaceWatch watch;
+    InterfaceWatch watch(Subject::interfacesAndAddresses);
     ASSERT_TRUE(watch.mayHaveChanged());
     int ends[2];
     ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends), 0);

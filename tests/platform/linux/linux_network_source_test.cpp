@@ -60,6 +60,17 @@ TEST_F(LinuxNetworkSourceTest, LeavesOutPortsOfABridgeWithTheirAddresses) {
     EXPECT_EQ(source.read(), (Entries{{.name = "br0", .isUp = true, .bytesIn = 100, .bytesOut = 40}}));
 }
 
+TEST_F(LinuxNetworkSourceTest, TellsTheMetricOfTheDefaultRoute) {
+    tree.write("proc/net/dev", "docker0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
+                               " enp3s0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
+    tree.write("proc/net/route", "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\n"
+                                 "enp3s0\t00000000\t0102A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n");
+    EXPECT_EQ(source.read()->front().defaultRouteMetric, std::nullopt);
+    EXPECT_EQ(source.read()->back().defaultRouteMetric, 100U);
+    tree.remove("proc/net/route");
+    EXPECT_EQ(source.read()->back().defaultRouteMetric, std::nullopt);
+}
+
 TEST_F(LinuxNetworkSourceTest, TellsNothingOfTheHost) {
     tree.write("proc/net/dev", "eth0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
                                "  lo: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
@@ -69,6 +80,7 @@ TEST_F(LinuxNetworkSourceTest, TellsNothingOfTheHost) {
     for (const InterfaceEntry& entry : *entries) {
         EXPECT_EQ(entry.ipv4Address, "");
         EXPECT_EQ(entry.ipv6Address, "");
+        EXPECT_EQ(entry.defaultRouteMetric, std::nullopt);
     }
 }
 
@@ -231,6 +243,32 @@ TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressOnceItCanBeAskedFor) {
     if (outcome == AddressOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
     EXPECT_EQ(outcome, AddressOutcome::asExpected);
+}
+
+enum class RouteOutcome { asExpected, notPermitted, routeTooEarly, routeMissed };
+
+bool hasDefaultRoute(LinuxNetworkSource& source) {
+    return std::ranges::any_of(source.read().value_or(Entries()), [](const InterfaceEntry& entry) {
+        return entry.name == "lo" && entry.defaultRouteMetric == 0U;
+    });
+}
+
+RouteOutcome followARoute() {
+    if (!enterOwnNetwork())
+        return RouteOutcome::notPermitted;
+    LinuxNetworkSource source("/");
+    if (hasDefaultRoute(source))
+        return RouteOutcome::routeTooEarly;
+    if (!addDefaultRoute())
+        return RouteOutcome::notPermitted;
+    return hasDefaultRoute(source) ? RouteOutcome::asExpected : RouteOutcome::routeMissed;
+}
+
+TEST(LinuxNetworkSourceOfTheHost, TellsANewDefaultRouteAtTheNextReading) {
+    const auto outcome = inChildProcess(followARoute);
+    if (outcome == RouteOutcome::notPermitted)
+        GTEST_SKIP() << "this system does not let a process have a network of its own";
+    EXPECT_EQ(outcome, RouteOutcome::asExpected);
 }
 
 TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressAtTheNextReading) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <arpa/inet.h>
+#include <array>
 #include <cstring>
 #include <net/if.h>
+#include <net/route.h>
 #include <netinet/in.h>
 #include <sched.h>
 #include <sys/ioctl.h>
@@ -47,6 +49,20 @@ inline bool giveLoopbackAddress(const char* numeric) {
     ::inet_pton(AF_INET, numeric, &address.sin_addr);
     std::memcpy(&request.ifr_addr, &address, sizeof address);
     return apply(SIOCSIFADDR, request);
+}
+
+/// Sends all packets into the loopback.
+inline bool addDefaultRoute() {
+    std::array<char, 3> device{"lo"};
+    rtentry route{};
+    route.rt_dst.sa_family = AF_INET;
+    route.rt_genmask.sa_family = AF_INET;
+    route.rt_flags = RTF_UP;
+    route.rt_dev = device.data();
+    const int descriptor = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const bool isAdded = descriptor >= 0 && ::ioctl(descriptor, SIOCADDRT, &route) == 0;
+    ::close(descriptor);
+    return isAdded;
 }
 
 /// Moves the calling process to a network that holds nothing but a loopback, where nobody else changes
