@@ -46,7 +46,8 @@ std::map<QString, NetworkInterfaceInfo> groupedByName(const std::vector<Interfac
         const auto [position, isNew] = interfaces.try_emplace(name);
         if (isNew) {
             position->second.name = name;
-            position->second.displayName = interfaceDisplayName(name);
+            position->second.displayName = interfaceDisplayName(name, entry.kind);
+            position->second.kind = entry.kind;
             position->second.defaultRouteMetric = entry.defaultRouteMetric;
         }
         addEntry(position->second, entry);
@@ -59,6 +60,17 @@ bool isListed(const NetworkInterfaceInfo& info) {
     return info.bytesIn != 0 || info.bytesOut != 0 || info.ipv4Address.has_value();
 }
 
+/// Lets interfaces of a known kind be told apart: those that read as another does get their names behind.
+void tellApart(QList<NetworkInterfaceInfo>& interfaces) {
+    std::map<QString, int> counts;
+    for (const NetworkInterfaceInfo& info : interfaces)
+        ++counts[info.displayName];
+    for (NetworkInterfaceInfo& info : interfaces) {
+        if (info.kind != InterfaceKind::unknown && counts[info.displayName] > 1)
+            info.displayName += u" (%1)"_s.arg(info.name);
+    }
+}
+
 /// The lowest rank comes first: any default route before none.
 quint64 primaryRank(const NetworkInterfaceInfo& info) {
     constexpr quint64 withoutRoute = quint64{1} << 32;
@@ -67,7 +79,21 @@ quint64 primaryRank(const NetworkInterfaceInfo& info) {
 
 } // namespace
 
-QString interfaceDisplayName(const QString& name) {
+QString interfaceDisplayName(const QString& name, InterfaceKind kind) {
+    switch (kind) {
+    case InterfaceKind::wifi:
+        return u"Wi-Fi"_s;
+    case InterfaceKind::ethernet:
+        return u"Ethernet"_s;
+    case InterfaceKind::bridge:
+        return u"Bridge"_s;
+    case InterfaceKind::vpnTunnel:
+        return u"VPN Tunnel"_s;
+    case InterfaceKind::cellular:
+        return u"Cellular"_s;
+    case InterfaceKind::unknown:
+        break;
+    }
     for (const DisplayName& entry : displayNames) {
         if (name.startsWith(entry.prefix))
             return entry.name;
@@ -124,6 +150,7 @@ void NetworkMonitor::publishInterfaces(const InterfacesByName& interfaces) {
         if (isListed(info))
             listed.append(info);
     }
+    tellApart(listed);
     publish(this, m_interfaces, std::move(listed), &NetworkMonitor::interfacesChanged);
     publish(this, m_totalDownloadSpeed, downloadSpeed, &NetworkMonitor::totalDownloadSpeedChanged);
     publish(this, m_totalUploadSpeed, uploadSpeed, &NetworkMonitor::totalUploadSpeedChanged);

@@ -25,14 +25,16 @@ struct NetworkInterfaceInfo {
     Q_PROPERTY(QVariant ipv4Address READ ipv4AddressValue)
     Q_PROPERTY(QVariant ipv6Address READ ipv6AddressValue)
 public:
-    QString name;                       ///< the system's name, for example "en0"
-    QString displayName;                ///< `interfaceDisplayName` of the name
+    QString name; ///< the system's name, for example "en0"
+    /// `interfaceDisplayName`, with the name behind it where two of a known kind would read alike.
+    QString displayName;
     quint64 bytesIn = 0;                ///< bytes received, cumulative as the system reports them
     quint64 bytesOut = 0;               ///< bytes sent, likewise
     double downloadSpeed = 0;           ///< bytes per second received since the previous sample
     double uploadSpeed = 0;             ///< bytes per second sent since the previous sample
     std::optional<QString> ipv4Address; ///< in numeric form
     std::optional<QString> ipv6Address; ///< in numeric form, never link-local
+    InterfaceKind kind = InterfaceKind::unknown;
     /// Metric of the IPv4 default route that leads here; nothing where none does or the system does not tell.
     std::optional<quint32> defaultRouteMetric;
 
@@ -42,8 +44,9 @@ public:
     bool operator==(const NetworkInterfaceInfo&) const = default;
 };
 
-/// What an interface is called in front of the user: by the first part of its name, else by the name itself.
-[[nodiscard]] QString interfaceDisplayName(const QString& name);
+/// What an interface is called in front of the user: by its kind; where that is unknown by the first part of
+/// its name, else by the name itself.
+[[nodiscard]] QString interfaceDisplayName(const QString& name, InterfaceKind kind = InterfaceKind::unknown);
 
 /// Samples the network interfaces that are up, loopbacks left out. Main thread only.
 class NetworkMonitor : public QObject {

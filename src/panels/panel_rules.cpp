@@ -1,5 +1,6 @@
 #include "panels/panel_rules.h"
 
+#include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "panels/panel_texts.h"
 #include "settings/system_colors.h"
@@ -99,8 +100,10 @@ double displayedFanAngle(double baseAngle, qint64 speed) {
     return isFanTurning(speed) ? baseAngle + static_cast<double>(speed) / 3000 * 18 : 0;
 }
 
-QString interfaceSymbol(const QString& name) {
-    return name.startsWith(QLatin1String("en0")) ? QStringLiteral("wifi") : QStringLiteral("cable.connector");
+QString interfaceSymbol(const NetworkInterfaceInfo& info) {
+    const bool isWiFi = info.kind == InterfaceKind::unknown ? info.name.startsWith(QLatin1String("en0"))
+                                                            : info.kind == InterfaceKind::wifi;
+    return isWiFi ? QStringLiteral("wifi") : QStringLiteral("cable.connector");
 }
 
 QString volumeSymbol(const QString& id) {

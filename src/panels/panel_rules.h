@@ -7,6 +7,7 @@
 /// What the panels decide from the monitors' values: levels, colours, scales and motion.
 namespace orvelle {
 
+struct NetworkInterfaceInfo;
 struct ProcessInfo;
 
 /// How short of memory the machine is.
@@ -59,8 +60,8 @@ enum class ProcessDisplayMode { cpu, memory };
 /// The angle in degrees at which the fan's icon is shown; 0 for a fan that stands still.
 [[nodiscard]] double displayedFanAngle(double baseAngle, qint64 speed);
 
-/// The symbol of a network interface, by the system's name of it.
-[[nodiscard]] QString interfaceSymbol(const QString& name);
+/// The symbol of a network interface, by its kind; where that is unknown, by the system's name of it.
+[[nodiscard]] QString interfaceSymbol(const NetworkInterfaceInfo& info);
 
 /// The symbol of a volume, by the path where it is mounted.
 [[nodiscard]] QString volumeSymbol(const QString& id);

@@ -4,6 +4,7 @@
 #include "charts/temperature_rules.h"
 #include "core/disk_monitor.h"
 #include "core/memory_monitor.h"
+#include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "panels/panel_rules.h"
 #include "panels/panel_texts.h"
@@ -70,7 +71,9 @@ public:
         return orvelle::volumeUsageColor(usedFraction, moduleColor);
     }
     Q_INVOKABLE static QString volumeSymbol(const QString& id) { return orvelle::volumeSymbol(id); }
-    Q_INVOKABLE static QString interfaceSymbol(const QString& name) { return orvelle::interfaceSymbol(name); }
+    Q_INVOKABLE static QString interfaceSymbol(const orvelle::NetworkInterfaceInfo& info) {
+        return orvelle::interfaceSymbol(info);
+    }
     Q_INVOKABLE static QColor batteryHealthColor(double health) {
         return orvelle::batteryHealthColor(health);
     }

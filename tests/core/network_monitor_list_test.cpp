@@ -27,6 +27,49 @@ TEST(InterfaceDisplayName, IsTheNameItselfWhereNoPrefixFits) {
     EXPECT_EQ(interfaceDisplayName(QString()), QString());
 }
 
+TEST(InterfaceDisplayName, ComesFromTheKindWhereTheSystemKnowsIt) {
+    EXPECT_EQ(interfaceDisplayName(u"wlp3s0"_s, InterfaceKind::wifi), u"Wi-Fi"_s);
+    EXPECT_EQ(interfaceDisplayName(u"en0"_s, InterfaceKind::ethernet), u"Ethernet"_s);
+    EXPECT_EQ(interfaceDisplayName(u"docker0"_s, InterfaceKind::bridge), u"Bridge"_s);
+    EXPECT_EQ(interfaceDisplayName(u"wg0"_s, InterfaceKind::vpnTunnel), u"VPN Tunnel"_s);
+    EXPECT_EQ(interfaceDisplayName(u"wwan0"_s, InterfaceKind::cellular), u"Cellular"_s);
+}
+
+InterfaceEntry ofKind(std::string name, InterfaceKind kind) {
+    InterfaceEntry entry = up(std::move(name), 1, 1);
+    entry.kind = kind;
+    return entry;
+}
+
+QStringList displayNamesOf(const QList<NetworkInterfaceInfo>& interfaces) {
+    QStringList names;
+    for (const NetworkInterfaceInfo& info : interfaces)
+        names.append(info.displayName);
+    return names;
+}
+
+TEST_F(NetworkMonitorTest, InterfacesOfAKindAreToldApartByTheirNames) {
+    const InterfaceEntry card = ofKind("wlp3s0", InterfaceKind::wifi);
+    const InterfaceEntry stick = ofKind("wlx0", InterfaceKind::wifi);
+    const InterfaceEntry cable = ofKind("enp2s0", InterfaceKind::ethernet);
+    updateWith({card, cable});
+    EXPECT_EQ(displayNamesOf(monitor.interfaces()), QStringList({u"Ethernet"_s, u"Wi-Fi"_s}));
+    updateWith({card, stick, cable});
+    EXPECT_EQ(displayNamesOf(monitor.interfaces()),
+              QStringList({u"Ethernet"_s, u"Wi-Fi (wlp3s0)"_s, u"Wi-Fi (wlx0)"_s}));
+    InterfaceEntry quiet = stick;
+    quiet.bytesIn = quiet.bytesOut = 0;
+    updateWith({card, quiet, cable});
+    EXPECT_EQ(displayNamesOf(monitor.interfaces()), QStringList({u"Ethernet"_s, u"Wi-Fi"_s}))
+        << "what is not listed reads like nothing";
+}
+
+TEST_F(NetworkMonitorTest, InterfacesOfNoKnownKindKeepTheNamesOfTheTable) {
+    updateWith({up("en1", 1, 1), up("en2", 1, 1), ofKind("x0", InterfaceKind::ethernet)});
+    EXPECT_EQ(displayNamesOf(monitor.interfaces()),
+              QStringList({u"Ethernet"_s, u"Ethernet"_s, u"Ethernet (x0)"_s}));
+}
+
 InterfaceEntry withRoute(std::string name, std::string address, std::uint32_t metric) {
     InterfaceEntry entry = withIPv4(std::move(name), std::move(address));
     entry.defaultRouteMetric = metric;

@@ -1,8 +1,10 @@
 #include "parsers.h"
 #include "platform/linux/default_routes.h"
 #include "platform/linux/interface_addresses.h"
+#include "platform/linux/interface_kind.h"
 #include "platform/linux/interface_state.h"
 #include "platform/linux/net_dev.h"
+#include "platform/linux/sysfs.h"
 #include "platform/linux/text.h"
 #include "require.h"
 
@@ -41,6 +43,23 @@ void fuzzDefaultRoutes(std::string_view text) {
         written += name + "\t00000000\t0\t0001\t0\t0\t" + std::to_string(metric) + "\t00000000\n";
     }
     require(parseDefaultRoutes(written) == metrics, "a route that was read is read again as it is");
+}
+
+/// The first two lines are the texts of `type` and of `tun_flags`, the rest that of `uevent`.
+void fuzzInterfaceKind(std::string_view text) {
+    InterfaceTraits traits{.linkType = parseAttributeNumber(takeLine(text)),
+                           .tunnelFlags = parseHexadecimal(takeLine(text))};
+    traits.uevent = text;
+    const InterfaceKind alone = interfaceKind(traits);
+    require(alone != InterfaceKind::ethernet || text.find("dsa") != std::string_view::npos,
+            "without a device only a switch's port is Ethernet");
+    traits.hasDevice = true;
+    const InterfaceKind withDevice = interfaceKind(traits);
+    require(withDevice == alone || withDevice == InterfaceKind::ethernet, "a device makes Ethernet at most");
+    traits.isBridge = true;
+    require(interfaceKind(traits) == InterfaceKind::bridge, "a bridge is one whatever else it says");
+    traits.isWireless = true;
+    require(interfaceKind(traits) == InterfaceKind::wifi, "what is wireless is Wi-Fi");
 }
 
 /// The first line is the text of `flags`, the rest that of `operstate`.

@@ -18,6 +18,7 @@ void fuzzEscapes(std::string_view text);
 void fuzzExecutablePath(std::string_view text);
 void fuzzFstab(std::string_view text);
 void fuzzHwmonNames(std::string_view text);
+void fuzzInterfaceKind(std::string_view text);
 void fuzzInterfaceState(std::string_view text);
 void fuzzLoadAverages(std::string_view text);
 void fuzzMeminfo(std::string_view text);
@@ -48,6 +49,7 @@ inline constexpr std::array parsers{
     Parser{"ExecutablePath", fuzzExecutablePath},
     Parser{"Fstab", fuzzFstab},
     Parser{"HwmonNames", fuzzHwmonNames},
+    Parser{"InterfaceKind", fuzzInterfaceKind},
     Parser{"InterfaceState", fuzzInterfaceState},
     Parser{"LoadAverages", fuzzLoadAverages},
     Parser{"Meminfo", fuzzMeminfo},

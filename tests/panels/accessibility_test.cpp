@@ -222,6 +222,35 @@ TEST_F(PanelAccessibility, ExplainsTheButtonUnderThePointerAndUnderTheFocus) {
     EXPECT_TRUE(waitUntil([&] { return tooltip->isVisible(); }));
 }
 
+TEST_F(PanelAccessibility, TellsTheSystemsNameOfAnInterfaceThatIsShownByAnother) {
+    machine.network->entries = {
+        {.name = "wlp3s0", .isUp = true, .ipv4Address = "192.0.2.2", .kind = InterfaceKind::wifi}};
+    sample();
+    ASSERT_NE(show(u"network"), nullptr);
+    const QQuickItem* loader = item("nameTooltip");
+    ASSERT_NE(loader, nullptr);
+    QQuickItem* row = loader->parentItem()->parentItem();
+    const auto description = [row] {
+        return QAccessible::queryAccessibleInterface(row)->text(QAccessible::Description);
+    };
+    const auto tooltip = [loader] { return loader->property("item").value<QQuickItem*>(); };
+    EXPECT_TRUE(shows(u"Wi-Fi"));
+    EXPECT_EQ(description(), QStringLiteral("wlp3s0"));
+    EXPECT_EQ(tooltip(), nullptr);
+
+    QTest::mouseMove(panel.get(), row->mapToScene({40, row->height() / 2}).toPoint());
+    EXPECT_TRUE(waitUntil([&] { return tooltip() != nullptr && tooltip()->isVisible(); }));
+    EXPECT_TRUE(shows(u"wlp3s0"));
+    EXPECT_TRUE(QRectF(0, 0, 320, 500).contains(tooltip()->mapRectToScene(tooltip()->boundingRect())));
+
+    machine.network->entries->front().kind = InterfaceKind::unknown;
+    sample();
+    settle();
+    EXPECT_EQ(shownTexts().count(QStringLiteral("wlp3s0")), 1);
+    EXPECT_EQ(description(), QString()) << "the row says that name already";
+    EXPECT_EQ(tooltip(), nullptr);
+}
+
 TEST_F(PanelAccessibility, ExplainsTheButtonForAsLongAsOneReads) {
     ASSERT_NE(show(u"cpu"), nullptr);
     QQuickItem* tooltip = item("tooltip");

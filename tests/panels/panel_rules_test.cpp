@@ -1,3 +1,4 @@
+#include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "panels/panel_rules.h"
 #include "settings/system_colors.h"
@@ -103,10 +104,25 @@ TEST(FanIcon, IsAheadOfItsAngleByItsSpeed) {
     EXPECT_DOUBLE_EQ(displayedFanAngle(0, 1500), 9);
 }
 
-TEST(PanelSymbols, TellTheFirstInterfaceFromTheOthers) {
-    EXPECT_EQ(interfaceSymbol(QStringLiteral("en0")), QStringLiteral("wifi"));
-    EXPECT_EQ(interfaceSymbol(QStringLiteral("en1")), QStringLiteral("cable.connector"));
-    EXPECT_EQ(interfaceSymbol(QStringLiteral("bridge0")), QStringLiteral("cable.connector"));
+QString symbolOf(const char* name, InterfaceKind kind = InterfaceKind::unknown) {
+    NetworkInterfaceInfo info;
+    info.name = QString::fromLatin1(name);
+    info.kind = kind;
+    return interfaceSymbol(info);
+}
+
+TEST(PanelSymbols, TellTheFirstInterfaceFromTheOthersWhereNoKindIsKnown) {
+    EXPECT_EQ(symbolOf("en0"), QStringLiteral("wifi"));
+    EXPECT_EQ(symbolOf("en1"), QStringLiteral("cable.connector"));
+    EXPECT_EQ(symbolOf("bridge0"), QStringLiteral("cable.connector"));
+}
+
+TEST(PanelSymbols, TellWiFiFromTheOtherKinds) {
+    EXPECT_EQ(symbolOf("wlp3s0", InterfaceKind::wifi), QStringLiteral("wifi"));
+    EXPECT_EQ(symbolOf("en0", InterfaceKind::ethernet), QStringLiteral("cable.connector"));
+    for (const InterfaceKind kind :
+         {InterfaceKind::bridge, InterfaceKind::vpnTunnel, InterfaceKind::cellular})
+        EXPECT_EQ(symbolOf("x0", kind), QStringLiteral("cable.connector"));
 }
 
 TEST(PanelSymbols, TellTheStartUpVolumeFromTheOthers) {

@@ -1,6 +1,7 @@
 #include "platform/linux/linux_network_source.h"
 
 #include "platform/linux/host_root.h"
+#include "platform/linux/interface_kind.h"
 #include "platform/names/sanitize.h"
 
 #include <algorithm>
@@ -59,6 +60,7 @@ void LinuxNetworkSource::addEntries(const InterfaceCounters& counters,
         return;
     entry.isUp = known.state.isUp;
     entry.isLoopback = known.state.isLoopback;
+    entry.kind = known.kind;
     const auto route = m_defaultRoutes.find(counters.name);
     if (route != m_defaultRoutes.end())
         entry.defaultRouteMetric = route->second;
@@ -83,7 +85,7 @@ bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces)
         return false;
     std::map<std::string, KnownInterface, std::less<>> known;
     for (const InterfaceCounters& counters : interfaces)
-        known[std::string(counters.name)].state = readInterfaceState(m_root, counters.name);
+        known[std::string(counters.name)] = lookAt(counters.name);
     for (InterfaceAddress& address : *addresses) {
         const auto position = known.find(address.interfaceName);
         if (position != known.end())
@@ -94,6 +96,16 @@ bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces)
     // The kernel removes the routes of a link that goes down without announcing it.
     m_areRoutesStale = true;
     return true;
+}
+
+LinuxNetworkSource::KnownInterface LinuxNetworkSource::lookAt(std::string_view name) const {
+    KnownInterface seen{.state = readInterfaceState(m_root, name),
+                        .uevent = readInterfaceEvent(m_root, name)};
+    const auto before = m_known.find(name);
+    const bool isKnown =
+        before != m_known.end() && !seen.uevent.empty() && before->second.uevent == seen.uevent;
+    seen.kind = isKnown ? before->second.kind : readInterfaceKind(m_root, name, seen.uevent);
+    return seen;
 }
 
 void LinuxNetworkSource::learnRoutes() {

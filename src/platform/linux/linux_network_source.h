@@ -26,11 +26,14 @@ public:
 private:
     struct KnownInterface {
         InterfaceState state;
+        std::string uevent{}; ///< as it was when the kind was read
+        InterfaceKind kind = InterfaceKind::unknown;
         std::vector<InterfaceAddress> addresses{};
     };
 
     [[nodiscard]] bool knowsAll(const std::vector<InterfaceCounters>& interfaces) const;
     [[nodiscard]] bool learn(const std::vector<InterfaceCounters>& interfaces);
+    [[nodiscard]] KnownInterface lookAt(std::string_view name) const;
     void learnRoutes();
     [[nodiscard]] std::optional<std::vector<InterfaceAddress>> readAddresses() const;
     void addEntries(const InterfaceCounters& counters, std::vector<InterfaceEntry>& entries) const;

@@ -1,6 +1,7 @@
 #include "own_network.h"
 #include "platform/linux/linux_network_source.h"
 #include "support/child_process.h"
+#include "support/opening_watch.h"
 #include "support/temporary_tree.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
+using Kind = InterfaceKind;
 using Entries = std::vector<InterfaceEntry>;
 using Addresses = std::vector<InterfaceAddress>;
 
@@ -60,6 +62,33 @@ TEST_F(LinuxNetworkSourceTest, LeavesOutPortsOfABridgeWithTheirAddresses) {
     EXPECT_EQ(source.read(), (Entries{{.name = "br0", .isUp = true, .bytesIn = 100, .bytesOut = 40}}));
 }
 
+TEST_F(LinuxNetworkSourceTest, TellsTheKindOfAnInterface) {
+    tree.write("proc/net/dev", "wlp3s0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
+                               "mystery: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
+    tree.write("sys/class/net/wlp3s0/uevent", "DEVTYPE=wlan\nINTERFACE=wlp3s0\nIFINDEX=3\n");
+    tree.write("addresses", "wlp3s0 192.0.2.1\n");
+    const Entries expected{{.name = "wlp3s0", .isUp = true, .ipv4Address = "192.0.2.1", .kind = Kind::wifi},
+                           {.name = "wlp3s0", .isUp = true, .bytesIn = 1, .bytesOut = 1, .kind = Kind::wifi},
+                           {.name = "mystery", .isUp = true, .bytesIn = 1, .bytesOut = 1}};
+    EXPECT_EQ(source.read(), expected);
+}
+
+TEST_F(LinuxNetworkSourceTest, ReadsTheKindOnlyOfAnInterfaceThatItDoesNotKnow) {
+    tree.write("proc/net/dev", "eth0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
+    addInterface("eth0", "0x1003", "up");
+    tree.write("sys/class/net/eth0/uevent", "INTERFACE=eth0\nIFINDEX=3\n");
+    tree.write("sys/class/net/eth0/tun_flags", "0x1001\n");
+    OpeningWatch watch(tree.root() / "sys/class/net/eth0");
+    EXPECT_EQ(source.read()->front().kind, Kind::vpnTunnel);
+    EXPECT_TRUE(watch.openedFiles().contains("tun_flags"));
+    EXPECT_EQ(source.read()->front().kind, Kind::vpnTunnel);
+    EXPECT_EQ(watch.openedFiles(), (std::set<std::string>{"flags", "operstate", "uevent"}));
+
+    tree.write("sys/class/net/eth0/uevent", "INTERFACE=eth0\nIFINDEX=4\n");
+    tree.write("sys/class/net/eth0/tun_flags", "0x1002\n");
+    EXPECT_EQ(source.read()->front().kind, Kind::unknown) << "another one of the same name";
+}
+
 TEST_F(LinuxNetworkSourceTest, TellsTheMetricOfTheDefaultRoute) {
     tree.write("proc/net/dev", "docker0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
                                " enp3s0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
@@ -81,6 +110,7 @@ TEST_F(LinuxNetworkSourceTest, TellsNothingOfTheHost) {
         EXPECT_EQ(entry.ipv4Address, "");
         EXPECT_EQ(entry.ipv6Address, "");
         EXPECT_EQ(entry.defaultRouteMetric, std::nullopt);
+        EXPECT_EQ(entry.kind, Kind::unknown);
     }
 }
 
