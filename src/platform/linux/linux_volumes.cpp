@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/
 
 } // namespace
 
-LinuxVolumes::LinuxVolumes(std::filesystem::path root)
+LinuxVolumes::LinuxVolumes(const std::filesystem::path& root)
     : LinuxVolumes(root, isHostRoot(root) ? hostVolumeSpace : SpaceReader()) {}
 
 LinuxVolumes::LinuxVolumes(std::filesystem::path root, SpaceReader readSpace)

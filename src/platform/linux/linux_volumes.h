@@ -14,7 +14,7 @@ namespace orvelle::linux_platform {
 /// space from its file `statfs`.
 class LinuxVolumes {
 public:
-    explicit LinuxVolumes(std::filesystem::path root);
+    explicit LinuxVolumes(const std::filesystem::path& root);
     /// Asks `readSpace` in place of the kernel or the file.
     LinuxVolumes(std::filesystem::path root, SpaceReader readSpace);
 
