@@ -12,6 +12,14 @@ namespace {
 /// Text narrower than this share of its natural width is no longer legible at menu-bar sizes.
 constexpr double narrowestText = 0.75;
 
+/// What is less than this too large, in points, is not drawn smaller: it would lose the sharpness of whole
+/// pixels for no more than its gaps, or the empty edge of a line of text, have to give.
+constexpr double worthScaling = 2;
+
+double scaleToFit(double extent, double room) {
+    return extent - room < worthScaling ? 1 : room / extent;
+}
+
 double totalWidth(const QList<ItemPart>& parts) {
     return std::accumulate(parts.begin(), parts.end(), 0.0,
                            [](double sum, const ItemPart& part) { return sum + part.size.width(); });
@@ -31,7 +39,15 @@ std::string keyOfAll(std::string key, const QList<ItemPart>& parts) {
 /// How far text must be condensed for `part` to be `width` wide.
 double condensedShare(const ItemPart& part, double width) {
     const double text = part.size.width() - part.rigidWidth;
-    return text > 0 ? std::clamp((width - part.rigidWidth) / text, 0.0, 1.0) : 1;
+    return text > 0 ? std::clamp((width - part.rigidWidth) / text, narrowestText, 1.0) : 1;
+}
+
+/// What is left of the `spacing` between `count` parts of a row that is wider than `width` even where its
+/// text is condensed.
+double gapWithin(const ItemPart& whole, double width, qsizetype count, double spacing) {
+    const double excess = condensedWidth(whole, narrowestText) - width;
+    return count > 1 && excess > 0 ? std::max(0.0, spacing - excess / static_cast<double>(count - 1))
+                                   : spacing;
 }
 
 /// Leans to the left where it must round, so that the last part of a row that just fits does not stick out.
@@ -57,11 +73,12 @@ ItemPart row(QList<ItemPart> parts, double spacing) {
     const ItemPart whole = result;
     result.paint = [parts = std::move(parts), spacing, whole](QPainter& painter, const QRectF& frame) {
         const double share = condensedShare(whole, frame.width());
+        const double gap = gapWithin(whole, frame.width(), parts.size(), spacing);
         double left = frame.left();
         for (const ItemPart& part : parts) {
             const QSizeF size(condensedWidth(part, share), part.size.height());
             paintSnapped(painter, part, {{left, frame.center().y() - size.height() / 2}, size});
-            left += size.width() + spacing;
+            left += size.width() + gap;
         }
     };
     return result;
@@ -95,7 +112,8 @@ void paintCentred(QPainter& painter, const QRectF& bounds, const ItemPart& item)
     if (!item.paint || item.size.isEmpty())
         return;
     const double narrowest = condensedWidth(item, narrowestText);
-    const double scale = std::min({1.0, bounds.width() / narrowest, bounds.height() / item.size.height()});
+    const double scale =
+        std::min(scaleToFit(narrowest, bounds.width()), scaleToFit(item.size.height(), bounds.height()));
     if (!(scale > 0))
         return;
     painter.save();

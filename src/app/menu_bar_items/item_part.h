@@ -30,7 +30,8 @@ enum class ColumnAlignment { center, trailing };
 [[nodiscard]] ItemPart column(QList<ItemPart> parts, double spacing, ColumnAlignment alignment);
 
 /// Paints an item centred in the fixed length of its place in the menu bar. What is wider than that gets its
-/// text condensed, and what is still wider is drawn smaller as a whole, so that nothing is cut off.
+/// text condensed; what is still wider has its parts put closer together, and from 2 points on it is drawn
+/// smaller as a whole, so that nothing is cut off.
 void paintCentred(QPainter& painter, const QRectF& bounds, const ItemPart& item);
 
 } // namespace orvelle

@@ -112,6 +112,21 @@ TEST_F(CPUMenuBarItemTest, SixteenCoresDrawEightDots) {
     EXPECT_EQ(countRuns(shown, shown.height() / 2, afterTheIcon, shown.width()), 8);
 }
 
+TEST_F(CPUMenuBarItemTest, EightDotsAreDrawnInTheirOwnSize) {
+    run(QList<double>(8, 1.0));
+    settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::dotIndicator);
+    for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
+        const QImage shown = picture(item(), cpuLength, ratio);
+        const QImage inAWidePlace = picture(item(), cpuLength + 40, ratio);
+        const int dotsWidth = qRound(46 * ratio);
+        const auto dotsOf = [dotsWidth](const QImage& image) {
+            const int end = paintedRect(image).right() + 1;
+            return image.copy(end - dotsWidth, 0, dotsWidth, image.height());
+        };
+        EXPECT_EQ(dotsOf(shown), dotsOf(inAWidePlace)) << "at scale " << ratio;
+    }
+}
+
 TEST_F(CPUMenuBarItemTest, DotsShowEachCoresLoad) {
     run({0.2, 0.4, 0.7, 0.8});
     QColor faint = color();

@@ -87,6 +87,25 @@ TEST_F(ItemPartTest, WhatIsFarTooWideIsDrawnSmallerAsAWhole) {
     EXPECT_NEAR(frames->last().right(), 40, 1);
 }
 
+TEST_F(ItemPartTest, WhatIsHardlyTooWideStandsCloserTogether) {
+    paintInto({60, 22}, 1, row({rigid(12, 12), rigid(46, 4)}, 3));
+    EXPECT_EQ(*frames, Frames({QRectF(0, 5, 12, 12), QRectF(14, 9, 46, 4)}));
+    frames->clear();
+    paintInto({60, 22}, 2, row({rigid(12, 12), rigid(24, 4), rigid(21, 4)}, 2));
+    EXPECT_EQ(*frames, Frames({QRectF(0, 10, 24, 24), QRectF(27, 18, 48, 8), QRectF(78, 18, 42, 8)}));
+}
+
+TEST_F(ItemPartTest, WhatIsTwoPointsTooWideIsDrawnSmaller) {
+    paintInto({60, 22}, 1, row({rigid(12, 12), rigid(47, 4)}, 3));
+    EXPECT_NEAR(frames->first().width(), 12 * 60.0 / 62, 1e-9);
+}
+
+TEST_F(ItemPartTest, WhatIsHardlyTooHighReachesOverItsPlaceOnBothSides) {
+    paintInto({40, 22}, 1, rigid(20, 23));
+    EXPECT_EQ(frames->first().size(), QSizeF(20, 23));
+    EXPECT_LE(std::abs(frames->first().center().y() - 11), 0.5);
+}
+
 TEST_F(ItemPartTest, WhatIsTooHighIsDrawnSmallerAsAWhole) {
     paintInto({40, 22}, 1, rigid(20, 44));
     EXPECT_EQ(frames->first(), QRectF(15, 0, 10, 22));
