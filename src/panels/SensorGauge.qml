@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import Orvelle.Charts
 import Orvelle.Look
 import Orvelle.Panels
@@ -9,6 +10,9 @@ TemperatureGauge {
     required property SettingsStore settings
     required property string title
     required property real celsius
+
+    Layout.fillWidth: true
+    Layout.preferredWidth: 1 // the gauges of a row share it equally
 
     label: title
     temperature: celsius

@@ -19,7 +19,6 @@ PanelBody {
     }
     Divider {}
     RowLayout {
-        Layout.alignment: Qt.AlignHCenter
         spacing: 20
         SensorGauge {
             objectName: "cpuGauge"

@@ -18,13 +18,15 @@ ColumnLayout {
 
     SectionTitle { text: "TEMPERATURE HISTORY" }
     RowLayout {
-        spacing: 12
+        spacing: 4
         LegendItem {
+            objectName: "cpuKey"
             text: "CPU"
             swatchColor: history.moduleColor
             isLine: true
         }
         LegendItem {
+            objectName: "gpuKey"
             text: "GPU"
             swatchColor: Look.orange
             isLine: true

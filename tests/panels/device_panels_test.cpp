@@ -185,6 +185,26 @@ TEST_F(SensorPanel, JudgesFahrenheitByTheCelsiusValue) {
     EXPECT_FALSE(item("placeholder")->isVisible());
 }
 
+TEST_F(SensorPanel, StretchesEachGaugeToHalfOfTheRow) {
+    sample();
+    ASSERT_NE(show(u"sensor"), nullptr);
+    const auto placeOf = [this](const char* gauge) {
+        return item(gauge)->mapRectToScene(item(gauge)->boundingRect());
+    };
+    EXPECT_EQ(placeOf("cpuGauge").left(), 16);
+    EXPECT_EQ(placeOf("cpuGauge").width(), (320 - 2 * 16 - 20) / 2);
+    EXPECT_EQ(placeOf("gpuGauge").left(), placeOf("cpuGauge").right() + 20);
+    EXPECT_EQ(placeOf("gpuGauge").right(), 320 - 16);
+}
+
+TEST_F(SensorPanel, PutsTheKeysOfItsHistoryFourPointsApart) {
+    sample();
+    ASSERT_NE(show(u"sensor"), nullptr);
+    const QQuickItem* first = item("cpuKey");
+    const QQuickItem* second = item("gpuKey");
+    EXPECT_EQ(second->x() - first->x() - first->width(), 4);
+}
+
 TEST_F(SensorPanel, TurnsTheIconsOfFansThatTurn) {
     machine.sensor->fanSpeeds = {1500};
     sample();
