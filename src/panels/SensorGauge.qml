@@ -23,5 +23,7 @@ TemperatureGauge {
     showGlow: PanelRules.hasGlow(settings.glowIntensity)
 
     Accessible.role: Accessible.Chart
-    Accessible.name: title + " " + PanelRules.formatTemperature(celsius, settings.useFahrenheit)
+    Accessible.name: PanelRules.isTemperatureKnown(celsius)
+                     ? title + " " + PanelRules.formatTemperature(celsius, settings.useFahrenheit)
+                     : title + ": no temperature"
 }

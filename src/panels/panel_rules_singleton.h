@@ -77,6 +77,9 @@ public:
     Q_INVOKABLE static QColor batteryHealthColor(double health) {
         return orvelle::batteryHealthColor(health);
     }
+    Q_INVOKABLE static bool isTemperatureKnown(double celsius) {
+        return orvelle::isTemperatureKnown(celsius);
+    }
     Q_INVOKABLE static QColor temperatureBandColor(double celsius) {
         return orvelle::temperatureBandColor(celsius);
     }

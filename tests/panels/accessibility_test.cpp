@@ -119,6 +119,7 @@ TEST_F(PanelAccessibility, SaysWhatAValueIsTheValueOf) {
     EXPECT_TRUE(tells(QAccessible::ListItem, u"Board 50°C"));
     EXPECT_TRUE(tells(QAccessible::ListItem, u"Fan 0 0 RPM"));
     EXPECT_TRUE(tells(QAccessible::Chart, u"CPU 58°C"));
+    EXPECT_TRUE(tells(QAccessible::Chart, u"GPU: no temperature")) << "its dial shows none";
 }
 
 TEST_F(PanelAccessibility, MakesSectionsHeadings) {
