@@ -22,12 +22,6 @@ ColumnLayout {
         symbol: "battery.100"
         title: "Battery"
         moduleColor: details.moduleColor
-        PlainText {
-            objectName: "state"
-            text: PanelRules.powerStateText(details.info.isCharging, details.info.isFullyCharged)
-            size: 12
-            color: Look.valueLabel
-        }
     }
     Divider {}
     ColumnLayout {
@@ -40,9 +34,19 @@ ColumnLayout {
                 size: 24
                 weight: Font.Bold
                 color: details.moduleColor
-                Layout.fillWidth: true
+                Layout.rightMargin: 4
+                Layout.alignment: Qt.AlignBaseline
                 Accessible.name: "Charge " + text
             }
+            PlainText {
+                objectName: "state"
+                visible: !details.info.isCharging // the mark says the same
+                text: PanelRules.powerStateText(details.info.isCharging, details.info.isFullyCharged)
+                size: 12
+                color: Look.valueLabel
+                Layout.alignment: Qt.AlignBaseline
+            }
+            Item { Layout.fillWidth: true }
             Symbol {
                 visible: details.info.isCharging
                 name: "bolt.fill"

@@ -129,7 +129,7 @@ TEST_F(BatteryPanel, FollowsChargingToFullAndTheBatteryGoingAway) {
     machine.battery->powerSources = {{charging}};
     sample();
     ASSERT_NE(show(u"battery"), nullptr);
-    EXPECT_EQ(textOf("state"), QStringLiteral("Charging"));
+    EXPECT_EQ(shownTexts().count(QStringLiteral("Charging")), 1);
     EXPECT_EQ(textOf("mark"), QStringLiteral("Charging"));
     EXPECT_EQ(colorOf("mark"), SystemColors::yellow);
     EXPECT_EQ(textOf("time"), QStringLiteral("Calculating..."));
@@ -144,6 +144,19 @@ TEST_F(BatteryPanel, FollowsChargingToFullAndTheBatteryGoingAway) {
     sample();
     EXPECT_TRUE(item("notice")->isVisible());
     EXPECT_FALSE(item("details")->isVisible());
+}
+
+TEST_F(BatteryPanel, ShowsTheStateBesideTheCharge) {
+    machine.battery->powerSources = {{onBattery(64)}};
+    sample();
+    ASSERT_NE(show(u"battery"), nullptr);
+    const auto placeOf = [this](const char* name) {
+        return item(name)->mapRectToScene(item(name)->boundingRect());
+    };
+    const QRectF charge = placeOf("charge");
+    const QRectF state = placeOf("state");
+    EXPECT_GE(state.left(), charge.right());
+    EXPECT_TRUE(state.top() >= charge.top() && state.bottom() <= charge.bottom());
 }
 
 TEST_F(BatteryPanel, KeepsItsNoticeInTheMiddleOfASmallerWindow) {
