@@ -75,18 +75,24 @@ PanelBody {
     Divider {}
     RowLayout {
         Layout.fillWidth: true
-        spacing: 12
+        spacing: 0
         StatisticColumn {
             label: "Load Average"
             value: PanelRules.loadAveragesText(panel.cpu.loadAverage1, panel.cpu.loadAverage5,
                                                panel.cpu.loadAverage15)
         }
-        Item { Layout.fillWidth: true }
+        Item {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 8
+        }
         StatisticColumn {
             label: "Uptime"
             value: PanelRules.formatUptime(panel.cpu.uptime)
         }
-        Item { Layout.fillWidth: true }
+        Item {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 8
+        }
         StatisticColumn {
             label: "Cores"
             value: panel.coreUsages.length

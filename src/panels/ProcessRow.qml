@@ -37,18 +37,21 @@ RowLayout {
         color: row.accentColor
         trackColor: Look.listTrack
     }
+    TextMetrics {
+        id: widestValue
+        font: value.font
+        text: row.mode === ProcessListView.DisplayMode.Memory ? "1000.0 MB" : "800.0%"
+    }
     PlainText {
         id: value
+        readonly property real room: Math.max(50, Math.ceil(widestValue.advanceWidth), implicitWidth)
         text: PanelRules.processValueText(row.process, row.mode)
         size: 10
         weight: Font.Medium
         monospaced: true
         color: Look.secondaryLabel
         horizontalAlignment: Text.AlignRight
-        elide: Text.ElideNone
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 7
-        Layout.preferredWidth: 50
-        Layout.maximumWidth: 50
+        Layout.minimumWidth: room
+        Layout.maximumWidth: room
     }
 }

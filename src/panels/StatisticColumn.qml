@@ -24,7 +24,7 @@ ColumnLayout {
         color: Look.valueLabel
         elide: Text.ElideNone
         fontSizeMode: Text.HorizontalFit // three long values side by side grow smaller
-        minimumPixelSize: 7
+        minimumPixelSize: 8
         Layout.fillWidth: true
         Accessible.name: column.label + " " + text
     }

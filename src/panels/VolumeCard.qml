@@ -51,36 +51,30 @@ Rectangle {
             fraction: card.used
             fillColor: card.usageColor
         }
-        RowLayout {
-            spacing: 6
+        // In a wide font the last size stands below the others.
+        Flow {
+            id: sizes
+            readonly property real leastSpacing: 6
+            readonly property real freeWidth: width - usedSize.width - freeSize.width - totalSize.width
+            Layout.fillWidth: true
+            spacing: freeWidth < 2 * leastSpacing ? leastSpacing : freeWidth / 2
             PlainText {
+                id: usedSize
                 text: PanelRules.byteSizeText(PanelRules.volumeUsedBytes(card.volume)) + " used"
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
             }
             PlainText {
+                id: freeSize
                 text: PanelRules.byteSizeText(card.volume.freeSpace) + " free"
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
-                horizontalAlignment: Text.AlignHCenter
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
             }
             PlainText {
+                id: totalSize
                 text: PanelRules.byteSizeText(card.volume.totalSpace) + " total"
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 5
                 size: 9
                 color: Look.secondaryLabel
-                horizontalAlignment: Text.AlignRight
-                Layout.fillWidth: true
-                Layout.preferredWidth: 1
             }
         }
     }

@@ -24,9 +24,10 @@ protected:
                                                 .swapTotal = 1000 * oneGibibyte,
                                                 .swapUsed = 999 * oneGibibyte};
         machine.process->totalMemory = 1000 * oneGibibyte;
-        machine.process->processes = {{.pid = 1, .name = "firefox", .residentBytes = 800 * oneGibibyte},
-                                      {.pid = 2, .name = "plasmashell", .residentBytes = oneGibibyte},
-                                      {.pid = 3, .name = "Xorg", .residentBytes = oneGibibyte / 2}};
+        machine.process->processes = {
+            {.pid = 1, .name = "firefox", .residentBytes = 800 * oneGibibyte},
+            {.pid = 2, .name = "plasmashell", .residentBytes = 1000 * oneGibibyte / 1024},
+            {.pid = 3, .name = "Xorg", .residentBytes = oneGibibyte / 2}};
         machine.network->entries = {{.name = "en0",
                                      .isUp = true,
                                      .ipv4Address = "192.168.188.200",
@@ -83,9 +84,14 @@ protected:
         ASSERT_NE(show(key), nullptr);
         SCOPED_TRACE(QString::fromUtf16(key).toStdString());
         expectReadableTexts(*panel->contentItem());
+        for (const QQuickItem* text : shownTextsIn(*panel->contentItem()))
+            EXPECT_EQ(shownSizeOf(*text), text->property("font").value<QFont>().pixelSize())
+                << wordsOf(*text);
         spreadLetters(*panel->contentItem(), 115); // a font that is wider still
         settle();
         expectReadableTexts(*panel->contentItem(), {QStringLiteral("plasmashell")});
+        for (const QQuickItem* text : shownTextsIn(*panel->contentItem()))
+            EXPECT_GE(shownSizeOf(*text), 8) << wordsOf(*text);
     }
 };
 
@@ -105,6 +111,8 @@ TEST_F(ReadableTexts, AreThoseOfAMachineThatIsBusy) {
     EXPECT_TRUE(shows(u"2000.0 GB/s") && shows(u"\u2193 1000.0 GB/s"));
     ASSERT_NE(show(u"disk"), nullptr);
     EXPECT_TRUE(shows(u"1000.0 GB/s"));
+    ASSERT_NE(show(u"memory"), nullptr);
+    EXPECT_TRUE(shows(u"1000.0 MB"));
 }
 
 TEST_F(ReadableTexts, StandInThePanelsOfAMachineThatHasLittle) {

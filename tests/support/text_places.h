@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFontInfo>
+#include <QJSValue>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <gtest/gtest.h>
@@ -54,6 +55,14 @@ inline QRectF linesOf(const QQuickItem& text, const QQuickItem& frame) {
     const double top =
         isCentered ? (text.height() - size.height()) / 2 : text.property("topPadding").toDouble();
     return frame.mapRectFromItem(&text, {{left, top}, size});
+}
+
+/// The size, in points, in which a text is written: smaller than its font's where it is fitted to its room.
+/// What can be edited is never fitted.
+inline int shownSizeOf(const QQuickItem& text) {
+    if (text.inherits("QQuickTextInput"))
+        return text.property("font").value<QFont>().pixelSize();
+    return text.property("fontInfo").value<QJSValue>().property(QStringLiteral("pixelSize")).toInt();
 }
 
 /// The text stands inside each item that holds it, up to `frame`. What scrolls may hold more than is to be
