@@ -7,14 +7,6 @@ namespace {
 
 constexpr qsizetype fewestDrawnSamples = 2;
 
-QColor mixedColor(const QColor& from, const QColor& to, double progress) {
-    const auto component = [progress](float first, float second) {
-        return static_cast<float>(mixed(static_cast<double>(first), static_cast<double>(second), progress));
-    };
-    return QColor::fromRgbF(component(from.redF(), to.redF()), component(from.greenF(), to.greenF()),
-                            component(from.blueF(), to.blueF()), component(from.alphaF(), to.alphaF()));
-}
-
 /// The sample at `position`, counted in samples from the oldest; between two it is read off a straight line.
 double sampleAt(const QList<double>& series, double position) {
     const auto before = static_cast<qsizetype>(std::floor(position));
@@ -28,8 +20,16 @@ double mixed(double from, double to, double progress) {
     return from + (to - from) * progress;
 }
 
+QColor mixed(const QColor& from, const QColor& to, double progress) {
+    const auto component = [progress](float first, float second) {
+        return static_cast<float>(mixed(static_cast<double>(first), static_cast<double>(second), progress));
+    };
+    return QColor::fromRgbF(component(from.redF(), to.redF()), component(from.greenF(), to.greenF()),
+                            component(from.blueF(), to.blueF()), component(from.alphaF(), to.alphaF()));
+}
+
 BarLook mixed(const BarLook& from, const BarLook& to, double progress) {
-    return {mixed(from.ratio, to.ratio, progress), mixedColor(from.color, to.color, progress)};
+    return {mixed(from.ratio, to.ratio, progress), mixed(from.color, to.color, progress)};
 }
 
 QList<BarLook> mixed(const QList<BarLook>& from, const QList<BarLook>& to, double progress) {

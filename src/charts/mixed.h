@@ -9,6 +9,9 @@ namespace orvelle {
 
 [[nodiscard]] double mixed(double from, double to, double progress);
 
+/// Each component of the colour by itself.
+[[nodiscard]] QColor mixed(const QColor& from, const QColor& to, double progress);
+
 /// Length and colour together.
 [[nodiscard]] BarLook mixed(const BarLook& from, const BarLook& to, double progress);
 

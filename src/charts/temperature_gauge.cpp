@@ -4,6 +4,7 @@
 #include "charts/glow.h"
 #include "charts/glow_painter.h"
 #include "charts/label_text.h"
+#include "charts/mixed.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
 #include "charts/temperature_rules.h"
@@ -53,20 +54,24 @@ QPainterPath dialArc(const Trim& trim) {
 
 /// Draws track, glow and progress around the origin.
 void drawDial(QPainter& painter, const TemperatureDial& dial) {
-    const QPainterPath progress = dialArc(ringProgress(RingChartStyle::halfGauge, dial.fraction));
+    const QPainterPath progress = dialArc(ringProgress(RingChartStyle::halfGauge, dial.look.fraction));
     const QPen pen = dialPen(gaugeShade(temperatureStops(), dialSize));
     painter.strokePath(dialArc(ringTrack(RingChartStyle::halfGauge)),
                        dialPen(withOpacity(SystemColors::white, trackOpacity)));
     if (!progress.isEmpty())
-        paintGlow(painter, inkedDial(), GlowStyle::of(dial.glowColor, dial.glowIntensity),
+        paintGlow(painter, inkedDial(), GlowStyle::of(dial.look.glowColor, dial.glowIntensity),
                   [&](QPainter& mask) { mask.strokePath(progress, pen); });
     painter.strokePath(progress, pen);
 }
 
 } // namespace
 
-double TemperatureGauge::fraction() const {
-    return temperatureFraction(temperature, maxTemp);
+DialLook mixed(const DialLook& from, const DialLook& to, double progress) {
+    return {mixed(from.fraction, to.fraction, progress), mixed(from.glowColor, to.glowColor, progress)};
+}
+
+DialLook TemperatureGauge::look() const {
+    return {temperatureFraction(temperature, maxTemp), temperatureBandColor(temperature)};
 }
 
 double TemperatureGauge::height() const {
@@ -78,15 +83,14 @@ double TemperatureGauge::overhang() const {
 }
 
 void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds) const {
-    paint(painter, bounds, fraction(), nullptr);
+    paint(painter, bounds, look(), nullptr);
 }
 
-void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds, double shownFraction,
+void TemperatureGauge::paint(QPainter& painter, const QRectF& bounds, const DialLook& shown,
                              PictureCache<TemperatureDial>* cache) const {
     if (!isPaintable(bounds.size()))
         return;
-    const TemperatureDial dial{.fraction = shownFraction,
-                               .glowColor = temperatureBandColor(temperature),
+    const TemperatureDial dial{.look = shown,
                                .glowIntensity = showGlow ? glowIntensity : GlowIntensity::none};
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -10,10 +10,20 @@
 
 namespace orvelle {
 
+/// How full a dial is and the colour in which it glows. Both move together when the temperature changes.
+struct DialLook {
+    double fraction = 0;   ///< 0 to 1
+    QColor glowColor = {}; ///< of the temperature's band
+
+    bool operator==(const DialLook&) const = default;
+};
+
+/// What lies between two looks: the first at `progress` 0, the second at 1.
+[[nodiscard]] DialLook mixed(const DialLook& from, const DialLook& to, double progress);
+
 /// What decides how the picture of a dial in a cache looks.
 struct TemperatureDial {
-    double fraction = 0;   ///< how full it is, 0 to 1
-    QColor glowColor = {}; ///< of the temperature's band
+    DialLook look = {};
     GlowIntensity glowIntensity = GlowIntensity::none;
 
     bool operator==(const TemperatureDial&) const = default;
@@ -32,8 +42,8 @@ struct TemperatureGauge {
     GlowIntensity glowIntensity = GlowIntensity::medium;
     bool showGlow = true;
 
-    /// How full the dial is, 0 to 1: towards this a host animates.
-    [[nodiscard]] double fraction() const;
+    /// The look of the present temperature, towards which a host animates.
+    [[nodiscard]] DialLook look() const;
 
     /// Height of dial and caption together, points. Needs a QGuiApplication, as painting does.
     [[nodiscard]] double height() const;
@@ -44,8 +54,8 @@ struct TemperatureGauge {
     /// Paints the present temperature from the top of `bounds`, centred across its width.
     void paint(QPainter& painter, const QRectF& bounds) const;
 
-    /// Paints the dial filled to `shownFraction`, in the middle of an animation.
-    void paint(QPainter& painter, const QRectF& bounds, double shownFraction,
+    /// Paints the dial as it looks in the middle of an animation.
+    void paint(QPainter& painter, const QRectF& bounds, const DialLook& shown,
                PictureCache<TemperatureDial>* cache) const;
 
     bool operator==(const TemperatureGauge&) const = default;

@@ -122,7 +122,7 @@ TEST_P(Gauge, KeepsThePictureOfItsDial) {
     glowing.showGlow = true;
     PictureCache<TemperatureDial> cache;
     const auto kept = [&](QPainter& painter) {
-        glowing.paint(painter, {10, 20, 100, 100}, glowing.fraction(), &cache);
+        glowing.paint(painter, {10, 20, 100, 100}, glowing.look(), &cache);
     };
     EXPECT_LE(largestDifference(painted({120, 120}, kept), paintedGauge(glowing)), 3);
     glowing.useFahrenheit = true;

@@ -11,13 +11,17 @@ TemperatureGaugeItem::TemperatureGaugeItem(Motion& motion)
 }
 
 void TemperatureGaugeItem::paintChart(QPainter& painter, const QRectF& bounds) {
-    m_chart.paint(painter, bounds, shownFraction(), &m_dial);
+    m_chart.paint(painter, bounds, m_look.shown(), &m_dial);
 }
 
 void TemperatureGaugeItem::follow() {
-    const double fraction = m_chart.fraction();
-    if (fraction != m_fraction.target())
-        m_fraction.retarget(fraction, temperatureGaugeSeconds, easeInOut());
+    const DialLook look = m_chart.look();
+    const DialLook& target = m_look.target();
+    // Only another fraction moves; another colour alone shows at once.
+    if (look.fraction != target.fraction)
+        m_look.retarget(look, temperatureGaugeSeconds, easeInOut());
+    else if (look != target)
+        m_look.jump(look);
 }
 
 } // namespace orvelle

@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Shows a `TemperatureGauge` from the top of the item, centred across its width. The dial eases to another
-/// temperature; the reading changes at once.
+/// Shows a `TemperatureGauge` from the top of the item, centred across its width. The dial and its glow ease
+/// to another temperature; the reading changes at once.
 class TemperatureGaugeItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(TemperatureGauge)
@@ -24,23 +24,23 @@ public:
     explicit TemperatureGaugeItem(Motion& motion = Motion::shared());
 
     /// How full the dial is now, 0 to 1.
-    [[nodiscard]] double shownFraction() const { return m_fraction.shown(); }
+    [[nodiscard]] double shownFraction() const { return m_look.shown().fraction; }
 
 protected:
     void paintChart(QPainter& painter, const QRectF& bounds) override;
     [[nodiscard]] double overhang() const override { return m_chart.overhang(); }
     [[nodiscard]] QSizeF naturalSize() const override { return m_naturalSize; }
     void follow() override;
-    void advance(double seconds) override { m_fraction.advance(seconds); }
-    void settle() override { m_fraction.settle(); }
-    [[nodiscard]] bool isMoving() const override { return !m_fraction.isSettled(); }
+    void advance(double seconds) override { m_look.advance(seconds); }
+    void settle() override { m_look.settle(); }
+    [[nodiscard]] bool isMoving() const override { return !m_look.isSettled(); }
 
 private:
     [[nodiscard]] TemperatureGauge* chart() { return &m_chart; }
 
     TemperatureGauge m_chart;
     QSizeF m_naturalSize;
-    Eased<double> m_fraction;
+    Eased<DialLook> m_look;
     PictureCache<TemperatureDial> m_dial;
 };
 

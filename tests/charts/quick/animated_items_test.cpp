@@ -228,3 +228,33 @@ TEST_F(GaugeItem, AsksForTheRoomOfDialAndCaption) {
 
 } // namespace
 } // namespace orvelle
+TEST_F(GaugeItem, EasesItsGlowTogetherWithItsDial) {
+    gauge->setProperty("glowIntensity", QVariant::fromValue(GlowIntensity::intense));
+    showWindow();
+    // Beside the filled part of the dial, whose middle is at (90, 65) and whose stroke ends 38 points from
+    // it.
+    const auto halo = [this] { return colorAt(90 - 40, 65 - 8); };
+    const auto redPerGreen = [&] {
+        const QColor color = halo();
+        EXPECT_GT(color.value(), 30);
+        return static_cast<double>(color.red()) / color.green();
+    };
+    EXPECT_LT(redPerGreen(), 0.5) << "green while it is cool";
+    gauge->setProperty("temperature", 95);
+    waitForFrame();
+    EXPECT_LT(redPerGreen(), 0.5) << "the dial has not moved yet either";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 0.8);
+    EXPECT_LT(redPerGreen(), 2) << "half way between green and red";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 3);
+}
+
+TEST_F(GaugeItem, ShowsTheGlowOfAnotherStrengthAtOnce) {
+    showWindow();
+    gauge->setProperty("showGlow", false);
+    EXPECT_FALSE(motion.isRunning());
+}
+
