@@ -6,8 +6,6 @@
 
 #include <QLinearGradient>
 
-#include <algorithm>
-
 namespace orvelle {
 namespace {
 
@@ -22,8 +20,7 @@ void GradientBar::paint(QPainter& painter, const QRectF& bounds, double shownFra
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(continuousRoundedRect(bounds, gradientBarRadius), trackColor);
-    // A spring overshoots both ends; what is no number fills nothing.
-    const double filled = shownFraction > 0 ? std::min(shownFraction, 1.0) : 0;
+    const double filled = shownFraction > 0 ? shownFraction : 0; // what is no number fills nothing
     const QRectF fill(bounds.topLeft(), QSizeF(bounds.width() * filled, bounds.height()));
     QLinearGradient gradient(fill.topLeft(), fill.topRight());
     gradient.setColorAt(0, withOpacity(color, opacityAtStart));

@@ -8,11 +8,11 @@ namespace orvelle {
 
 /// A lying bar on a track, which is filled from the left and grows stronger towards the end of its fill.
 struct GradientBar {
-    double fraction = 0;    ///< of the track that is filled; held between 0 and 1
+    double fraction = 0;    ///< of the track that is filled
     QColor color = {};      ///< at the end of the fill
     QColor trackColor = {}; ///< of the whole width, below the fill
 
-    /// Fills `bounds`; never paints outside.
+    /// Fills `bounds`; a fraction above 1 reaches out of them to the right, in proportion.
     void paint(QPainter& painter, const QRectF& bounds) const { paint(painter, bounds, fraction); }
 
     /// Paints the bar as it looks in the middle of an animation.

@@ -4,6 +4,11 @@
 
 namespace orvelle {
 
+/// How far a moving fraction is beyond 1, where it would be full.
+[[nodiscard]] constexpr double overshoot(double fraction) {
+    return fraction > 1 ? fraction - 1 : 0;
+}
+
 /// A value that a damped spring pulls to its target. The motion is exact for any step, large or small, and a
 /// change of target keeps position and speed, so that a change in the middle of another one stays smooth.
 class Spring {

@@ -36,8 +36,15 @@ TEST_P(GradientBarPainting, ShowsOnlyItsTrackWhenItIsEmpty) {
         EXPECT_EQ(colorAt(paintedBar(fraction), 1, 4).red(), 0) << fraction;
 }
 
-TEST_P(GradientBarPainting, StaysInsideItsTrackWhileTheSpringOvershoots) {
-    EXPECT_EQ(paintedBar(1.05), paintedBar(1));
+TEST_P(GradientBarPainting, ReachesBeyondItsTrackWhileTheSpringOvershoots) {
+    const GradientBar bar{.fraction = 1.05, .color = Qt::red, .trackColor = Qt::blue};
+    const QImage image =
+        painted({120, 8}, [&](QPainter& painter) { bar.paint(painter, {{0, 0}, QSizeF(100, 8)}, 1.05); });
+    EXPECT_EQ(paintedRect(image), QRect(0, 0, pixels(105), pixels(8)));
+    EXPECT_GT(colorAt(image, 103, 4).red(), 240);
+}
+
+TEST_P(GradientBarPainting, FillsItsTrackAndNoMore) {
     EXPECT_EQ(paintedRect(paintedBar(1)), QRect(0, 0, pixels(100), pixels(8)));
     EXPECT_LT(colorAt(paintedBar(1), 0, 0).alpha(), 200) << "the corners are round";
 }

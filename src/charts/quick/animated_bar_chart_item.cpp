@@ -21,7 +21,10 @@ void AnimatedBarChartItem::paintChart(QPainter& painter, const QRectF& bounds) {
 double AnimatedBarChartItem::overhang() const {
     const AnimatedBar bar{
         .showGlow = m_chart.showGlow, .barStyle = m_chart.barStyle, .glowIntensity = m_chart.glowIntensity};
-    return bar.overhang();
+    double tallest = 0;
+    for (const BarMotion& motion : m_motions)
+        tallest = std::max(tallest, motion.look().ratio);
+    return bar.overhang() + overshoot(tallest) * height();
 }
 
 std::optional<SpringParameters> AnimatedBarChartItem::spring() const {

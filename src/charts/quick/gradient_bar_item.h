@@ -24,6 +24,7 @@ public:
 
 protected:
     void paintChart(QPainter& painter, const QRectF& bounds) override;
+    [[nodiscard]] double overhang() const override { return overshoot(m_fraction.position()) * width(); }
     void follow() override { m_fraction.retarget(m_chart.fraction); }
     void advance(double seconds) override;
     void settle() override { m_fraction.jump(m_chart.fraction); }

@@ -56,6 +56,19 @@ TEST_F(BarChartItem, FollowsAChangeByTheSpringOfItsSpeed) {
     }
 }
 
+TEST_F(BarChartItem, IsNotCutOffWhileItOvershoots) {
+    chart->setProperty("barStyle", QVariant::fromValue(BarChartStyle::square));
+    chart->setProperty("showGlow", false);
+    chart->setProperty("values", values({0, 0}));
+    showWindow();
+    chart->setProperty("values", values({1, 0}));
+    pass(0.28); // about half of the period that the damping leaves: the furthest way out
+    EXPECT_NEAR(ratio(0), 1.046, 0.002);
+    waitForFrame();
+    EXPECT_GT(colorAt(60, 29).red(), 100) << "0.046 of 50 points above its place";
+    EXPECT_EQ(colorAt(60, 26).red(), 0);
+}
+
 TEST_F(BarChartItem, KeepsItsSpeedWhenTheValueChangesInTheMiddle) {
     showWindow();
     chart->setProperty("values", values({1, 0.4}));
@@ -221,13 +234,6 @@ TEST_F(GaugeItem, EasesItsDialInHalfASecond) {
     EXPECT_FALSE(motion.isRunning());
 }
 
-TEST_F(GaugeItem, AsksForTheRoomOfDialAndCaption) {
-    EXPECT_EQ(gauge->implicitWidth(), 70);
-    EXPECT_EQ(gauge->implicitHeight(), TemperatureGauge{}.height());
-}
-
-} // namespace
-} // namespace orvelle
 TEST_F(GaugeItem, EasesItsGlowTogetherWithItsDial) {
     gauge->setProperty("glowIntensity", QVariant::fromValue(GlowIntensity::intense));
     showWindow();
@@ -258,3 +264,10 @@ TEST_F(GaugeItem, ShowsTheGlowOfAnotherStrengthAtOnce) {
     EXPECT_FALSE(motion.isRunning());
 }
 
+TEST_F(GaugeItem, AsksForTheRoomOfDialAndCaption) {
+    EXPECT_EQ(gauge->implicitWidth(), 70);
+    EXPECT_EQ(gauge->implicitHeight(), TemperatureGauge{}.height());
+}
+
+} // namespace
+} // namespace orvelle

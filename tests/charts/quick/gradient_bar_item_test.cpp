@@ -53,6 +53,17 @@ TEST_F(GradientBarHosting, ShowsTheNewFractionAtOnceWhereNothingMayMove) {
     EXPECT_FALSE(motion.isRunning());
 }
 
+TEST_F(GradientBarHosting, IsNotCutOffWhileItOvershoots) {
+    bar->setProperty("fraction", 0.0);
+    showWindow();
+    bar->setProperty("fraction", 1.0);
+    pass(0.28); // about half of the period that the damping leaves: the furthest way out
+    EXPECT_NEAR(bar->shownFraction(), 1.046, 0.002);
+    waitForFrame();
+    EXPECT_GT(colorAt(40 + 100 + 3, 30 + 25).red(), 200);
+    EXPECT_EQ(colorAt(40 + 100 + 6, 30 + 25).red(), 0);
+}
+
 TEST_F(GradientBarHosting, RestsForAnotherColor) {
     showWindow();
     bar->setProperty("color", QColor(Qt::green));
