@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvelle.Charts
 import Orvelle.Look
 import Orvelle.Panels
 
@@ -80,7 +81,8 @@ PanelBody {
                 text: "MEMORY PRESSURE"
                 Layout.fillWidth: true
             }
-            Rectangle {
+            ContinuousRectangle {
+                objectName: "pressurePlate"
                 implicitWidth: badge.implicitWidth + 2 * 6
                 implicitHeight: badge.implicitHeight + 2 * 2
                 radius: 4

@@ -185,19 +185,6 @@ TEST_F(SensorPanel, ShowsPlaceholdersWithoutSensors) {
     EXPECT_FALSE(item("graphs")->isVisible());
 }
 
-TEST_F(SensorPanel, JudgesFahrenheitByTheCelsiusValue) {
-    settings.setUseFahrenheit(true);
-    machine.sensor->cpuTemperature = 72;
-    machine.sensor->sensors = {{.key = "a", .name = "Board", .value = 50}};
-    sample(2);
-    ASSERT_NE(show(u"sensor"), nullptr);
-    EXPECT_EQ(textOf("value"), QStringLiteral("122°F"));
-    EXPECT_EQ(colorOf("value"), SystemColors::yellow);
-    EXPECT_TRUE(item("graphs")->isVisible());
-    EXPECT_FALSE(item("gpuGraph")->isVisible());
-    EXPECT_FALSE(item("placeholder")->isVisible());
-}
-
 TEST_F(SensorPanel, StretchesEachGaugeToHalfOfTheRow) {
     sample();
     ASSERT_NE(show(u"sensor"), nullptr);
@@ -216,6 +203,19 @@ TEST_F(SensorPanel, PutsTheKeysOfItsHistoryFourPointsApart) {
     const QQuickItem* first = item("cpuKey");
     const QQuickItem* second = item("gpuKey");
     EXPECT_EQ(second->x() - first->x() - first->width(), 4);
+}
+
+TEST_F(SensorPanel, JudgesFahrenheitByTheCelsiusValue) {
+    settings.setUseFahrenheit(true);
+    machine.sensor->cpuTemperature = 72;
+    machine.sensor->sensors = {{.key = "a", .name = "Board", .value = 50}};
+    sample(2);
+    ASSERT_NE(show(u"sensor"), nullptr);
+    EXPECT_EQ(textOf("value"), QStringLiteral("122°F"));
+    EXPECT_EQ(colorOf("value"), SystemColors::yellow);
+    EXPECT_TRUE(item("graphs")->isVisible());
+    EXPECT_FALSE(item("gpuGraph")->isVisible());
+    EXPECT_FALSE(item("placeholder")->isVisible());
 }
 
 TEST_F(SensorPanel, TurnsTheIconsOfFansThatTurn) {

@@ -124,6 +124,21 @@ TEST_F(MemoryPanel, TurnsYellowAndRedAtItsThresholds) {
     EXPECT_TRUE(shows(u"2.0 GB"));
 }
 
+TEST_F(MemoryPanel, PutsThePressureOnAFaintPlateWithContinuousCorners) {
+    machine.memory->reading = memoryReading(600);
+    sample();
+    ASSERT_NE(show(u"memory"), nullptr);
+    const QQuickItem* plate = item("pressurePlate");
+    EXPECT_TRUE(plate->inherits("orvelle::ContinuousRectangleItem"));
+    EXPECT_GT(plate->property("radius").toDouble(), 0);
+    QColor faint = SystemColors::yellow;
+    faint.setAlphaF(0.15F);
+    EXPECT_EQ(colorOf("pressurePlate"), asShown(faint));
+    const QQuickItem* badge = item("pressureBadge");
+    EXPECT_NEAR(plate->width(), badge->width() + 2 * 6, 1);
+    EXPECT_NEAR(plate->height(), badge->height() + 2 * 2, 1);
+}
+
 TEST_F(MemoryPanel, ShowsOneRingOfTheUsedShareInTheOtherStyles) {
     machine.memory->reading = memoryReading(950);
     sample();
