@@ -1,5 +1,6 @@
 import QtQuick
 import Orvelle.Look
+import Orvelle.Panels
 
 Column {
     spacing: 6
@@ -17,7 +18,7 @@ Column {
     }
     PlainText {
         x: Look.centred(parent.width, width)
-        text: "This Mac is running on AC power"
+        text: PanelRules.mainsPowerNotice()
         size: 10
         color: Look.secondaryLabel
     }

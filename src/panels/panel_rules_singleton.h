@@ -6,6 +6,7 @@
 #include "core/memory_monitor.h"
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
+#include "panels/machine_word.h"
 #include "panels/panel_rules.h"
 #include "panels/panel_texts.h"
 #include "settings/styles.h"
@@ -42,6 +43,7 @@ public:
     Q_INVOKABLE static QString measureText(double value, int decimals, const QString& unit) {
         return orvelle::measureText(value, decimals, unit);
     }
+    Q_INVOKABLE static QString mainsPowerNotice() { return orvelle::mainsPowerNotice(machineWord()); }
     Q_INVOKABLE static QString powerStateText(bool isCharging, bool isFullyCharged) {
         return orvelle::powerStateText(isCharging, isFullyCharged);
     }

@@ -51,6 +51,10 @@ QString measureText(double value, int decimals, const QString& unit) {
     return formatted("{:.{}f} ", value, decimals) + unit;
 }
 
+QString mainsPowerNotice(const QString& machineWord) {
+    return QStringLiteral("This %1 is running on AC power").arg(machineWord);
+}
+
 QString powerStateText(bool isCharging, bool isFullyCharged) {
     if (isCharging)
         return QStringLiteral("Charging");

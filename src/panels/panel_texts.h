@@ -26,6 +26,9 @@ namespace orvelle {
 /// A number with `decimals` decimals, a space and its unit: "12.50 V".
 [[nodiscard]] QString measureText(double value, int decimals, const QString& unit);
 
+/// What stands in place of a battery: "This computer is running on AC power", with this word for the machine.
+[[nodiscard]] QString mainsPowerNotice(const QString& machineWord);
+
 /// "Charging", "Full" or "On Battery".
 [[nodiscard]] QString powerStateText(bool isCharging, bool isFullyCharged);
 

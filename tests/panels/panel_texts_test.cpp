@@ -72,6 +72,12 @@ TEST(PowerState, IsChargingBeforeItIsFull) {
     EXPECT_EQ(powerStateText(false, false), QStringLiteral("On Battery"));
 }
 
+TEST(MainsPower, IsToldOfAMachineByItsWord) {
+    EXPECT_EQ(mainsPowerNotice(QStringLiteral("Mac")), QStringLiteral("This Mac is running on AC power"));
+    EXPECT_EQ(mainsPowerNotice(QStringLiteral("computer")),
+              QStringLiteral("This computer is running on AC power"));
+}
+
 TEST(PanelTexts, DoNotFollowTheLocale) {
     if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr)
         GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";
