@@ -4,6 +4,7 @@
 #include "app/shell/open_log.h"
 #include "app/throttle.h"
 #include "core/system_monitor.h"
+#include "look/font_changes.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 
@@ -77,6 +78,7 @@ void AppDelegate::createStatusItem(const Module& module) {
     connect(throttle.get(), &Throttle::passed, throttle.get(), redraw);
     // What the user chooses is seen at once. The theme is one of the settings, and has changed by then.
     connect(&m_settings, &SettingsStore::changed, throttle.get(), redraw);
+    connect(&FontChanges::shared(), &FontChanges::changed, throttle.get(), redraw);
     m_cancellables.push_back(std::move(throttle));
 }
 

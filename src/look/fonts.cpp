@@ -1,5 +1,7 @@
 #include "look/fonts.h"
 
+#include "look/font_changes.h"
+
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHash>
@@ -14,6 +16,25 @@ namespace orvelle {
 namespace {
 
 enum class FontRole { proportional, monospaced, rounded };
+
+/// What makes a font: its role, its size in logical pixels, its weight, and the screen's dots per inch.
+using WantedFont = std::tuple<FontRole, double, int, int>;
+
+/// What has been looked up since the last change.
+struct FontCache {
+    QHash<FontRole, QFont> bases;
+    std::map<WantedFont, QFont> fonts;
+};
+
+FontCache& cache() {
+    static FontCache kept;
+    return kept;
+}
+
+DesktopFontNames& announced() {
+    static DesktopFontNames names;
+    return names;
+}
 
 /// What fontconfig and Qt answer when the desktop has chosen nothing.
 bool isGenericFamily(const QString& family) {
@@ -47,12 +68,23 @@ QStringList candidateFamilies(FontRole role) {
     return {};
 }
 
+/// The installed family that the desktop announces for this role, else an empty string.
+QString announcedFamily(FontRole role) {
+    if (role == FontRole::rounded)
+        return {};
+    const QString& description =
+        role == FontRole::monospaced ? announced().monospaced : announced().proportional;
+    return description.isEmpty() ? QString() : describedFamily(description, QFontDatabase::families());
+}
+
 QFont baseFont(FontRole role) {
     const bool isMonospaced = role == FontRole::monospaced;
     QFont font =
         QFontDatabase::systemFont(isMonospaced ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont);
     const bool needsAnotherFamily = role == FontRole::rounded || isGenericFamily(font.family());
-    const QString family = needsAnotherFamily ? firstInstalled(candidateFamilies(role)) : QString();
+    QString family = announcedFamily(role);
+    if (family.isEmpty() && needsAnotherFamily)
+        family = firstInstalled(candidateFamilies(role));
     if (!family.isEmpty())
         font.setFamilies({family});
     else if (role == FontRole::rounded)
@@ -79,7 +111,7 @@ void setLogicalPixelSize(QFont& font, double pixels, int dotsPerInch) {
 
 /// Looked up once: asking for the installed families walks the whole font database.
 const QFont& keptBaseFont(FontRole role) {
-    static QHash<FontRole, QFont> bases;
+    QHash<FontRole, QFont>& bases = cache().bases;
     auto base = bases.find(role);
     if (base == bases.end())
         base = bases.insert(role, baseFont(role));
@@ -88,12 +120,10 @@ const QFont& keptBaseFont(FontRole role) {
 
 /// Made once for each size, because a font that is made anew looks for its glyphs anew.
 QFont makeFont(FontRole role, double size, QFont::Weight weight) {
-    using Wanted = std::tuple<FontRole, double, int, int>;
-    static std::map<Wanted, QFont> fonts;
     constexpr double largestSize = 1000;
     const double pixels = size > 0 ? std::min(size, largestSize) : 1;
     const int dotsPerInch = logicalDotsPerInch();
-    const auto [made, isNew] = fonts.try_emplace(Wanted(role, pixels, weight, dotsPerInch));
+    const auto [made, isNew] = cache().fonts.try_emplace(WantedFont(role, pixels, weight, dotsPerInch));
     if (isNew) {
         made->second = keptBaseFont(role);
         setLogicalPixelSize(made->second, pixels, dotsPerInch);
@@ -114,6 +144,35 @@ QFont monospacedSystemFont(double size, QFont::Weight weight) {
 
 QFont roundedSystemFont(double size, QFont::Weight weight) {
     return makeFont(FontRole::rounded, size, weight);
+}
+
+void setDesktopFontNames(const DesktopFontNames& names) {
+    if (announced() == names)
+        return;
+    announced() = names;
+    lookUpFontsAnew();
+}
+
+void lookUpFontsAnew() {
+    cache() = {};
+    Q_EMIT FontChanges::shared().changed();
+}
+
+QString describedFamily(const QString& description, const QStringList& families) {
+    constexpr qsizetype longest = 256; // of a description that is worth reading
+    for (const QString& choice : description.left(longest).split(u',')) {
+        const QStringList words = choice.simplified().split(u' ');
+        // Names have several words, and so have styles: the longest name that is installed is meant.
+        for (qsizetype count = words.size(); count > 0; --count) {
+            const QString name = words.first(count).join(u' ');
+            const auto found = std::ranges::find_if(families, [&name](const QString& family) {
+                return family.compare(name, Qt::CaseInsensitive) == 0;
+            });
+            if (found != families.end())
+                return *found;
+        }
+    }
+    return {};
 }
 
 } // namespace orvelle

@@ -27,7 +27,7 @@ RowLayout {
             id: input
             anchors.fill: parent
             text: row.address
-            font: Look.systemFont(row.addressSize, Font.Normal)
+            font: Look.fonts.system(row.addressSize, Font.Normal)
             color: Look.valueLabel
             selectedTextColor: Look.primaryLabel
             selectionColor: Look.withOpacity(row.selectionColor, 0.4)

@@ -18,7 +18,7 @@ T.TextField {
     implicitHeight: 24
     leftPadding: 6
     rightPadding: 6
-    font: Look.monospacedFont(11, Font.Normal)
+    font: Look.fonts.monospaced(11, Font.Normal)
     verticalAlignment: TextInput.AlignVCenter
     color: Look.primaryLabel
     selectByMouse: true

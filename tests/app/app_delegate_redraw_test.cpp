@@ -1,5 +1,6 @@
 #include "app/app_delegate_fixture.h"
 #include "app/throttle.h"
+#include "look/fonts.h"
 #include "support/early_timer.h"
 
 namespace orvelle {
@@ -49,6 +50,18 @@ TEST_F(AppDelegateRedrawTest, RedrawsAtOnceWhenASettingChanges) {
     const int before = bar.items.front()->viewCount;
     settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::dotIndicator);
     EXPECT_EQ(bar.items.front()->viewCount, before + 1);
+}
+
+TEST_F(AppDelegateRedrawTest, RedrawsAtOnceWhenTheDesktopChangesItsFont) {
+    delegate.applicationDidFinishLaunching();
+    monitor.updateCycle();
+    const int before = bar.items.front()->viewCount;
+    setDesktopFontNames({.proportional = {}, .monospaced = QStringLiteral("DejaVu Serif 11")});
+    EXPECT_EQ(bar.items.front()->viewCount, before + 1);
+    settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
+    const std::string inSerif = bar.items.front()->view->picture({}).key;
+    setDesktopFontNames({});
+    EXPECT_NE(bar.items.front()->view->picture({}).key, inSerif) << "it looks different";
 }
 
 TEST_F(AppDelegateRedrawTest, HasOneSubscriptionPerItemAfterManyRebuilds) {

@@ -1,3 +1,4 @@
+#include "look/fonts.h"
 #include "panels/panel_fixture.h"
 
 namespace orvelle {
@@ -52,6 +53,30 @@ TEST_F(AnyPanel, FollowsTheThemeAndTheUsersColour) {
     settings.setCustomCPUColorHex(QStringLiteral("#102030"));
     settings.setUseCustomCPUColor(true);
     EXPECT_EQ(colorOf("totalUsage"), QColor(0x10, 0x20, 0x30));
+}
+
+TEST_F(AnyPanel, FollowsAFontThatTheDesktopChanges) {
+    ASSERT_NE(show(u"sensor"), nullptr);
+    const auto families = [this] {
+        QStringList found;
+        for (const QQuickItem* text : shownItems("QQuickText"))
+            found.append(text->property("font").value<QFont>().family());
+        found.removeDuplicates();
+        return found;
+    };
+    const QStringList before = families();
+    const QString serif = QStringLiteral("DejaVu Serif");
+    const double gaugeHeight = item("cpuGauge")->height();
+    const QImage picture = panel->grabWindow();
+    setDesktopFontNames({.proportional = serif + QStringLiteral(" 11"), .monospaced = serif});
+    settle();
+    EXPECT_EQ(families(), QStringList(serif));
+    EXPECT_NE(panel->grabWindow(), picture);
+    setDesktopFontNames({});
+    settle();
+    EXPECT_EQ(families(), before);
+    EXPECT_EQ(item("cpuGauge")->height(), gaugeHeight);
+    EXPECT_EQ(panel->grabWindow(), picture);
 }
 
 TEST_F(CPUPanel, ShowsUsageLoadUptimeAndCores) {

@@ -3,8 +3,14 @@
 #include "charts/animation_rules.h"
 #include "charts/quick/optional_values.h"
 #include "charts/ring_rules.h"
+#include "look/font_changes.h"
 
 namespace orvelle {
+
+AnimatedRingChartItem::AnimatedRingChartItem(Motion& motion)
+    : ChartItem(motion) {
+    connect(&FontChanges::shared(), &FontChanges::changed, this, &ChartItem::changed);
+}
 
 QVariant AnimatedRingChartItem::label() const {
     return variantOf(m_chart.label);

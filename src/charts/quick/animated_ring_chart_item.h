@@ -33,8 +33,7 @@ class AnimatedRingChartItem : public orvelle::ChartItem {
     Q_PROPERTY(double pulseScale READ pulseScale NOTIFY moved)
 
 public:
-    explicit AnimatedRingChartItem(Motion& motion = Motion::shared())
-        : ChartItem(motion) {}
+    explicit AnimatedRingChartItem(Motion& motion = Motion::shared());
 
     [[nodiscard]] double animatedValue() const { return m_fraction.shown(); }
     [[nodiscard]] double pulseScale() const;

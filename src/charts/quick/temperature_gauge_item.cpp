@@ -1,6 +1,7 @@
 #include "charts/quick/temperature_gauge_item.h"
 
 #include "charts/animation_rules.h"
+#include "look/font_changes.h"
 
 namespace orvelle {
 
@@ -8,6 +9,10 @@ TemperatureGaugeItem::TemperatureGaugeItem(Motion& motion)
     : ChartItem(motion)
     , m_naturalSize(TemperatureGauge::dialSize, m_chart.height()) {
     setImplicitSize(m_naturalSize.width(), m_naturalSize.height());
+    connect(&FontChanges::shared(), &FontChanges::changed, this, [this] {
+        m_naturalSize.setHeight(m_chart.height());
+        Q_EMIT changed();
+    });
 }
 
 void TemperatureGaugeItem::paintChart(QPainter& painter, const QRectF& bounds) {

@@ -9,7 +9,7 @@ Text {
     property int weight: Font.Normal
     property bool monospaced: false
 
-    font: monospaced ? Look.monospacedFont(size, weight) : Look.systemFont(size, weight)
+    font: monospaced ? Look.fonts.monospaced(size, weight) : Look.fonts.system(size, weight)
     color: Look.primaryLabel
     textFormat: Text.PlainText
     elide: Text.ElideRight

@@ -1,15 +1,12 @@
 #include "look/quick/look_singleton.h"
 
-#include "look/fonts.h"
+#include "look/font_changes.h"
 
 namespace orvelle {
 
-QFont Look::systemFont(double size, int weight) {
-    return orvelle::systemFont(size, static_cast<QFont::Weight>(weight));
-}
-
-QFont Look::monospacedFont(double size, int weight) {
-    return monospacedSystemFont(size, static_cast<QFont::Weight>(weight));
+Look::Look(QObject* parent)
+    : QObject(parent) {
+    connect(&FontChanges::shared(), &FontChanges::changed, this, &Look::fontsChanged);
 }
 
 } // namespace orvelle

@@ -2,9 +2,9 @@
 
 #include "look/label_colors.h"
 #include "look/opacity.h"
+#include "look/quick/look_fonts.h"
 #include "settings/system_colors.h"
 
-#include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -46,8 +46,11 @@ class Look : public QObject {
     Q_PROPERTY(QColor tooltip READ tooltip CONSTANT)
     Q_PROPERTY(QColor window READ window CONSTANT)
     Q_PROPERTY(QColor popup READ popup CONSTANT)
+    Q_PROPERTY(orvelle::LookFonts* fonts READ fonts NOTIFY fontsChanged)
 
 public:
+    explicit Look(QObject* parent = nullptr);
+
     [[nodiscard]] static QColor red() { return SystemColors::red; }
     [[nodiscard]] static QColor orange() { return SystemColors::orange; }
     [[nodiscard]] static QColor yellow() { return SystemColors::yellow; }
@@ -105,12 +108,17 @@ public:
         return std::round((room - extent) / 2);
     }
 
-    /// Fonts of a size in points; the weight is one of QML's `Font` weights.
-    Q_INVOKABLE [[nodiscard]] static QFont systemFont(double size, int weight);
-    Q_INVOKABLE [[nodiscard]] static QFont monospacedFont(double size, int weight);
+    /// Stays the same; it answers with other fonts after `fontsChanged`, so that a binding that reads it is
+    /// evaluated anew.
+    [[nodiscard]] LookFonts* fonts() { return &m_fonts; }
+
+Q_SIGNALS:
+    void fontsChanged();
 
 private:
     [[nodiscard]] static QColor whiteAt(double opacity) { return withOpacity(SystemColors::white, opacity); }
+
+    LookFonts m_fonts;
 };
 
 } // namespace orvelle
