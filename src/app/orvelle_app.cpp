@@ -2,6 +2,8 @@
 
 #include "app/shell/desktop.h"
 #include "charts/motion.h"
+#include "look/font_changes.h"
+#include "look/fonts.h"
 #include "platform/host.h"
 
 #include <QLoggingCategory>
@@ -17,6 +19,7 @@ namespace {
 Q_LOGGING_CATEGORY(startLog, "orvelle.start", QtInfoMsg)
 Q_LOGGING_CATEGORY(sampleLog, "orvelle.sample", QtInfoMsg)
 Q_LOGGING_CATEGORY(motionLog, "orvelle.motion", QtInfoMsg)
+Q_LOGGING_CATEGORY(fontLog, "orvelle.fonts", QtInfoMsg)
 
 } // namespace
 
@@ -26,6 +29,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_themes(m_settings)
     , m_monitor(makeHostSources(), m_settings)
     , m_reducedMotion(followReducedMotion(Motion::shared()))
+    , m_desktopFonts(followDesktopFonts())
     , m_statusBar(makeStatusBar())
     , m_launchAtLogin(m_settings, makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
@@ -40,6 +44,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     logStart();
     logSamples();
     logMotion();
+    logFonts();
 }
 
 int OrvelleApp::run() {
@@ -75,6 +80,14 @@ void OrvelleApp::logMotion() {
         qCDebug(motionLog, "motion is %s", Motion::shared().isReduced() ? "reduced" : "full");
     };
     QObject::connect(&Motion::shared(), &Motion::reducedChanged, &m_delegate, log);
+    log();
+}
+
+void OrvelleApp::logFonts() {
+    if (!fontLog().isDebugEnabled())
+        return;
+    const auto log = [] { qCDebug(fontLog, "the font is %s", qUtf8Printable(systemFont(11).family())); };
+    QObject::connect(&FontChanges::shared(), &FontChanges::changed, &m_delegate, log);
     log();
 }
 

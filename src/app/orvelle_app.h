@@ -31,6 +31,7 @@ private:
     void logStart();
     void logSamples();
     void logMotion();
+    void logFonts();
 
     QElapsedTimer m_sinceStart;
     QGuiApplication m_application;
@@ -39,6 +40,7 @@ private:
     ThemeManager m_themes;
     SystemMonitor m_monitor;
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted
+    std::unique_ptr<QObject> m_desktopFonts;  ///< null where Qt knows the fonts
     std::unique_ptr<StatusBar> m_statusBar;
     std::unique_ptr<OnlyInstance> m_onlyInstance; ///< null before run()
     LaunchAtLogin m_launchAtLogin;

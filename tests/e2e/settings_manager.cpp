@@ -1,5 +1,6 @@
-// The program of a desktop that publishes its settings, for the end-to-end tests: for each number on its
-// standard input it publishes that animations are enabled (1) or not (0). It ends with its input.
+// The program of a desktop that publishes its settings, for the end-to-end tests: for each line on its
+// standard input, a number and the description of a font, it publishes that animations are enabled (1) or not
+// (0) and that font. It ends with its input.
 
 #include "support/xsettings_bytes.h"
 
@@ -8,6 +9,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -22,10 +24,11 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-void publish(xcb_connection_t* connection, xcb_window_t window, int animations) {
+void publish(xcb_connection_t* connection, xcb_window_t window, int animations, std::string_view font) {
     const std::string bytes = orvelle::XSettingsBytes()
                                   .text("Net/ThemeName", "Adwaita")
                                   .integer("Gtk/EnableAnimations", animations)
+                                  .text("Gtk/FontName", font)
                                   .bytes();
     const xcb_atom_t settings = atom(connection, "_XSETTINGS_SETTINGS");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, settings, settings, 8,
@@ -60,8 +63,9 @@ int main() {
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, nullptr);
     bool isManager = false;
     int animations = 0;
-    while (std::cin >> animations) {
-        publish(connection, window, animations);
+    std::string font;
+    while (std::cin >> animations && std::getline(std::cin >> std::ws, font)) {
+        publish(connection, window, animations, font);
         if (!isManager)
             becomeManager(connection, window, screen->root);
         isManager = true;

@@ -32,6 +32,11 @@ class Motion;
 /// long as the result lives. Null where the desktop cannot say. Needs the application object.
 [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(Motion& motion);
 
+/// Keeps the fonts of look/fonts.h those that the desktop announces, now and whenever that changes, as long
+/// as the result lives. Null where the desktop announces none beside what Qt knows. Needs the application
+/// object.
+[[nodiscard]] std::unique_ptr<QObject> followDesktopFonts();
+
 /// The login item of this program for the present user.
 [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem();
 

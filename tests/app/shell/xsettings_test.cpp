@@ -93,5 +93,31 @@ TEST(IntegerSetting, NeedsNoPaddingAtTheEnd) {
     EXPECT_EQ(integerSetting(bytes, "Last2"), std::nullopt);
 }
 
+TEST(TextSetting, IsFoundAmongSettingsOfEveryTypeInBothOrdersOfBytes) {
+    for (const bool mostSignificantFirst : {false, true}) {
+        const std::string bytes = desktop(mostSignificantFirst, 0).bytes();
+        EXPECT_EQ(textSetting(bytes, "Net/ThemeName"), "Adwaita");
+        EXPECT_EQ(textSetting(bytes, "Gtk/FontName"), "Cantarell 11");
+    }
+}
+
+TEST(TextSetting, IsNothingWhenItIsNotThereOrNoText) {
+    const std::string bytes = desktop(false, 0).bytes();
+    for (const char* name : {"Gtk/Font", "", "Gtk/EnableAnimations", "Net/Accent"})
+        EXPECT_EQ(textSetting(bytes, name), std::nullopt) << name;
+    EXPECT_EQ(textSetting({}, "Gtk/FontName"), std::nullopt);
+}
+
+TEST(TextSetting, MayBeEmpty) {
+    EXPECT_EQ(textSetting(XSettingsBytes().text("Gtk/FontName", "").bytes(), "Gtk/FontName"), "");
+}
+
+TEST(TextSetting, IsFoundOnceAllOfItIsThere) {
+    const std::string bytes = XSettingsBytes().text("Gtk/FontName", "Cantarell 11").bytes();
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+        EXPECT_EQ(textSetting(std::string_view(bytes).substr(0, size), "Gtk/FontName"), std::nullopt) << size;
+    EXPECT_EQ(textSetting(bytes, "Gtk/FontName"), "Cantarell 11");
+}
+
 } // namespace
 } // namespace orvelle

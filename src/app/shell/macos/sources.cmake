@@ -4,6 +4,7 @@ set(ORVELLE_MACOS_SHELL_SOURCES
   display_options_observer.mm
   hosted_window.mm
   macos_context_menu.mm
+  macos_fonts.mm
   macos_login_item.mm
   macos_only_instance.mm
   macos_popover.mm

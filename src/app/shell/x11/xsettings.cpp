@@ -1,6 +1,7 @@
 #include "app/shell/x11/xsettings.h"
 
 #include <algorithm>
+#include <variant>
 
 namespace orvelle {
 namespace {
@@ -66,20 +67,27 @@ std::optional<std::uint32_t> takeHeader(Reader& reader) {
     return reader.number(4);
 }
 
-/// Takes the value of a setting that is no integer. Returns whether that worked: a type of another protocol
-/// has an unknown size.
-bool skipValue(Reader& reader, std::uint32_t type) {
+/// A colour is of no use here, so that none is kept.
+struct Color {};
+using Value = std::variant<Color, std::int32_t, std::string_view>;
+
+/// Takes the value of a setting. Nothing when it is not all there; a type of another protocol has an unknown
+/// size.
+std::optional<Value> takeValue(Reader& reader, std::uint32_t type) {
+    if (type == integerType) {
+        const std::optional<std::uint32_t> number = reader.number(4);
+        return number ? std::optional<Value>(static_cast<std::int32_t>(*number)) : std::nullopt;
+    }
     if (type == colorType)
-        return reader.bytes(colorSize).has_value();
+        return reader.bytes(colorSize) ? std::optional<Value>(Color()) : std::nullopt;
     if (type != textType)
-        return false;
+        return std::nullopt;
     const std::optional<std::uint32_t> size = reader.number(4);
-    return size && reader.paddedText(*size);
+    const std::optional<std::string_view> text = size ? reader.paddedText(*size) : std::nullopt;
+    return text ? std::optional<Value>(*text) : std::nullopt;
 }
 
-} // namespace
-
-std::optional<std::int32_t> integerSetting(std::string_view property, std::string_view name) {
+std::optional<Value> valueOf(std::string_view property, std::string_view name) {
     Reader reader(property);
     const std::uint32_t count = takeHeader(reader).value_or(0);
     for (std::uint32_t index = 0; index < count; ++index) {
@@ -88,18 +96,29 @@ std::optional<std::int32_t> integerSetting(std::string_view property, std::strin
         const std::optional<std::string_view> found = reader.paddedText(reader.number(2).value_or(0));
         if (!type || !found || !reader.bytes(serialSize))
             return std::nullopt;
-        if (*type != integerType) {
-            if (found == name || !skipValue(reader, *type))
-                return std::nullopt;
-            continue;
-        }
-        const std::optional<std::uint32_t> value = reader.number(4);
-        if (!value)
-            return std::nullopt;
-        if (found == name)
-            return static_cast<std::int32_t>(*value);
+        const std::optional<Value> value = takeValue(reader, *type);
+        if (!value || found == name)
+            return value;
     }
     return std::nullopt;
+}
+
+/// The value where it is of this type.
+template <class Wanted>
+std::optional<Wanted> settingOf(std::string_view property, std::string_view name) {
+    const std::optional<Value> value = valueOf(property, name);
+    const Wanted* wanted = value ? std::get_if<Wanted>(&*value) : nullptr;
+    return wanted != nullptr ? std::optional<Wanted>(*wanted) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::int32_t> integerSetting(std::string_view property, std::string_view name) {
+    return settingOf<std::int32_t>(property, name);
+}
+
+std::optional<std::string_view> textSetting(std::string_view property, std::string_view name) {
+    return settingOf<std::string_view>(property, name);
 }
 
 } // namespace orvelle
