@@ -122,6 +122,9 @@ TEST_F(AppDelegateVisibilityTest, NoticesAChangeByItselfWhereSamplesAreRare) {
     EXPECT_EQ(refreshTimer()->timerType(), Qt::PreciseTimer);
     endNow(*refreshTimer());
     EXPECT_FALSE(showsMemory());
+    settings.setShowMemory(true);
+    endNow(*refreshTimer());
+    EXPECT_TRUE(showsMemory()) << "again and again";
     settings.setUpdateInterval(1);
     EXPECT_FALSE(refreshTimer()->isActive());
 }

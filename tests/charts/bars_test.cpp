@@ -106,6 +106,27 @@ TEST_P(Bars, GlowSitsOnePointHigherThanTheBarAndStaysWithinItsOverhang) {
     EXPECT_EQ(colorAt(image, 30, 18.5).red(), 255);
 }
 
+TEST_P(Bars, GlowIsShapedLikeTheBarOnePointAboveIt) {
+    // A thin line has the same opacity everywhere, so that its glow is alike at both ends.
+    AnimatedBarChart chart = Bars::chart({0.4});
+    chart.barStyle = BarChartStyle::thinLine;
+    chart.height = 40;
+    chart.showGlow = true;
+    chart.glowIntensity = GlowIntensity::intense;
+    const auto paint = [&](QPainter& painter) { chart.paint(painter, {20, 20, 40, 40}); };
+    const QImage image = painted({80, 80}, paint);
+    const int middle = pixels(40);
+    const int top = pixels(44); // of the bar, which ends at 60
+    const int bottom = pixels(60) - 1;
+    const int rise = pixels(1);
+    for (int distance = 1; distance < pixels(4); ++distance) {
+        const int above = image.pixelColor(middle, top - 2 * rise - distance).alpha();
+        const int below = image.pixelColor(middle, bottom + distance).alpha();
+        EXPECT_NEAR(above, below, 2) << distance << " pixels from the bar";
+        EXPECT_GT(image.pixelColor(middle, top - distance).alpha(), below + 2) << distance;
+    }
+}
+
 TEST_P(Bars, PaintTheSameFromACacheAsWithoutOne) {
     AnimatedBarChart chart = Bars::chart({0.2, 0.8, 1});
     chart.showGlow = true;

@@ -52,6 +52,13 @@ TEST_P(Rings, StrokeLiesOnTheCircleOfTheirSize) {
     EXPECT_EQ(ring(RingChartStyle::fullRing, 0).overhang(), 5);
 }
 
+TEST_P(Rings, EndsTheirStrokesInRoundCaps) {
+    const QImage image = paintedRing(ring(RingChartStyle::fullRing, 0.25));
+    EXPECT_EQ(strokeColorAt(image, 94).blue(), 255) << "half the width of the stroke beyond the end";
+    EXPECT_TRUE(isTrack(strokeColorAt(image, 96, 44))) << "but not at its edge";
+    EXPECT_TRUE(isTrack(strokeColorAt(image, 100)));
+}
+
 TEST_P(Rings, HalfGaugeFillsTheUpperHalfFromTheLeft) {
     const QImage image = paintedRing(ring(RingChartStyle::halfGauge, 0.5));
     EXPECT_EQ(strokeColorAt(image, -60).blue(), 255);
@@ -232,6 +239,18 @@ TEST_P(SegmentRing, DrawsItsSegmentsClockwiseInOrder) {
     EXPECT_EQ(strokeColorAt(image, 260), QColor(Qt::green));
     EXPECT_EQ(strokeColorAt(image, 315), QColor(Qt::blue));
     EXPECT_EQ(paintedRect(image), QRect(pixels(15), pixels(15), pixels(90), pixels(90)));
+}
+
+TEST_P(SegmentRing, EndsEverySegmentExactlyWhereItsAngleIs) {
+    MultiSegmentRing quarter = ring({1, 3});
+    quarter.segments[1].color = Qt::transparent;
+    const QImage image = paintedSegments(quarter);
+    for (const double radius : {36.5, 40.0, 43.5}) {
+        EXPECT_EQ(strokeColorAt(image, 3, radius), QColor(Qt::red)) << radius;
+        EXPECT_EQ(strokeColorAt(image, 87, radius), QColor(Qt::red)) << radius;
+        EXPECT_TRUE(isTrack(strokeColorAt(image, -3, radius))) << radius << ": no cap before it";
+        EXPECT_TRUE(isTrack(strokeColorAt(image, 93, radius))) << radius << ": no cap behind it";
+    }
 }
 
 TEST_P(SegmentRing, DrawsOnlyTheTrackWithoutASum) {

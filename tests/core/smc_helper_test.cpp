@@ -116,6 +116,18 @@ TEST_F(SMCHelperTest, DecodesWithTheTypeOfTheFirstAnswer) {
     EXPECT_EQ(decoded("ui8 ", 1, {42}), 42.0);
 }
 
+TEST_F(SMCHelperTest, TakesTheAnswerWhateverTheControllersOwnResultSays) {
+    client.setFloat("Tp09", 50);
+    for (const std::uint8_t byte : {std::uint8_t{0x01}, std::uint8_t{0x84}, std::uint8_t{0xFF}}) {
+        client.resultByte = byte;
+        client.statusByte = 0;
+        EXPECT_EQ(SMCHelper(client).readKey("Tp09"), 50.0) << int{byte};
+        client.resultByte = 0;
+        client.statusByte = byte;
+        EXPECT_EQ(SMCHelper(client).readKey("Tp09"), 50.0) << int{byte};
+    }
+}
+
 TEST_F(SMCHelperTest, AFailedCallIsNothing) {
     client.setFloat("Tp09", 50);
     client.failingCommand = SMCParameterBlock::readKeyInfoCommand;

@@ -28,6 +28,9 @@ public:
     bool acceptsOpen = true;
     /// The command whose calls fail, 0 for none.
     std::uint8_t failingCommand = 0;
+    /// What the controller says of every call by itself, apart from its answer.
+    std::uint8_t resultByte = 0;
+    std::uint8_t statusByte = 0;
     int openCount = 0;
     int closeCount = 0;
     std::vector<Call> calls;
@@ -74,6 +77,8 @@ public:
         const auto found = m_values.find(input.key);
         const Value value = found == m_values.end() ? Value{} : found->second;
         output = SMCParameterBlock{};
+        output.result = resultByte;
+        output.status = statusByte;
         // Each command answers its own part only, as the controller does.
         if (input.data8 == SMCParameterBlock::readKeyInfoCommand) {
             output.keyInfo.dataSize = value.dataSize;
