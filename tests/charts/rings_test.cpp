@@ -54,7 +54,7 @@ TEST_P(Rings, StrokeLiesOnTheCircleOfTheirSize) {
 
 TEST_P(Rings, EndsTheirStrokesInRoundCaps) {
     const QImage image = paintedRing(ring(RingChartStyle::fullRing, 0.25));
-    EXPECT_EQ(strokeColorAt(image, 94).blue(), 255) << "half the width of the stroke beyond the end";
+    EXPECT_LT(strokeColorAt(image, 94).red(), 60) << "half the width of the stroke beyond the end";
     EXPECT_TRUE(isTrack(strokeColorAt(image, 96, 44))) << "but not at its edge";
     EXPECT_TRUE(isTrack(strokeColorAt(image, 100)));
 }

@@ -193,6 +193,21 @@ TEST_F(PanelData, ABoltMarksTheBatteryThatCharges) {
     EXPECT_EQ(symbolsCalled(u"bolt").size(), 1);
 }
 
+TEST_F(PanelData, TheBarOfTheChargeIsGreenWhileTheBatteryCharges) {
+    settings.setCustomBatteryColorHex(QStringLiteral("#102030"));
+    settings.setUseCustomBatteryColor(true);
+    PowerSourceDescription battery{.currentCapacity = 40, .isCharging = true};
+    machine.battery->powerSources = {{battery}};
+    sample();
+    ASSERT_NE(show(u"battery"), nullptr);
+    EXPECT_EQ(colorOf("fill"), green);
+    EXPECT_EQ(colorOf("charge"), QColor(0x10, 0x20, 0x30));
+    battery.isCharging = false;
+    machine.battery->powerSources = {{battery}};
+    sample();
+    EXPECT_EQ(colorOf("fill"), QColor(0x10, 0x20, 0x30));
+}
+
 TEST_F(PanelData, TheTimeIsUntilFullWhileChargingAndElseUntilEmpty) {
     PowerSourceDescription battery{
         .currentCapacity = 40, .isCharging = true, .timeToEmpty = 59, .timeToFullCharge = 125};
