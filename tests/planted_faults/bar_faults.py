@@ -1,0 +1,48 @@
+"""Faults of the items in the menu bar."""
+
+from planting import Fault
+
+DRAWINGS = "src/app/menu_bar_items/item_drawings.cpp"
+SIZES = "src/app/menu_bar_items/item_drawings.h"
+BATTERY = "src/app/menu_bar_items/battery_menu_bar_item.cpp"
+NETWORK = "src/app/menu_bar_items/network_menu_bar_item.cpp"
+SENSOR = "src/app/menu_bar_items/sensor_menu_bar_item.cpp"
+DISK = "src/app/menu_bar_items/disk_menu_bar_item.cpp"
+WRITTEN = ("test_menu_bar_items", "WrittenValues.*")
+ITEMS = ("test_menu_bar_items", "*MenuBarItem*:ItemDrawings*:*Rules*:*Dot*")
+VALUE_FONT = "monospacedSystemFont(fontSize, QFont::Medium)"
+
+BAR_FAULTS = [
+    Fault("values are not monospaced", DRAWINGS, VALUE_FONT, "systemFont(fontSize, QFont::Medium)", *WRITTEN),
+    Fault("values are of normal weight", DRAWINGS, VALUE_FONT, "monospacedSystemFont(fontSize)", *WRITTEN),
+    Fault("values are in the secondary colour", DRAWINGS, f"{VALUE_FONT}, LabelColors::primary",
+          f"{VALUE_FONT}, LabelColors::secondary", *WRITTEN),
+    Fault("values are larger", SIZES, "valueFontSize = 11", "valueFontSize = 12", *WRITTEN),
+    Fault("values beside a chart are as large as others", SIZES, "smallValueFontSize = 10", "smallValueFontSize = 11",
+          *WRITTEN),
+    Fault("a lone rate is of normal weight", NETWORK, "monospacedSystemFont(rateFontSize, QFont::Medium)",
+          "monospacedSystemFont(rateFontSize)", *WRITTEN),
+    Fault("a rate is not monospaced", NETWORK, "monospacedSystemFont(rateFontSize),", "systemFont(rateFontSize),",
+          *WRITTEN),
+    Fault("rates are larger", NETWORK, "rateFontSize = 8", "rateFontSize = 9", *WRITTEN),
+    Fault("the download stands above the upload", NETWORK,
+          "bareRate(m_monitor.totalUploadSpeed()), bareRate(m_monitor.totalDownloadSpeed())",
+          "bareRate(m_monitor.totalDownloadSpeed()), bareRate(m_monitor.totalUploadSpeed())", *WRITTEN),
+    Fault("the temperature is of normal weight", SENSOR, "monospacedSystemFont(smallValueFontSize, QFont::Medium)",
+          "monospacedSystemFont(smallValueFontSize)", *WRITTEN),
+    Fault("the history of temperatures reaches to 100", SENSOR, "historyMaximum = 110", "historyMaximum = 100", *ITEMS),
+    Fault("an outlined bolt marks the charging battery", BATTERY, 'u"bolt.fill"', 'u"bolt"', *ITEMS),
+    Fault("the bolt is larger", BATTERY, "chargingMarkFontSize = 7", "chargingMarkFontSize = 8", *ITEMS),
+    Fault("the bolt is green", BATTERY, "chargingMarkFontSize, SystemColors::yellow",
+          "chargingMarkFontSize, SystemColors::green", *ITEMS),
+    Fault("the charge is written small alone too", BATTERY, "return charge(valueFontSize)",
+          "return charge(smallValueFontSize)", *WRITTEN),
+    Fault("unlit dots of the sensors are as bright as others", "src/app/menu_bar_items/sensor_item_rules.cpp",
+          "unlitOpacity = 0.15", "unlitOpacity = 0.2", *ITEMS),
+    Fault("read and write exchange their colours", DISK,
+          "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor)",
+          "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskWriteColor)", *ITEMS),
+    Fault("icons are smaller", SIZES, "iconFontSize = 10", "iconFontSize = 9", *ITEMS),
+    Fault("a history is drawn from 21 samples", "src/app/menu_bar_items/item_rules.h", "recentSampleCount = 20",
+          "recentSampleCount = 21", *ITEMS),
+]

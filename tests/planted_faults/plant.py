@@ -1,0 +1,36 @@
+#!/usr/bin/env -S python3 -B
+"""Shows that the tests notice when Orvelle is broken, by planting one fault after the other in a copy of the
+checkout. For use by hand: it builds and tests for a quarter of an hour, longer on a busy machine.
+
+    plant.py [--folder FOLDER] [WORD...]
+
+Only faults with one of the WORDs in their description or file are planted. FOLDER, build/planted-faults where none
+is given, keeps the copy and its build for the next time. Ends with status 1 when a fault was not noticed.
+"""
+
+import argparse
+import sys
+from pathlib import Path
+
+from bar_faults import BAR_FAULTS
+from chart_faults import CHART_FAULTS
+from core_faults import CORE_FAULTS
+from panel_faults import PANEL_FAULTS
+from planting import plant
+
+CHECKOUT = Path(__file__).resolve().parents[2]
+
+
+def main():
+    """Plants the faults that were asked for."""
+    arguments = argparse.ArgumentParser(description="Plants faults in a copy of the checkout.")
+    arguments.add_argument("--folder", default=CHECKOUT / "build" / "planted-faults")
+    arguments.add_argument("words", nargs="*")
+    chosen = arguments.parse_args()
+    faults = [fault for fault in CORE_FAULTS + CHART_FAULTS + BAR_FAULTS + PANEL_FAULTS
+              if not chosen.words or any(word in fault.what or word in fault.file for word in chosen.words)]
+    return 1 if plant(CHECKOUT, chosen.folder, faults) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
