@@ -7,6 +7,40 @@ constexpr std::int64_t gigabyte = 1'000'000'000;
 constexpr std::int64_t day = 86'400;
 constexpr std::int64_t hour = 3'600;
 
+std::vector<ExampleInterface> laptopInterfaces() {
+    return {{.entry = {.name = "enp0s31f6",
+                       .isUp = true,
+                       .ipv4Address = "10.20.0.14",
+                       .ipv6Address = "2001:db8:77:1::2c6f"},
+             .downloadRate = 210'000,
+             .uploadRate = 540'000},
+            {.entry = {.name = "wlan0",
+                       .isUp = true,
+                       .ipv4Address = "192.168.1.20",
+                       .ipv6Address = "2001:db8:4f2a:81c0::1d3e"},
+             .downloadRate = 1'840'000,
+             .uploadRate = 96'000}};
+}
+
+std::vector<MountedVolume> laptopVolumes() {
+    return {{.path = "/", .isLocal = true, .totalBytes = 512 * gigabyte, .freeBytes = 212 * gigabyte},
+            {.path = "/media/alex/Backup",
+             .name = "Backup",
+             .isLocal = true,
+             .totalBytes = 2'000 * gigabyte,
+             .freeBytes = 431 * gigabyte}};
+}
+
+std::vector<ExampleProcess> laptopProcesses() {
+    return {{.name = "firefox", .cpuPercent = 64, .mebibytes = 1437},
+            {.name = "cc1plus", .cpuPercent = 97, .mebibytes = 612},
+            {.name = "gnome-shell", .cpuPercent = 21, .mebibytes = 389},
+            {.name = "Isolated Web Content", .cpuPercent = 38, .mebibytes = 846},
+            {.name = "thunderbird", .cpuPercent = 3, .mebibytes = 574},
+            {.name = "pipewire", .cpuPercent = 5, .mebibytes = 41},
+            {.name = "postgres", .cpuPercent = 1, .mebibytes = 1024}};
+}
+
 ExampleCharacter laptop() {
     ExampleCharacter machine{.calmPercent = 6, .swingPercent = 105};
     machine.loadAverages = {2.41, 1.87, 1.32};
@@ -19,27 +53,10 @@ ExampleCharacter laptop() {
                       .cached = 13,
                       .swapTotalMebibytes = 8192,
                       .swapUsedMebibytes = 1340};
-    machine.interfaces = {{.entry = {.name = "enp0s31f6",
-                                     .isUp = true,
-                                     .ipv4Address = "10.20.0.14",
-                                     .ipv6Address = "2001:db8:77:1::2c6f"},
-                           .downloadRate = 210'000,
-                           .uploadRate = 540'000},
-                          {.entry = {.name = "wlan0",
-                                     .isUp = true,
-                                     .ipv4Address = "192.168.1.20",
-                                     .ipv6Address = "2001:db8:4f2a:81c0::1d3e"},
-                           .downloadRate = 1'840'000,
-                           .uploadRate = 96'000}};
+    machine.interfaces = laptopInterfaces();
     machine.readRate = 5'200'000;
     machine.writeRate = 2'900'000;
-    machine.volumes = {
-        {.path = "/", .isLocal = true, .totalBytes = 512 * gigabyte, .freeBytes = 212 * gigabyte},
-        {.path = "/media/alex/Backup",
-         .name = "Backup",
-         .isLocal = true,
-         .totalBytes = 2'000 * gigabyte,
-         .freeBytes = 431 * gigabyte}};
+    machine.volumes = laptopVolumes();
     machine.powerSources = {{.currentCapacity = 64,
                              .isCharging = false,
                              .powerSourceState = PowerSourceDescription::batteryPower,
@@ -61,14 +78,37 @@ ExampleCharacter laptop() {
         {.key = "wireless", .name = "iwlwifi_1", .value = 38},
     };
     machine.fanSpeeds = {2140, 1985};
-    machine.processes = {{.name = "firefox", .cpuPercent = 64, .mebibytes = 1437},
-                         {.name = "cc1plus", .cpuPercent = 97, .mebibytes = 612},
-                         {.name = "gnome-shell", .cpuPercent = 21, .mebibytes = 389},
-                         {.name = "Isolated Web Content", .cpuPercent = 38, .mebibytes = 846},
-                         {.name = "thunderbird", .cpuPercent = 3, .mebibytes = 574},
-                         {.name = "pipewire", .cpuPercent = 5, .mebibytes = 41},
-                         {.name = "postgres", .cpuPercent = 1, .mebibytes = 1024}};
+    machine.processes = laptopProcesses();
     return machine;
+}
+
+std::vector<ExampleInterface> loadedInterfaces() {
+    return {{.entry = {.name = "enx00e04c680a5b",
+                       .isUp = true,
+                       .ipv4Address = "203.113.200.254",
+                       .ipv6Address = "2001:db8:4f2a:81c0:9d3e:77b2:4c1f:e05d"},
+             .downloadRate = 113'000'000,
+             .uploadRate = 110'600'000},
+            {.entry = {.name = "wlp0s20f3", .isUp = true, .ipv4Address = "192.168.100.200"},
+             .downloadRate = 74'000'000,
+             .uploadRate = 51'000'000}};
+}
+
+std::vector<MountedVolume> loadedVolumes() {
+    return {{.path = "/", .isLocal = true, .totalBytes = 512 * gigabyte, .freeBytes = 0},
+            {.path = "/media/alex/Photographs of many years",
+             .name = "Photographs of many years",
+             .isLocal = true,
+             .totalBytes = 18'000 * gigabyte,
+             .freeBytes = 1'100 * gigabyte}};
+}
+
+std::vector<ExampleProcess> loadedProcesses() {
+    return {{.name = "qemu-system-x86_64", .cpuPercent = 800, .mebibytes = 65'536},
+            {.name = "rustc", .cpuPercent = 796, .mebibytes = 23'552},
+            {.name = "java", .cpuPercent = 640, .mebibytes = 12'288},
+            {.name = "ld.lld", .cpuPercent = 388, .mebibytes = 4'096},
+            {.name = "clang-tidy-19", .cpuPercent = 200, .mebibytes = 1'000}};
 }
 
 ExampleCharacter loadedLaptop() {
@@ -83,23 +123,10 @@ ExampleCharacter loadedLaptop() {
                       .compressed = 30,
                       .swapTotalMebibytes = 131'072,
                       .swapUsedMebibytes = 130'969};
-    machine.interfaces = {{.entry = {.name = "enx00e04c680a5b",
-                                     .isUp = true,
-                                     .ipv4Address = "203.113.200.254",
-                                     .ipv6Address = "2001:db8:4f2a:81c0:9d3e:77b2:4c1f:e05d"},
-                           .downloadRate = 113'000'000,
-                           .uploadRate = 110'600'000},
-                          {.entry = {.name = "wlp0s20f3", .isUp = true, .ipv4Address = "192.168.100.200"},
-                           .downloadRate = 74'000'000,
-                           .uploadRate = 51'000'000}};
+    machine.interfaces = loadedInterfaces();
     machine.readRate = 2'000'000'000;
     machine.writeRate = 900'000'000;
-    machine.volumes = {{.path = "/", .isLocal = true, .totalBytes = 512 * gigabyte, .freeBytes = 0},
-                       {.path = "/media/alex/Photographs of many years",
-                        .name = "Photographs of many years",
-                        .isLocal = true,
-                        .totalBytes = 18'000 * gigabyte,
-                        .freeBytes = 1'100 * gigabyte}};
+    machine.volumes = loadedVolumes();
     machine.powerSources = {{.currentCapacity = 100,
                              .isCharging = true,
                              .powerSourceState = PowerSourceDescription::externalPower,
@@ -118,11 +145,7 @@ ExampleCharacter loadedLaptop() {
                        {.key = "gpu", .name = "amdgpu junction", .value = 104},
                        {.key = "drive", .name = "Samsung SSD 970 EVO Plus Composite", .value = 89}};
     machine.fanSpeeds = {6150, 5980, 12'480};
-    machine.processes = {{.name = "qemu-system-x86_64", .cpuPercent = 800, .mebibytes = 65'536},
-                         {.name = "rustc", .cpuPercent = 796, .mebibytes = 23'552},
-                         {.name = "java", .cpuPercent = 640, .mebibytes = 12'288},
-                         {.name = "ld.lld", .cpuPercent = 388, .mebibytes = 4'096},
-                         {.name = "clang-tidy-19", .cpuPercent = 200, .mebibytes = 1'000}};
+    machine.processes = loadedProcesses();
     return machine;
 }
 
