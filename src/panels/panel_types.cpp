@@ -1,5 +1,7 @@
 #include "panels/panel_types.h"
 
+#include <QtGlobal>
+
 #include <mutex>
 
 void qml_register_types_Orvelle_Panels(); // written by the build

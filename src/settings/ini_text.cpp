@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace orvelle::IniText {
 namespace {
@@ -217,6 +219,7 @@ QByteArray withValues(const QByteArray& text, const QHash<QString, QString>& val
         add(result, newLines, found, lineEnd);
     // From behind, so that what is in front keeps its place. New lines stand behind every key.
     std::vector<std::pair<Place, QByteArray>> changes;
+    changes.reserve(found.places.size());
     for (const auto& [key, place] : found.places)
         changes.emplace_back(place, encoded(values.value(key)));
     std::ranges::sort(changes, std::ranges::greater(), [](const auto& change) { return change.first.begin; });

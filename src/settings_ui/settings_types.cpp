@@ -1,5 +1,7 @@
 #include "settings_ui/settings_types.h"
 
+#include <QtGlobal>
+
 #include <mutex>
 
 void qml_register_types_Orvelle_SettingsUI(); // written by the build

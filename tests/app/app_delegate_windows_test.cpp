@@ -1,5 +1,7 @@
 #include "app/app_delegate_fixture.h"
 
+#include <QCoreApplication>
+
 namespace orvelle {
 namespace {
 

@@ -100,7 +100,7 @@ DATA_FAULTS = [
 ]
 
 PICTURE_FAULTS = [
-    Fault("the badge's ground is denser", MEMORY, "Look.faded(badge.color, 0.15)", "Look.faded(badge.color, 0.3)",
+    Fault("the badge's ground is denser", MEMORY, "Look.withOpacity(badge.color, 0.15)", "Look.withOpacity(badge.color, 0.3)",
           *PICTURES),
     Fault("used and total swap are exchanged", MEMORY, "text: PanelRules.byteSizeText(panel.info.swapUsed)",
           "text: PanelRules.byteSizeText(panel.info.swapTotal)", *PICTURES),

@@ -1,5 +1,7 @@
 #include "look/quick/look_types.h"
 
+#include <QtGlobal>
+
 #include <mutex>
 
 void qml_register_types_Orvelle_Look(); // written by the build
