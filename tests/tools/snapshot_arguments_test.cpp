@@ -30,6 +30,12 @@ TEST(SnapshotArguments, TakeRootsInTheirOrderAndAScale) {
     EXPECT_EQ(arguments.scale, 1.5);
 }
 
+TEST(SnapshotArguments, TakeTheExampleInThePlaceOfRoots) {
+    EXPECT_TRUE(std::get<SnapshotArguments>(parsed("pictures --example")).ofExample);
+    EXPECT_FALSE(std::get<SnapshotArguments>(parsed("pictures --root a")).ofExample);
+    EXPECT_TRUE(std::holds_alternative<UsageError>(parsed("pictures --example --root a")));
+}
+
 TEST(SnapshotArguments, WhatCannotBeTakenIsAUsageError) {
     for (const char* arguments :
          {"", "--root a", "one two", "one --root", "one --scale", "one --scale 0.5", "one --scale 5",

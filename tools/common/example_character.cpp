@@ -11,13 +11,15 @@ std::vector<ExampleInterface> laptopInterfaces() {
     return {{.entry = {.name = "enp0s31f6",
                        .isUp = true,
                        .ipv4Address = "10.20.0.14",
-                       .ipv6Address = "2001:db8:77:1::2c6f"},
+                       .ipv6Address = "2001:db8:77:1::2c6f",
+                       .kind = InterfaceKind::ethernet},
              .downloadRate = 210'000,
              .uploadRate = 540'000},
             {.entry = {.name = "wlan0",
                        .isUp = true,
                        .ipv4Address = "192.168.1.20",
-                       .ipv6Address = "2001:db8:4f2a:81c0::1d3e"},
+                       .ipv6Address = "2001:db8:4f2a:81c0::1d3e",
+                       .kind = InterfaceKind::wifi},
              .downloadRate = 1'840'000,
              .uploadRate = 96'000}};
 }
@@ -151,7 +153,9 @@ ExampleCharacter loadedLaptop() {
 
 ExampleCharacter bareComputer() {
     ExampleCharacter machine{.coreCount = 16, .cycles = 1, .calmPercent = 8, .swingPercent = 66};
-    machine.interfaces = {{.entry = {.name = "eth0", .isUp = true, .ipv4Address = "192.168.1.20"}}};
+    machine.interfaces = {
+        {.entry = {
+             .name = "eth0", .isUp = true, .ipv4Address = "192.168.1.20", .kind = InterfaceKind::ethernet}}};
     return machine;
 }
 

@@ -1,5 +1,6 @@
 // orvelle-snapshot: paints every view into picture files, without a window.
 
+#include "common/example_machines.h"
 #include "common/sampling.h"
 #include "core/system_monitor.h"
 #include "snapshot/sheet_file.h"
@@ -37,9 +38,16 @@ SamplingPlan planFor(const QStringList& roots) {
     return {.roots = roots};
 }
 
+std::variant<std::unique_ptr<SystemMonitor>, UnreadableRoot> monitorFor(const SnapshotArguments& arguments,
+                                                                        const SettingsStore& settings) {
+    if (arguments.ofExample)
+        return exampleMonitor(ExampleMachine::laptop, settings);
+    return sampledMonitor(planFor(arguments.roots), settings);
+}
+
 int paintSheets(const SnapshotArguments& arguments) {
     FreshSettings settings;
-    const auto sampled = sampledMonitor(planFor(arguments.roots), settings.store);
+    const auto sampled = monitorFor(arguments, settings.store);
     if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
         return fail(error->message, exitFailed);
     SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
