@@ -20,7 +20,7 @@ Item {
 
     Symbol {
         visible: label.symbol !== ""
-        x: 7 - width / 2
+        x: Look.centred(14, width)
         y: Look.centred(parent.height, height)
         name: label.symbol
         fontSize: label.symbolSize

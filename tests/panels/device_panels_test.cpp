@@ -225,8 +225,8 @@ TEST_F(SensorPanel, TurnsTheIconsOfFansThatTurn) {
     sample();
     ASSERT_NE(show(u"sensor"), nullptr);
     EXPECT_EQ(textOf("speed"), QStringLiteral("1500 RPM"));
-    const double before = item("icon")->rotation();
-    EXPECT_TRUE(waitUntil([&] { return item("icon")->rotation() != before; }));
+    const double before = item("icon")->property("angle").toDouble();
+    EXPECT_TRUE(waitUntil([&] { return item("icon")->property("angle").toDouble() != before; }));
     EXPECT_TRUE(hasRunningTimer(*panel->contentItem()));
     Motion::shared().setReduced(true);
     EXPECT_FALSE(hasRunningTimer(*panel->contentItem())) << "the fans stand still";

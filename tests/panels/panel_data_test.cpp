@@ -43,10 +43,10 @@ protected:
         const QList<const QQuickItem*> icons = symbolsCalled(u"fan");
         QList<double> steps;
         for (const QQuickItem* icon : icons)
-            steps.append(-icon->rotation());
+            steps.append(-icon->property("angle").toDouble());
         QMetaObject::invokeMethod(&timer, "triggered");
         for (qsizetype index = 0; index < icons.size(); ++index)
-            steps[index] = std::fmod(steps[index] + icons[index]->rotation() + 360, 360);
+            steps[index] = std::fmod(steps[index] + icons[index]->property("angle").toDouble() + 360, 360);
         return steps;
     }
     [[nodiscard]] static QObject* timerIn(const QQuickItem& root, const QString& name) {

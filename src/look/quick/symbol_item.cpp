@@ -1,5 +1,6 @@
 #include "look/quick/symbol_item.h"
 
+#include "look/device_pixels.h"
 #include "look/symbols.h"
 
 namespace orvelle {
@@ -10,9 +11,20 @@ SymbolItem::SymbolItem(QQuickItem* parent)
 }
 
 void SymbolItem::paint(QPainter* painter) {
-    if (isKnownSymbol(m_name))
-        paintSymbol(*painter, m_name, boundingRect().center(), m_fontSize, m_color,
-                    static_cast<QFont::Weight>(m_weight));
+    if (!isKnownSymbol(m_name))
+        return;
+    const QPointF center = boundingRect().center();
+    const auto weight = static_cast<QFont::Weight>(m_weight);
+    if (m_angle == 0) {
+        paintSymbol(*painter, m_name, center, m_fontSize, m_color, weight);
+        return;
+    }
+    const QImage image = symbolImage(m_name, m_fontSize, m_color, devicePixelsPerPoint(*painter), weight);
+    const QSizeF size = image.deviceIndependentSize();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->translate(center);
+    painter->rotate(m_angle);
+    painter->drawImage(QRectF({-size.width() / 2, -size.height() / 2}, size), image);
 }
 
 void SymbolItem::refresh() {

@@ -15,6 +15,9 @@ class SymbolItem : public QQuickPaintedItem {
     Q_PROPERTY(double fontSize MEMBER m_fontSize NOTIFY changed REQUIRED)
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed REQUIRED)
+    /// Degrees by which the symbol is turned clockwise about its centre. The scene graph would turn the
+    /// pixels of the finished picture, which leaves jagged edges.
+    Q_PROPERTY(double angle MEMBER m_angle NOTIFY changed)
 
 public:
     explicit SymbolItem(QQuickItem* parent = nullptr);
@@ -31,6 +34,7 @@ private:
     double m_fontSize = 0;
     int m_weight = QFont::Normal;
     QColor m_color;
+    double m_angle = 0;
 };
 
 } // namespace orvelle
