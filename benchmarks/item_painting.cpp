@@ -1,4 +1,5 @@
-#include "app/modules.h"
+#include "app/menu_bar_items/modules.h"
+#include "app/menu_bar_items/scene_painter.h"
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
 #include "paint_cost.h"
@@ -20,7 +21,7 @@ constexpr double barHeight = 22;
 void paintItems(QPainter& painter, std::span<const Module> shown, const ModuleContext& context) {
     double left = 0;
     for (const Module& module : shown) {
-        module.makeMenuBarView(context)->paint(painter, {left, 0, module.length, barHeight});
+        paintScene(painter, {left, 0, module.length, barHeight}, module.makeScene(context).body);
         left += module.length;
     }
 }

@@ -1,4 +1,5 @@
-#include "app/modules.h"
+#include "app/menu_bar_items/item_presenter.h"
+#include "app/menu_bar_items/modules.h"
 #include "app/shell/x11/bar_window.h"
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
@@ -37,7 +38,8 @@ public:
     Desktop() {
         m_bar.setGeometry(0, 0, 1280, 22);
         for (const Module& module : modules())
-            m_items.push_back(&m_bar.addItem(QString(module.key), module.length));
+            m_presenters.push_back(std::make_unique<ItemPresenter>(
+                m_bar.addItem(QString(module.key), module.length), Motion::shared()));
         showItems();
         QObject::connect(&m_settings, &SettingsStore::changed, &m_bar, [this] { showItems(); });
         QObject::connect(&m_bar, &BarWindow::painted, &m_bar, [this] { seen(&m_bar); });
@@ -60,8 +62,8 @@ public:
 
 private:
     void showItems() {
-        for (std::size_t index = 0; index < m_items.size(); ++index)
-            m_items[index]->setView(modules()[index].makeMenuBarView({*m_monitor, m_settings, m_themes}));
+        for (std::size_t index = 0; index < m_presenters.size(); ++index)
+            m_presenters[index]->show(modules()[index].makeScene({*m_monitor, m_settings, m_themes}));
     }
     void seen(const QWindow* window) {
         m_waiting.erase(window);
@@ -80,7 +82,7 @@ private:
     std::unique_ptr<QQuickView> m_settingsView =
         makeSettingsView(*m_engine, {.settings = m_settings, .themes = m_themes, .quitApp = [] {}});
     BarWindow m_bar;
-    std::vector<BarItem*> m_items;
+    std::vector<std::unique_ptr<ItemPresenter>> m_presenters;
     std::set<const QWindow*> m_waiting;
     QElapsedTimer m_sinceChoice;
     double m_milliseconds = 0; ///< from the choice until a window was painted last

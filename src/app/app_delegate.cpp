@@ -47,17 +47,20 @@ void AppDelegate::applicationShouldHandleReopen() {
 }
 
 void AppDelegate::setupStatusItems() {
-    m_cancellables.clear();
+    m_cancellables.reset();
     m_popovers.clear();
     if (m_contextMenu != nullptr)
         m_contextMenu->close(); // the item above it goes
     for (StatusItem* item : std::as_const(m_statusItems))
         m_surroundings.statusBar.removeItem(*item);
     m_statusItems.clear();
+    m_shownModules.clear();
     for (const Module& module : modules()) {
         if ((m_settings.*module.isShown)())
             createStatusItem(module);
     }
+    redraw();
+    subscribe();
 }
 
 void AppDelegate::createStatusItem(const Module& module) {
@@ -68,18 +71,22 @@ void AppDelegate::createStatusItem(const Module& module) {
                                 m_surroundings.statusBar.makePopover([this, key = module.key](double radius) {
                                     return views() ? views()->makePanel(QString(key), radius) : nullptr;
                                 }));
+    m_shownModules.push_back({module, std::make_unique<ItemPresenter>(item, m_surroundings.motion)});
+}
 
-    const auto redraw = [this, &item, makeView = module.makeMenuBarView] {
-        item.setView(makeView({m_monitor, m_settings, m_themes}));
-    };
-    redraw();
-    auto throttle = std::make_unique<Throttle>(redrawInterval, this);
-    connect(&m_monitor, &SystemMonitor::changed, throttle.get(), &Throttle::trigger);
-    connect(throttle.get(), &Throttle::passed, throttle.get(), redraw);
+void AppDelegate::subscribe() {
+    m_cancellables = std::make_unique<Throttle>(redrawInterval, this);
+    Throttle* throttle = m_cancellables.get();
+    connect(&m_monitor, &SystemMonitor::changed, throttle, &Throttle::trigger);
+    connect(throttle, &Throttle::passed, throttle, [this] { redraw(); });
     // What the user chooses is seen at once. The theme is one of the settings, and has changed by then.
-    connect(&m_settings, &SettingsStore::changed, throttle.get(), redraw);
-    connect(&FontChanges::shared(), &FontChanges::changed, throttle.get(), redraw);
-    m_cancellables.push_back(std::move(throttle));
+    connect(&m_settings, &SettingsStore::changed, throttle, [this] { redraw(); });
+    connect(&FontChanges::shared(), &FontChanges::changed, throttle, [this] { redraw(); });
+}
+
+void AppDelegate::redraw() {
+    for (const ShownModule& shown : m_shownModules)
+        shown.presenter->show(shown.module.makeScene({m_monitor, m_settings, m_themes}));
 }
 
 void AppDelegate::statusItemClicked(const StatusItem& item, ClickButton button) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "app/modules.h"
+#include "app/menu_bar_items/item_presenter.h"
+#include "app/menu_bar_items/modules.h"
 #include "app/shell/settings_window.h"
 #include "app/shell/status_bar.h"
 #include "app/views/views.h"
@@ -25,6 +26,8 @@ struct AppSurroundings {
     std::function<std::unique_ptr<SettingsWindow>(std::unique_ptr<QWindow>)> makeSettingsWindow;
     /// What the settings window tells about starting at login, see `ViewContext`.
     QObject* launchAtLogin = nullptr;
+    /// The clock by which the items move.
+    Motion& motion = Motion::shared();
 };
 
 /// Runs the program: it starts the sampling, keeps one status item with its panel for each module that the
@@ -78,8 +81,16 @@ public:
 private:
     using Visibility = QMap<QString, bool>;
 
+    struct ShownModule {
+        const Module& module;
+        std::unique_ptr<ItemPresenter> presenter;
+    };
+
     void setupStatusItems();
     void createStatusItem(const Module& module);
+    void subscribe();
+    /// Shows the present values in every item.
+    void redraw();
     void closePopoversExcept(const Popover* kept);
     [[nodiscard]] Views* views();
     [[nodiscard]] Visibility currentVisibility() const;
@@ -93,8 +104,11 @@ private:
     SystemMonitor& m_monitor;
     SettingsStore& m_settings;
     ThemeManager& m_themes;
-    /// One per item; what an item is subscribed to ends with it.
-    std::vector<std::unique_ptr<Throttle>> m_cancellables;
+    /// What shows the scenes of the items that exist now, in their order.
+    std::vector<ShownModule> m_shownModules;
+    /// Holds back the redraws of the items; null before there are any. What they are subscribed to ends with
+    /// it.
+    std::unique_ptr<Throttle> m_cancellables;
     std::unique_ptr<ContextMenu> m_contextMenu;       ///< null before the first right click
     std::unique_ptr<QTimer> m_refreshTimer;           ///< runs while samples come less often
     std::unique_ptr<SettingsWindow> m_settingsWindow; ///< null before it is first asked for

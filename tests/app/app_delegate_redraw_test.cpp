@@ -3,6 +3,8 @@
 #include "look/fonts.h"
 #include "support/early_timer.h"
 
+#include <QElapsedTimer>
+
 namespace orvelle {
 namespace {
 
@@ -10,79 +12,97 @@ static_assert(AppDelegate::redrawInterval == std::chrono::seconds(2));
 
 class AppDelegateRedrawTest : public AppDelegateTest {
 protected:
-    /// The redraws of items that are held, each as the timer that lets it go.
-    [[nodiscard]] QList<QTimer*> heldRedraws() const {
-        QList<QTimer*> held;
-        for (const Throttle* throttle : delegate.findChildren<Throttle*>()) {
-            if (throttle->isHolding())
-                held.append(throttle->findChild<QTimer*>());
-        }
-        return held;
+    /// A cycle in which that share of the memory is in use, in percent.
+    void sample(std::uint64_t usedPercent) {
+        machine.memory->reading =
+            MemoryReading{.pageSize = 4096, .physicalMemory = 409600, .wiredPages = usedPercent};
+        monitor.updateCycle();
+    }
+    [[nodiscard]] RecordingStatusBar::Item& item(const QString& key) const {
+        return *bar.items[static_cast<std::size_t>(bar.identifiers().indexOf(key))];
+    }
+    [[nodiscard]] QString memoryText() const { return item(QStringLiteral("memory")).accessibleText; }
+    /// What lets a redraw go that is held; null when none is.
+    [[nodiscard]] QTimer* heldRedraw() const {
+        const auto* throttle = delegate.findChild<Throttle*>();
+        return throttle != nullptr && throttle->isHolding() ? throttle->findChild<QTimer*>() : nullptr;
     }
 };
 
-TEST_F(AppDelegateRedrawTest, RedrawsAnItemOnceForEachAnnouncement) {
+TEST_F(AppDelegateRedrawTest, ShowsEachSample) {
     delegate.applicationDidFinishLaunching();
-    EXPECT_EQ(bar.items.front()->viewCount, 1);
-    monitor.updateCycle();
-    EXPECT_EQ(bar.items.front()->viewCount, 2);
+    EXPECT_EQ(memoryText(), QStringLiteral("Memory 0.0%"));
+    sample(42);
+    EXPECT_EQ(memoryText(), QStringLiteral("Memory 42%"));
 }
 
 TEST_F(AppDelegateRedrawTest, RedrawsAtMostOnceInTwoSeconds) {
     QElapsedTimer clock;
     delegate.applicationDidFinishLaunching();
     clock.start();
-    monitor.updateCycle();
-    monitor.updateCycle();
-    monitor.updateCycle();
-    EXPECT_EQ(bar.items.front()->viewCount, 2);
-    ASSERT_EQ(heldRedraws().size(), delegate.statusItems().size());
-    QTimer& held = *heldRedraws().front();
-    EXPECT_GE(held.remainingTime() + clock.elapsed(), AppDelegate::redrawInterval.count());
-    EXPECT_LE(held.remainingTime(), AppDelegate::redrawInterval.count());
-    endNow(held);
-    EXPECT_EQ(bar.items.front()->viewCount, 3);
+    sample(10);
+    sample(20);
+    sample(30);
+    EXPECT_EQ(memoryText(), QStringLiteral("Memory 10%"));
+    QTimer* held = heldRedraw();
+    ASSERT_NE(held, nullptr);
+    EXPECT_GE(held->remainingTime() + clock.elapsed(), AppDelegate::redrawInterval.count());
+    EXPECT_LE(held->remainingTime(), AppDelegate::redrawInterval.count());
+    endNow(*held);
+    EXPECT_EQ(memoryText(), QStringLiteral("Memory 30%")) << "the newest values";
+}
+
+TEST_F(AppDelegateRedrawTest, RepaintsOnlyTheItemsThatLookDifferent) {
+    delegate.applicationDidFinishLaunching();
+    const int memoryBefore = item(QStringLiteral("memory")).repaintCount;
+    const int networkBefore = item(QStringLiteral("network")).repaintCount;
+    sample(42);
+    EXPECT_GT(item(QStringLiteral("memory")).repaintCount, memoryBefore);
+    settings.setUseFahrenheit(true);
+    settings.setCustomMemoryColorHex(QStringLiteral("#102030"));
+    EXPECT_EQ(item(QStringLiteral("network")).repaintCount, networkBefore);
 }
 
 TEST_F(AppDelegateRedrawTest, RedrawsAtOnceWhenASettingChanges) {
     delegate.applicationDidFinishLaunching();
     monitor.updateCycle();
-    const int before = bar.items.front()->viewCount;
+    const int before = bar.items.front()->repaintCount;
     settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::dotIndicator);
-    EXPECT_EQ(bar.items.front()->viewCount, before + 1);
+    EXPECT_EQ(bar.items.front()->repaintCount, before + 1);
 }
 
 TEST_F(AppDelegateRedrawTest, RedrawsAtOnceWhenTheDesktopChangesItsFont) {
     delegate.applicationDidFinishLaunching();
     monitor.updateCycle();
-    const int before = bar.items.front()->viewCount;
-    setDesktopFontNames({.proportional = {}, .monospaced = QStringLiteral("DejaVu Serif 11")});
-    EXPECT_EQ(bar.items.front()->viewCount, before + 1);
     settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
-    const std::string inSerif = bar.items.front()->view->picture({}).key;
+    const int before = bar.items.front()->repaintCount;
+    setDesktopFontNames({.proportional = {}, .monospaced = QStringLiteral("DejaVu Serif 11")});
+    EXPECT_EQ(bar.items.front()->repaintCount, before + 1);
     setDesktopFontNames({});
-    EXPECT_NE(bar.items.front()->view->picture({}).key, inSerif) << "it looks different";
+    EXPECT_EQ(bar.items.front()->repaintCount, before + 2);
 }
 
-TEST_F(AppDelegateRedrawTest, HasOneSubscriptionPerItemAfterManyRebuilds) {
+TEST_F(AppDelegateRedrawTest, HasOneSubscriptionAfterManyRebuilds) {
     delegate.applicationDidFinishLaunching();
-    for (int count = 0; count < 5; ++count) {
-        settings.setShowMemory(!settings.showMemory());
+    for (int count = 0; count < 6; ++count) {
+        settings.setShowDisk(!settings.showDisk());
         delegate.checkVisibility();
     }
-    const int before = bar.items.front()->viewCount;
-    monitor.updateCycle();
-    EXPECT_EQ(bar.items.front()->viewCount, before + 1);
+    EXPECT_EQ(delegate.findChildren<Throttle*>().size(), 1);
+    const int before = item(QStringLiteral("memory")).repaintCount;
+    sample(42);
+    EXPECT_EQ(item(QStringLiteral("memory")).repaintCount, before + 1);
 }
 
 TEST_F(AppDelegateRedrawTest, DropsAHeldRedrawWhenTheItemsAreRebuilt) {
     delegate.applicationDidFinishLaunching();
-    monitor.updateCycle();
-    monitor.updateCycle();
-    EXPECT_FALSE(heldRedraws().isEmpty());
-    settings.setShowMemory(!settings.showMemory());
+    sample(10);
+    sample(20);
+    EXPECT_NE(heldRedraw(), nullptr);
+    settings.setShowDisk(!settings.showDisk());
     delegate.checkVisibility();
-    EXPECT_TRUE(heldRedraws().isEmpty());
+    EXPECT_EQ(heldRedraw(), nullptr);
+    EXPECT_EQ(memoryText(), QStringLiteral("Memory 20%"));
 }
 
 } // namespace

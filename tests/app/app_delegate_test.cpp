@@ -22,7 +22,7 @@ TEST_F(AppDelegateTest, CreatesAnItemForEveryShownModuleInTableOrder) {
     EXPECT_EQ(bar.identifiers(), everyKey());
     for (std::size_t index = 0; index < bar.items.size(); ++index) {
         EXPECT_EQ(bar.items[index]->length(), modules()[index].length);
-        EXPECT_NE(bar.items[index]->view, nullptr);
+        EXPECT_GT(bar.items[index]->repaintCount, 0);
     }
 }
 

@@ -22,17 +22,24 @@ public:
             , m_length(length) {}
         [[nodiscard]] const QString& identifier() const override { return m_identifier; }
         [[nodiscard]] double length() const override { return m_length; }
-        void setView(std::shared_ptr<const StatusItemView> newView) override {
-            view = std::move(newView);
-            ++viewCount;
+        void setPaint(std::function<void(QPainter&, const QRectF&)> newPaint) override {
+            paint = std::move(newPaint);
         }
+        void repaint() override { ++repaintCount; }
+        void setWords(const QString& newName, const QString& newText) override {
+            accessibleName = newName;
+            accessibleText = newText;
+        }
+        [[nodiscard]] double visiblePixelsPerPoint() const override { return 0; }
         void setClickHandler(std::function<void(ClickButton)> handler) override {
             click = std::move(handler);
         }
 
         std::function<void(ClickButton)> click;
-        std::shared_ptr<const StatusItemView> view;
-        int viewCount = 0; ///< how often a view was set
+        std::function<void(QPainter&, const QRectF&)> paint;
+        int repaintCount = 0;
+        QString accessibleName;
+        QString accessibleText;
 
     private:
         QString m_identifier;

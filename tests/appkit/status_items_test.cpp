@@ -13,19 +13,19 @@ using namespace simulated;
 const std::vector<std::string> everyKey{"cpu", "memory", "network", "disk", "battery", "sensor"};
 const std::set<std::string> everyEdge{"leading", "trailing", "top", "bottom"};
 
-class StatusItemsTest : public AppKitTest {};
+void paintHalfRed(QPainter& painter, const QRectF& bounds) {
+    painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
+                     QColor(255, 0, 0));
+}
 
-/// Half red, half transparent, so that the order of the bytes and the rows is seen.
-class HalfRedView final : public StatusItemView {
-public:
-    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
-        return {"half red", [](QPainter& painter, const QRectF& bounds) {
-                    painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
-                                     QColor(255, 0, 0));
-                }};
+class StatusItemsTest : public AppKitTest {
+protected:
+    /// Half red, half transparent, so that the order of the bytes and the rows is seen.
+    void addHalfRedItem() {
+        StatusItem& item = program().addItem("cpu", 60);
+        item.setPaint(&paintHalfRed);
+        item.repaint();
     }
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("CPU"); }
-    [[nodiscard]] QString accessibleText() const override { return QStringLiteral("CPU 12%"); }
 };
 
 TEST_F(StatusItemsTest, StandInTableOrderWithTheirFixedLengths) {
@@ -59,7 +59,7 @@ TEST_F(StatusItemsTest, HoldAPictureTiedToAllFourEdgesThatTakesNoClicks) {
 }
 
 TEST_F(StatusItemsTest, AreDrawnAtTheResolutionOfTheirScreen) {
-    program().addItem("cpu", 60).setView(std::make_shared<HalfRedView>());
+    addHalfRedItem();
     const std::optional<Drawing> drawing = draw(0);
     ASSERT_TRUE(drawing);
     EXPECT_EQ(drawing->width, 120U);
@@ -73,7 +73,7 @@ TEST_F(StatusItemsTest, AreDrawnAtTheResolutionOfTheirScreen) {
 }
 
 TEST_F(StatusItemsTest, AreDrawnAgainOnAnotherScreen) {
-    program().addItem("cpu", 60).setView(std::make_shared<HalfRedView>());
+    addHalfRedItem();
     ASSERT_TRUE(draw(0));
     EXPECT_FALSE(draw(0)) << "nothing has changed";
     changeScreen(0, 1);
@@ -95,7 +95,7 @@ TEST_F(StatusItemsTest, AreDrawnAgainWhenTheirValuesLookDifferent) {
 }
 
 TEST_F(StatusItemsTest, SayTheirValuesToAssistiveTechnology) {
-    program().addItem("cpu").setView(std::make_shared<HalfRedView>());
+    program().addItem("cpu").setWords(QStringLiteral("CPU"), QStringLiteral("CPU 12%"));
     EXPECT_EQ(statusItems().at(0).accessibilityLabel, "CPU 12%");
 }
 

@@ -1,4 +1,5 @@
-#include "app/modules.h"
+#include "app/menu_bar_items/modules.h"
+#include "app/menu_bar_items/scene_painter.h"
 #include "settings/system_colors.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
@@ -15,7 +16,7 @@ SheetCell itemCell(const Module& module, MenuBarDisplayStyle style, SystemMonito
         painter.fillRect(frame, QColor(255, 255, 255, 15));
         settings.store.setMenuBarDisplayStyle(style);
         const ModuleContext context{monitor, settings.store, settings.themes};
-        module.makeMenuBarView(context)->paint(painter, frame);
+        paintScene(painter, frame, module.makeScene(context).body);
     };
     return {.caption = module.key, .size = {module.length, itemHeight}, .paint = paint};
 }

@@ -1,4 +1,5 @@
-#include "app/modules.h"
+#include "app/menu_bar_items/modules.h"
+#include "app/menu_bar_items/scene_painter.h"
 #include "core/system_monitor.h"
 #include "look/quick/quick_engine.h"
 #include "panels/panel_factory.h"
@@ -30,7 +31,7 @@ void paintBar(QPainter& painter, const QRectF& frame, const ModuleContext& conte
     QRectF place(frame.left() + barPadding, frame.top(), 0, barHeight);
     for (const Module& module : modules()) {
         place.setWidth(module.length);
-        module.makeMenuBarView(context)->paint(painter, place);
+        paintScene(painter, place, module.makeScene(context).body);
         place.moveLeft(place.right());
     }
 }

@@ -1,6 +1,6 @@
 #include "snapshot/window_pictures.h"
 
-#include "app/modules.h"
+#include "app/menu_bar_items/modules.h"
 #include "charts/motion.h"
 #include "core/system_monitor.h"
 #include "look/quick/quick_engine.h"

@@ -1,7 +1,6 @@
 #include "app/menu_bar_items/battery_glyph.h"
 
 #include "app/menu_bar_items/battery_item_rules.h"
-#include "app/menu_bar_items/part_key.h"
 #include "look/device_pixels.h"
 #include "look/label_colors.h"
 
@@ -51,22 +50,18 @@ void paintTerminal(QPainter& painter, const QRectF& body) {
 
 } // namespace
 
-ItemPart batteryGlyphPart(qint64 charge, const QColor& fillColor) {
-    const QSizeF size(leadingMargin + bodySize.width() + terminalGap + terminalSize.width(),
-                      bodySize.height());
-    const auto paint = [charge, fillColor](QPainter& painter, const QRectF& frame) {
-        const QRectF body(frame.topLeft() + QPointF(leadingMargin, 0), bodySize);
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintFill(painter, body, charge, fillColor);
-        paintOutline(painter, body);
-        paintTerminal(painter, body);
-        painter.restore();
-    };
-    return {.key = partKey("battery", charge, fillColor),
-            .size = size,
-            .rigidWidth = size.width(),
-            .paint = paint};
+QSizeF batteryGlyphSize() {
+    return {leadingMargin + bodySize.width() + terminalGap + terminalSize.width(), bodySize.height()};
+}
+
+void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery) {
+    const QRectF body(frame.topLeft() + QPointF(leadingMargin, 0), bodySize);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintFill(painter, body, battery.charge, battery.color);
+    paintOutline(painter, body);
+    paintTerminal(painter, body);
+    painter.restore();
 }
 
 } // namespace orvelle

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "app/menu_bar_items/item_part.h"
+#include "app/menu_bar_items/item_scene.h"
 
-#include <QColor>
+#include <QPainter>
 
 namespace orvelle {
 
-/// A battery of 20 x 10 points with a terminal of 2 x 5, outlined in the primary label colour and filled with
-/// `fillColor` in proportion to the charge in percent.
-[[nodiscard]] ItemPart batteryGlyphPart(qint64 charge, const QColor& fillColor);
+/// The glyph's size in points: a body of 20 x 10, a terminal, and a margin for its outline.
+[[nodiscard]] QSizeF batteryGlyphSize();
+
+/// A battery of 20 x 10 points with a terminal of 2 x 5, outlined in the primary label colour.
+void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery);
 
 } // namespace orvelle

@@ -1,8 +1,7 @@
 #include "app/menu_bar_items/battery_menu_bar_item.h"
 
-#include "app/menu_bar_items/battery_glyph.h"
 #include "app/menu_bar_items/battery_item_rules.h"
-#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_nodes.h"
 #include "core/battery_monitor.h"
 #include "settings/settings_store.h"
 #include "settings/system_colors.h"
@@ -15,10 +14,10 @@ constexpr double batterySpacing = 2;
 constexpr double chargingMarkFontSize = 7;
 constexpr QSizeF batteryHistorySize(28, 12);
 
-ItemPart externalPower() {
-    return row(
-        {iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), smallValueFontSize)},
-        batterySpacing);
+SceneNode externalPower() {
+    return row({iconNode(QStringLiteral("powerplug"), SystemColors::green),
+                valueNode(QStringLiteral("AC"), smallValueFontSize)},
+               batterySpacing);
 }
 
 QString chargeText(const BatteryInfo& battery) {
@@ -33,6 +32,11 @@ BatteryMenuBarItem::BatteryMenuBarItem(const BatteryMonitor& monitor, const Sett
     , m_settings(settings)
     , m_themes(themes) {}
 
+ItemScene BatteryMenuBarItem::body() const {
+    return {
+        .body = picture(), .accessibleName = QStringLiteral("Battery"), .accessibleText = accessibleText()};
+}
+
 QString BatteryMenuBarItem::accessibleText() const {
     const BatteryInfo& battery = m_monitor.battery();
     if (!battery.isPresent)
@@ -41,33 +45,34 @@ QString BatteryMenuBarItem::accessibleText() const {
     return QStringLiteral("Battery %1").arg(chargeText(battery)) + charging;
 }
 
-ItemPart BatteryMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
+SceneNode BatteryMenuBarItem::picture() const {
     const BatteryInfo& battery = m_monitor.battery();
     if (!battery.isPresent)
         return externalPower();
     const QColor color =
         batteryColor(battery.currentCapacity, battery.isCharging, m_themes.batteryColor(m_settings));
-    const ItemPart icon = iconPart(u"battery.100", color);
+    const SceneNode icon = iconNode(QStringLiteral("battery.100"), color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::textOnly:
         return charge(valueFontSize);
     case MenuBarDisplayStyle::miniBars:
     case MenuBarDisplayStyle::iconAndText:
-        return row({batteryGlyphPart(battery.currentCapacity, color), charge(smallValueFontSize)},
-                   batterySpacing);
+        return row(
+            {{BatteryShape{.charge = battery.currentCapacity, .color = color}}, charge(smallValueFontSize)},
+            batterySpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)},
+        return row({icon, historyNode(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)},
                    batterySpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, dotsPart(batteryDotColors(battery.currentCapacity, color))}, batterySpacing);
+    return row({icon, dotsNode(batteryDotColors(battery.currentCapacity, color))}, batterySpacing);
 }
 
-ItemPart BatteryMenuBarItem::charge(double fontSize) const {
-    QList<ItemPart> parts = {valuePart(chargeText(m_monitor.battery()), fontSize)};
+SceneNode BatteryMenuBarItem::charge(double fontSize) const {
+    std::vector<SceneNode> parts = {valueNode(chargeText(m_monitor.battery()), fontSize)};
     if (m_monitor.battery().isCharging)
-        parts.append(symbolPart(u"bolt.fill", chargingMarkFontSize, SystemColors::yellow));
+        parts.push_back(symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow));
     return row(parts, batterySpacing);
 }
 

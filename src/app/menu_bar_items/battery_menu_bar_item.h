@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 namespace orvelle {
 
@@ -10,18 +10,19 @@ class ThemeManager;
 
 /// The battery module's place in the menu bar: the charge as glyph, text, dots or history; on a machine
 /// without a battery that it runs on external power. What it refers to must outlive it.
-class BatteryMenuBarItem final : public ModuleItemView {
+class BatteryMenuBarItem {
 public:
     BatteryMenuBarItem(const BatteryMonitor& monitor, const SettingsStore& settings,
                        const ThemeManager& themes);
 
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Battery"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
     /// The charge with a bolt beside it while charging.
-    [[nodiscard]] ItemPart charge(double fontSize) const;
+    [[nodiscard]] SceneNode charge(double fontSize) const;
 
     const BatteryMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 namespace orvelle {
 
@@ -10,17 +10,18 @@ class ThemeManager;
 
 /// The CPU module's place in the menu bar: total usage, a bar or a dot for each core, or the usage history.
 /// What it refers to must outlive it.
-class CPUMenuBarItem final : public ModuleItemView {
+class CPUMenuBarItem {
 public:
     CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
-    [[nodiscard]] EasedBars bars() const override;
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("CPU"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
-    [[nodiscard]] ItemPart coreDots(const QColor& color) const;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
+    [[nodiscard]] SceneNode coreBars(const QColor& color) const;
+    [[nodiscard]] SceneNode coreDots(const QColor& color) const;
 
     const CPUMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -2,7 +2,7 @@
 
 #include "app/formatters/formatters.h"
 #include "app/menu_bar_items/disk_item_rules.h"
-#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_nodes.h"
 #include "app/menu_bar_items/item_rules.h"
 #include "charts/sparkline_view.h"
 #include "core/disk_monitor.h"
@@ -23,6 +23,10 @@ DiskMenuBarItem::DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore
     , m_settings(settings)
     , m_themes(themes) {}
 
+ItemScene DiskMenuBarItem::body() const {
+    return {.body = picture(), .accessibleName = QStringLiteral("Disk"), .accessibleText = accessibleText()};
+}
+
 QString DiskMenuBarItem::accessibleText() const {
     const std::optional<double> fraction = used();
     const QString usedText = fraction ? QStringLiteral(" %1").arg(formatPercent(*fraction)) : QString();
@@ -30,9 +34,9 @@ QString DiskMenuBarItem::accessibleText() const {
         .arg(usedText, formatRate(m_monitor.diskIO().readSpeed), formatRate(m_monitor.diskIO().writeSpeed));
 }
 
-ItemPart DiskMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
+SceneNode DiskMenuBarItem::picture() const {
     const QColor color = m_themes.diskColor(m_settings);
-    const ItemPart icon = iconPart(u"internaldrive", color);
+    const SceneNode icon = iconNode(QStringLiteral("internaldrive"), color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
         return row({icon, activityAndUsage(color)}, diskSpacing);
@@ -54,43 +58,43 @@ std::optional<double> DiskMenuBarItem::used() const {
     return usedFraction(m_monitor.volumes().first());
 }
 
-ItemPart DiskMenuBarItem::withUsedText(QList<ItemPart> parts) const {
+SceneNode DiskMenuBarItem::withUsedText(std::vector<SceneNode> parts) const {
     if (const std::optional<double> fraction = used())
-        parts.append(valuePart(formatPercent(*fraction)));
+        parts.push_back(valueNode(formatPercent(*fraction)));
     return row(parts, diskSpacing);
 }
 
-ItemPart DiskMenuBarItem::activityAndUsage(const QColor& color) const {
+SceneNode DiskMenuBarItem::activityAndUsage(const QColor& color) const {
     constexpr double arrowFontSize = 6;
     constexpr double stackSpacing = 1;
     constexpr QSizeF barSize(20, 4);
     constexpr double barCornerRadius = 2;
     const AppTheme& theme = m_themes.currentTheme();
-    const auto arrow = [](QStringView name, double bytesPerSecond, const QColor& directionColor) {
-        return symbolPart(name, arrowFontSize, activityArrowColor(bytesPerSecond, directionColor));
+    const auto arrow = [](const QString& name, double bytesPerSecond, const QColor& directionColor) {
+        return symbolNode(name, arrowFontSize, activityArrowColor(bytesPerSecond, directionColor));
     };
-    QList<ItemPart> parts = {
-        row({arrow(u"arrow.up.circle.fill", m_monitor.diskIO().writeSpeed, theme.diskWriteColor),
-             arrow(u"arrow.down.circle.fill", m_monitor.diskIO().readSpeed, theme.diskReadColor)},
-            stackSpacing)};
+    std::vector<SceneNode> parts = {row(
+        {arrow(QStringLiteral("arrow.up.circle.fill"), m_monitor.diskIO().writeSpeed, theme.diskWriteColor),
+         arrow(QStringLiteral("arrow.down.circle.fill"), m_monitor.diskIO().readSpeed, theme.diskReadColor)},
+        stackSpacing)};
     if (const std::optional<double> fraction = used())
-        parts.append(levelBarPart(barSize, barCornerRadius, *fraction, color));
+        parts.push_back(levelBarNode(barSize, barCornerRadius, *fraction, color, false));
     return column(parts, stackSpacing, ColumnAlignment::center);
 }
 
-ItemPart DiskMenuBarItem::history() const {
+SceneNode DiskMenuBarItem::history() const {
     const AppTheme& theme = m_themes.currentTheme();
-    return sparklinePart(DualSparklineView{.topData = recentSamples(m_monitor.readHistory()),
-                                           .bottomData = recentSamples(m_monitor.writeHistory()),
-                                           .topColor = theme.diskReadColor,
-                                           .bottomColor = theme.diskWriteColor,
-                                           .width = diskHistorySize.width(),
-                                           .height = diskHistorySize.height()});
+    return {DualSparklineView{.topData = recentSamples(m_monitor.readHistory()),
+                              .bottomData = recentSamples(m_monitor.writeHistory()),
+                              .topColor = theme.diskReadColor,
+                              .bottomColor = theme.diskWriteColor,
+                              .width = diskHistorySize.width(),
+                              .height = diskHistorySize.height()}};
 }
 
-ItemPart DiskMenuBarItem::activityDots() const {
+SceneNode DiskMenuBarItem::activityDots() const {
     const AppTheme& theme = m_themes.currentTheme();
-    return dotsPart({activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor),
+    return dotsNode({activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor),
                      activityDotColor(m_monitor.diskIO().writeSpeed, theme.diskWriteColor)});
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 #include <optional>
 
@@ -12,23 +12,24 @@ class ThemeManager;
 
 /// The disk module's place in the menu bar: how full the first volume is, and whether the disks are being
 /// read and written. What it refers to must outlive it.
-class DiskMenuBarItem final : public ModuleItemView {
+class DiskMenuBarItem {
 public:
     DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
 
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Disk"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
     /// The used share of the first volume; nothing while none is mounted.
     [[nodiscard]] std::optional<double> used() const;
     /// `parts` and, when a volume is mounted, how full the first one is.
-    [[nodiscard]] ItemPart withUsedText(QList<ItemPart> parts) const;
+    [[nodiscard]] SceneNode withUsedText(std::vector<SceneNode> parts) const;
     /// An arrow for each direction above the bar of the first volume.
-    [[nodiscard]] ItemPart activityAndUsage(const QColor& color) const;
-    [[nodiscard]] ItemPart history() const;
-    [[nodiscard]] ItemPart activityDots() const;
+    [[nodiscard]] SceneNode activityAndUsage(const QColor& color) const;
+    [[nodiscard]] SceneNode history() const;
+    [[nodiscard]] SceneNode activityDots() const;
 
     const DiskMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 namespace orvelle {
 
@@ -10,17 +10,17 @@ class ThemeManager;
 
 /// The memory module's place in the menu bar: the used share as text, bar or dots, or the pressure history.
 /// What it refers to must outlive it.
-class MemoryMenuBarItem final : public ModuleItemView {
+class MemoryMenuBarItem {
 public:
     MemoryMenuBarItem(const MemoryMonitor& monitor, const SettingsStore& settings,
                       const ThemeManager& themes);
 
-    [[nodiscard]] EasedBars bars() const override;
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Memory"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
 
     const MemoryMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -1,7 +1,7 @@
 #include "app/menu_bar_items/network_menu_bar_item.h"
 
 #include "app/formatters/formatters.h"
-#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_nodes.h"
 #include "app/menu_bar_items/item_rules.h"
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
@@ -18,18 +18,18 @@ constexpr double networkSpacing = 2;
 constexpr double historyHeight = 14;
 constexpr double rateFontSize = 8;
 
-ItemPart bareRate(double bytesPerSecond) {
-    return textPart(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize, QFont::Medium),
+SceneNode bareRate(double bytesPerSecond) {
+    return textNode(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize, QFont::Medium),
                     withOpacity(LabelColors::primary, 0.7));
 }
 
-ItemPart rateWithArrow(QStringView arrow, double bytesPerSecond, const QColor& color) {
+SceneNode rateWithArrow(const QString& arrow, double bytesPerSecond, const QColor& color) {
     constexpr double arrowFontSize = 6;
     constexpr double arrowSpacing = 1;
     constexpr double opacity = 0.8;
-    const ItemPart rate = textPart(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize),
-                                   withOpacity(LabelColors::primary, opacity));
-    return row({symbolPart(arrow, arrowFontSize, withOpacity(color, opacity)), rate}, arrowSpacing);
+    const SceneNode rate = textNode(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize),
+                                    withOpacity(LabelColors::primary, opacity));
+    return row({symbolNode(arrow, arrowFontSize, withOpacity(color, opacity)), rate}, arrowSpacing);
 }
 
 } // namespace
@@ -40,15 +40,20 @@ NetworkMenuBarItem::NetworkMenuBarItem(const NetworkMonitor& monitor, const Sett
     , m_settings(settings)
     , m_themes(themes) {}
 
+ItemScene NetworkMenuBarItem::body() const {
+    return {
+        .body = picture(), .accessibleName = QStringLiteral("Network"), .accessibleText = accessibleText()};
+}
+
 QString NetworkMenuBarItem::accessibleText() const {
     return QStringLiteral("Network download %1, upload %2")
         .arg(formatRate(m_monitor.totalDownloadSpeed()), formatRate(m_monitor.totalUploadSpeed()));
 }
 
-ItemPart NetworkMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
+SceneNode NetworkMenuBarItem::picture() const {
     constexpr double widthBesideRates = 32;
     constexpr double widthBesideIcon = 36;
-    const ItemPart icon = iconPart(u"network", m_themes.networkColor(m_settings));
+    const SceneNode icon = iconNode(QStringLiteral("network"), m_themes.networkColor(m_settings));
     const bool hasHistory = !m_monitor.downloadHistory().isEmpty();
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
@@ -65,32 +70,34 @@ ItemPart NetworkMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     return row({icon, activityDots()}, networkSpacing);
 }
 
-ItemPart NetworkMenuBarItem::rates() const {
+SceneNode NetworkMenuBarItem::rates() const {
     return column({bareRate(m_monitor.totalUploadSpeed()), bareRate(m_monitor.totalDownloadSpeed())}, 0,
                   ColumnAlignment::trailing);
 }
 
-ItemPart NetworkMenuBarItem::ratePair() const {
+SceneNode NetworkMenuBarItem::ratePair() const {
     const AppTheme& theme = m_themes.currentTheme();
-    return column({rateWithArrow(u"arrow.up", m_monitor.totalUploadSpeed(), theme.networkUploadColor),
-                   rateWithArrow(u"arrow.down", m_monitor.totalDownloadSpeed(), theme.networkDownloadColor)},
-                  0, ColumnAlignment::trailing);
+    return column(
+        {rateWithArrow(QStringLiteral("arrow.up"), m_monitor.totalUploadSpeed(), theme.networkUploadColor),
+         rateWithArrow(QStringLiteral("arrow.down"), m_monitor.totalDownloadSpeed(),
+                       theme.networkDownloadColor)},
+        0, ColumnAlignment::trailing);
 }
 
-ItemPart NetworkMenuBarItem::history(double width) const {
+SceneNode NetworkMenuBarItem::history(double width) const {
     const AppTheme& theme = m_themes.currentTheme();
-    return sparklinePart(DualSparklineView{.topData = recentSamples(m_monitor.downloadHistory()),
-                                           .bottomData = recentSamples(m_monitor.uploadHistory()),
-                                           .topColor = theme.networkDownloadColor,
-                                           .bottomColor = theme.networkUploadColor,
-                                           .width = width,
-                                           .height = historyHeight});
+    return {DualSparklineView{.topData = recentSamples(m_monitor.downloadHistory()),
+                              .bottomData = recentSamples(m_monitor.uploadHistory()),
+                              .topColor = theme.networkDownloadColor,
+                              .bottomColor = theme.networkUploadColor,
+                              .width = width,
+                              .height = historyHeight}};
 }
 
-ItemPart NetworkMenuBarItem::activityDots() const {
+SceneNode NetworkMenuBarItem::activityDots() const {
     constexpr double dotDiameter = 5;
     const AppTheme& theme = m_themes.currentTheme();
-    return dotsPart({activityDotColor(m_monitor.totalDownloadSpeed(), theme.networkDownloadColor),
+    return dotsNode({activityDotColor(m_monitor.totalDownloadSpeed(), theme.networkDownloadColor),
                      activityDotColor(m_monitor.totalUploadSpeed(), theme.networkUploadColor)},
                     dotDiameter);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 namespace orvelle {
 
@@ -10,22 +10,23 @@ class ThemeManager;
 
 /// The network module's place in the menu bar: the upload rate above the download rate, their histories, or a
 /// dot for each direction. What it refers to must outlive it.
-class NetworkMenuBarItem final : public ModuleItemView {
+class NetworkMenuBarItem {
 public:
     NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
                        const ThemeManager& themes);
 
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Network"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
     /// Both rates as bare text.
-    [[nodiscard]] ItemPart rates() const;
+    [[nodiscard]] SceneNode rates() const;
     /// Both rates, each behind an arrow in the colour of its direction.
-    [[nodiscard]] ItemPart ratePair() const;
-    [[nodiscard]] ItemPart history(double width) const;
-    [[nodiscard]] ItemPart activityDots() const;
+    [[nodiscard]] SceneNode ratePair() const;
+    [[nodiscard]] SceneNode history(double width) const;
+    [[nodiscard]] SceneNode activityDots() const;
 
     const NetworkMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -1,7 +1,7 @@
 #include "app/menu_bar_items/sensor_menu_bar_item.h"
 
 #include "app/formatters/formatters.h"
-#include "app/menu_bar_items/item_drawings.h"
+#include "app/menu_bar_items/item_nodes.h"
 #include "app/menu_bar_items/sensor_item_rules.h"
 #include "core/sensor_monitor.h"
 #include "look/fonts.h"
@@ -24,18 +24,23 @@ SensorMenuBarItem::SensorMenuBarItem(const SensorMonitor& monitor, const Setting
     , m_settings(settings)
     , m_themes(themes) {}
 
+ItemScene SensorMenuBarItem::body() const {
+    return {
+        .body = picture(), .accessibleName = QStringLiteral("Sensors"), .accessibleText = accessibleText()};
+}
+
 QString SensorMenuBarItem::accessibleText() const {
     const double celsius = m_monitor.cpuTemperature();
     return celsius > 0 ? QStringLiteral("Sensors %1").arg(formatTemperature(celsius, false))
                        : QStringLiteral("Sensors: no temperature");
 }
 
-ItemPart SensorMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
+SceneNode SensorMenuBarItem::picture() const {
     const double celsius = m_monitor.cpuTemperature();
     const QColor color = temperatureColor(celsius, m_themes.sensorColor(m_settings));
-    const ItemPart icon = iconPart(u"thermometer.medium", color);
-    const ItemPart text =
-        textPart(temperatureText(celsius), monospacedSystemFont(smallValueFontSize, QFont::Medium),
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), color);
+    const SceneNode text =
+        textNode(temperatureText(celsius), monospacedSystemFont(smallValueFontSize, QFont::Medium),
                  celsius > 0 ? color : LabelColors::secondary);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
@@ -44,12 +49,12 @@ ItemPart SensorMenuBarItem::body(const QList<BarLook>& /*shown*/) const {
     case MenuBarDisplayStyle::iconAndText:
         return row({icon, text}, sensorSpacing);
     case MenuBarDisplayStyle::sparkline:
-        return row({icon, historyPart(m_monitor.cpuTempHistory(), color, historyMaximum, sensorHistorySize)},
+        return row({icon, historyNode(m_monitor.cpuTempHistory(), color, historyMaximum, sensorHistorySize)},
                    sensorSpacing);
     case MenuBarDisplayStyle::dotIndicator:
         break;
     }
-    return row({icon, dotsPart(temperatureDotColors(celsius))}, sensorSpacing);
+    return row({icon, dotsNode(temperatureDotColors(celsius))}, sensorSpacing);
 }
 
 } // namespace orvelle

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_items/module_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 namespace orvelle {
 
@@ -10,16 +10,17 @@ class ThemeManager;
 
 /// The sensor module's place in the menu bar: the CPU temperature as text or dots, or its history. What it
 /// refers to must outlive it.
-class SensorMenuBarItem final : public ModuleItemView {
+class SensorMenuBarItem {
 public:
     SensorMenuBarItem(const SensorMonitor& monitor, const SettingsStore& settings,
                       const ThemeManager& themes);
 
-    [[nodiscard]] QString accessibleName() const override { return QStringLiteral("Sensors"); }
-    [[nodiscard]] QString accessibleText() const override;
+    /// The present values in the style that the user chose.
+    [[nodiscard]] ItemScene body() const;
 
 private:
-    [[nodiscard]] ItemPart body(const QList<BarLook>& shown) const override;
+    [[nodiscard]] SceneNode picture() const;
+    [[nodiscard]] QString accessibleText() const;
 
     const SensorMonitor& m_monitor;
     const SettingsStore& m_settings;

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "app/shell/status_item_view.h"
+#include <QPainter>
+#include <QString>
 
 #include <functional>
-#include <memory>
 
 namespace orvelle {
 
 /// The button of a mouse that a click is made with; others are ignored.
 enum class ClickButton { left, right };
 
-/// One entry of the desktop's status bar: a fixed length, filled with a picture. The bar owns it.
+/// One entry of the desktop's status bar: a fixed length, filled with a picture. The bar owns it. It knows
+/// nothing of what it shows.
 class StatusItem {
 public:
     virtual ~StatusItem() = default;
@@ -21,8 +22,18 @@ public:
     /// Width in points; it never follows the content.
     [[nodiscard]] virtual double length() const = 0;
 
-    /// Replaces the view; this item alone is repainted, and only when it looks different from before.
-    virtual void setView(std::shared_ptr<const StatusItemView> view) = 0;
+    /// Sets how the item is painted: within a rectangle in points, 22 points high. Nothing is painted before.
+    virtual void setPaint(std::function<void(QPainter&, const QRectF&)> paint) = 0;
+
+    /// The item looks different from before: it alone is painted again, soon.
+    virtual void repaint() = 0;
+
+    /// Sets what assistive programs tell: what the item is about, for example "CPU", and its value in words,
+    /// for example "CPU 12%".
+    virtual void setWords(const QString& name, const QString& text) = 0;
+
+    /// Device pixels that one point covers while the item is on the screen; 0 while it is not.
+    [[nodiscard]] virtual double visiblePixelsPerPoint() const = 0;
 
     /// Called when a button that was pressed on the item is let go on it. The handler may remove the item.
     virtual void setClickHandler(std::function<void(ClickButton)> handler) = 0;

@@ -1,4 +1,3 @@
-#include "app/menu_bar_items/battery_glyph.h"
 #include "app/menu_bar_items/battery_item_rules.h"
 #include "app/menu_bar_items/battery_menu_bar_item.h"
 #include "core/battery_monitor.h"
@@ -22,7 +21,9 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, batteryLength);
     }
-    [[nodiscard]] static ItemPart bolt() { return symbolPart(u"bolt.fill", 7, SystemColors::yellow); }
+    [[nodiscard]] static SceneNode bolt() {
+        return symbolNode(QStringLiteral("bolt.fill"), 7, SystemColors::yellow);
+    }
     [[nodiscard]] QColor color() const { return themes.batteryColor(settings); }
 
     FixedBatterySource source;
@@ -32,8 +33,9 @@ protected:
 
 TEST_F(BatteryMenuBarItemTest, MiniBarsAndIconAndTextShowTheGlyphBesideTheCharge) {
     charge(63);
-    const QImage expected =
-        picture(row({batteryGlyphPart(63, color()), valuePart(QStringLiteral("63%"), 10)}, 2), batteryLength);
+    const QImage expected = picture(
+        row({{BatteryShape{.charge = 63, .color = color()}}, valueNode(QStringLiteral("63%"), 10)}, 2),
+        batteryLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), expected);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), expected);
 }
@@ -41,41 +43,42 @@ TEST_F(BatteryMenuBarItemTest, MiniBarsAndIconAndTextShowTheGlyphBesideTheCharge
 TEST_F(BatteryMenuBarItemTest, TextOnlyShowsTheChargeAlone) {
     charge(9);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(valuePart(QStringLiteral("9%")), batteryLength));
+              picture(valueNode(QStringLiteral("9%")), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, ABoltFollowsTheChargeWhileCharging) {
     charge(50, true);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(row({valuePart(QStringLiteral("50%")), bolt()}, 2), batteryLength));
-    const ItemPart glyph = batteryGlyphPart(50, SystemColors::green);
+              picture(row({valueNode(QStringLiteral("50%")), bolt()}, 2), batteryLength));
+    const SceneNode glyph = {BatteryShape{.charge = 50, .color = SystemColors::green}};
     EXPECT_EQ(
         pictureIn(MenuBarDisplayStyle::miniBars),
-        picture(row({glyph, row({valuePart(QStringLiteral("50%"), 10), bolt()}, 2)}, 2), batteryLength));
+        picture(row({glyph, row({valueNode(QStringLiteral("50%"), 10), bolt()}, 2)}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, TheSparklineShowsTheChargeHistoryInTheBatterysColour) {
     for (const std::int64_t percent : {60, 50, 30})
         charge(percent);
-    const ItemPart icon = iconPart(u"battery.100", SystemColors::yellow);
-    const ItemPart history = historyPart({0.6, 0.5, 0.3}, SystemColors::yellow, 1.0, {28, 12});
+    const SceneNode icon = iconNode(QStringLiteral("battery.100"), SystemColors::yellow);
+    const SceneNode history = historyNode({0.6, 0.5, 0.3}, SystemColors::yellow, 1.0, {28, 12});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, DotsShowTheChargeInTheBatterysColour) {
     charge(15);
-    const ItemPart icon = iconPart(u"battery.100", SystemColors::red);
-    const ItemPart dots = dotsPart(batteryDotColors(15, SystemColors::red));
+    const SceneNode icon = iconNode(QStringLiteral("battery.100"), SystemColors::red);
+    const SceneNode dots = dotsNode(batteryDotColors(15, SystemColors::red));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon, dots}, 2), batteryLength));
 }
 
 TEST_F(BatteryMenuBarItemTest, WithoutABatteryEveryStyleShowsExternalPower) {
-    const QImage expected =
-        picture(row({iconPart(u"powerplug", SystemColors::green), valuePart(QStringLiteral("AC"), 10)}, 2),
-                batteryLength);
+    const QImage expected = picture(
+        row({iconNode(QStringLiteral("powerplug"), SystemColors::green), valueNode(QStringLiteral("AC"), 10)},
+            2),
+        batteryLength);
     for (const MenuBarDisplayStyle style : allDisplayStyles)
         EXPECT_EQ(pictureIn(style), expected) << "style " << static_cast<int>(style);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Battery: none, on AC power"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery: none, on AC power"));
 }
 
 TEST_F(BatteryMenuBarItemTest, ABatteryThatWentAwayLeavesExternalPower) {
@@ -84,7 +87,7 @@ TEST_F(BatteryMenuBarItemTest, ABatteryThatWentAwayLeavesExternalPower) {
     source.powerSources = std::vector<std::optional<PowerSourceDescription>>{};
     monitor.update();
     EXPECT_NE(pictureIn(MenuBarDisplayStyle::miniBars), before);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Battery: none, on AC power"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery: none, on AC power"));
 }
 
 TEST_F(BatteryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
@@ -101,9 +104,9 @@ TEST_F(BatteryMenuBarItemTest, AChargeThatCannotBeStillFitsItsPlace) {
 
 TEST_F(BatteryMenuBarItemTest, TellsTheChargeInWords) {
     charge(85);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Battery 85%"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery 85%"));
     charge(86, true);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Battery 86%, charging"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery 86%, charging"));
 }
 
 using BatteryGlyphTest = ItemFixture;
@@ -111,7 +114,7 @@ using BatteryGlyphTest = ItemFixture;
 TEST_F(BatteryGlyphTest, IsFilledInProportionToTheCharge) {
     const QColor fill(10, 200, 30);
     const auto filledPixels = [&](qint64 charge) {
-        return countPixels(picture(batteryGlyphPart(charge, fill), batteryLength), fill);
+        return countPixels(picture({BatteryShape{.charge = charge, .color = fill}}, batteryLength), fill);
     };
     EXPECT_EQ(filledPixels(0), 0);
     EXPECT_NEAR(filledPixels(50), 18 * 16, 24) << "half of 18 points, 8 high, without the corners";
@@ -121,7 +124,7 @@ TEST_F(BatteryGlyphTest, IsFilledInProportionToTheCharge) {
 TEST_F(BatteryGlyphTest, HasASharpOutlineAtEveryScale) {
     for (const double ratio : {1.0, 2.0}) {
         const QImage image = paintedImage({30, barHeight}, ratio, [&](QPainter& painter) {
-            paintCentred(painter, {0, 0, 30, barHeight}, batteryGlyphPart(0, Qt::green));
+            paintScene(painter, {0, 0, 30, barHeight}, {BatteryShape{.charge = 0, .color = Qt::green}});
         });
         const int column = qRound(13 * ratio);
         int solid = 0;

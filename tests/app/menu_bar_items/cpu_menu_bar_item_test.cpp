@@ -43,14 +43,15 @@ protected:
 TEST_F(CPUMenuBarItemTest, TextOnlyShowsTheUsageAlone) {
     run({0.25, 0.65});
     const QImage shown = pictureIn(MenuBarDisplayStyle::textOnly);
-    EXPECT_EQ(shown, picture(valuePart(QStringLiteral("45%")), cpuLength));
+    EXPECT_EQ(shown, picture(valueNode(QStringLiteral("45%")), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, IconAndTextShowsTheIconBesideTheUsage) {
     run({1, 1});
     const QImage shown = pictureIn(MenuBarDisplayStyle::iconAndText);
     EXPECT_EQ(shown,
-              picture(row({iconPart(u"cpu", color()), valuePart(QStringLiteral("100%"))}, 3), cpuLength));
+              picture(row({iconNode(QStringLiteral("cpu"), color()), valueNode(QStringLiteral("100%"))}, 3),
+                      cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, SixteenCoresDrawSixteenBarsInFortyTwoPoints) {
@@ -76,31 +77,23 @@ TEST_F(CPUMenuBarItemTest, ABarIsAsHighAsItsCoreIsBusyAndShowsTheModulesColour) 
     EXPECT_EQ(shown.pixelColor(insideFirstBar, bottom - 13).alpha(), 0);
 }
 
-TEST_F(CPUMenuBarItemTest, PaintsTheBarsThatItIsGivenInTheMiddleOfAChange) {
-    run({0.4, 1});
-    const QList<BarLook> bars = item().bars().looks;
-    EXPECT_EQ(bars, (QList<BarLook>{{0.4, color()}, {1, SystemColors::red}}));
-    EXPECT_EQ(item().bars().fullLength, 14);
-    const QList<BarLook> moving{{0.8, Qt::magenta}, {0.2, Qt::magenta}};
-    const QImage shown = paintedImage({cpuLength, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item().picture(moving).paint(painter, {0, 0, cpuLength, barHeight});
-    });
-    EXPECT_GT(countPixels(shown, Qt::magenta), 0);
-    EXPECT_EQ(countPixels(shown, SystemColors::red), 0);
-}
-
 TEST_F(CPUMenuBarItemTest, HasBarsToMoveInTheStyleOfBarsAlone) {
     run({0.4, 1});
+    const auto level = [](double ratio, const QColor& tint) {
+        return Level{.look = {ratio, tint}, .fullLength = 14, .eases = true};
+    };
+    EXPECT_EQ(levelsOf(item().body().body), QList<Level>({level(0.4, color()), level(1, SystemColors::red)}));
     for (const MenuBarDisplayStyle style : allDisplayStyles) {
         settings.setMenuBarDisplayStyle(style);
-        EXPECT_EQ(item().bars().looks.size(), style == MenuBarDisplayStyle::miniBars ? 2 : 0);
+        EXPECT_EQ(levelsOf(item().body().body).size(), style == MenuBarDisplayStyle::miniBars ? 2 : 0);
     }
 }
 
 TEST_F(CPUMenuBarItemTest, WithoutCoresTheBarsAndDotsTakeNoRoom) {
     source.ticks = std::vector<CoreTicks>();
     monitor.emplace(source, clock.reader());
-    const QImage iconAlone = picture(row({iconPart(u"cpu", color()), dotsPart({})}, 3), cpuLength);
+    const QImage iconAlone =
+        picture(row({iconNode(QStringLiteral("cpu"), color()), dotsNode({})}, 3), cpuLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), iconAlone);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), iconAlone);
 }
@@ -133,17 +126,17 @@ TEST_F(CPUMenuBarItemTest, DotsShowEachCoresLoad) {
     faint.setAlphaF(0.3F);
     QColor half = color();
     half.setAlphaF(0.6F);
-    const ItemPart dots = dotsPart({faint, half, color(), SystemColors::red});
+    const SceneNode dots = dotsNode({faint, half, color(), SystemColors::red});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator),
-              picture(row({iconPart(u"cpu", color()), dots}, 3), cpuLength));
+              picture(row({iconNode(QStringLiteral("cpu"), color()), dots}, 3), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, TheSparklineShowsTheUsageHistoryAtFullScaleOne) {
     for (const double load : {0.1, 0.9, 0.3})
         run({load});
-    const ItemPart history = historyPart({0.1, 0.9, 0.3}, color(), 1.0, {32, 12});
+    const SceneNode history = historyNode({0.1, 0.9, 0.3}, color(), 1.0, {32, 12});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({iconPart(u"cpu", color()), history}, 3), cpuLength));
+              picture(row({iconNode(QStringLiteral("cpu"), color()), history}, 3), cpuLength));
 }
 
 TEST_F(CPUMenuBarItemTest, TheUsersOwnColourReplacesTheThemes) {
@@ -170,7 +163,7 @@ TEST_F(CPUMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
 
 TEST_F(CPUMenuBarItemTest, TellsTheUsageInWords) {
     run({0.12});
-    EXPECT_EQ(item().accessibleText(), QStringLiteral("CPU 12%"));
+    EXPECT_EQ(item().body().accessibleText, QStringLiteral("CPU 12%"));
 }
 
 } // namespace

@@ -33,14 +33,15 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, diskLength);
     }
-    [[nodiscard]] ItemPart icon() const { return iconPart(u"internaldrive", color()); }
+    [[nodiscard]] SceneNode icon() const { return iconNode(QStringLiteral("internaldrive"), color()); }
     [[nodiscard]] QColor color() const { return themes.diskColor(settings); }
     [[nodiscard]] const AppTheme& theme() const { return themes.currentTheme(); }
-    [[nodiscard]] ItemPart arrows(double writeSpeed, double readSpeed) const {
-        return row(
-            {symbolPart(u"arrow.up.circle.fill", 6, activityArrowColor(writeSpeed, theme().diskWriteColor)),
-             symbolPart(u"arrow.down.circle.fill", 6, activityArrowColor(readSpeed, theme().diskReadColor))},
-            1);
+    [[nodiscard]] SceneNode arrows(double writeSpeed, double readSpeed) const {
+        return row({symbolNode(QStringLiteral("arrow.up.circle.fill"), 6,
+                               activityArrowColor(writeSpeed, theme().diskWriteColor)),
+                    symbolNode(QStringLiteral("arrow.down.circle.fill"), 6,
+                               activityArrowColor(readSpeed, theme().diskReadColor))},
+                   1);
     }
 
     FixedDiskSource source;
@@ -54,19 +55,19 @@ TEST_F(DiskMenuBarItemTest, MiniBarsShowsActivityAboveTheBarOfTheFirstVolume) {
     mount(1000, 250);
     transfer(0, 0);
     transfer(4096, 100);
-    const ItemPart bar = levelBarPart({20, 4}, 2, 0.75, color());
-    const ItemPart expected = row({icon(), column({arrows(100, 4096), bar}, 1, ColumnAlignment::center)}, 2);
+    const SceneNode bar = levelBarNode({20, 4}, 2, 0.75, color(), false);
+    const SceneNode expected = row({icon(), column({arrows(100, 4096), bar}, 1, ColumnAlignment::center)}, 2);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, TheBarIsLeftOutWithoutVolumes) {
-    const ItemPart expected = row({icon(), arrows(0, 0)}, 2);
+    const SceneNode expected = row({icon(), arrows(0, 0)}, 2);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, TextShowsTheUsedShareOfTheFirstVolume) {
     mount(1000, 250);
-    const ItemPart text = valuePart(QStringLiteral("75%"));
+    const SceneNode text = valueNode(QStringLiteral("75%"));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(text, diskLength));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), picture(row({icon(), text}, 2), diskLength));
 }
@@ -86,14 +87,13 @@ TEST_F(DiskMenuBarItemTest, TheSparklineShowsBothHistories) {
                                      .width = 28,
                                      .height = 12};
     ASSERT_EQ(expected.topData, QList<double>({5000, 900, 7000}));
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({icon(), sparklinePart(expected)}, 2), diskLength));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), {expected}}, 2), diskLength));
 }
 
 TEST_F(DiskMenuBarItemTest, DotsShowReadingAndThenWriting) {
     transfer(0, 0);
     transfer(1024, 1025);
-    const ItemPart dots = dotsPart(
+    const SceneNode dots = dotsNode(
         {activityDotColor(0, theme().diskReadColor), activityDotColor(9999, theme().diskWriteColor)});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), diskLength));
 }
@@ -106,11 +106,11 @@ TEST_F(DiskMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
 }
 
 TEST_F(DiskMenuBarItemTest, TellsUsageAndActivityInWords) {
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Disk, read 0 B/s, write 0 B/s"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Disk, read 0 B/s, write 0 B/s"));
     mount(1000, 250);
     transfer(0, 0);
     transfer(2048, 100);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Disk 75%, read 2.0 KB/s, write 100 B/s"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Disk 75%, read 2.0 KB/s, write 100 B/s"));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/menu_bar_items/item_drawings.h"
-#include "app/shell/status_item_view.h"
+#include "app/menu_bar_items/item_nodes.h"
+#include "app/menu_bar_items/scene_painter.h"
 #include "settings/settings_store.h"
 #include "settings/theme_manager.h"
 #include "support/pixels.h"
@@ -24,26 +24,28 @@ protected:
     static constexpr double pixelsPerPoint = 2;
 
     /// The item as the menu bar shows it in a place of `length` points.
-    [[nodiscard]] static QImage picture(const StatusItemView& item, double length,
+    [[nodiscard]] static QImage picture(const SceneNode& scene, double length,
                                         double ratio = pixelsPerPoint) {
-        return paintedImage({length, barHeight}, ratio,
-                            [&](QPainter& painter) { item.paint(painter, {0, 0, length, barHeight}); });
-    }
-    [[nodiscard]] static QImage picture(const ItemPart& part, double length) {
-        return paintedImage({length, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-            paintCentred(painter, {0, 0, length, barHeight}, part);
+        return paintedImage({length, barHeight}, ratio, [&](QPainter& painter) {
+            paintScene(painter, {0, 0, length, barHeight}, scene);
         });
+    }
+    template <class Item>
+    [[nodiscard]] static QImage picture(const Item& item, double length, double ratio = pixelsPerPoint) {
+        return picture(item.body().body, length, ratio);
     }
 
     /// In every style and at every screen scale, nothing is painted outside the item's place.
-    void expectItStaysInItsPlace(const StatusItemView& item, double length) {
+    template <class Item>
+    void expectItStaysInItsPlace(const Item& item, double length) {
         constexpr double margin = 30;
         for (const MenuBarDisplayStyle style : allDisplayStyles) {
             settings.setMenuBarDisplayStyle(style);
             for (const double ratio : {1.0, 1.5, 2.0}) {
                 const QRectF place(margin, margin, length, barHeight);
-                const QImage image = paintedImage({length + 2 * margin, barHeight + 2 * margin}, ratio,
-                                                  [&](QPainter& painter) { item.paint(painter, place); });
+                const QImage image =
+                    paintedImage({length + 2 * margin, barHeight + 2 * margin}, ratio,
+                                 [&](QPainter& painter) { paintScene(painter, place, item.body().body); });
                 const QRect allowed = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
                 EXPECT_FALSE(paintedRect(image).isEmpty());
                 EXPECT_TRUE(allowed.contains(paintedRect(image)))

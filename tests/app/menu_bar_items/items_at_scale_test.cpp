@@ -26,7 +26,8 @@ bool isNear(const QColor& left, const QColor& right) {
 class ItemsAtScale : public ItemFixture, public ::testing::WithParamInterface<double> {
 protected:
     /// The item in the middle of a place that is wide enough for all of it.
-    [[nodiscard]] QImage shown(const StatusItemView& item, MenuBarDisplayStyle style) {
+    template <class Item>
+    [[nodiscard]] QImage shown(const Item& item, MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
         return unscaled(picture(item, 100, GetParam()));
     }

@@ -23,9 +23,9 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, memoryLength);
     }
-    [[nodiscard]] ItemPart icon() const { return iconPart(u"memorychip", color()); }
+    [[nodiscard]] SceneNode icon() const { return iconNode(QStringLiteral("memorychip"), color()); }
     [[nodiscard]] QImage pictureOfDots(qsizetype lit) const {
-        return picture(row({icon(), dotsPart(meterColors(color(), lit, 5, 0.2))}, 3), memoryLength);
+        return picture(row({icon(), dotsNode(meterColors(color(), lit, 5, 0.2))}, 3), memoryLength);
     }
     [[nodiscard]] QColor color() const { return themes.memoryColor(settings); }
 
@@ -36,48 +36,37 @@ protected:
 
 TEST_F(MemoryMenuBarItemTest, MiniBarsShowsIconBarAndSmallText) {
     use(42);
-    const ItemPart expected =
-        row({icon(), levelBarPart({28, 8}, 3, 0.42, color()), valuePart(QStringLiteral("42%"), 10)}, 3);
+    const SceneNode expected =
+        row({icon(), levelBarNode({28, 8}, 3, 0.42, color(), true), valueNode(QStringLiteral("42%"), 10)}, 3);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, memoryLength));
-}
-
-TEST_F(MemoryMenuBarItemTest, PaintsTheLevelThatItIsGivenInTheMiddleOfAChange) {
-    use(42);
-    EXPECT_EQ(item.bars().looks, (QList<BarLook>{{0.42, color()}}));
-    EXPECT_EQ(item.bars().fullLength, 28);
-    const ItemPart expected = row({icon(), levelBarPart({28, 8}, 3, 0.2, Qt::magenta),
-                                   valuePart(QStringLiteral("42%"), 10)}, // the text does not wait
-                                  3);
-    const QImage shown = paintedImage({memoryLength, barHeight}, pixelsPerPoint, [&](QPainter& painter) {
-        item.picture({{0.2, Qt::magenta}}).paint(painter, {0, 0, memoryLength, barHeight});
-    });
-    EXPECT_EQ(shown, picture(expected, memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, HasALevelToMoveInTheStyleOfBarsAlone) {
     use(42);
+    EXPECT_EQ(levelsOf(item.body().body),
+              QList<Level>({{.look = {0.42, color()}, .fullLength = 28, .eases = true}}));
     for (const MenuBarDisplayStyle style : allDisplayStyles) {
         settings.setMenuBarDisplayStyle(style);
-        EXPECT_EQ(item.bars().looks.size(), style == MenuBarDisplayStyle::miniBars ? 1 : 0);
+        EXPECT_EQ(levelsOf(item.body().body).size(), style == MenuBarDisplayStyle::miniBars ? 1 : 0);
     }
 }
 
 TEST_F(MemoryMenuBarItemTest, TextOnlyShowsTheUsedShareAlone) {
     use(7);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(valuePart(QStringLiteral("7.0%")), memoryLength));
+              picture(valueNode(QStringLiteral("7.0%")), memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, IconAndTextShowsTheIconBesideTheShare) {
     use(100);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
-              picture(row({icon(), valuePart(QStringLiteral("100%"))}, 3), memoryLength));
+              picture(row({icon(), valueNode(QStringLiteral("100%"))}, 3), memoryLength));
 }
 
 TEST_F(MemoryMenuBarItemTest, TheSparklineShowsThePressureHistory) {
     for (const std::uint64_t used : {20U, 60U, 30U})
         use(used);
-    const ItemPart history = historyPart({0.2, 0.6, 0.3}, color(), 1.0, {28, 12});
+    const SceneNode history = historyNode({0.2, 0.6, 0.3}, color(), 1.0, {28, 12});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), history}, 3), memoryLength));
 }
 
@@ -92,9 +81,9 @@ TEST_F(MemoryMenuBarItemTest, NinetyNinePercentLightsFourOfFiveDots) {
 TEST_F(MemoryMenuBarItemTest, AnUnknownTotalIsNothingUsed) {
     use(0, 0);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(valuePart(QStringLiteral("0.0%")), memoryLength));
+              picture(valueNode(QStringLiteral("0.0%")), memoryLength));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), pictureOfDots(0));
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Memory 0.0%"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Memory 0.0%"));
 }
 
 TEST_F(MemoryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
@@ -106,7 +95,7 @@ TEST_F(MemoryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
 
 TEST_F(MemoryMenuBarItemTest, TellsTheShareInWords) {
     use(45);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Memory 45%"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Memory 45%"));
 }
 
 } // namespace

@@ -29,26 +29,28 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, networkLength);
     }
-    [[nodiscard]] ItemPart icon() const { return iconPart(u"network", themes.networkColor(settings)); }
+    [[nodiscard]] SceneNode icon() const {
+        return iconNode(QStringLiteral("network"), themes.networkColor(settings));
+    }
     [[nodiscard]] const AppTheme& theme() const { return themes.currentTheme(); }
 
-    [[nodiscard]] static ItemPart rateRow(QStringView arrow, const QColor& color, const QString& rate) {
-        return row({symbolPart(arrow, 6, withOpacity(color, 0.8)),
-                    textPart(rate, monospacedSystemFont(8), withOpacity(LabelColors::primary, 0.8))},
+    [[nodiscard]] static SceneNode rateRow(const QString& arrow, const QColor& color, const QString& rate) {
+        return row({symbolNode(arrow, 6, withOpacity(color, 0.8)),
+                    textNode(rate, monospacedSystemFont(8), withOpacity(LabelColors::primary, 0.8))},
                    1);
     }
-    [[nodiscard]] ItemPart ratePair(const QString& up, const QString& down) const {
-        return column({rateRow(u"arrow.up", theme().networkUploadColor, up),
-                       rateRow(u"arrow.down", theme().networkDownloadColor, down)},
+    [[nodiscard]] SceneNode ratePair(const QString& up, const QString& down) const {
+        return column({rateRow(QStringLiteral("arrow.up"), theme().networkUploadColor, up),
+                       rateRow(QStringLiteral("arrow.down"), theme().networkDownloadColor, down)},
                       0, ColumnAlignment::trailing);
     }
-    [[nodiscard]] ItemPart history(double width) const {
-        return sparklinePart(DualSparklineView{.topData = recentSamples(monitor.downloadHistory()),
-                                               .bottomData = recentSamples(monitor.uploadHistory()),
-                                               .topColor = theme().networkDownloadColor,
-                                               .bottomColor = theme().networkUploadColor,
-                                               .width = width,
-                                               .height = 14});
+    [[nodiscard]] SceneNode history(double width) const {
+        return {DualSparklineView{.topData = recentSamples(monitor.downloadHistory()),
+                                  .bottomData = recentSamples(monitor.uploadHistory()),
+                                  .topColor = theme().networkDownloadColor,
+                                  .bottomColor = theme().networkUploadColor,
+                                  .width = width,
+                                  .height = 14}};
     }
 
     FixedNetworkSource source;
@@ -61,12 +63,12 @@ protected:
 TEST_F(NetworkMenuBarItemTest, MiniBarsShowsTheRatePairBesideTheHistories) {
     transfer(0, 0);
     transfer(2048, 500);
-    const ItemPart rates = ratePair(QStringLiteral("500B"), QStringLiteral("2.0K"));
+    const SceneNode rates = ratePair(QStringLiteral("500B"), QStringLiteral("2.0K"));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(row({rates, history(32)}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, TheRatePairStandsAloneWhileThereIsNoHistory) {
-    const ItemPart rates = ratePair(QStringLiteral("0.0B"), QStringLiteral("0.0B"));
+    const SceneNode rates = ratePair(QStringLiteral("0.0B"), QStringLiteral("0.0B"));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(rates, networkLength));
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), rates}, 2), networkLength));
 }
@@ -75,9 +77,9 @@ TEST_F(NetworkMenuBarItemTest, TextOnlyShowsUploadAboveDownloadAtTheTrailingEdge
     transfer(0, 0);
     transfer(2048, 102400);
     const auto rate = [](const QString& text) {
-        return textPart(text, monospacedSystemFont(8, QFont::Medium), withOpacity(LabelColors::primary, 0.7));
+        return textNode(text, monospacedSystemFont(8, QFont::Medium), withOpacity(LabelColors::primary, 0.7));
     };
-    const ItemPart expected =
+    const SceneNode expected =
         column({rate(QStringLiteral("100K")), rate(QStringLiteral("2.0K"))}, 0, ColumnAlignment::trailing);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), picture(expected, networkLength));
 }
@@ -109,15 +111,14 @@ TEST_F(NetworkMenuBarItemTest, HistoriesAreCutToTwentySamples) {
                                  .bottomColor = theme().networkUploadColor,
                                  .width = 36,
                                  .height = 14};
-    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline),
-              picture(row({icon(), sparklinePart(flat)}, 2), networkLength));
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon(), {flat}}, 2), networkLength));
 }
 
 TEST_F(NetworkMenuBarItemTest, DotsShowDownloadAndThenUpload) {
     transfer(0, 0);
     transfer(1025, 1024);
-    const ItemPart dots =
-        dotsPart({theme().networkDownloadColor, withOpacity(theme().networkUploadColor, 0.2)}, 5);
+    const SceneNode dots =
+        dotsNode({theme().networkDownloadColor, withOpacity(theme().networkUploadColor, 0.2)}, 5);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator), picture(row({icon(), dots}, 2), networkLength));
 }
 
@@ -130,7 +131,7 @@ TEST_F(NetworkMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
 TEST_F(NetworkMenuBarItemTest, TellsBothRatesInWords) {
     transfer(0, 0);
     transfer(1536, 20);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Network download 1.5 KB/s, upload 20 B/s"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Network download 1.5 KB/s, upload 20 B/s"));
 }
 
 } // namespace

@@ -22,8 +22,8 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, sensorLength);
     }
-    [[nodiscard]] static ItemPart text(const QString& text, const QColor& color) {
-        return textPart(text, monospacedSystemFont(10, QFont::Medium), color);
+    [[nodiscard]] static SceneNode text(const QString& text, const QColor& color) {
+        return textNode(text, monospacedSystemFont(10, QFont::Medium), color);
     }
     [[nodiscard]] QColor cool() const { return temperatureColor(20, themes.sensorColor(settings)); }
 
@@ -41,7 +41,7 @@ TEST_F(SensorMenuBarItemTest, MiniBarsAndTextOnlyShowTheTemperature) {
 
 TEST_F(SensorMenuBarItemTest, IconAndTextShowsBothInTheTemperaturesColour) {
     warm(85);
-    const ItemPart icon = iconPart(u"thermometer.medium", SystemColors::red);
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), SystemColors::red);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
               picture(row({icon, text(QStringLiteral("85°"), SystemColors::red)}, 2), sensorLength));
 }
@@ -49,7 +49,7 @@ TEST_F(SensorMenuBarItemTest, IconAndTextShowsBothInTheTemperaturesColour) {
 TEST_F(SensorMenuBarItemTest, DashesInTheSecondaryColourStandForNoTemperature) {
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
               picture(text(QStringLiteral("--°"), LabelColors::secondary), sensorLength));
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Sensors: no temperature"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Sensors: no temperature"));
 }
 
 TEST_F(SensorMenuBarItemTest, TheMenuBarStaysInCelsius) {
@@ -57,22 +57,22 @@ TEST_F(SensorMenuBarItemTest, TheMenuBarStaysInCelsius) {
     const QImage before = pictureIn(MenuBarDisplayStyle::textOnly);
     settings.setUseFahrenheit(true);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), before);
-    EXPECT_EQ(item.accessibleText(), QStringLiteral("Sensors 45°C"));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Sensors 45°C"));
 }
 
 TEST_F(SensorMenuBarItemTest, TheSparklineShowsTheTemperatureHistoryUpTo110Degrees) {
     for (const double celsius : {40.0, 90.0, 65.0})
         warm(celsius);
-    const ItemPart icon = iconPart(u"thermometer.medium", SystemColors::yellow);
-    const ItemPart history = historyPart({40, 90, 65}, SystemColors::yellow, 110, {24, 10});
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), SystemColors::yellow);
+    const SceneNode history = historyNode({40, 90, 65}, SystemColors::yellow, 110, {24, 10});
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), sensorLength));
 }
 
 TEST_F(SensorMenuBarItemTest, DotsShowHowWarmItIs) {
     warm(39);
-    const ItemPart icon = iconPart(u"thermometer.medium", cool());
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), cool());
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator),
-              picture(row({icon, dotsPart(temperatureDotColors(39))}, 2), sensorLength));
+              picture(row({icon, dotsNode(temperatureDotColors(39))}, 2), sensorLength));
 }
 
 TEST_F(SensorMenuBarItemTest, StaysInItsPlaceInEveryStyle) {

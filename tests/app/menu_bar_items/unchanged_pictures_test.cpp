@@ -1,9 +1,4 @@
-#include "app/menu_bar_items/battery_menu_bar_item.h"
-#include "app/menu_bar_items/cpu_menu_bar_item.h"
-#include "app/menu_bar_items/disk_menu_bar_item.h"
-#include "app/menu_bar_items/memory_menu_bar_item.h"
-#include "app/menu_bar_items/network_menu_bar_item.h"
-#include "app/menu_bar_items/sensor_menu_bar_item.h"
+#include "app/menu_bar_items/modules.h"
 #include "core/system_monitor.h"
 #include "item_fixture.h"
 #include "platform/fixed/fixed_machine.h"
@@ -53,44 +48,32 @@ protected:
         return std::uniform_int_distribution<std::int64_t>(least, most)(random);
     }
 
-    [[nodiscard]] std::map<std::string, std::unique_ptr<StatusItemView>> makeItems() {
-        std::map<std::string, std::unique_ptr<StatusItemView>> items;
-        items["cpu"] = std::make_unique<CPUMenuBarItem>(monitor.cpu(), settings, themes);
-        items["memory"] = std::make_unique<MemoryMenuBarItem>(monitor.memory(), settings, themes);
-        items["network"] = std::make_unique<NetworkMenuBarItem>(monitor.network(), settings, themes);
-        items["disk"] = std::make_unique<DiskMenuBarItem>(monitor.disk(), settings, themes);
-        items["battery"] = std::make_unique<BatteryMenuBarItem>(monitor.battery(), settings, themes);
-        items["sensor"] = std::make_unique<SensorMenuBarItem>(monitor.sensor(), settings, themes);
-        return items;
-    }
-
     std::mt19937 random{7};
     std::vector<CoreTicks> ticks = std::vector<CoreTicks>(4);
     FixedMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
 };
 
-TEST_F(UnchangedPictures, LookTheSameWheneverTheirKeysAreTheSame) {
+TEST_F(UnchangedPictures, LookTheSameWheneverTheirScenesAreEqual) {
     constexpr int visibleDifference = 40;
-    const auto items = makeItems();
     for (const MenuBarDisplayStyle style : allDisplayStyles) {
         settings.setMenuBarDisplayStyle(style);
-        std::map<std::string, std::pair<std::string, QImage>> before;
+        std::map<QLatin1StringView, std::pair<SceneNode, QImage>> before;
         int sameCount = 0;
         int otherCount = 0;
         for (int round = 0; round < 30; ++round) {
             sample();
-            for (const auto& [name, item] : items) {
-                const std::string key = item->picture(item->bars().looks).key;
-                const QImage image = picture(*item, 90);
-                auto& [keyBefore, imageBefore] = before[name];
-                if (key == keyBefore) {
+            for (const Module& module : modules()) {
+                const SceneNode scene = module.makeScene({monitor, settings, themes}).body;
+                const QImage image = picture(scene, 90);
+                auto& [sceneBefore, imageBefore] = before[module.key];
+                if (scene == sceneBefore) {
                     ++sameCount;
                     EXPECT_LE(largestDifference(image, imageBefore), visibleDifference)
-                        << name << " in style " << static_cast<int>(style);
+                        << module.key.data() << " in style " << static_cast<int>(style);
                 } else {
                     ++otherCount;
-                    keyBefore = key;
+                    sceneBefore = scene;
                     imageBefore = image;
                 }
             }

@@ -31,9 +31,11 @@ protected:
         monitor.updateCycle();
     }
 
-    [[nodiscard]] QList<WrittenText> writtenIn(MenuBarDisplayStyle style, const StatusItemView& item) {
+    template <class Item>
+    [[nodiscard]] QList<WrittenText> writtenIn(MenuBarDisplayStyle style, const Item& item) {
         settings.setMenuBarDisplayStyle(style);
-        return writtenTexts([&](QPainter& painter) { item.paint(painter, {0, 0, 200, barHeight}); });
+        return writtenTexts(
+            [&](QPainter& painter) { paintScene(painter, {0, 0, 200, barHeight}, item.body().body); });
     }
     /// A value as all items write it: monospaced and medium.
     [[nodiscard]] static WrittenText value(const char16_t* text, int pixelSize,

@@ -11,29 +11,13 @@
 namespace orvelle {
 namespace {
 
-class WordsView final : public StatusItemView {
-public:
-    WordsView(QString name, QString text)
-        : m_name(std::move(name))
-        , m_text(std::move(text)) {}
-    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
-        return {{}, [](QPainter& /*painter*/, const QRectF& /*bounds*/) {}};
-    }
-    [[nodiscard]] QString accessibleName() const override { return m_name; }
-    [[nodiscard]] QString accessibleText() const override { return m_text; }
-
-private:
-    QString m_name;
-    QString m_text;
-};
-
 class BarAccessibilityTest : public ::testing::Test {
 protected:
     BarAccessibilityTest() { bar.setGeometry(100, 50, 400, barHeightPoints); }
 
     BarItem& addItem(const QString& name, const QString& text) {
         BarItem& item = bar.addItem(name.toLower(), 60);
-        item.setView(std::make_shared<WordsView>(name, text));
+        item.setWords(name, text);
         item.setClickHandler([this](ClickButton button) { clicks.append(button); });
         return item;
     }
@@ -188,9 +172,7 @@ TEST_F(BarAccessibilityTest, NewValuesAreAnnouncedOnceEach) {
     BarItem& item = addCPU();
     const Announcements announcements;
     static_cast<void>(toolBar()->child(0)); // whoever listens has looked at the bar
-    const auto say = [&item](const QString& text) {
-        item.setView(std::make_shared<WordsView>(QStringLiteral("CPU"), text));
-    };
+    const auto say = [&item](const QString& text) { item.setWords(QStringLiteral("CPU"), text); };
     say(QStringLiteral("CPU 13%"));
     say(QStringLiteral("CPU 13%"));
     say(QStringLiteral("CPU 14%"));
@@ -210,26 +192,10 @@ TEST_F(BarAccessibilityTest, NoInterfaceIsMadeWhileNobodyListens) {
     ASSERT_FALSE(hasAssistiveListener());
     BarItem& item = addCPU();
     item.setExpanded(true);
-    item.setView(std::make_shared<WordsView>(QStringLiteral("CPU"), QStringLiteral("CPU 99%")));
+    item.setWords(QStringLiteral("CPU"), QStringLiteral("CPU 99%"));
     EXPECT_EQ(item.accessible().get(), nullptr);
     static_cast<void>(toolBar()->child(0));
     EXPECT_NE(item.accessible().get(), nullptr);
-}
-
-TEST_F(BarAccessibilityTest, AViewIsNotAskedForWordsWhileNobodyListens) {
-    class SilentView final : public StatusItemView {
-        [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
-            return {{}, [](QPainter& /*painter*/, const QRectF& /*bounds*/) {}};
-        }
-        [[nodiscard]] QString accessibleName() const override { return {}; }
-        [[nodiscard]] QString accessibleText() const override {
-            ADD_FAILURE() << "nobody listens";
-            return {};
-        }
-    };
-    BarItem& item = addCPU();
-    static_cast<void>(toolBar()->child(0));
-    item.setView(std::make_shared<SilentView>());
 }
 
 } // namespace

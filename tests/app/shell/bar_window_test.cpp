@@ -1,7 +1,6 @@
 #include "app/shell/x11/bar_geometry.h"
 #include "app/shell/x11/bar_window.h"
 #include "support/frames.h"
-#include "support/manual_motion.h"
 
 #include <QScreen>
 #include <gtest/gtest.h>
@@ -9,55 +8,16 @@
 namespace orvelle {
 namespace {
 
-/// Fills its bounds, and beyond, with one colour and counts how often.
-class FilledView final : public StatusItemView {
-public:
-    FilledView(QColor color, int& paintCount)
-        : m_color(color)
-        , m_paintCount(paintCount) {}
+/// Has the item filled with one colour, and beyond its bounds, and counts how often.
+void fill(BarItem& item, const QColor& color, int& paintCount) {
+    item.setPaint([color, &paintCount](QPainter& painter, const QRectF& bounds) {
+        painter.fillRect(bounds.adjusted(-30, 0, 30, 0), color);
+        ++paintCount;
+    });
+    item.repaint();
+}
 
-    [[nodiscard]] ItemPicture picture(const QList<BarLook>& /*shown*/) const override {
-        return {m_color.name().toStdString(),
-                [color = m_color, &paintCount = m_paintCount](QPainter& painter, const QRectF& bounds) {
-                    painter.fillRect(bounds.adjusted(-30, 0, 30, 0), color);
-                    ++paintCount;
-                }};
-    }
-    [[nodiscard]] QString accessibleName() const override { return {}; }
-    [[nodiscard]] QString accessibleText() const override { return QStringLiteral("filled"); }
-
-private:
-    QColor m_color;
-    int& m_paintCount;
-};
-
-/// One bar that fills its bounds from below, in a picture 20 points high.
-class LevelView final : public StatusItemView {
-public:
-    LevelView(double level, int& paintCount)
-        : m_level(level)
-        , m_paintCount(paintCount) {}
-
-    [[nodiscard]] ItemPicture picture(const QList<BarLook>& shown) const override {
-        const double ratio = shown.at(0).ratio;
-        return {std::to_string(ratio),
-                [ratio, &paintCount = m_paintCount](QPainter& painter, const QRectF& bounds) {
-                    painter.fillRect(bounds.adjusted(0, bounds.height() * (1 - ratio), 0, 0), Qt::red);
-                    ++paintCount;
-                }};
-    }
-    [[nodiscard]] EasedBars bars() const override {
-        return {.looks = {{m_level, Qt::red}}, .fullLength = 20};
-    }
-    [[nodiscard]] QString accessibleName() const override { return {}; }
-    [[nodiscard]] QString accessibleText() const override { return QStringLiteral("level"); }
-
-private:
-    double m_level;
-    int& m_paintCount;
-};
-
-class BarWindowTest : public ::testing::Test, protected ManualMotion {
+class BarWindowTest : public ::testing::Test {
 protected:
     BarWindowTest() { bar.setGeometry(0, 0, 400, barHeightPoints); }
 
@@ -67,11 +27,9 @@ protected:
         ASSERT_TRUE(waitUntil([this] { return leftCount > 0; }));
     }
 
-    BarWindow bar{motion};
+    BarWindow bar;
     int leftCount = 0;
     int rightCount = 0;
-    std::shared_ptr<StatusItemView> red = std::make_shared<FilledView>(Qt::red, leftCount);
-    std::shared_ptr<StatusItemView> blue = std::make_shared<FilledView>(Qt::blue, rightCount);
 };
 
 TEST_F(BarWindowTest, PlacesItemsInOrderFlushRight) {
@@ -110,78 +68,26 @@ TEST_F(BarWindowTest, FollowsItsWidth) {
     ASSERT_TRUE(waitUntil([&item] { return item.bounds().right() == 500 - barRightMarginPoints; }));
 }
 
-TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseViewChanged) {
+TEST_F(BarWindowTest, RepaintsOnlyTheItemThatLooksDifferent) {
     BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
     BarItem& right = bar.addItem(QStringLiteral("memory"), 70);
-    left.setView(red);
-    right.setView(blue);
+    fill(left, Qt::red, leftCount);
+    fill(right, Qt::blue, rightCount);
     showBar();
     const int leftBefore = leftCount;
     const int rightBefore = rightCount;
 
-    right.setView(std::make_shared<FilledView>(Qt::green, rightCount));
+    right.repaint();
     ASSERT_TRUE(waitUntil([&] { return rightCount > rightBefore; }));
     EXPECT_EQ(rightCount, rightBefore + 1);
     EXPECT_EQ(leftCount, leftBefore);
 }
 
-TEST_F(BarWindowTest, PaintsNothingWhenANewViewLooksLikeTheOneBefore) {
-    BarItem& item = bar.addItem(QStringLiteral("cpu"), 60);
-    item.setView(red);
-    showBar();
-    const int before = leftCount;
-    item.setView(std::make_shared<FilledView>(Qt::red, leftCount));
-    ASSERT_TRUE(settle(bar));
-    EXPECT_EQ(leftCount, before);
-}
-
-TEST_F(BarWindowTest, RepaintsOnlyTheItemWhoseBarsMoveAndOnlyWhileTheyDo) {
+TEST_F(BarWindowTest, KeepsAPictureInsideItsItem) {
     BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
     BarItem& right = bar.addItem(QStringLiteral("memory"), 70);
-    left.setView(red);
-    right.setView(std::make_shared<LevelView>(0.1, rightCount));
-    showBar();
-    EXPECT_FALSE(motion.isRunning());
-    const int leftBefore = leftCount;
-
-    right.setView(std::make_shared<LevelView>(0.9, rightCount));
-    EXPECT_TRUE(motion.isRunning());
-    for (int step = 0; step < 4; ++step) {
-        const int before = rightCount;
-        pass(0.04);
-        ASSERT_TRUE(waitUntil([&] { return rightCount > before; }));
-    }
-    pass(0.3);
-    EXPECT_FALSE(motion.isRunning());
-    ASSERT_TRUE(settle(bar));
-    const int settledCount = rightCount;
-    passAMoment();
-    EXPECT_EQ(rightCount, settledCount);
-    EXPECT_EQ(leftCount, leftBefore);
-}
-
-TEST_F(BarWindowTest, DoesNotMoveBarsWhileItIsHidden) {
-    BarItem& item = bar.addItem(QStringLiteral("memory"), 70);
-    item.setView(std::make_shared<LevelView>(0.1, leftCount));
-    item.setView(std::make_shared<LevelView>(0.9, leftCount));
-    EXPECT_FALSE(motion.isRunning());
-}
-
-TEST_F(BarWindowTest, ForgetsTheBarsOfARemovedItem) {
-    BarItem& item = bar.addItem(QStringLiteral("memory"), 70);
-    item.setView(std::make_shared<LevelView>(0.1, leftCount));
-    showBar();
-    item.setView(std::make_shared<LevelView>(0.9, leftCount));
-    EXPECT_TRUE(motion.isRunning());
-    bar.removeItem(item);
-    EXPECT_FALSE(motion.isRunning());
-}
-
-TEST_F(BarWindowTest, KeepsAViewInsideItsItem) {
-    BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
-    BarItem& right = bar.addItem(QStringLiteral("memory"), 70);
-    left.setView(red);
-    right.setView(blue);
+    fill(left, Qt::red, leftCount);
+    fill(right, Qt::blue, rightCount);
     showBar();
     const QImage picture = bar.screen()->grabWindow(bar.winId()).toImage();
     ASSERT_FALSE(picture.isNull());
@@ -192,6 +98,14 @@ TEST_F(BarWindowTest, KeepsAViewInsideItsItem) {
     EXPECT_EQ(colorAt(right.bounds().right() - 1), QColor(Qt::blue));
     EXPECT_EQ(colorAt(left.bounds().left() - 2), colorAt(10));
     EXPECT_EQ(colorAt(right.bounds().right() + 2), colorAt(10));
+}
+
+TEST_F(BarWindowTest, TellsItsPixelsWhileItIsOnTheScreen) {
+    BarItem& item = bar.addItem(QStringLiteral("cpu"), 60);
+    EXPECT_EQ(item.visiblePixelsPerPoint(), 0);
+    fill(item, Qt::red, leftCount);
+    showBar();
+    EXPECT_EQ(item.visiblePixelsPerPoint(), bar.devicePixelRatio());
 }
 
 class BarClickTest : public BarWindowTest {
@@ -268,7 +182,7 @@ TEST_F(BarClickTest, SurvivesAHandlerThatRemovesItsItem) {
 }
 
 TEST_F(BarClickTest, PaintsAPlateBehindAnItemThatIsHeldDown) {
-    cpu.setView(red);
+    fill(cpu, Qt::red, leftCount);
     showBar();
     const auto plateColor = [this] {
         return bar.screen()->grabWindow(bar.winId()).toImage().pixelColor(middle(memory));
@@ -280,7 +194,7 @@ TEST_F(BarClickTest, PaintsAPlateBehindAnItemThatIsHeldDown) {
     EXPECT_TRUE(waitUntil([&] { return plateColor() == before; }));
 }
 
-TEST_F(BarWindowTest, PaintsNothingForAnItemWithoutAView) {
+TEST_F(BarWindowTest, PaintsNothingForAnItemWithoutAPicture) {
     bar.addItem(QStringLiteral("cpu"), 60);
     bool painted = false;
     QObject::connect(&bar, &BarWindow::painted, &bar, [&painted] { painted = true; });

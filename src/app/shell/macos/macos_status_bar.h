@@ -9,7 +9,7 @@ namespace orvelle {
 /// The program's part of the system's menu bar.
 class MacosStatusBar final : public StatusBar, private ClickListener {
 public:
-    explicit MacosStatusBar(Motion& motion = Motion::shared());
+    MacosStatusBar();
     ~MacosStatusBar() override;
 
     /// Asks the system for one item more. Where it stands among the others is for the system, and for the
@@ -23,7 +23,6 @@ private:
     void clicked(const QString& identifier, ClickButton button) override;
     void itemPainted();
 
-    Motion& m_motion;
     Retained<StatusItemTarget*> m_target;
     std::vector<std::unique_ptr<MacosStatusItem>> m_items; ///< in the order in which they were added
     bool m_hasBeenPainted = false;

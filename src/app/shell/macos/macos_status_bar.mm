@@ -9,8 +9,7 @@
 
 namespace orvelle {
 
-MacosStatusBar::MacosStatusBar(Motion& motion)
-    : m_motion(motion), m_target([[StatusItemTarget alloc] initWithListener:this]) {}
+MacosStatusBar::MacosStatusBar() : m_target([[StatusItemTarget alloc] initWithListener:this]) {}
 
 MacosStatusBar::~MacosStatusBar() {
     const ReleasePool pool;
@@ -20,7 +19,7 @@ MacosStatusBar::~MacosStatusBar() {
 StatusItem& MacosStatusBar::addItem(const QString& identifier, double length) {
     const ReleasePool pool;
     return *m_items.emplace_back(std::make_unique<MacosStatusItem>(
-        identifier, length, m_motion, m_target.get(), [this] { itemPainted(); }));
+        identifier, length, m_target.get(), [this] { itemPainted(); }));
 }
 
 void MacosStatusBar::removeItem(StatusItem& item) {

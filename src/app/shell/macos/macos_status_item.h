@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/shell/eased_view.h"
 #include "app/shell/macos/click_through_hosting_view.h"
 #include "app/shell/macos/retained.h"
 #include "app/shell/status_item.h"
@@ -13,15 +12,19 @@ class MacosStatusItem final : public StatusItem, private PaintedPicture {
   public:
     /// Clicks send `statusItemClicked:` to the target with the button, whose identifier is the item's.
     /// `painted` is called whenever the item has been painted.
-    MacosStatusItem(QString identifier, double length, Motion& motion, id clickTarget,
-                    std::function<void()> painted);
+    MacosStatusItem(QString identifier, double length, id clickTarget, std::function<void()> painted);
     ~MacosStatusItem() override;
     MacosStatusItem(const MacosStatusItem&) = delete;
     MacosStatusItem& operator=(const MacosStatusItem&) = delete;
 
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
     [[nodiscard]] double length() const override { return m_length; }
-    void setView(std::shared_ptr<const StatusItemView> view) override;
+    void setPaint(std::function<void(QPainter&, const QRectF&)> paint) override {
+        m_paint = std::move(paint);
+    }
+    void repaint() override;
+    void setWords(const QString& name, const QString& text) override;
+    [[nodiscard]] double visiblePixelsPerPoint() const override;
     void setClickHandler(std::function<void(ClickButton)> handler) override {
         m_clickHandler = std::move(handler);
     }
@@ -39,7 +42,7 @@ class MacosStatusItem final : public StatusItem, private PaintedPicture {
     QString m_identifier;
     double m_length;
     std::function<void()> m_painted;
-    EasedView m_view;
+    std::function<void(QPainter&, const QRectF&)> m_paint;
     std::function<void(ClickButton)> m_clickHandler;
     Retained<NSStatusItem*> m_statusItem;
     Retained<ClickThroughHostingView*> m_hostingView; ///< null without a button

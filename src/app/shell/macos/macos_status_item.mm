@@ -18,10 +18,9 @@ bool isOnScreen(NSView* view) {
 
 } // namespace
 
-MacosStatusItem::MacosStatusItem(QString identifier, double length, Motion& motion, id clickTarget,
+MacosStatusItem::MacosStatusItem(QString identifier, double length, id clickTarget,
                                  std::function<void()> painted)
     : m_identifier(std::move(identifier)), m_length(length), m_painted(std::move(painted)),
-      m_view(motion, [this] { [m_hostingView.get() setNeedsDisplay:YES]; }),
       m_statusItem(
           Retained<NSStatusItem*>::adding([[NSStatusBar systemStatusBar] statusItemWithLength:length])) {
     if (NSStatusBarButton* const itsButton = button(); itsButton != nil)
@@ -49,14 +48,22 @@ void MacosStatusItem::setUpButton(NSStatusBarButton* button, id clickTarget) {
     [button setIdentifier:systemText(m_identifier)];
 }
 
-void MacosStatusItem::setView(std::shared_ptr<const StatusItemView> view) {
+void MacosStatusItem::repaint() {
+    [m_hostingView.get() setNeedsDisplay:YES];
+}
+
+void MacosStatusItem::setWords(const QString& /*name*/, const QString& text) {
     const ReleasePool pool;
-    m_view.replace(std::move(view), backingScale(m_hostingView.get()), isOnScreen(m_hostingView.get()));
-    [button() setAccessibilityLabel:systemText(m_view.view()->accessibleText())];
+    [button() setAccessibilityLabel:systemText(text)];
+}
+
+double MacosStatusItem::visiblePixelsPerPoint() const {
+    return isOnScreen(m_hostingView.get()) ? backingScale(m_hostingView.get()) : 0;
 }
 
 void MacosStatusItem::paint(QPainter& painter, const QRectF& bounds) {
-    m_view.paint(painter, bounds);
+    if (m_paint)
+        m_paint(painter, bounds);
     m_painted();
 }
 

@@ -15,15 +15,14 @@ public:
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const StatusItemView* view = isValid() ? m_item.view() : nullptr;
-        if (view == nullptr)
+        if (!isValid())
             return {};
         switch (kind) {
         case QAccessible::Name:
-            return view->accessibleName();
+            return m_item.accessibleName();
         case QAccessible::Description: // what AT-SPI asks for
         case QAccessible::Value:
-            return view->accessibleText();
+            return m_item.accessibleText();
         default:
             return {};
         }

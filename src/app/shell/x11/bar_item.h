@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/shell/eased_view.h"
 #include "app/shell/status_item.h"
 #include "app/shell/x11/painted_accessibility.h"
 
@@ -15,24 +14,31 @@ namespace orvelle {
 /// A status item as a part of the bar's window.
 class BarItem final : public StatusItem {
 public:
-    /// `changed` is called when the item must be painted again. Bars move only while `bar` is on the screen.
-    BarItem(QString identifier, double length, const QWindow& bar, Motion& motion,
+    /// `changed` is called when the item must be painted again.
+    BarItem(QString identifier, double length, const QWindow& bar,
             std::function<void(const BarItem&)> changed)
         : m_identifier(std::move(identifier))
         , m_length(length)
         , m_bar(bar)
-        , m_changed(std::move(changed))
-        , m_view(motion, [this] { m_changed(*this); }) {}
+        , m_changed(std::move(changed)) {}
 
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
     [[nodiscard]] double length() const override { return m_length; }
-    void setView(std::shared_ptr<const StatusItemView> view) override {
-        m_view.replace(std::move(view), m_bar.devicePixelRatio(), m_bar.isExposed());
+    void setPaint(std::function<void(QPainter&, const QRectF&)> paint) override {
+        m_paint = std::move(paint);
+    }
+    void repaint() override { m_changed(*this); }
+    void setWords(const QString& name, const QString& text) override {
+        m_accessibleName = name;
+        m_accessibleText = text;
         if (PaintedPart* part = m_accessible.get())
             part->announceDescription();
     }
-    /// Null before the first one.
-    [[nodiscard]] const StatusItemView* view() const { return m_view.view(); }
+    [[nodiscard]] const QString& accessibleName() const { return m_accessibleName; }
+    [[nodiscard]] const QString& accessibleText() const { return m_accessibleText; }
+    [[nodiscard]] double visiblePixelsPerPoint() const override {
+        return m_bar.isExposed() ? m_bar.devicePixelRatio() : 0;
+    }
 
     void setClickHandler(std::function<void(ClickButton)> handler) override {
         m_clickHandler = std::move(handler);
@@ -66,8 +72,11 @@ public:
     /// What assistive programs see of the item.
     [[nodiscard]] PaintedPartHolder& accessible() { return m_accessible; }
 
-    /// Paints the picture at its place; nothing before the first one is set.
-    void paint(QPainter& painter) const { m_view.paint(painter, m_bounds); }
+    /// Paints the picture at its place; nothing before it is told how.
+    void paint(QPainter& painter) const {
+        if (m_paint)
+            m_paint(painter, m_bounds);
+    }
 
     /// Where the item stands in the bar, in points. The bar assigns it.
     [[nodiscard]] const QRectF& bounds() const { return m_bounds; }
@@ -78,7 +87,9 @@ private:
     double m_length;
     const QWindow& m_bar;
     std::function<void(const BarItem&)> m_changed;
-    EasedView m_view;
+    std::function<void(QPainter&, const QRectF&)> m_paint;
+    QString m_accessibleName;
+    QString m_accessibleText;
     std::function<void(ClickButton)> m_clickHandler;
     QRectF m_bounds;
     bool m_isHighlighted = false;

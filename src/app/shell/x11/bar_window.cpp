@@ -59,8 +59,7 @@ std::optional<ClickButton> clickButton(Qt::MouseButton button) {
 
 } // namespace
 
-BarWindow::BarWindow(Motion& motion)
-    : m_motion(motion) {
+BarWindow::BarWindow() {
     setTitle(QStringLiteral("Orvelle"));
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     connect(this, &QWindow::screenChanged, this, &BarWindow::layOut); // its scale may be another
@@ -69,7 +68,7 @@ BarWindow::BarWindow(Motion& motion)
 
 BarItem& BarWindow::addItem(const QString& identifier, double length) {
     m_items.push_back(
-        std::make_unique<BarItem>(identifier, length, *this, m_motion, [this](const BarItem& item) {
+        std::make_unique<BarItem>(identifier, length, *this, [this](const BarItem& item) {
             repaintSoon(item.bounds().toAlignedRect());
         }));
     layOut();

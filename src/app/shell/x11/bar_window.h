@@ -19,7 +19,7 @@ class BarWindow : public QWindow {
     Q_OBJECT
 
 public:
-    explicit BarWindow(Motion& motion = Motion::shared());
+    BarWindow();
 
     /// The window owns the item; it stands to the right of those present.
     BarItem& addItem(const QString& identifier, double length);
@@ -64,7 +64,6 @@ private:
     void repaint(const QRegion& region);
     void paintItem(QPainter& painter, const BarItem& item) const;
 
-    Motion& m_motion;
     std::vector<std::unique_ptr<BarItem>> m_items;
     BarItem* m_pressedItem = nullptr; ///< where a button went down that has not been let go yet
     Qt::MouseButton m_pressedButton = Qt::NoButton;

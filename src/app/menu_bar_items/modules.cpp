@@ -1,4 +1,4 @@
-#include "app/modules.h"
+#include "app/menu_bar_items/modules.h"
 
 #include "app/menu_bar_items/battery_menu_bar_item.h"
 #include "app/menu_bar_items/cpu_menu_bar_item.h"
@@ -59,10 +59,10 @@ std::string describeSensors(SystemMonitor& monitor) {
                        sensor.gpuTemperature(), sensor.sensors().size(), sensor.fans().size());
 }
 
-/// A menu-bar item of type `Item` for the monitor that `monitorOf` names.
+/// The scene of a menu-bar item of type `Item` for the monitor that `monitorOf` names.
 template <class Item, auto monitorOf>
-std::shared_ptr<const StatusItemView> makeItem(const ModuleContext& context) {
-    return std::make_shared<Item>((context.monitor.*monitorOf)(), context.settings, context.themes);
+ItemScene makeScene(const ModuleContext& context) {
+    return Item((context.monitor.*monitorOf)(), context.settings, context.themes).body();
 }
 
 } // namespace
@@ -70,17 +70,17 @@ std::shared_ptr<const StatusItemView> makeItem(const ModuleContext& context) {
 std::span<const Module> modules() {
     static constexpr std::array table{
         Module{QLatin1StringView("cpu"), 60, &SettingsStore::showCPU,
-               makeItem<CPUMenuBarItem, &SystemMonitor::cpu>, describeCPU},
+               makeScene<CPUMenuBarItem, &SystemMonitor::cpu>, describeCPU},
         Module{QLatin1StringView("memory"), 70, &SettingsStore::showMemory,
-               makeItem<MemoryMenuBarItem, &SystemMonitor::memory>, describeMemory},
+               makeScene<MemoryMenuBarItem, &SystemMonitor::memory>, describeMemory},
         Module{QLatin1StringView("network"), 90, &SettingsStore::showNetwork,
-               makeItem<NetworkMenuBarItem, &SystemMonitor::network>, describeNetwork},
+               makeScene<NetworkMenuBarItem, &SystemMonitor::network>, describeNetwork},
         Module{QLatin1StringView("disk"), 45, &SettingsStore::showDisk,
-               makeItem<DiskMenuBarItem, &SystemMonitor::disk>, describeDisk},
+               makeScene<DiskMenuBarItem, &SystemMonitor::disk>, describeDisk},
         Module{QLatin1StringView("battery"), 65, &SettingsStore::showBattery,
-               makeItem<BatteryMenuBarItem, &SystemMonitor::battery>, describeBattery},
+               makeScene<BatteryMenuBarItem, &SystemMonitor::battery>, describeBattery},
         Module{QLatin1StringView("sensor"), 50, &SettingsStore::showSensors,
-               makeItem<SensorMenuBarItem, &SystemMonitor::sensor>, describeSensors},
+               makeScene<SensorMenuBarItem, &SystemMonitor::sensor>, describeSensors},
     };
     return table;
 }

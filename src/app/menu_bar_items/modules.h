@@ -1,10 +1,9 @@
 #pragma once
 
-#include "app/shell/status_item_view.h"
+#include "app/menu_bar_items/item_scene.h"
 
 #include <QLatin1StringView>
 
-#include <memory>
 #include <span>
 #include <string>
 
@@ -26,8 +25,8 @@ struct Module {
     QLatin1StringView key;
     double length; ///< width of its status item in points
     bool (SettingsStore::*isShown)() const;
-    /// A picture of the present values.
-    std::shared_ptr<const StatusItemView> (*makeMenuBarView)(const ModuleContext&);
+    /// What its status item shows at the present values.
+    ItemScene (*makeScene)(const ModuleContext&);
     /// The values of the last update cycle in one line.
     std::string (*describeSample)(SystemMonitor&);
 };
