@@ -2,20 +2,20 @@
 
 from planting import Fault
 
-DRAWINGS = "src/app/menu_bar_items/item_drawings.cpp"
-SIZES = "src/app/menu_bar_items/item_drawings.h"
+NODES = "src/app/menu_bar_items/item_nodes.cpp"
+SIZES = "src/app/menu_bar_items/item_nodes.h"
 BATTERY = "src/app/menu_bar_items/battery_menu_bar_item.cpp"
 NETWORK = "src/app/menu_bar_items/network_menu_bar_item.cpp"
 SENSOR = "src/app/menu_bar_items/sensor_menu_bar_item.cpp"
 DISK = "src/app/menu_bar_items/disk_menu_bar_item.cpp"
 WRITTEN = ("test_menu_bar_items", "WrittenValues.*")
-ITEMS = ("test_menu_bar_items", "*MenuBarItem*:ItemDrawings*:*Rules*:*Dot*")
+ITEMS = ("test_menu_bar_items", "*MenuBarItem*:ItemNodes*:*Rules*:*Dot*")
 VALUE_FONT = "monospacedSystemFont(fontSize, QFont::Medium)"
 
 BAR_FAULTS = [
-    Fault("values are not monospaced", DRAWINGS, VALUE_FONT, "systemFont(fontSize, QFont::Medium)", *WRITTEN),
-    Fault("values are of normal weight", DRAWINGS, VALUE_FONT, "monospacedSystemFont(fontSize)", *WRITTEN),
-    Fault("values are in the secondary colour", DRAWINGS, f"{VALUE_FONT}, LabelColors::primary",
+    Fault("values are not monospaced", NODES, VALUE_FONT, "systemFont(fontSize, QFont::Medium)", *WRITTEN),
+    Fault("values are of normal weight", NODES, VALUE_FONT, "monospacedSystemFont(fontSize)", *WRITTEN),
+    Fault("values are in the secondary colour", NODES, f"{VALUE_FONT}, LabelColors::primary",
           f"{VALUE_FONT}, LabelColors::secondary", *WRITTEN),
     Fault("values are larger", SIZES, "valueFontSize = 11", "valueFontSize = 12", *WRITTEN),
     Fault("values beside a chart are as large as others", SIZES, "smallValueFontSize = 10", "smallValueFontSize = 11",
@@ -31,7 +31,7 @@ BAR_FAULTS = [
     Fault("the temperature is of normal weight", SENSOR, "monospacedSystemFont(smallValueFontSize, QFont::Medium)",
           "monospacedSystemFont(smallValueFontSize)", *WRITTEN),
     Fault("the history of temperatures reaches to 100", SENSOR, "historyMaximum = 110", "historyMaximum = 100", *ITEMS),
-    Fault("an outlined bolt marks the charging battery", BATTERY, 'u"bolt.fill"', 'u"bolt"', *ITEMS),
+    Fault("an outlined bolt marks the charging battery", BATTERY, '"bolt.fill"', '"bolt"', *ITEMS),
     Fault("the bolt is larger", BATTERY, "chargingMarkFontSize = 7", "chargingMarkFontSize = 8", *ITEMS),
     Fault("the bolt is green", BATTERY, "chargingMarkFontSize, SystemColors::yellow",
           "chargingMarkFontSize, SystemColors::green", *ITEMS),
