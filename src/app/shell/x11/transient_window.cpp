@@ -1,5 +1,6 @@
 #include "app/shell/x11/transient_window.h"
 
+#include "app/shell/x11/input_focus.h"
 #include "app/shell/x11/pointer_presses.h"
 #include "app/shell/x11/transient_geometry.h"
 #include "app/shell/x11/x11_connection.h"
@@ -81,9 +82,11 @@ void TransientWindow::pressed() {
 }
 
 void TransientWindow::activeChanged() {
+    // Qt tells of a lost keyboard late: it may have come back since, as when a window manager gave it first
+    // to a window that was about to close.
     if (m_window.isActive())
         m_wasActive = true;
-    else if (m_wasActive)
+    else if (m_wasActive && !InputFocus::isIn(m_window.winId()))
         close();
 }
 
