@@ -2,7 +2,7 @@
 #include "charts/animated_line_graph.h"
 #include "charts/animated_ring_chart.h"
 #include "paint_cost.h"
-#include "settings/system_colors.h"
+#include "theme/system_colors.h"
 
 #include <QImage>
 

@@ -1,8 +1,8 @@
 // Measures a whole update cycle without the processes: of the recorded machines and of this one.
 
 #include "core/system_monitor.h"
-#include "platform/fixed/fixed_sources.h"
 #include "platform/host.h"
+#include "platform/replay/fake_sources.h"
 #include "settings/settings_store.h"
 #include "system_calls.h"
 
@@ -55,7 +55,7 @@ std::vector<double> timesOf(SystemMonitor& monitor, int count, std::chrono::mill
 
 /// The sources with a process source that answers nothing at no cost.
 MachineSources withoutProcesses(MachineSources sources) {
-    sources.process = std::make_unique<FixedProcessSource>();
+    sources.process = std::make_unique<FakeProcessSource>();
     return sources;
 }
 
@@ -106,7 +106,7 @@ int measureEverything(const std::string& self, const fs::path& fixtures, const f
     }
     for (const fs::path& machine : machines)
         text +=
-            measuredRow(machine.filename().string(), makeTreeSources(machine / "1", FixedClock().reader()));
+            measuredRow(machine.filename().string(), makeTreeSources(machine / "1", FakeClock().reader()));
     text += measuredRow("this machine", makeHostSources());
     text += '\n' + systemCallText(self, folder);
     std::ofstream(folder / "cycle.md") << text;

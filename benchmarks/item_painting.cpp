@@ -1,10 +1,10 @@
-#include "app/menu_bar_items/modules.h"
-#include "app/menu_bar_items/scene_painter.h"
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
+#include "menu_bar/modules.h"
+#include "menu_bar/scene_painter.h"
 #include "paint_cost.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
+#include "theme/theme_manager.h"
 
 #include <QImage>
 #include <QMetaEnum>

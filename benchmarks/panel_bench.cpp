@@ -1,5 +1,5 @@
-#include "charts/quick/animated_line_graph_item.h"
-#include "settings/system_colors.h"
+#include "theme/system_colors.h"
+#include "windows/charts/animated_line_graph_item.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>

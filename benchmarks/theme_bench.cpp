@@ -1,13 +1,13 @@
-#include "app/menu_bar_items/item_presenter.h"
-#include "app/menu_bar_items/modules.h"
-#include "app/shell/x11/bar_window.h"
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
-#include "look/quick/quick_engine.h"
-#include "panels/panel_factory.h"
+#include "menu_bar/item_presenter.h"
+#include "menu_bar/modules.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
-#include "settings_ui/settings_factory.h"
+#include "shell/painted/bar_window.h"
+#include "theme/theme_manager.h"
+#include "windows/common/quick_engine.h"
+#include "windows/panels/panel_factory.h"
+#include "windows/settings/settings_factory.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -39,7 +39,7 @@ public:
         m_bar.setGeometry(0, 0, 1280, 22);
         for (const Module& module : modules())
             m_presenters.push_back(std::make_unique<ItemPresenter>(
-                m_bar.addItem(QString(module.key), module.length), Motion::shared()));
+                m_bar.addItem(QString(module.key), module.length), AnimationClock::shared()));
         showItems();
         QObject::connect(&m_settings, &SettingsStore::changed, &m_bar, [this] { showItems(); });
         QObject::connect(&m_bar, &BarWindow::painted, &m_bar, [this] { seen(&m_bar); });

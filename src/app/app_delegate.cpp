@@ -1,20 +1,20 @@
 #include "app/app_delegate.h"
 
 #include "app/context_menu_entries.h"
-#include "app/shell/open_log.h"
 #include "app/throttle.h"
 #include "core/system_monitor.h"
-#include "look/font_changes.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
+#include "shell/open_log.h"
+#include "theme/font_changes.h"
+#include "theme/theme_manager.h"
 
 #include <QCoreApplication>
 
 namespace orvelle {
 AppDelegate::AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
-                         AppSurroundings surroundings, QObject* parent)
+                         AppDependencies dependencies, QObject* parent)
     : QObject(parent)
-    , m_surroundings(std::move(surroundings))
+    , m_dependencies(std::move(dependencies))
     , m_monitor(monitor)
     , m_settings(settings)
     , m_themes(themes) {}
@@ -43,7 +43,7 @@ void AppDelegate::applicationShouldHandleReopen() {
     if (m_statusItems.isEmpty())
         openSettings();
     else
-        m_surroundings.statusBar.takeKeyboard();
+        m_dependencies.statusBar.takeKeyboard();
 }
 
 void AppDelegate::setupStatusItems() {
@@ -52,7 +52,7 @@ void AppDelegate::setupStatusItems() {
     if (m_contextMenu != nullptr)
         m_contextMenu->close(); // the item above it goes
     for (StatusItem* item : std::as_const(m_statusItems))
-        m_surroundings.statusBar.removeItem(*item);
+        m_dependencies.statusBar.removeItem(*item);
     m_statusItems.clear();
     m_shownModules.clear();
     for (const Module& module : modules()) {
@@ -64,14 +64,14 @@ void AppDelegate::setupStatusItems() {
 }
 
 void AppDelegate::createStatusItem(const Module& module) {
-    StatusItem& item = m_surroundings.statusBar.addItem(module.key, module.length);
+    StatusItem& item = m_dependencies.statusBar.addItem(module.key, module.length);
     m_statusItems.insert(module.key, &item);
     item.setClickHandler([this, &item](ClickButton button) { statusItemClicked(item, button); });
     m_popovers.insert_or_assign(module.key,
-                                m_surroundings.statusBar.makePopover([this, key = module.key](double radius) {
+                                m_dependencies.statusBar.makePopover([this, key = module.key](double radius) {
                                     return views() ? views()->makePanel(QString(key), radius) : nullptr;
                                 }));
-    m_shownModules.push_back({module, std::make_unique<ItemPresenter>(item, m_surroundings.motion)});
+    m_shownModules.push_back({module, std::make_unique<ItemPresenter>(item, m_dependencies.clock)});
 }
 
 void AppDelegate::subscribe() {
@@ -125,7 +125,7 @@ bool AppDelegate::isPopoverShown(const QString& key) const {
 void AppDelegate::showContextMenu(const StatusItem& item) {
     closePopoversExcept(nullptr);
     if (m_contextMenu == nullptr)
-        m_contextMenu = m_surroundings.statusBar.makeContextMenu();
+        m_contextMenu = m_dependencies.statusBar.makeContextMenu();
     m_contextMenu->show(item, contextMenuEntries([this] { openSettings(); }, &AppDelegate::quitApp));
 }
 
@@ -133,17 +133,18 @@ void AppDelegate::openSettings() {
     qCDebug(openLog, "the settings were asked for");
     if (m_settingsWindow == nullptr && views() != nullptr) {
         if (std::unique_ptr<QWindow> content = views()->makeSettings())
-            m_settingsWindow = m_surroundings.makeSettingsWindow(std::move(content));
+            m_settingsWindow = m_dependencies.makeSettingsWindow(std::move(content));
     }
     if (m_settingsWindow != nullptr)
         m_settingsWindow->bringForward();
 }
 
-Views* AppDelegate::views() {
-    if (m_views == nullptr)
-        m_views = m_surroundings.loadViews({m_monitor, m_settings, m_themes, [this] { openSettings(); },
-                                            &AppDelegate::quitApp, m_surroundings.launchAtLogin});
-    return m_views.get();
+WindowFactory* AppDelegate::views() {
+    if (m_windowFactory == nullptr)
+        m_windowFactory =
+            m_dependencies.loadWindowFactory({m_monitor, m_settings, m_themes, [this] { openSettings(); },
+                                              &AppDelegate::quitApp, m_dependencies.launchAtLogin});
+    return m_windowFactory.get();
 }
 
 void AppDelegate::quitApp() {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/menu_bar_items/item_presenter.h"
-#include "app/menu_bar_items/modules.h"
-#include "app/shell/settings_window.h"
-#include "app/shell/status_bar.h"
-#include "app/views/views.h"
+#include "menu_bar/item_presenter.h"
+#include "menu_bar/modules.h"
+#include "shell/settings_window.h"
+#include "shell/status_bar.h"
+#include "windows/window_factory.h"
 
 #include <QMap>
 #include <QObject>
@@ -20,14 +20,14 @@ namespace orvelle {
 class Throttle;
 
 /// What the delegate asks of the desktop and of the windows' contents.
-struct AppSurroundings {
+struct AppDependencies {
     StatusBar& statusBar;
-    std::function<std::unique_ptr<Views>(const ViewContext&)> loadViews;
+    std::function<std::unique_ptr<WindowFactory>(const WindowContext&)> loadWindowFactory;
     std::function<std::unique_ptr<SettingsWindow>(std::unique_ptr<QWindow>)> makeSettingsWindow;
-    /// What the settings window tells about starting at login, see `ViewContext`.
+    /// What the settings window tells about starting at login, see `WindowContext`.
     QObject* launchAtLogin = nullptr;
     /// The clock by which the items move.
-    Motion& motion = Motion::shared();
+    AnimationClock& clock = AnimationClock::shared();
 };
 
 /// Runs the program: it starts the sampling, keeps one status item with its panel for each module that the
@@ -44,7 +44,7 @@ public:
 
     /// Everything that is passed must outlive the delegate.
     AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
-                AppSurroundings surroundings, QObject* parent = nullptr);
+                AppDependencies dependencies, QObject* parent = nullptr);
     ~AppDelegate() override;
 
     /// Samples once, shows the items and starts both timers. From now on a changed interval restarts the
@@ -92,13 +92,14 @@ private:
     /// Shows the present values in every item.
     void redraw();
     void closePopoversExcept(const Popover* kept);
-    [[nodiscard]] Views* views();
+    [[nodiscard]] WindowFactory* views();
     [[nodiscard]] Visibility currentVisibility() const;
     void snapshotVisibility();
     void startRefreshTimer();
 
-    AppSurroundings m_surroundings;
-    std::unique_ptr<Views> m_views; ///< null before the first window opens; it outlives their contents
+    AppDependencies m_dependencies;
+    std::unique_ptr<WindowFactory>
+        m_windowFactory; ///< null before the first window opens; it outlives their contents
     QMap<QString, StatusItem*> m_statusItems;
     std::map<QString, std::unique_ptr<Popover>> m_popovers; ///< by module key, one for each item
     SystemMonitor& m_monitor;

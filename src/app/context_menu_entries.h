@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shell/context_menu.h"
+#include "shell/context_menu.h"
 
 namespace orvelle {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shell/login_item.h"
+#include "shell/login_item.h"
 
 #include <QObject>
 #include <QString>

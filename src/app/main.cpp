@@ -1,5 +1,5 @@
 #include "app/orvelle_app.h"
-#include "app/shell/desktop.h"
+#include "shell/desktop.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,10 +1,10 @@
 #include "app/orvelle_app.h"
 
-#include "app/shell/desktop.h"
-#include "charts/motion.h"
-#include "look/font_changes.h"
-#include "look/fonts.h"
+#include "animation/animation_clock.h"
 #include "platform/host.h"
+#include "shell/desktop.h"
+#include "theme/font_changes.h"
+#include "theme/fonts.h"
 
 #include <QLoggingCategory>
 #include <QSessionManager>
@@ -28,12 +28,12 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_application(argumentCount, arguments)
     , m_themes(m_settings)
     , m_monitor(makeHostSources(), m_settings)
-    , m_reducedMotion(followReducedMotion(Motion::shared()))
+    , m_reducedMotion(followReducedMotion(AnimationClock::shared()))
     , m_desktopFonts(followDesktopFonts())
     , m_statusBar(makeStatusBar())
     , m_launchAtLogin(m_settings, makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
-                 {*m_statusBar, &loadViews, &makeSettingsWindow, &m_launchAtLogin}) {
+                 {*m_statusBar, &loadWindowFactory, &makeSettingsWindow, &m_launchAtLogin}) {
     // The bar may be empty and every window closed; the program stays.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_terminationSignals, &TerminationSignals::received, &m_application,
@@ -48,12 +48,12 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
 }
 
 int OrvelleApp::run() {
-    m_onlyInstance = becomeOnlyInstance();
-    if (m_onlyInstance == nullptr) {
+    m_singleInstance = becomeSingleInstance();
+    if (m_singleInstance == nullptr) {
         std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
         return EXIT_SUCCESS;
     }
-    QObject::connect(m_onlyInstance.get(), &OnlyInstance::startedAgain, &m_delegate,
+    QObject::connect(m_singleInstance.get(), &SingleInstance::startedAgain, &m_delegate,
                      &AppDelegate::applicationShouldHandleReopen);
     m_delegate.applicationDidFinishLaunching();
     m_launchAtLogin.start();
@@ -77,9 +77,9 @@ void OrvelleApp::logStart() {
 
 void OrvelleApp::logMotion() {
     const auto log = [] {
-        qCDebug(motionLog, "motion is %s", Motion::shared().isReduced() ? "reduced" : "full");
+        qCDebug(motionLog, "motion is %s", AnimationClock::shared().isReduced() ? "reduced" : "full");
     };
-    QObject::connect(&Motion::shared(), &Motion::reducedChanged, &m_delegate, log);
+    QObject::connect(&AnimationClock::shared(), &AnimationClock::reducedChanged, &m_delegate, log);
     log();
 }
 

@@ -2,11 +2,11 @@
 
 #include "app/app_delegate.h"
 #include "app/launch_at_login.h"
-#include "app/shell/only_instance.h"
 #include "app/termination_signals.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
+#include "shell/single_instance.h"
+#include "theme/theme_manager.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -42,7 +42,7 @@ private:
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted
     std::unique_ptr<QObject> m_desktopFonts;  ///< null where Qt knows the fonts
     std::unique_ptr<StatusBar> m_statusBar;
-    std::unique_ptr<OnlyInstance> m_onlyInstance; ///< null before run()
+    std::unique_ptr<SingleInstance> m_singleInstance; ///< null before run()
     LaunchAtLogin m_launchAtLogin;
     AppDelegate m_delegate;
 };

@@ -4,7 +4,7 @@
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/glow_painter.h"
-#include "look/opacity.h"
+#include "theme/opacity.h"
 
 #include <QLinearGradient>
 

@@ -2,7 +2,7 @@
 
 #include "charts/bar_rules.h"
 #include "charts/canvas.h"
-#include "look/device_pixels.h"
+#include "theme/device_pixels.h"
 
 #include <algorithm>
 #include <cmath>

@@ -6,8 +6,8 @@
 #include "charts/line_mask.h"
 #include "charts/line_rules.h"
 #include "charts/sample_points.h"
-#include "look/device_pixels.h"
-#include "look/opacity.h"
+#include "theme/device_pixels.h"
+#include "theme/opacity.h"
 
 #include <QLinearGradient>
 

@@ -1,6 +1,6 @@
 #include "charts/animated_ring_chart.h"
 
-#include "charts/animation_rules.h"
+#include "animation/animation_timing.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/glow_painter.h"
@@ -8,9 +8,9 @@
 #include "charts/pie_slice.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
-#include "look/fonts.h"
-#include "look/label_colors.h"
-#include "look/opacity.h"
+#include "theme/fonts.h"
+#include "theme/label_colors.h"
+#include "theme/opacity.h"
 
 #include <algorithm>
 

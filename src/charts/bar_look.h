@@ -1,6 +1,9 @@
 #pragma once
 
+#include "animation/interpolate.h"
+
 #include <QColor>
+#include <QList>
 
 namespace orvelle {
 
@@ -11,5 +14,12 @@ struct BarLook {
 
     bool operator==(const BarLook&) const = default;
 };
+
+/// Length and colour together.
+[[nodiscard]] BarLook interpolate(const BarLook& from, const BarLook& to, double progress);
+
+/// Bar by bar. Rows of another length have nothing in common: then it is the second from the start.
+[[nodiscard]] QList<BarLook> interpolate(const QList<BarLook>& from, const QList<BarLook>& to,
+                                         double progress);
 
 } // namespace orvelle

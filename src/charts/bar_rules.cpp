@@ -2,7 +2,7 @@
 
 #include "charts/continuous_rounded_rect.h"
 #include "charts/glow.h"
-#include "settings/system_colors.h"
+#include "theme/system_colors.h"
 
 #include <algorithm>
 #include <cmath>

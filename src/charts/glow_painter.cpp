@@ -2,7 +2,7 @@
 
 #include "charts/blur.h"
 #include "charts/glow.h"
-#include "look/opacity.h"
+#include "theme/opacity.h"
 
 namespace orvelle {
 
@@ -26,8 +26,8 @@ void paintGlow(QPainter& painter, const QRectF& inked, const GlowStyle& style,
                const std::function<void(QPainter&)>& draw) {
     if (style.isVisible())
         paintGlow(painter,
-                  drawnPicture(PixelGrid::under(painter), withGlowRoom(inked, style.radius),
-                               QImage::Format_Alpha8, draw),
+                  rasterize(PixelGrid::under(painter), withGlowRoom(inked, style.radius),
+                            QImage::Format_Alpha8, draw),
                   style);
 }
 

@@ -2,7 +2,7 @@
 
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
-#include "look/opacity.h"
+#include "theme/opacity.h"
 
 #include <QLinearGradient>
 

@@ -1,6 +1,6 @@
 #include "charts/picture.h"
 
-#include "look/device_pixels.h"
+#include "theme/device_pixels.h"
 
 #include <QPaintDevice>
 
@@ -52,8 +52,8 @@ QRect PixelGrid::covering(const QRectF& area) const {
     return isPaintable ? pixels.toAlignedRect() : QRect();
 }
 
-Picture drawnPicture(const PixelGrid& grid, const QRectF& area, QImage::Format format,
-                     const std::function<void(QPainter&)>& paint) {
+Picture rasterize(const PixelGrid& grid, const QRectF& area, QImage::Format format,
+                  const std::function<void(QPainter&)>& paint) {
     const QRect pixels = grid.covering(area);
     if (pixels.isEmpty())
         return {};

@@ -36,8 +36,8 @@ struct Picture {
 };
 
 /// What `paint` draws within `area`, in the given format; transparent where it draws nothing.
-[[nodiscard]] Picture drawnPicture(const PixelGrid& grid, const QRectF& area, QImage::Format format,
-                                   const std::function<void(QPainter&)>& paint);
+[[nodiscard]] Picture rasterize(const PixelGrid& grid, const QRectF& area, QImage::Format format,
+                                const std::function<void(QPainter&)>& paint);
 
 /// Shows a picture made for the grid under `painter`.
 void showPicture(QPainter& painter, const Picture& picture);

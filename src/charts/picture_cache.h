@@ -28,8 +28,8 @@ public:
             m_pictures.resize(index + 1);
         std::optional<Kept>& kept = m_pictures[index];
         if (!kept || kept->grid != grid || kept->area != area || !(kept->subject == subject)) {
-            kept = Kept{subject, area, grid,
-                        drawnPicture(grid, area, QImage::Format_ARGB32_Premultiplied, draw)};
+            kept =
+                Kept{subject, area, grid, rasterize(grid, area, QImage::Format_ARGB32_Premultiplied, draw)};
             ++m_drawCount;
         }
         showPicture(painter, kept->picture);

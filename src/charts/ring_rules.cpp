@@ -1,6 +1,6 @@
 #include "charts/ring_rules.h"
 
-#include "settings/system_colors.h"
+#include "theme/system_colors.h"
 
 #include <algorithm>
 #include <cmath>

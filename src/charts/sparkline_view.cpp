@@ -5,8 +5,8 @@
 #include "charts/line_mask.h"
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
-#include "look/device_pixels.h"
-#include "look/opacity.h"
+#include "theme/device_pixels.h"
+#include "theme/opacity.h"
 
 namespace orvelle {
 namespace {

@@ -1,17 +1,17 @@
 #include "charts/temperature_gauge.h"
 
+#include "animation/interpolate.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/glow_painter.h"
 #include "charts/label_text.h"
-#include "charts/mixed.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
 #include "charts/temperature_rules.h"
-#include "look/fonts.h"
-#include "look/label_colors.h"
-#include "look/opacity.h"
-#include "settings/system_colors.h"
+#include "theme/fonts.h"
+#include "theme/label_colors.h"
+#include "theme/opacity.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {
@@ -66,8 +66,9 @@ void drawDial(QPainter& painter, const TemperatureDial& dial) {
 
 } // namespace
 
-DialLook mixed(const DialLook& from, const DialLook& to, double progress) {
-    return {mixed(from.fraction, to.fraction, progress), mixed(from.glowColor, to.glowColor, progress)};
+DialLook interpolate(const DialLook& from, const DialLook& to, double progress) {
+    return {interpolate(from.fraction, to.fraction, progress),
+            interpolate(from.glowColor, to.glowColor, progress)};
 }
 
 DialLook TemperatureGauge::look() const {

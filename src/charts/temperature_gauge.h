@@ -19,7 +19,7 @@ struct DialLook {
 };
 
 /// What lies between two looks: the first at `progress` 0, the second at 1.
-[[nodiscard]] DialLook mixed(const DialLook& from, const DialLook& to, double progress);
+[[nodiscard]] DialLook interpolate(const DialLook& from, const DialLook& to, double progress);
 
 /// What decides how the picture of a dial in a cache looks.
 struct TemperatureDial {

@@ -1,7 +1,7 @@
 #include "charts/temperature_rules.h"
 
 #include "charts/ring_rules.h"
-#include "settings/system_colors.h"
+#include "theme/system_colors.h"
 
 #include <fmt/format.h>
 

@@ -1,8 +1,8 @@
 #include "core/process_monitor.h"
 
 #include "core/checked.h"
-#include "core/heaviest.h"
 #include "core/published.h"
+#include "core/top_n.h"
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ struct Candidate {
 };
 
 template <class Weight>
-using HeaviestProcesses = Heaviest<Candidate, Weight, ProcessMonitor::maximumListed>;
+using HeaviestProcesses = TopN<Candidate, Weight, ProcessMonitor::maximumListed>;
 
 } // namespace
 

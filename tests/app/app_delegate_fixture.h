@@ -3,10 +3,10 @@
 #include "app/app_delegate.h"
 #include "app/recording_status_bar.h"
 #include "core/system_monitor.h"
-#include "platform/fixed/fixed_machine.h"
+#include "platform/replay/fake_machine.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
 #include "support/temporary_settings.h"
+#include "theme/theme_manager.h"
 
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -14,9 +14,9 @@
 namespace orvelle {
 
 /// Makes empty windows and records for what.
-class RecordedViews final : public Views {
+class RecordedWindowFactory final : public WindowFactory {
 public:
-    explicit RecordedViews(QStringList& calls)
+    explicit RecordedWindowFactory(QStringList& calls)
         : m_calls(calls) {}
     [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
         m_calls.append(QStringLiteral("%1 panel %2").arg(key).arg(cornerRadius));
@@ -63,26 +63,26 @@ protected:
     TemporarySettings file;
     SettingsStore settings{file.path()};
     ThemeManager themes{settings};
-    FixedMachine machine;
+    FakeMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
     RecordingStatusBar bar;
     /// What the delegate asked of the views and of the settings window, in order.
     QStringList windowCalls;
-    std::optional<ViewContext> context;
+    std::optional<WindowContext> context;
     bool canLoadViews = true;
-    AppDelegate delegate{monitor,
-                         settings,
-                         themes,
-                         {bar,
-                          [this](const ViewContext& given) -> std::unique_ptr<Views> {
-                              windowCalls.append(QStringLiteral("load"));
-                              context.emplace(given);
-                              return canLoadViews ? std::make_unique<RecordedViews>(windowCalls) : nullptr;
-                          },
-                          [this](std::unique_ptr<QWindow> content) {
-                              return std::make_unique<RecordedSettingsWindow>(std::move(content),
-                                                                              windowCalls);
-                          }}};
+    AppDelegate delegate{
+        monitor,
+        settings,
+        themes,
+        {bar,
+         [this](const WindowContext& given) -> std::unique_ptr<WindowFactory> {
+             windowCalls.append(QStringLiteral("load"));
+             context.emplace(given);
+             return canLoadViews ? std::make_unique<RecordedWindowFactory>(windowCalls) : nullptr;
+         },
+         [this](std::unique_ptr<QWindow> content) {
+             return std::make_unique<RecordedSettingsWindow>(std::move(content), windowCalls);
+         }}};
 };
 
 } // namespace orvelle

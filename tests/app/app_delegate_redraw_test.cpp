@@ -1,7 +1,7 @@
 #include "app/app_delegate_fixture.h"
 #include "app/throttle.h"
-#include "look/fonts.h"
 #include "support/early_timer.h"
+#include "theme/fonts.h"
 
 #include <QElapsedTimer>
 

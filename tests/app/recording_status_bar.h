@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shell/status_bar.h"
+#include "shell/status_bar.h"
 
 #include <QStringList>
 #include <QWindow>

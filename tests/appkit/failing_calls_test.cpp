@@ -105,12 +105,12 @@ TEST_F(FailingCallsTest, DrawingAnItem) {
                                     {"currentContext", nothing}}});
 }
 
-TEST_F(FailingCallsTest, BecomingTheOnlyInstanceWhereAnotherOneRuns) {
+TEST_F(FailingCallsTest, BecomingTheSingleInstanceWhereAnotherOneRuns) {
     const Deeds second{"open the program's bundle", "ends"};
     failEachCallOf({.perform =
                         [] {
                             desktop().script.instances = {{.processIdentifier = 499}};
-                            const bool runs = becomeOnlyInstance() != nullptr;
+                            const bool runs = becomeSingleInstance() != nullptr;
                             desktop().deeds.push_back(runs ? "runs" : "ends");
                             return desktop().deeds;
                         },

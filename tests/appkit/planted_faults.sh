@@ -5,7 +5,7 @@
 set -euo pipefail
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/../.."
-shell=src/app/shell/macos
+shell=src/shell/macos
 git diff --quiet -- "$shell" || { echo "there are changes in $shell" >&2; exit 1; }
 trap 'git checkout -q -- "$shell"' EXIT
 export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0

@@ -8,9 +8,9 @@ using namespace simulated;
 
 namespace {
 
-class RecordedViews final : public Views {
+class RecordedWindowFactory final : public WindowFactory {
 public:
-    explicit RecordedViews(Program& program)
+    explicit RecordedWindowFactory(Program& program)
         : m_program(program) {}
     [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
         m_program.panelCornerRadius = cornerRadius;
@@ -42,9 +42,9 @@ private:
 Program::Program()
     : delegate(monitor, settings, themes,
                {*statusBar,
-                [this](const ViewContext& given) {
+                [this](const WindowContext& given) {
                     context.emplace(given);
-                    return std::make_unique<RecordedViews>(*this);
+                    return std::make_unique<RecordedWindowFactory>(*this);
                 },
                 &makeSettingsWindow}) {
     showAll(true);

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/app_delegate.h"
-#include "app/shell/desktop.h"
 #include "appkit/simulated/desktop.h"
 #include "core/system_monitor.h"
-#include "platform/fixed/fixed_machine.h"
+#include "platform/replay/fake_machine.h"
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
+#include "shell/desktop.h"
+#include "theme/theme_manager.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ public:
     QTemporaryDir directory;
     SettingsStore settings{directory.filePath(QStringLiteral("settings.ini"))};
     ThemeManager themes{settings};
-    FixedMachine machine;
+    FakeMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
     std::unique_ptr<StatusBar> statusBar = makeStatusBar();
     /// What was made for the windows: keys of panels and "settings".
@@ -36,7 +36,7 @@ public:
     std::vector<QWindow*> contentWindows; ///< not those that are gone
     double panelCornerRadius = -1;        ///< asked for last
     bool canMakeContents = true;
-    std::optional<ViewContext> context; ///< what the contents were given
+    std::optional<WindowContext> context; ///< what the contents were given
     AppDelegate delegate;
 };
 

@@ -1,5 +1,5 @@
+#include "animation/animation_clock.h"
 #include "appkit/program.h"
-#include "charts/motion.h"
 
 namespace orvelle {
 namespace {
@@ -8,25 +8,25 @@ using namespace simulated;
 
 class ReducedMotionTest : public AppKitTest {
 protected:
-    Motion motion;
+    AnimationClock clock;
 };
 
 TEST_F(ReducedMotionTest, IsWhatTheUserHasChosenFromTheStart) {
     desktop().script.reducesMotion = true;
-    const std::unique_ptr<QObject> follower = followReducedMotion(motion);
-    EXPECT_TRUE(motion.isReduced());
+    const std::unique_ptr<QObject> follower = followReducedMotion(clock);
+    EXPECT_TRUE(clock.isReduced());
 }
 
 TEST_F(ReducedMotionTest, FollowsTheUserWhileTheProgramRuns) {
-    std::unique_ptr<QObject> follower = followReducedMotion(motion);
-    EXPECT_FALSE(motion.isReduced());
+    std::unique_ptr<QObject> follower = followReducedMotion(clock);
+    EXPECT_FALSE(clock.isReduced());
     chooseReducedMotion(true);
-    EXPECT_TRUE(motion.isReduced());
+    EXPECT_TRUE(clock.isReduced());
     chooseReducedMotion(false);
-    EXPECT_FALSE(motion.isReduced());
+    EXPECT_FALSE(clock.isReduced());
     follower.reset();
     chooseReducedMotion(true);
-    EXPECT_FALSE(motion.isReduced());
+    EXPECT_FALSE(clock.isReduced());
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "appkit/program.h"
-#include "look/symbol_shapes.h"
+#include "theme/symbol_shapes.h"
 
 namespace orvelle {
 namespace {

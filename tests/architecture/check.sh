@@ -24,31 +24,31 @@ room() {
 none='-'
 gui='Core|Gui'
 quick='Core|Gui|Qml|Quick'
-store='settings/(settings_store|styles)\.h'
-themes='settings/(app_theme|hex_color|system_colors|theme_manager)\.'
+looks='animation/|theme/|settings/'
 
-room 'core/sources/'         "$none"      'core/sources/'
-room 'core/'                 'Core'       "core/|$store"
-room 'platform/names/'       "$none"      'platform/names/'
-room 'platform/linux/'       "$none"      'core/sources/|platform/(linux/|names/|host\.h)'
-room 'platform/darwin/'      "$none"      'core/sources/|platform/(darwin/|names/|host\.h)'
-room 'platform/fixed/'       "$none"      'core/sources/|platform/fixed/'
-room 'platform/[^/]*$'       "$none"      'core/sources/|platform/[^/]*$'
-room "$themes"               "$gui"       'settings/'
-room 'settings/'             'Core'       'settings/' "$themes"
-room 'look/quick/'           "$quick|Svg" 'look/|settings/'
-room 'look/'                 "$gui|Svg"   'look/[^/]*$|settings/'
-room 'charts/quick/'         "$quick"     'charts/|look/|settings/'
-room 'charts/'               "$gui"       'charts/[^/]*$|look/[^/]*$|settings/'
-room 'app/formatters/'       'Core'       'app/formatters/'
-room 'app/menu_bar_items/'   "$gui"       'app/(menu_bar_items/|formatters/|shell/status_item\.h)|charts/[^/]*$|core/|look/[^/]*$|settings/'
-room 'app/shell/x11/'        "$gui"       'app/shell/([^/]*$|x11/)|charts/[^/]*$|look/[^/]*$|settings/'
-room 'app/shell/macos/'      "$gui"       'app/shell/([^/]*$|macos/)|charts/[^/]*$|look/[^/]*$|settings/'
-room 'app/shell/'            "$gui"       'app/shell/[^/]*$|charts/[^/]*$|look/[^/]*$|settings/'
-room 'app/views/'            "$quick"     'app/(views|formatters)/|panels/|settings_ui/|charts/|core/|look/|settings/'
-room 'app/'                  "$gui"       'app/([^/]*$|(menu_bar_items|formatters)/|shell/[^/]*$|views/views\.h)|charts/[^/]*$|core/|look/[^/]*$|settings/|platform/host\.h'
-room 'panels/'               "$quick"     'panels/|app/formatters/|charts/|core/|look/|settings/'
-room 'settings_ui/'          "$quick"     'settings_ui/|app/formatters/|charts/|look/|settings/'
+room 'formatting/'         'Core'       'formatting/'
+room 'settings/'           'Core'       'settings/'
+room 'core/sources/'       "$none"      'core/sources/'
+room 'animation/'          "$gui"       'animation/|settings/styles\.h'
+room 'theme/'              "$gui|Svg"   'theme/|settings/'
+room 'core/'               'Core'       'core/|settings/(settings_store|styles)\.h'
+room 'platform/names/'     "$none"      'platform/names/'
+room 'platform/linux/'     "$none"      'core/sources/|platform/(linux/|names/|host\.h)'
+room 'platform/darwin/'    "$none"      'core/sources/|platform/(darwin/|names/|host\.h)'
+room 'platform/replay/'    "$none"      'core/sources/|platform/replay/'
+room 'platform/[^/]*$'     "$none"      'core/sources/|platform/[^/]*$'
+room 'charts/'             "$gui"       "charts/|$looks"
+room 'shell/x11/'          "$gui"       "shell/([^/]*$|painted/|x11/)|$looks"
+room 'shell/macos/'        "$gui"       "shell/([^/]*$|macos/)|$looks"
+room 'shell/painted/'      "$gui"       "shell/([^/]*$|painted/)|$looks"
+room 'shell/'              "$gui"       "shell/[^/]*$|$looks"
+room 'menu_bar/'           "$gui"       "menu_bar/|shell/status_item\.h|core/|charts/|formatting/|$looks"
+room 'windows/common/'     "$quick|Svg" "windows/common/|$looks"
+room 'windows/charts/'     "$quick"     "windows/(charts|common)/|charts/|$looks"
+room 'windows/panels/'     "$quick"     "windows/(panels|charts|common)/|core/|charts/|formatting/|$looks"
+room 'windows/settings/'   "$quick"     "windows/(settings|charts|common)/|charts/|formatting/|$looks"
+room 'windows/'            "$quick"     "windows/|core/|charts/|formatting/|$looks"
+room 'app/'                "$gui"       "(app|menu_bar|core|charts|formatting)/|shell/[^/]*$|windows/window_factory\.h|platform/host\.h|$looks"
 
 find_room() { # FILE: leaves its number in room_number
   for ((room_number = 0; room_number < ${#room_files[@]}; ++room_number)); do

@@ -23,68 +23,72 @@ plant() {
 }
 
 # What the parts may know of each other.
-plant src/core/sources/disk_source.h    '#include "core/checked.h"'                 'wrong arrow: core/sources/disk_source.h: core/checked.h'
-plant src/core/cpu_monitor.cpp          '#include "platform/linux/text.h"'          'wrong arrow: core/cpu_monitor.cpp: platform/linux/text.h'
-plant src/core/cpu_monitor.cpp          '#include "settings/theme_manager.h"'       'wrong arrow: core/cpu_monitor.cpp: settings/theme_manager.h'
-plant src/platform/linux/meminfo.cpp    '#include "charts/mini_bar.h"'              'wrong arrow: platform/linux/meminfo.cpp: charts/mini_bar.h'
-plant src/platform/linux/meminfo.cpp    '#include "core/memory_monitor.h"'          'wrong arrow: platform/linux/meminfo.cpp: core/memory_monitor.h'
-plant src/platform/linux/meminfo.cpp    '#include "platform/darwin/registry.h"'     'wrong arrow: platform/linux/meminfo.cpp: platform/darwin/registry.h'
-plant src/platform/fixed/any.cpp        '#include "platform/linux/text.h"'          'wrong arrow: platform/fixed/any.cpp: platform/linux/text.h'
-plant src/settings/settings_store.cpp   '#include "core/checked.h"'                 'wrong arrow: settings/settings_store.cpp: core/checked.h'
-plant src/settings/settings_store.cpp   '#include "settings/app_theme.h"'           'wrong arrow: settings/settings_store.cpp: settings/app_theme.h'
-plant src/charts/mini_bar.cpp           '#include "charts/quick/chart_item.h"'      'wrong arrow: charts/mini_bar.cpp: charts/quick/chart_item.h'
-plant src/charts/mini_bar.cpp           '#include "core/cpu_monitor.h"'             'wrong arrow: charts/mini_bar.cpp: core/cpu_monitor.h'
-plant src/app/main.cpp                  '#include "platform/linux/text.h"'          'wrong arrow: app/main.cpp: platform/linux/text.h'
-plant src/app/main.cpp                  '#include "app/shell/x11/bar_window.h"'     'wrong arrow: app/main.cpp: app/shell/x11/bar_window.h'
-plant src/app/main.cpp                  '#include "panels/panel_factory.h"'         'wrong arrow: app/main.cpp: panels/panel_factory.h'
-plant src/app/main.cpp                  '#include "app/views/quick_views.h"'        'wrong arrow: app/main.cpp: app/views/quick_views.h'
-plant src/app/shell/x11/any.cpp         '#include "panels/panel_factory.h"'         'wrong arrow: app/shell/x11/any.cpp: panels/panel_factory.h'
-plant src/app/menu_bar_items/any.cpp    '#include "app/shell/x11/bar_window.h"'     'wrong arrow: app/menu_bar_items/any.cpp: app/shell/x11/bar_window.h'
-plant src/panels/any.cpp                '#include "app/menu_bar_items/modules.h"'   'wrong arrow: panels/any.cpp: app/menu_bar_items/modules.h'
-plant src/panels/any.cpp                '#include "platform/host.h"'                'wrong arrow: panels/any.cpp: platform/host.h'
-plant src/settings_ui/any.cpp           '#include "core/system_monitor.h"'          'wrong arrow: settings_ui/any.cpp: core/system_monitor.h'
-plant src/settings_ui/any.cpp           '#include "panels/panel_factory.h"'         'wrong arrow: settings_ui/any.cpp: panels/panel_factory.h'
-plant src/panels/any.cpp                '#include "settings_ui/any.h"'              'wrong arrow: panels/any.cpp: settings_ui/any.h'
-plant src/elsewhere/any.cpp             '#include <vector>'                         'no rule for this folder: elsewhere/any.cpp'
+plant src/core/sources/disk_source.h     '#include "core/checked.h"'                       'wrong arrow: core/sources/disk_source.h: core/checked.h'
+plant src/core/cpu_monitor.cpp           '#include "platform/linux/text.h"'                'wrong arrow: core/cpu_monitor.cpp: platform/linux/text.h'
+plant src/core/cpu_monitor.cpp           '#include "theme/theme_manager.h"'                'wrong arrow: core/cpu_monitor.cpp: theme/theme_manager.h'
+plant src/platform/linux/meminfo.cpp     '#include "charts/mini_bar.h"'                    'wrong arrow: platform/linux/meminfo.cpp: charts/mini_bar.h'
+plant src/platform/linux/meminfo.cpp     '#include "core/memory_monitor.h"'                'wrong arrow: platform/linux/meminfo.cpp: core/memory_monitor.h'
+plant src/platform/linux/meminfo.cpp     '#include "platform/darwin/registry.h"'           'wrong arrow: platform/linux/meminfo.cpp: platform/darwin/registry.h'
+plant src/platform/replay/any.cpp        '#include "platform/linux/text.h"'                'wrong arrow: platform/replay/any.cpp: platform/linux/text.h'
+plant src/settings/settings_store.cpp    '#include "core/checked.h"'                       'wrong arrow: settings/settings_store.cpp: core/checked.h'
+plant src/settings/settings_store.cpp    '#include "theme/app_theme.h"'                    'wrong arrow: settings/settings_store.cpp: theme/app_theme.h'
+plant src/charts/mini_bar.cpp            '#include "windows/charts/chart_item.h"'          'wrong arrow: charts/mini_bar.cpp: windows/charts/chart_item.h'
+plant src/charts/mini_bar.cpp            '#include "core/cpu_monitor.h"'                   'wrong arrow: charts/mini_bar.cpp: core/cpu_monitor.h'
+plant src/app/main.cpp                   '#include "platform/linux/text.h"'                'wrong arrow: app/main.cpp: platform/linux/text.h'
+plant src/app/main.cpp                   '#include "shell/painted/bar_window.h"'           'wrong arrow: app/main.cpp: shell/painted/bar_window.h'
+plant src/app/main.cpp                   '#include "windows/panels/panel_factory.h"'       'wrong arrow: app/main.cpp: windows/panels/panel_factory.h'
+plant src/app/main.cpp                   '#include "windows/quick_window_factory.h"'       'wrong arrow: app/main.cpp: windows/quick_window_factory.h'
+plant src/shell/x11/any.cpp              '#include "windows/panels/panel_factory.h"'       'wrong arrow: shell/x11/any.cpp: windows/panels/panel_factory.h'
+plant src/shell/x11/any.cpp              '#include "charts/mini_bar.h"'                    'wrong arrow: shell/x11/any.cpp: charts/mini_bar.h'
+plant src/shell/painted/any.cpp          '#include "shell/x11/input_focus.h"'              'wrong arrow: shell/painted/any.cpp: shell/x11/input_focus.h'
+plant src/animation/any.cpp              '#include "theme/fonts.h"'                        'wrong arrow: animation/any.cpp: theme/fonts.h'
+plant src/theme/any.cpp                  '#include "animation/spring.h"'                   'wrong arrow: theme/any.cpp: animation/spring.h'
+plant src/menu_bar/any.cpp               '#include "shell/painted/bar_window.h"'           'wrong arrow: menu_bar/any.cpp: shell/painted/bar_window.h'
+plant src/windows/panels/any.cpp         '#include "menu_bar/modules.h"'                   'wrong arrow: windows/panels/any.cpp: menu_bar/modules.h'
+plant src/windows/panels/any.cpp         '#include "platform/host.h"'                      'wrong arrow: windows/panels/any.cpp: platform/host.h'
+plant src/windows/settings/any.cpp       '#include "core/system_monitor.h"'                'wrong arrow: windows/settings/any.cpp: core/system_monitor.h'
+plant src/windows/settings/any.cpp       '#include "windows/panels/panel_factory.h"'       'wrong arrow: windows/settings/any.cpp: windows/panels/panel_factory.h'
+plant src/windows/panels/any.cpp         '#include "windows/settings/any.h"'               'wrong arrow: windows/panels/any.cpp: windows/settings/any.h'
+plant src/elsewhere/any.cpp              '#include <vector>'                               'no rule for this folder: elsewhere/any.cpp'
 
 # Other ways to write an include.
-plant src/charts/mini_bar.cpp           '#include <charts/canvas.h>'                "angle include of the project's own: charts/mini_bar.cpp: charts/canvas.h"
-plant src/core/cpu_monitor.cpp          '#include "../charts/mini_bar.h"'           'relative include: core/cpu_monitor.cpp: ../charts/mini_bar.h'
-plant src/core/cpu_monitor.cpp          '#include "core/../charts/mini_bar.h"'      'relative include: core/cpu_monitor.cpp: core/../charts/mini_bar.h'
-plant src/core/cpu_monitor.cpp          '#include "checked.h"'                      'include without its folder: core/cpu_monitor.cpp: checked.h'
-plant src/core/cpu_monitor.cpp          '  #  include  "charts/mini_bar.h"'         'wrong arrow: core/cpu_monitor.cpp: charts/mini_bar.h'
-plant src/core/cpu_monitor.cpp          '#include"charts/spring.h"'                 'wrong arrow: core/cpu_monitor.cpp: charts/spring.h'
-plant src/platform/darwin/any.mm        '#import "core/checked.h"'                  'wrong arrow: platform/darwin/any.mm: core/checked.h'
-plant src/core/cpu_monitor.cpp          '#include HEADER'                           'include that cannot be judged: core/cpu_monitor.cpp: HEADER'
+plant src/charts/mini_bar.cpp            '#include <charts/canvas.h>'                      "angle include of the project's own: charts/mini_bar.cpp: charts/canvas.h"
+plant src/core/cpu_monitor.cpp           '#include "../charts/mini_bar.h"'                 'relative include: core/cpu_monitor.cpp: ../charts/mini_bar.h'
+plant src/core/cpu_monitor.cpp           '#include "core/../charts/mini_bar.h"'            'relative include: core/cpu_monitor.cpp: core/../charts/mini_bar.h'
+plant src/core/cpu_monitor.cpp           '#include "checked.h"'                            'include without its folder: core/cpu_monitor.cpp: checked.h'
+plant src/core/cpu_monitor.cpp           '  #  include  "charts/mini_bar.h"'               'wrong arrow: core/cpu_monitor.cpp: charts/mini_bar.h'
+plant src/core/cpu_monitor.cpp           '#include"animation/spring.h"'                    'wrong arrow: core/cpu_monitor.cpp: animation/spring.h'
+plant src/platform/darwin/any.mm         '#import "core/checked.h"'                        'wrong arrow: platform/darwin/any.mm: core/checked.h'
+plant src/core/cpu_monitor.cpp           '#include HEADER'                                 'include that cannot be judged: core/cpu_monitor.cpp: HEADER'
 
 # Which modules of Qt are known where.
-plant src/core/cpu_monitor.h            '#include <QColor>'                         'Qt Gui: core/cpu_monitor.h: QColor'
-plant src/core/cpu_monitor.h            '#include <QtGui/QColor>'                   'Qt Gui: core/cpu_monitor.h: QtGui/QColor'
-plant src/core/cpu_monitor.h            '#include <QtGui>'                          'Qt Gui: core/cpu_monitor.h: QtGui'
-plant src/core/cpu_monitor.h            '#include <qcolor.h>'                       'Qt Gui: core/cpu_monitor.h: qcolor.h'
-plant src/core/cpu_monitor.h            '#include <QDBusConnection>'                'Qt DBus: core/cpu_monitor.h: QDBusConnection'
-plant src/core/cpu_monitor.h            '#include <QSvgRenderer>'                   'Qt Svg: core/cpu_monitor.h: QSvgRenderer'
-plant src/core/cpu_monitor.h            '#include <QQmlEngine>'                     'Qt Qml: core/cpu_monitor.h: QQmlEngine'
-plant src/core/cpu_monitor.h            '#include <QtQml/qqmlregistration.h>'       'Qt Qml: core/cpu_monitor.h: QtQml/qqmlregistration.h'
-plant src/core/cpu_monitor.h            '#include <QQuickItem>'                     'Qt Quick: core/cpu_monitor.h: QQuickItem'
-plant src/core/cpu_monitor.h            '#include <QNoSuchClass>'                   'Qt of unknown module: core/cpu_monitor.h: QNoSuchClass'
-plant src/core/sources/disk_source.h    '#include <QString>'                        'Qt Core: core/sources/disk_source.h: QString'
-plant src/platform/linux/meminfo.cpp    '#include <QString>'                        'Qt Core: platform/linux/meminfo.cpp: QString'
-plant src/platform/fixed/any.cpp        '#include <QList>'                          'Qt Core: platform/fixed/any.cpp: QList'
-plant src/settings/settings_file.h      '#include <QColor>'                         'Qt Gui: settings/settings_file.h: QColor'
-plant src/charts/mini_bar.h             '#include <QQuickPaintedItem>'              'Qt Quick: charts/mini_bar.h: QQuickPaintedItem'
-plant src/app/app_delegate.h            '#include <QQmlEngine>'                     'Qt Qml: app/app_delegate.h: QQmlEngine'
-plant src/app/shell/x11/bar_window.cpp  '#include <QQuickView>'                     'Qt Quick: app/shell/x11/bar_window.cpp: QQuickView'
+plant src/core/cpu_monitor.h             '#include <QColor>'                               'Qt Gui: core/cpu_monitor.h: QColor'
+plant src/core/cpu_monitor.h             '#include <QtGui/QColor>'                         'Qt Gui: core/cpu_monitor.h: QtGui/QColor'
+plant src/core/cpu_monitor.h             '#include <QtGui>'                                'Qt Gui: core/cpu_monitor.h: QtGui'
+plant src/core/cpu_monitor.h             '#include <qcolor.h>'                             'Qt Gui: core/cpu_monitor.h: qcolor.h'
+plant src/core/cpu_monitor.h             '#include <QDBusConnection>'                      'Qt DBus: core/cpu_monitor.h: QDBusConnection'
+plant src/core/cpu_monitor.h             '#include <QSvgRenderer>'                         'Qt Svg: core/cpu_monitor.h: QSvgRenderer'
+plant src/core/cpu_monitor.h             '#include <QQmlEngine>'                           'Qt Qml: core/cpu_monitor.h: QQmlEngine'
+plant src/core/cpu_monitor.h             '#include <QtQml/qqmlregistration.h>'             'Qt Qml: core/cpu_monitor.h: QtQml/qqmlregistration.h'
+plant src/core/cpu_monitor.h             '#include <QQuickItem>'                           'Qt Quick: core/cpu_monitor.h: QQuickItem'
+plant src/core/cpu_monitor.h             '#include <QNoSuchClass>'                         'Qt of unknown module: core/cpu_monitor.h: QNoSuchClass'
+plant src/core/sources/disk_source.h     '#include <QString>'                              'Qt Core: core/sources/disk_source.h: QString'
+plant src/platform/linux/meminfo.cpp     '#include <QString>'                              'Qt Core: platform/linux/meminfo.cpp: QString'
+plant src/platform/replay/any.cpp        '#include <QList>'                                'Qt Core: platform/replay/any.cpp: QList'
+plant src/settings/settings_file.h       '#include <QColor>'                               'Qt Gui: settings/settings_file.h: QColor'
+plant src/charts/mini_bar.h              '#include <QQuickPaintedItem>'                    'Qt Quick: charts/mini_bar.h: QQuickPaintedItem'
+plant src/app/app_delegate.h             '#include <QQmlEngine>'                           'Qt Qml: app/app_delegate.h: QQmlEngine'
+plant src/shell/painted/bar_window.cpp   '#include <QQuickView>'                           'Qt Quick: shell/painted/bar_window.cpp: QQuickView'
 
 # Questions that the build answers.
 question='question about the operating system:'
 for macro in __APPLE__ __MACH__ __linux __linux__ __gnu_linux__ __unix__ __FreeBSD__ TARGET_OS_MAC Q_OS_MACOS Q_OS_LINUX _WIN32; do
   plant src/core/checked.cpp            "#if defined($macro) && 1"                  "$question src/core/checked.cpp: #if defined($macro) && 1"
 done
-plant src/platform/host.h               '#ifdef __linux__'                          "$question src/platform/host.h: #ifdef __linux__"
-plant tools/probe/main.cpp              'constexpr bool isMac = TARGET_OS_OSX;'     "$question tools/probe/main.cpp: constexpr bool isMac = TARGET_OS_OSX;"
-plant src/charts/mini_bar.cpp           'auto name = QSysInfo::kernelType();'       "$question src/charts/mini_bar.cpp: auto name = QSysInfo::kernelType();"
-plant src/panels/Any.qml                'property bool mac: Qt.platform.os == "osx"' "$question src/panels/Any.qml: property bool mac: Qt.platform.os == \"osx\""
+plant src/platform/host.h                '#ifdef __linux__'                                "$question src/platform/host.h: #ifdef __linux__"
+plant tools/probe/main.cpp               'constexpr bool isMac = TARGET_OS_OSX;'           "$question tools/probe/main.cpp: constexpr bool isMac = TARGET_OS_OSX;"
+plant src/charts/mini_bar.cpp            'auto name = QSysInfo::kernelType();'             "$question src/charts/mini_bar.cpp: auto name = QSysInfo::kernelType();"
+plant src/windows/panels/Any.qml         'property bool mac: Qt.platform.os == "osx"'      "$question src/windows/panels/Any.qml: property bool mac: Qt.platform.os == \"osx\""
 
 if "$check" "$copy" "$qt_headers" >/dev/null 2>"$copy/complaints"; then
   echo "the check succeeds on all planted faults" >&2

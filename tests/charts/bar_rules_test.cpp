@@ -1,6 +1,6 @@
 #include "charts/bar_rules.h"
-#include "settings/system_colors.h"
 #include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 #include <gtest/gtest.h>
 

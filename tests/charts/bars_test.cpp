@@ -2,8 +2,8 @@
 #include "charts/animated_bar_chart.h"
 #include "charts/bar_rules.h"
 #include "charts/mini_bar.h"
-#include "settings/system_colors.h"
 #include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

@@ -103,7 +103,7 @@ TEST_P(Pictures, OfALineCoverWhatAFilledOutlineCovers) {
             stroker.setWidth(width);
             stroker.setCapStyle(Qt::RoundCap);
             const Picture outline =
-                drawnPicture(grid, {0, 0, 40, 40}, QImage::Format_Alpha8, [&](QPainter& painter) {
+                rasterize(grid, {0, 0, 40, 40}, QImage::Format_Alpha8, [&](QPainter& painter) {
                     painter.fillPath(stroker.createStroke(line), Qt::black);
                 });
             const double expected = coveredArea(outline.image.convertToFormat(QImage::Format_ARGB32));

@@ -3,8 +3,8 @@
 #include "charts/pie_slice.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
-#include "settings/system_colors.h"
 #include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 #include <gtest/gtest.h>
 

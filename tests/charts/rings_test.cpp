@@ -1,8 +1,8 @@
 #include "at_scale.h"
 #include "charts/animated_ring_chart.h"
 #include "charts/multi_segment_ring.h"
-#include "settings/system_colors.h"
 #include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

@@ -1,8 +1,8 @@
 #include "at_scale.h"
 #include "charts/temperature_gauge.h"
 #include "charts/temperature_rules.h"
-#include "settings/system_colors.h"
 #include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 #include <clocale>
 

@@ -1,5 +1,5 @@
 #include "core/battery_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <QMetaProperty>
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ using Sources = std::vector<std::optional<PowerSourceDescription>>;
 
 class BatteryMonitorTest : public ::testing::Test {
 protected:
-    FixedBatterySource source;
+    FakeBatterySource source;
     BatteryMonitor monitor{source};
 
     /// The battery after an update in which the list holds one source.

@@ -1,5 +1,5 @@
 #include "core/cpu_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -21,8 +21,8 @@ protected:
         return *monitor;
     }
 
-    FixedProcessorSource source;
-    FixedClock clock;
+    FakeProcessorSource source;
+    FakeClock clock;
     std::optional<CPUMonitor> monitor;
 };
 
@@ -143,7 +143,7 @@ TEST_F(CPUMonitorTest, MissingLoadAveragesArePublishedAsZeros) {
 
 TEST_F(CPUMonitorTest, UptimeIsTheTimeSinceBootAndSurvivesAFailedRead) {
     CPUMonitor& cpu = monitorWithBaseline({{}});
-    source.bootTime = FixedClock::replayStartSeconds - 90061;
+    source.bootTime = FakeClock::replayStartSeconds - 90061;
     cpu.updateUptime();
     EXPECT_DOUBLE_EQ(cpu.uptime(), 90061);
     source.bootTime.reset();

@@ -1,5 +1,5 @@
 #include "core/disk_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 class DiskMonitorTest : public ::testing::Test {
 protected:
-    FixedDiskSource source;
-    FixedClock clock;
+    FakeDiskSource source;
+    FakeClock clock;
     DiskMonitor monitor{source, clock.reader()};
 
     void updateVolumesWith(std::vector<MountedVolume> volumes) {

@@ -1,5 +1,5 @@
 #include "core/memory_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ protected:
         return monitor.info();
     }
 
-    FixedMemorySource source;
+    FakeMemorySource source;
     MemoryMonitor monitor{source};
 };
 

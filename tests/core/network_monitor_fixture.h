@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/network_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -11,8 +11,8 @@ namespace orvelle {
 /// A monitor over entries that the test sets.
 class NetworkMonitorTest : public ::testing::Test {
 protected:
-    FixedNetworkSource source;
-    FixedClock clock;
+    FakeNetworkSource source;
+    FakeClock clock;
     NetworkMonitor monitor{source, clock.reader()};
 
     void updateWith(std::vector<InterfaceEntry> entries) {

@@ -1,5 +1,5 @@
 #include "core/process_monitor.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 
 #include <QMetaProperty>
 #include <gtest/gtest.h>
@@ -48,8 +48,8 @@ protected:
         return std::nan("");
     }
 
-    FixedProcessSource source;
-    FixedClock clock;
+    FakeProcessSource source;
+    FakeClock clock;
     ProcessMonitor monitor{source, clock.reader()};
 };
 

@@ -1,6 +1,6 @@
 #include "core/sensor_monitor.h"
 #include "core/smc_helper.h"
-#include "platform/fixed/fixed_sources.h"
+#include "platform/replay/fake_sources.h"
 #include "support/scripted_smc_user_client.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 
 class SensorMonitorTest : public ::testing::Test {
 protected:
-    FixedSensorSource source;
+    FakeSensorSource source;
     SensorMonitor monitor{[this]() -> SensorSource& { return source; }};
 };
 

@@ -1,5 +1,5 @@
 #include "core/system_monitor.h"
-#include "platform/fixed/fixed_machine.h"
+#include "platform/replay/fake_machine.h"
 #include "settings/settings_store.h"
 
 #include <QTemporaryDir>
@@ -65,7 +65,7 @@ protected:
 
     QTemporaryDir directory;
     SettingsStore settings{directory.filePath(QStringLiteral("settings.conf"))};
-    FixedMachine machine;
+    FakeMachine machine;
     QStringList questions; ///< in the order in which they were asked
 };
 

@@ -1,6 +1,6 @@
-#include "app/shell/x11/xsettings.h"
 #include "parsers.h"
 #include "require.h"
+#include "shell/x11/xsettings.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
 #include "golden_picture.h"
-#include "look/fonts.h"
 #include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
+#include "theme/fonts.h"
 
 #include <QFontInfo>
 #include <gtest/gtest.h>

@@ -2,21 +2,21 @@
 
 from planting import Fault
 
-STYLES = ("test_panels", "PanelStyles.*")
-DATA = ("test_panels", "PanelData.*")
+STYLES = ("test_windows_panels", "PanelStyles.*")
+DATA = ("test_windows_panels", "PanelData.*")
 PICTURES = ("test_golden_panels", "*")
-GRAPH = "src/panels/HistoryGraph.qml"
-CPU = "src/panels/CPUPanelView.qml"
-RING = "src/panels/MemoryRing.qml"
-MEMORY = "src/panels/MemoryPanelView.qml"
-COLORS = "src/panels/MemoryColors.qml"
-GAUGE = "src/panels/SensorGauge.qml"
-TEMPERATURES = "src/panels/TemperatureHistory.qml"
-RATES = "src/panels/RateGraphs.qml"
-NETWORK = "src/panels/NetworkPanelView.qml"
-DISK = "src/panels/DiskPanelView.qml"
-BATTERY = "src/panels/BatteryDetails.qml"
-FANS = "src/panels/FanList.qml"
+GRAPH = "src/windows/panels/HistoryGraph.qml"
+CPU = "src/windows/panels/CPUPanelView.qml"
+RING = "src/windows/panels/MemoryRing.qml"
+MEMORY = "src/windows/panels/MemoryPanelView.qml"
+COLORS = "src/windows/panels/MemoryColors.qml"
+GAUGE = "src/windows/panels/SensorGauge.qml"
+TEMPERATURES = "src/windows/panels/TemperatureHistory.qml"
+RATES = "src/windows/panels/RateGraphs.qml"
+NETWORK = "src/windows/panels/NetworkPanelView.qml"
+DISK = "src/windows/panels/DiskPanelView.qml"
+BATTERY = "src/windows/panels/BatteryDetails.qml"
+FANS = "src/windows/panels/FanList.qml"
 
 STYLE_FAULTS = [
     Fault("graphs do not know the line style", GRAPH, "    lineStyle: graph.settings.graphLineStyle\n", "", *STYLES),
@@ -90,7 +90,7 @@ DATA_FAULTS = [
     Fault("fans move ten times a second", FANS, "interval: 1000 * list.stepSeconds",
           "interval: 2000 * list.stepSeconds",
           *DATA),
-    Fault("a fast fan has no limit", "src/panels/panel_rules.cpp",
+    Fault("a fast fan has no limit", "src/windows/panels/panel_rules.cpp",
           "std::max(3000 / static_cast<double>(speed), fastestTurn)", "3000 / static_cast<double>(speed)", *DATA),
     Fault("an outlined bolt marks the charging battery in its panel", BATTERY, 'name: "bolt.fill"', 'name: "bolt"',
           *DATA),
@@ -104,7 +104,7 @@ PICTURE_FAULTS = [
           *PICTURES),
     Fault("used and total swap are exchanged", MEMORY, "text: PanelRules.byteSizeText(panel.info.swapUsed)",
           "text: PanelRules.byteSizeText(panel.info.swapTotal)", *PICTURES),
-    Fault("the bars of the processes have one scale", "src/panels/ProcessListView.qml",
+    Fault("the bars of the processes have one scale", "src/windows/panels/ProcessListView.qml",
           "PanelRules.processBarScale(processes, mode)", "100", *PICTURES),
     Fault("processes of the memory tell their processor time", MEMORY, "mode: ProcessListView.DisplayMode.Memory",
           "mode: ProcessListView.DisplayMode.CPU", *PICTURES),
@@ -112,7 +112,7 @@ PICTURE_FAULTS = [
     Fault("a charging battery's bar keeps the module's colour", BATTERY,
           "fillColor: details.info.isCharging ? Look.green : details.moduleColor", "fillColor: details.moduleColor",
           *DATA),
-    Fault("a volume's bar is empty", "src/panels/VolumeCard.qml", "fraction: card.used", "fraction: 0", *PICTURES),
+    Fault("a volume's bar is empty", "src/windows/panels/VolumeCard.qml", "fraction: card.used", "fraction: 0", *PICTURES),
 ]
 
 PANEL_FAULTS = STYLE_FAULTS + DATA_FAULTS + PICTURE_FAULTS

@@ -1,7 +1,7 @@
-#include "settings/app_theme.h"
-#include "settings/hex_color.h"
 #include "settings/settings_store.h"
 #include "support/temporary_settings.h"
+#include "theme/app_theme.h"
+#include "theme/hex_color.h"
 
 #include <QMetaProperty>
 

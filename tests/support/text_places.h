@@ -1,6 +1,6 @@
 #pragma once
 
-#include "look/fonts.h"
+#include "theme/fonts.h"
 
 #include <QCoreApplication>
 #include <QFontInfo>

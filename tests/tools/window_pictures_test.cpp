@@ -1,7 +1,7 @@
-#include "charts/motion.h"
-#include "settings_ui/settings_factory.h"
+#include "animation/animation_clock.h"
 #include "snapshot/sheets.h"
 #include "snapshot/window_pictures.h"
+#include "windows/settings/settings_factory.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@ namespace {
 
 class SettingsPicture : public ::testing::Test {
 protected:
-    SettingsPicture() { Motion::shared().setReduced(true); }
-    ~SettingsPicture() override { Motion::shared().setReduced(false); }
+    SettingsPicture() { AnimationClock::shared().setReduced(true); }
+    ~SettingsPicture() override { AnimationClock::shared().setReduced(false); }
 
     FreshSettings settings;
     SettingsPose unfolded{

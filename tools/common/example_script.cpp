@@ -77,7 +77,7 @@ void ExampleScript::tellProcessor(int cycle) {
         ticks.idle += ticksPerCycle - busy;
     }
     m_machine.processor->ticks = m_ticks;
-    m_machine.processor->bootTime = FixedClock::replayStartSeconds - m_character.uptimeSeconds;
+    m_machine.processor->bootTime = FakeClock::replayStartSeconds - m_character.uptimeSeconds;
 }
 
 void ExampleScript::tellMemory(int cycle) {

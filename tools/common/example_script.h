@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/example_character.h"
-#include "platform/fixed/fixed_machine.h"
+#include "platform/replay/fake_machine.h"
 
 namespace orvelle {
 
@@ -30,7 +30,7 @@ private:
     [[nodiscard]] int climbed(int whole, int cycle) const;
 
     ExampleCharacter m_character;
-    FixedMachine m_machine;
+    FakeMachine m_machine;
     std::vector<CoreTicks> m_ticks;
     DiskCounters m_disk;
 };

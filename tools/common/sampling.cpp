@@ -1,9 +1,9 @@
 #include "common/sampling.h"
 
 #include "core/system_monitor.h"
-#include "platform/fixed/fixed_sources.h"
-#include "platform/fixed/replay_machine.h"
 #include "platform/host.h"
+#include "platform/replay/fake_sources.h"
+#include "platform/replay/replay_machine.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,7 +25,7 @@ std::unique_ptr<SystemMonitor> sampleThisMachine(const SamplingPlan& plan, const
 }
 
 std::unique_ptr<SystemMonitor> replayRoots(const SamplingPlan& plan, const SettingsStore& settings) {
-    FixedClock clock;
+    FakeClock clock;
     std::vector<MachineSources> moments;
     for (const QString& root : plan.roots)
         moments.push_back(makeTreeSources(root.toStdString(), clock.reader()));

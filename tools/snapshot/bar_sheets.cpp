@@ -1,8 +1,8 @@
 #include "charts/animated_bar_chart.h"
 #include "charts/mini_bar.h"
-#include "settings/system_colors.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

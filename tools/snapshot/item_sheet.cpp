@@ -1,8 +1,8 @@
-#include "app/menu_bar_items/modules.h"
-#include "app/menu_bar_items/scene_painter.h"
-#include "settings/system_colors.h"
+#include "menu_bar/modules.h"
+#include "menu_bar/scene_painter.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

@@ -1,9 +1,9 @@
 #include "charts/animated_line_graph.h"
 #include "charts/sparkline_view.h"
-#include "look/opacity.h"
-#include "settings/system_colors.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
+#include "theme/opacity.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

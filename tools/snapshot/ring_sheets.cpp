@@ -1,10 +1,10 @@
+#include "animation/animation_timing.h"
 #include "charts/animated_ring_chart.h"
-#include "charts/animation_rules.h"
 #include "charts/multi_segment_ring.h"
 #include "charts/temperature_gauge.h"
-#include "settings/system_colors.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

@@ -1,6 +1,6 @@
 #include "snapshot/sheet.h"
 
-#include "look/fonts.h"
+#include "theme/fonts.h"
 
 #include <QFontMetricsF>
 

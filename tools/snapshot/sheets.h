@@ -1,8 +1,8 @@
 #pragma once
 
 #include "settings/settings_store.h"
-#include "settings/theme_manager.h"
 #include "snapshot/sheet.h"
+#include "theme/theme_manager.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,6 @@
 #include "snapshot/snapshot_arguments.h"
 
-#include "settings/app_theme.h"
+#include "theme/app_theme.h"
 
 #include <QCommandLineParser>
 

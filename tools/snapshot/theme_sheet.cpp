@@ -1,10 +1,10 @@
-#include "app/menu_bar_items/modules.h"
-#include "app/menu_bar_items/scene_painter.h"
 #include "core/system_monitor.h"
-#include "look/quick/quick_engine.h"
-#include "panels/panel_factory.h"
+#include "menu_bar/modules.h"
+#include "menu_bar/scene_painter.h"
 #include "snapshot/sheets.h"
 #include "snapshot/window_pictures.h"
+#include "windows/common/quick_engine.h"
+#include "windows/panels/panel_factory.h"
 
 #include <QQmlEngine>
 

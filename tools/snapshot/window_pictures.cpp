@@ -1,12 +1,12 @@
 #include "snapshot/window_pictures.h"
 
-#include "app/menu_bar_items/modules.h"
-#include "charts/motion.h"
+#include "animation/animation_clock.h"
 #include "core/system_monitor.h"
-#include "look/quick/quick_engine.h"
-#include "panels/panel_factory.h"
-#include "settings_ui/settings_factory.h"
+#include "menu_bar/modules.h"
 #include "snapshot/sheets.h"
+#include "windows/common/quick_engine.h"
+#include "windows/panels/panel_factory.h"
+#include "windows/settings/settings_factory.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -19,7 +19,7 @@ namespace {
 
 /// An engine under which everything stands where it would come to rest.
 std::unique_ptr<QQmlEngine> makeStillEngine() {
-    Motion::shared().setReduced(true);
+    AnimationClock::shared().setReduced(true);
     return makeEngine();
 }
 

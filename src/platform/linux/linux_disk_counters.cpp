@@ -1,7 +1,7 @@
 #include "platform/linux/linux_disk_counters.h"
 
-#include "platform/linux/counter_budget.h"
 #include "platform/linux/directory.h"
+#include "platform/linux/saturating_sum.h"
 
 #include <algorithm>
 #include <set>
@@ -40,8 +40,8 @@ std::optional<std::vector<DiskCounters>> LinuxDiskCounters::read() {
     if (!knows(devices))
         learn(devices);
     std::vector<DiskCounters> disks;
-    CounterBudget budgetRead;
-    CounterBudget budgetWritten;
+    SaturatingSum budgetRead;
+    SaturatingSum budgetWritten;
     for (std::size_t index = 0; index < devices.size(); ++index) {
         const DiskCounters& counters = devices[index].counters;
         if (m_known[index].isCounted)

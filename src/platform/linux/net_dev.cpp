@@ -1,7 +1,7 @@
 #include "platform/linux/net_dev.h"
 
-#include "platform/linux/counter_budget.h"
 #include "platform/linux/directory.h"
+#include "platform/linux/saturating_sum.h"
 #include "platform/linux/text.h"
 
 namespace orvelle::linux_platform {
@@ -19,8 +19,8 @@ bool isPossibleName(std::string_view name) {
 
 std::vector<InterfaceCounters> parseNetDev(std::string_view text) {
     std::vector<InterfaceCounters> interfaces;
-    CounterBudget budgetIn;
-    CounterBudget budgetOut;
+    SaturatingSum budgetIn;
+    SaturatingSum budgetOut;
     while (!text.empty()) {
         std::string_view line = takeLine(text);
         // The two heading lines have no colon.

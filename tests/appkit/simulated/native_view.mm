@@ -1,6 +1,6 @@
-#include "app/shell/macos/native_view.h"
+#include "shell/macos/native_view.h"
 
-#include "app/shell/macos/retained.h"
+#include "shell/macos/retained.h"
 
 #include <unordered_map>
 

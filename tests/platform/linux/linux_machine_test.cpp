@@ -1,5 +1,5 @@
-#include "platform/fixed/fixed_sources.h"
 #include "platform/host.h"
+#include "platform/replay/fake_sources.h"
 #include "support/temporary_tree.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 class LinuxMachineTest : public ::testing::Test {
 protected:
     TemporaryTree tree;
-    FixedClock clock;
+    FakeClock clock;
     MachineSources machine = makeTreeSources(tree.root(), clock.reader());
 };
 

@@ -1,6 +1,6 @@
 #include "core/memory_monitor.h"
-#include "platform/fixed/fixed_sources.h"
 #include "platform/linux/meminfo.h"
+#include "platform/replay/fake_sources.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ Meminfo desktop() {
 
 /// Runs the monitor's rule, which stops the process where the parts contradict each other.
 MemoryMonitorInfo published(const MemoryReading& reading) {
-    FixedMemorySource source;
+    FakeMemorySource source;
     source.reading = reading;
     MemoryMonitor monitor(source);
     monitor.update();

@@ -1,7 +1,7 @@
 #include "child_process.h"
 #include "hwmon_tree.h"
-#include "platform/fixed/fixed_sources.h"
 #include "platform/host.h"
+#include "platform/replay/fake_sources.h"
 #include "process_tree.h"
 
 #include <gtest/gtest.h>
@@ -86,7 +86,7 @@ private:
 
 TEST(OpenFiles, DoNotGrowInNumberWhileProcessesAndDevicesComeAndGo) {
     RestlessMachine restless;
-    FixedClock clock;
+    FakeClock clock;
     MachineSources machine = makeTreeSources(restless.root(), clock.reader());
     std::ptrdiff_t mostOfFirstHalf = 0;
     std::ptrdiff_t mostOfSecondHalf = 0;
@@ -103,7 +103,7 @@ TEST(OpenFiles, AreGivenBackWithTheSources) {
     const std::ptrdiff_t before = openFileCount();
     RestlessMachine restless;
     restless.moveTo(0);
-    FixedClock clock;
+    FakeClock clock;
     std::optional<MachineSources> machine = makeTreeSources(restless.root(), clock.reader());
     askEverySource(*machine);
     EXPECT_GT(openFileCount(), before) << "the count sees what is kept open";

@@ -1,7 +1,0 @@
-#include "app/shell/open_log.h"
-
-namespace orvelle {
-
-Q_LOGGING_CATEGORY(openLog, "orvelle.open", QtInfoMsg)
-
-} // namespace orvelle

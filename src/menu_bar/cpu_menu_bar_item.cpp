@@ -1,0 +1,73 @@
+#include "menu_bar/cpu_menu_bar_item.h"
+
+#include "charts/mini_bar.h"
+#include "core/cpu_monitor.h"
+#include "formatting/formatters.h"
+#include "menu_bar/cpu_item_rules.h"
+#include "menu_bar/item_nodes.h"
+#include "settings/settings_store.h"
+#include "theme/theme_manager.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double cpuSpacing = 3;
+constexpr QSizeF cpuHistorySize(32, 12);
+
+double coreLoad(const CPUMonitor::CoreUsage& core) {
+    return core.user + core.system;
+}
+
+} // namespace
+
+CPUMenuBarItem::CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings,
+                               const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+ItemScene CPUMenuBarItem::body() const {
+    return {.body = picture(), .accessibleName = QStringLiteral("CPU"), .accessibleText = accessibleText()};
+}
+
+QString CPUMenuBarItem::accessibleText() const {
+    return QStringLiteral("CPU %1").arg(formatPercent(m_monitor.totalUsage()));
+}
+
+SceneNode CPUMenuBarItem::picture() const {
+    const QColor color = m_themes.cpuColor(m_settings);
+    const SceneNode icon = iconNode(QStringLiteral("cpu"), color);
+    const SceneNode usage = valueNode(formatPercent(m_monitor.totalUsage()));
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::miniBars:
+        return row({icon, coreBars(color)}, cpuSpacing);
+    case MenuBarDisplayStyle::textOnly:
+        return usage;
+    case MenuBarDisplayStyle::iconAndText:
+        return row({icon, usage}, cpuSpacing);
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, historyNode(m_monitor.usageHistory(), color, 1.0, cpuHistorySize)}, cpuSpacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    return row({icon, coreDots(color)}, cpuSpacing);
+}
+
+SceneNode CPUMenuBarItem::coreBars(const QColor& color) const {
+    CoreBarsShape bars;
+    for (const CPUMonitor::CoreUsage& core : m_monitor.coreUsages()) {
+        const MiniBar bar{.value = coreLoad(core), .color = color};
+        bars.levels.append({.look = bar.look(), .fullLength = coreBarsHeight});
+    }
+    return {bars};
+}
+
+SceneNode CPUMenuBarItem::coreDots(const QColor& color) const {
+    const QList<CPUMonitor::CoreUsage>& cores = m_monitor.coreUsages();
+    QList<QColor> colors;
+    for (const CPUMonitor::CoreUsage& core : cores.first(coreDotCount(cores.size())))
+        colors.append(coreDotColor(coreLoad(core), color));
+    return dotsNode(colors);
+}
+
+} // namespace orvelle

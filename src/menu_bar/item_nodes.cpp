@@ -1,0 +1,53 @@
+#include "menu_bar/item_nodes.h"
+
+#include "menu_bar/item_rules.h"
+#include "theme/fonts.h"
+#include "theme/label_colors.h"
+#include "theme/opacity.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double historyFillOpacity = 0.15;
+
+} // namespace
+
+SceneNode symbolNode(const QString& name, double fontSize, const QColor& color) {
+    return {SymbolShape{.name = name, .fontSize = fontSize, .color = color}};
+}
+
+SceneNode iconNode(const QString& name, const QColor& color) {
+    return symbolNode(name, iconFontSize, color);
+}
+
+SceneNode textNode(const QString& text, const QFont& font, const QColor& color) {
+    return {TextShape{.text = text, .font = font, .color = color}};
+}
+
+SceneNode valueNode(const QString& text, double fontSize) {
+    return textNode(text, monospacedSystemFont(fontSize, QFont::Medium), LabelColors::primary);
+}
+
+SceneNode dotsNode(const QList<QColor>& colors, double diameter) {
+    return {DotsShape{.colors = colors, .diameter = diameter}};
+}
+
+SceneNode levelBarNode(const QSizeF& size, double cornerRadius, double fraction, const QColor& color,
+                       bool eases) {
+    return {LevelBarShape{.size = size,
+                          .cornerRadius = cornerRadius,
+                          .level = {.look = {fraction, color}, .fullLength = size.width(), .eases = eases}}};
+}
+
+SceneNode historyNode(const QList<double>& history, const QColor& color, double maxValue,
+                      const QSizeF& size) {
+    return {SparklineView{.data = recentSamples(history),
+                          .maxValue = maxValue,
+                          .lineColor = color,
+                          .fillColor = withOpacity(color, historyFillOpacity),
+                          .lineWidth = 1,
+                          .width = size.width(),
+                          .height = size.height()}};
+}
+
+} // namespace orvelle

@@ -1,0 +1,114 @@
+#include "menu_bar/item_presenter.h"
+
+#include "animation/animation_timing.h"
+#include "menu_bar/scene_painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace orvelle {
+namespace {
+
+constexpr double smallestVisiblePixels = 0.5;
+constexpr double shortestIntervalSeconds = 1.0 / 30;
+
+QList<Level> easingLevelsOf(const SceneNode& scene) {
+    QList<Level> levels = levelsOf(scene);
+    levels.removeIf([](const Level& level) { return !level.eases; });
+    return levels;
+}
+
+QList<BarLook> looksOf(const QList<Level>& levels) {
+    QList<BarLook> looks;
+    for (const Level& level : levels)
+        looks.append(level.look);
+    return looks;
+}
+
+} // namespace
+
+std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from, const QList<Level>& to,
+                                                      double pixelsPerPoint) {
+    if (from.size() != to.size())
+        return std::nullopt; // other bars
+    double pixels = 0;
+    bool isRecolored = false;
+    for (qsizetype index = 0; index < to.size(); ++index) {
+        const BarLook& look = to[index].look;
+        const double change = std::abs(look.ratio - from[index].look.ratio);
+        pixels = std::max(pixels, change * to[index].fullLength * pixelsPerPoint);
+        isRecolored = isRecolored || (change > 0 && look.color != from[index].look.color);
+    }
+    if (pixels < smallestVisiblePixels && !isRecolored)
+        return std::nullopt;
+    const double steps =
+        isRecolored ? miniBarSeconds / shortestIntervalSeconds : pixels / smallestVisiblePixels;
+    const double seconds = std::clamp(miniBarSeconds / steps, shortestIntervalSeconds, miniBarSeconds);
+    return std::chrono::milliseconds(std::lround(seconds * 1000));
+}
+
+ItemPresenter::ItemPresenter(StatusItem& item, AnimationClock& clock)
+    : m_item(item)
+    , m_clock(clock)
+    , m_part(clock, [this](double seconds) { step(seconds); }) {
+    m_item.setPaint(
+        [this](QPainter& painter, const QRectF& bounds) { paintScene(painter, bounds, m_shown); });
+}
+
+void ItemPresenter::show(const ItemScene& scene) {
+    const bool isFirst = !std::exchange(m_hasScene, true);
+    if (!isFirst && scene == m_scene)
+        return;
+    const bool isReworded =
+        scene.accessibleName != m_scene.accessibleName || scene.accessibleText != m_scene.accessibleText;
+    const double pixelsPerPoint = m_item.visiblePixelsPerPoint();
+    m_scene = scene;
+    retarget(!isFirst && pixelsPerPoint > 0 && !m_clock.isReduced(), pixelsPerPoint);
+    if (isReworded)
+        m_item.setWords(m_scene.accessibleName, m_scene.accessibleText);
+    refresh();
+}
+
+void ItemPresenter::retarget(bool mayMove, double pixelsPerPoint) {
+    const QList<Level> target = easingLevelsOf(m_scene.body);
+    const QList<BarLook> looks = looksOf(target);
+    if (mayMove && looks == m_looks.target())
+        return; // they stand there, or are on their way there
+    const auto interval = easeInterval(easingLevelsOf(m_shown), target, pixelsPerPoint);
+    if (mayMove && interval) {
+        m_looks.retarget(looks, miniBarSeconds, easeInOut());
+        m_part.start(*interval);
+    } else {
+        m_looks.jump(looks);
+        m_part.stop();
+    }
+}
+
+void ItemPresenter::step(double seconds) {
+    m_looks.advance(seconds);
+    if (m_looks.isSettled())
+        m_part.stop();
+    refresh();
+}
+
+QList<Level> ItemPresenter::shownLevels() const {
+    QList<Level> levels = levelsOf(m_scene.body);
+    const QList<BarLook> looks = m_looks.shown();
+    qsizetype next = 0;
+    for (Level& level : levels) {
+        if (level.eases)
+            level.look = looks.at(next++);
+    }
+    return levels;
+}
+
+void ItemPresenter::refresh() {
+    SceneNode shown = withLevels(m_scene.body, shownLevels());
+    if (shown == m_shown)
+        return;
+    m_shown = std::move(shown);
+    m_item.repaint();
+}
+
+} // namespace orvelle

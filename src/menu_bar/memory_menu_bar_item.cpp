@@ -1,0 +1,62 @@
+#include "menu_bar/memory_menu_bar_item.h"
+
+#include "core/memory_monitor.h"
+#include "formatting/formatters.h"
+#include "menu_bar/item_nodes.h"
+#include "menu_bar/item_rules.h"
+#include "settings/settings_store.h"
+#include "theme/theme_manager.h"
+
+#include <algorithm>
+
+namespace orvelle {
+namespace {
+
+constexpr double memorySpacing = 3;
+constexpr QSizeF barSize(28, 8);
+constexpr double barCornerRadius = 3;
+constexpr QSizeF memoryHistorySize(28, 12);
+constexpr qsizetype dotCount = 5;
+constexpr double unlitOpacity = 0.2;
+
+} // namespace
+
+MemoryMenuBarItem::MemoryMenuBarItem(const MemoryMonitor& monitor, const SettingsStore& settings,
+                                     const ThemeManager& themes)
+    : m_monitor(monitor)
+    , m_settings(settings)
+    , m_themes(themes) {}
+
+ItemScene MemoryMenuBarItem::body() const {
+    return {
+        .body = picture(), .accessibleName = QStringLiteral("Memory"), .accessibleText = accessibleText()};
+}
+
+QString MemoryMenuBarItem::accessibleText() const {
+    return QStringLiteral("Memory %1").arg(formatPercent(usedFraction(m_monitor.info())));
+}
+
+SceneNode MemoryMenuBarItem::picture() const {
+    const QColor color = m_themes.memoryColor(m_settings);
+    const double used = usedFraction(m_monitor.info());
+    const SceneNode icon = iconNode(QStringLiteral("memorychip"), color);
+    switch (m_settings.menuBarDisplayStyle()) {
+    case MenuBarDisplayStyle::miniBars:
+        return row({icon, levelBarNode(barSize, barCornerRadius, std::min(used, 1.0), color, true),
+                    valueNode(formatPercent(used), smallValueFontSize)},
+                   memorySpacing);
+    case MenuBarDisplayStyle::textOnly:
+        return valueNode(formatPercent(used));
+    case MenuBarDisplayStyle::iconAndText:
+        return row({icon, valueNode(formatPercent(used))}, memorySpacing);
+    case MenuBarDisplayStyle::sparkline:
+        return row({icon, historyNode(m_monitor.pressureHistory(), color, 1.0, memoryHistorySize)},
+                   memorySpacing);
+    case MenuBarDisplayStyle::dotIndicator:
+        break;
+    }
+    const qsizetype lit = litDotCount(used * static_cast<double>(dotCount), dotCount);
+    return row({icon, dotsNode(meterColors(color, lit, dotCount, unlitOpacity))}, memorySpacing);
+}
+
+} // namespace orvelle

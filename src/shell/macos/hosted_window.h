@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shell/macos/native_view.h"
+#include "shell/macos/retained.h"
+
+#include <memory>
+
+namespace orvelle {
+
+/// A window of Qt as the content of a window of the system.
+class HostedWindow {
+public:
+    /// `window` has not been shown yet.
+    explicit HostedWindow(std::unique_ptr<QWindow> window);
+    ~HostedWindow();
+    HostedWindow(const HostedWindow&) = delete;
+    HostedWindow& operator=(const HostedWindow&) = delete;
+
+    /// As large as the window wanted to be; the window fills it and grows with it.
+    [[nodiscard]] NSView* container() const { return m_container.get(); }
+    /// Whether the content is drawn at all.
+    void setVisible(bool isVisible) { m_window->setVisible(isVisible); }
+    /// Gives the content the keys that are pressed in the system's window.
+    void takeKeys();
+
+private:
+    std::unique_ptr<QWindow> m_window;
+    Retained<NSView*> m_container;
+};
+
+} // namespace orvelle

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "shell/context_menu.h"
+#include "shell/macos/menu_target.h"
+#include "shell/macos/retained.h"
+
+namespace orvelle {
+
+/// The system's own menu under an item of its menu bar. While it is open `show` does not return; events and
+/// timers go on meanwhile.
+class MacosContextMenu final : public ContextMenu, private MenuListener {
+  public:
+    MacosContextMenu();
+    ~MacosContextMenu() override;
+    MacosContextMenu(const MacosContextMenu&) = delete;
+    MacosContextMenu& operator=(const MacosContextMenu&) = delete;
+
+    void show(const StatusItem& item, std::vector<MenuEntry> entries) override;
+    void close() override;
+
+  private:
+    void chosen(NSInteger index) override;
+    [[nodiscard]] NSMenuItem* makeItem(const MenuEntry& entry, NSInteger index) const;
+    [[nodiscard]] Retained<NSMenu*> makeMenu() const;
+
+    Retained<MenuTarget*> m_target;
+    // Kept until the next one opens: the system may send the choice after the menu has closed.
+    std::vector<MenuEntry> m_entries;
+    Retained<NSMenu*> m_menu;
+};
+
+} // namespace orvelle

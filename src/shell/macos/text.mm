@@ -1,0 +1,11 @@
+#include "shell/macos/text.h"
+
+namespace orvelle {
+
+NSString* systemText(const QString& text) {
+    return [NSString stringWithUTF8String:text.toUtf8().constData()];
+}
+
+QString qtText(NSString* text) { return QString::fromUtf8([text UTF8String]); }
+
+} // namespace orvelle

@@ -1,0 +1,153 @@
+#include "shell/painted/autostart_entry.h"
+
+#include <QHash>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace orvelle {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Inside the quotes of an argument these need a backslash.
+bool needsBackslash(QChar character) {
+    return character == u'"' || character == u'`' || character == u'$' || character == u'\\';
+}
+
+/// A value of the type string: a backslash starts an escape.
+QString textValue(const QString& raw) {
+    QString value;
+    for (qsizetype index = 0; index < raw.size(); ++index) {
+        if (raw[index] != u'\\' || index + 1 == raw.size()) {
+            value += raw[index];
+            continue;
+        }
+        const QChar escaped = raw[++index];
+        if (escaped == u's')
+            value += u' ';
+        else if (escaped == u'n')
+            value += u'\n';
+        else if (escaped == u't')
+            value += u'\t';
+        else if (escaped == u'r')
+            value += u'\r';
+        else
+            value += escaped;
+    }
+    return value;
+}
+
+bool isTrue(const QString& raw) {
+    return raw == u"true"_s || raw == u"1"_s; // the second is the older spelling
+}
+
+QStringList listValue(const QString& raw) {
+    return raw.split(u';', Qt::SkipEmptyParts);
+}
+
+/// The keys and raw values of the group `[Desktop Entry]`; nothing without the group.
+std::optional<QHash<QString, QString>> desktopEntryGroup(const QString& text) {
+    std::optional<QHash<QString, QString>> values;
+    for (const QStringView rawLine : QStringView(text).split(u'\n')) {
+        const QStringView line = rawLine.trimmed();
+        if (line.startsWith(u'[')) {
+            if (values)
+                return values;
+            if (line == u"[Desktop Entry]")
+                values.emplace();
+        } else if (const qsizetype equals = line.indexOf(u'='); values && equals > 0 && line[0] != u'#') {
+            const QString key = line.first(equals).trimmed().toString();
+            if (!values->contains(key))
+                values->insert(key, line.sliced(equals + 1).trimmed().toString());
+        }
+    }
+    return values;
+}
+
+} // namespace
+
+QString execArgument(const QString& programPath) {
+    QString argument = u"\""_s;
+    for (const QChar character : programPath) {
+        if (needsBackslash(character))
+            argument += u'\\';
+        argument += character;
+        if (character == u'%') // else the start of a field code
+            argument += u'%';
+    }
+    argument += u'"';
+    return argument.replace(u"\\"_s, u"\\\\"_s)
+        .replace(u"\n"_s, u"\\n"_s)
+        .replace(u"\t"_s, u"\\t"_s)
+        .replace(u"\r"_s, u"\\r"_s);
+}
+
+QString execProgram(const QString& exec) {
+    const QString text = exec.trimmed();
+    QString program;
+    bool isQuoted = false;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        const QChar character = text[index];
+        const bool isLast = index + 1 == text.size();
+        const bool escapesNext =
+            !isLast && ((isQuoted && character == u'\\') || (character == u'%' && text[index + 1] == u'%'));
+        if (character == u'"')
+            isQuoted = !isQuoted;
+        else if (escapesNext)
+            program += text[++index];
+        else if (!isQuoted && character.isSpace())
+            return program;
+        else
+            program += character;
+    }
+    return isQuoted ? QString() : program;
+}
+
+QByteArray autostartText(const QString& programPath) {
+    // A value of the type string keeps its leading blanks only when they are escaped.
+    QString tryExec = programPath;
+    tryExec.replace(u"\\"_s, u"\\\\"_s)
+        .replace(u"\n"_s, u"\\n"_s)
+        .replace(u"\t"_s, u"\\t"_s)
+        .replace(u"\r"_s, u"\\r"_s);
+    return u"[Desktop Entry]\n"
+           "Type=Application\n"
+           "Name=Orvelle\n"
+           "Comment=A system monitor in the menu bar\n"
+           "Exec=%1\n"
+           "TryExec=%2\n"
+           "Icon=orvelle\n"
+           "Terminal=false\n"
+           "X-GNOME-Autostart-enabled=true\n"_s.arg(execArgument(programPath), tryExec)
+               .toUtf8();
+}
+
+QByteArray hiddenAutostartText() {
+    return "[Desktop Entry]\nType=Application\nName=Orvelle\nHidden=true\n";
+}
+
+std::optional<AutostartEntry> parseAutostart(const QByteArray& text) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const auto values = desktopEntryGroup(decoder(text));
+    if (!values || values->value(u"Type"_s) != u"Application"_s)
+        return std::nullopt;
+    return AutostartEntry{.program = execProgram(textValue(values->value(u"Exec"_s))),
+                          .tryProgram = textValue(values->value(u"TryExec"_s)),
+                          .isHidden = isTrue(values->value(u"Hidden"_s)),
+                          .isSwitchedOff = values->contains(u"X-GNOME-Autostart-enabled"_s) &&
+                                           !isTrue(values->value(u"X-GNOME-Autostart-enabled"_s)),
+                          .onlyShowIn = listValue(values->value(u"OnlyShowIn"_s)),
+                          .notShowIn = listValue(values->value(u"NotShowIn"_s))};
+}
+
+bool isStartedBy(const AutostartEntry& entry, const QStringList& desktopNames) {
+    if (entry.isHidden || entry.isSwitchedOff || entry.program.isEmpty())
+        return false;
+    const auto names = [&](const QStringList& list) {
+        return std::ranges::any_of(desktopNames, [&](const QString& name) { return list.contains(name); });
+    };
+    return (entry.onlyShowIn.isEmpty() || names(entry.onlyShowIn)) && !names(entry.notShowIn);
+}
+
+} // namespace orvelle

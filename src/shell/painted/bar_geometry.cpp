@@ -1,0 +1,89 @@
+#include "shell/painted/bar_geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+bool shareColumns(const QRect& screen, int startX, int endX) {
+    return startX <= screen.right() && endX >= screen.left();
+}
+
+/// The rows that a dock takes, relative to the screen's upper edge; from first up to, not including, last.
+struct Rows {
+    int first = 0;
+    int last = 0;
+};
+
+Rows rowsOf(const TopDock& dock, const QRect& screen) {
+    const int bottom = std::max(dock.window.top() + dock.window.height(), dock.strut.height);
+    return {dock.window.top() - screen.top(), bottom - screen.top()};
+}
+
+} // namespace
+
+QRect screenPixels(const QRect& screenGeometry, double pixelsPerPoint) {
+    return {screenGeometry.topLeft(), (QSizeF(screenGeometry.size()) * pixelsPerPoint).toSize()};
+}
+
+int freeOffset(const QRect& screen, int height, const std::vector<TopDock>& others) {
+    std::vector<Rows> taken;
+    for (const TopDock& dock : others) {
+        if (shareColumns(screen, dock.strut.startX, dock.strut.endX))
+            taken.push_back(rowsOf(dock, screen));
+    }
+    std::ranges::sort(taken, {}, &Rows::first);
+
+    int offset = 0;
+    for (const Rows& rows : taken) {
+        if (rows.first < offset + height)
+            offset = std::max(offset, rows.last);
+    }
+    return offset + height <= screen.height() / 2 ? offset : 0;
+}
+
+QRect barGeometry(const QRect& screenGeometry, double pixelsPerPoint, int offset) {
+    // A whole number of points that is not less than the offset, so that the bar never covers the dock above.
+    const int offsetPoints = static_cast<int>(std::ceil(offset / pixelsPerPoint));
+    return {screenGeometry.left(), screenGeometry.top() + offsetPoints, screenGeometry.width(),
+            barHeightPoints};
+}
+
+QRect windowPixels(const QRect& geometry, const QRect& screenGeometry, double pixelsPerPoint) {
+    const QPointF fromOrigin = QPointF(geometry.topLeft() - screenGeometry.topLeft()) * pixelsPerPoint;
+    return {screenGeometry.topLeft() + fromOrigin.toPoint(),
+            (QSizeF(geometry.size()) * pixelsPerPoint).toSize()};
+}
+
+std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QSize& rootSize,
+                                 const std::vector<QRect>& otherScreens) {
+    const bool isBelowAnother = std::ranges::any_of(otherScreens, [&](const QRect& other) {
+        return other.top() < screen.top() && shareColumns(screen, other.left(), other.right());
+    });
+    if (isBelowAnother)
+        return std::nullopt;
+    // The bar can be a pixel wider than the screen when its width in points had to be rounded.
+    return TopStrut{.height = bar.top() + bar.height(),
+                    .startX = std::max(bar.left(), 0),
+                    .endX = std::min(bar.right(), rootSize.width() - 1)};
+}
+
+QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint) {
+    const auto pixels = [pixelsPerPoint](double points) { return std::round(points * pixelsPerPoint); };
+    // Each length is rounded by itself: were the edges, an item would change its width with its place.
+    double left = pixels(barWidth - barRightMarginPoints);
+    for (const double length : lengths)
+        left -= pixels(length);
+    QList<QRectF> bounds;
+    bounds.reserve(lengths.size());
+    for (const double length : lengths) {
+        const double right = left + pixels(length);
+        bounds.append(
+            QRectF(QPointF(left / pixelsPerPoint, 0), QPointF(right / pixelsPerPoint, barHeightPoints)));
+        left = right;
+    }
+    return bounds;
+}
+
+} // namespace orvelle

@@ -1,0 +1,177 @@
+#include "shell/painted/menu_window.h"
+
+#include "shell/painted/menu_accessibility.h"
+#include "shell/painted/menu_rules.h"
+#include "shell/painted/popup_geometry.h"
+#include "theme/fonts.h"
+#include "theme/label_colors.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+constexpr double fontSize = 13;
+constexpr int textInset = 10;
+constexpr int keysGap = 32; ///< at least this much between a title and its keys
+constexpr double plateRadius = 5;
+constexpr QColor background(40, 40, 43);
+constexpr QColor border(255, 255, 255, 40);
+constexpr QColor separatorColor(255, 255, 255, 36);
+constexpr QColor plateColor(10, 100, 220);
+
+QString keysText(const MenuEntry& entry) {
+    return menuKeys(entry).toString(QKeySequence::NativeText);
+}
+
+void paintBackground(QPainter& painter, const QSize& size, double pixelsPerPoint) {
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(QRect(QPoint(0, 0), size), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    const double line = 1 / pixelsPerPoint;
+    painter.setPen(QPen(border, line));
+    painter.setBrush(background);
+    const double radius = popupCornerRadiusPoints - line / 2;
+    painter.drawRoundedRect(QRectF(QPointF(0, 0), size).adjusted(line / 2, line / 2, -line / 2, -line / 2),
+                            radius, radius);
+}
+
+} // namespace
+
+MenuWindow::MenuWindow() {
+    setTitle(QStringLiteral("Orvelle menu"));
+    QSurfaceFormat translucent = requestedFormat();
+    translucent.setAlphaBufferSize(8);
+    setFormat(translucent);
+    installMenuAccessibility();
+}
+
+void MenuWindow::setEntries(std::vector<MenuEntry> entries) {
+    setCurrent(std::nullopt);
+    m_accessibleEntries.clear(); // while the old entries are still there to be announced
+    m_entries = std::move(entries);
+    m_accessibleEntries = std::vector<PaintedPartHolder>(m_entries.size());
+    update();
+}
+
+QSize MenuWindow::wantedSize() const {
+    const QFontMetricsF metrics(systemFont(fontSize));
+    double width = 0;
+    for (const MenuEntry& entry : m_entries) {
+        const double keys = metrics.horizontalAdvance(keysText(entry));
+        width = std::max(width, metrics.horizontalAdvance(entry.title) + (keys > 0 ? keysGap + keys : 0));
+    }
+    const int wholeWidth = static_cast<int>(std::ceil(width)) + 2 * (textInset + menuPaddingPoints);
+    const QList<QRect> rows = menuRows(m_entries, wholeWidth);
+    const int lastBottom = rows.isEmpty() ? menuPaddingPoints : rows.last().y() + rows.last().height();
+    return {wholeWidth, lastBottom + menuPaddingPoints};
+}
+
+void MenuWindow::setCurrent(std::optional<std::size_t> index) {
+    if (std::exchange(m_current, index) == index)
+        return;
+    update();
+    if (index && hasAssistiveListener())
+        announce(*accessibleRoot()->child(static_cast<int>(*index)), QAccessible::Focus);
+}
+
+QAccessibleInterface* MenuWindow::accessibleRoot() const {
+    return QAccessible::queryAccessibleInterface(const_cast<MenuWindow*>(this));
+}
+
+void MenuWindow::showEvent(QShowEvent* event) {
+    QRasterWindow::showEvent(event);
+    if (hasAssistiveListener())
+        announce(*accessibleRoot(), QAccessible::PopupMenuStart);
+}
+
+void MenuWindow::hideEvent(QHideEvent* event) {
+    QRasterWindow::hideEvent(event);
+    if (hasAssistiveListener())
+        announce(*accessibleRoot(), QAccessible::PopupMenuEnd);
+}
+
+std::optional<std::size_t> MenuWindow::entryAt(const QPointF& position) const {
+    const QList<QRect> rows = menuRows(m_entries, width());
+    for (std::size_t index = 0; index < m_entries.size(); ++index) {
+        if (!isSeparator(m_entries[index]) && QRectF(rows[static_cast<qsizetype>(index)]).contains(position))
+            return index;
+    }
+    return std::nullopt;
+}
+
+void MenuWindow::mouseMoveEvent(QMouseEvent* event) {
+    setCurrent(entryAt(event->position()));
+}
+
+void MenuWindow::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
+        return;
+    if (const std::optional<std::size_t> index = entryAt(event->position()))
+        Q_EMIT chosen(*index);
+}
+
+bool MenuWindow::event(QEvent* event) {
+    if (event->type() == QEvent::Leave)
+        setCurrent(std::nullopt);
+    return QRasterWindow::event(event);
+}
+
+void MenuWindow::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Down:
+        return setCurrent(nextEntry(m_entries, m_current, 1));
+    case Qt::Key_Up:
+        return setCurrent(nextEntry(m_entries, m_current, -1));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (m_current)
+            Q_EMIT chosen(*m_current);
+        return;
+    default:
+        break;
+    }
+    const QKeySequence keys(event->keyCombination());
+    const auto found = std::ranges::find_if(m_entries, [&keys](const MenuEntry& entry) {
+        return !entry.keyEquivalent.isEmpty() && menuKeys(entry) == keys;
+    });
+    if (found != m_entries.end())
+        Q_EMIT chosen(static_cast<std::size_t>(found - m_entries.begin()));
+}
+
+void MenuWindow::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintBackground(painter, size(), devicePixelRatio());
+    painter.setFont(systemFont(fontSize));
+    const QList<QRect> rows = menuRows(m_entries, width());
+    for (std::size_t index = 0; index < m_entries.size(); ++index)
+        paintRow(painter, index, rows[static_cast<qsizetype>(index)]);
+}
+
+void MenuWindow::paintRow(QPainter& painter, std::size_t index, const QRect& row) const {
+    const MenuEntry& entry = m_entries[index];
+    const QRect text = row.adjusted(textInset, 0, -textInset, 0);
+    if (isSeparator(entry)) {
+        painter.fillRect(QRect(text.left(), row.center().y(), text.width(), 1), separatorColor);
+        return;
+    }
+    const bool isCurrent = m_current == index;
+    if (isCurrent) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(plateColor);
+        painter.drawRoundedRect(row, plateRadius, plateRadius);
+    }
+    painter.setPen(LabelColors::primary);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, entry.title);
+    painter.setPen(isCurrent ? LabelColors::primary : LabelColors::secondary);
+    painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, keysText(entry));
+}
+
+} // namespace orvelle

@@ -1,0 +1,44 @@
+#include "shell/painted/popup_geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+/// The left edge nearest to `wanted` at which `width` points stay on the screen; its margin where they are
+/// too many.
+int keptOnScreen(double wanted, int width, const QRect& screen) {
+    const int first = screen.left() + screenMarginPoints;
+    const int last = screen.left() + screen.width() - screenMarginPoints - width;
+    return std::max(first, std::min(static_cast<int>(std::lround(wanted)), last));
+}
+
+} // namespace
+
+QRect menuGeometry(const QRectF& item, const QSize& size, const QRect& screen) {
+    return {
+        QPoint(keptOnScreen(item.left(), size.width(), screen), static_cast<int>(std::ceil(item.bottom()))),
+        size};
+}
+
+QRect popoverGeometry(const QRectF& item, const QSize& size, const QRect& screen) {
+    const int top = static_cast<int>(std::ceil(item.bottom())) + screenMarginPoints;
+    const int room = screen.top() + screen.height() - screenMarginPoints - top;
+    return {keptOnScreen(item.center().x() - size.width() / 2.0, size.width(), screen), top, size.width(),
+            std::clamp(room, 1, size.height())};
+}
+
+QRegion roundedRegion(const QSize& size, int radius) {
+    QRegion region(0, radius, size.width(), size.height() - 2 * radius);
+    for (int row = 0; row < radius; ++row) {
+        const double fromCentre = radius - row - 0.5;
+        const auto inset =
+            static_cast<int>(std::lround(radius - std::sqrt(radius * radius - fromCentre * fromCentre)));
+        region += QRect(inset, row, size.width() - 2 * inset, 1);
+        region += QRect(inset, size.height() - 1 - row, size.width() - 2 * inset, 1);
+    }
+    return region;
+}
+
+} // namespace orvelle

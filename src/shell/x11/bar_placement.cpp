@@ -1,0 +1,129 @@
+#include "shell/x11/bar_placement.h"
+
+#include "shell/x11/x11_connection.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include <cmath>
+
+namespace orvelle {
+namespace {
+
+/// Screens, docks and window managers change in bursts; this long after the first sign of one the bar moves.
+/// It also bounds the cost of a dispute with another program that moves its dock out of the way.
+constexpr std::chrono::milliseconds burstDuration{50};
+
+std::vector<QRect> pixelsOfScreensOtherThan(const QScreen& screen) {
+    std::vector<QRect> others;
+    for (const QScreen* other : screen.virtualSiblings()) {
+        if (other != &screen)
+            others.push_back(screenPixels(other->geometry(), other->devicePixelRatio()));
+    }
+    return others;
+}
+
+} // namespace
+
+BarPlacement::BarPlacement(QWindow& bar)
+    : m_bar(bar) {
+    m_timer.setSingleShot(true);
+    m_timer.callOnTimeout(this, &BarPlacement::update);
+    // A window manager may be asked to close any window; a bar that still has items comes back.
+    connect(&m_bar, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible && m_isShown)
+            updateSoon();
+    });
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &BarPlacement::updateSoon);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &BarPlacement::watchScreen);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &BarPlacement::updateSoon);
+    for (QScreen* screen : QGuiApplication::screens())
+        watchScreen(screen);
+    qGuiApp->installNativeEventFilter(this);
+}
+
+BarPlacement::~BarPlacement() {
+    qGuiApp->removeNativeEventFilter(this);
+}
+
+void BarPlacement::watchScreen(QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, &BarPlacement::updateSoon);
+    connect(screen, &QScreen::logicalDotsPerInchChanged, this, &BarPlacement::updateSoon);
+    updateSoon();
+}
+
+bool BarPlacement::nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) {
+    if (m_desktop && eventType == "xcb_generic_event_t" &&
+        m_desktop->isLayoutChange(*static_cast<xcb_generic_event_t*>(message)))
+        updateSoon();
+    return false;
+}
+
+void BarPlacement::setShown(bool shown) {
+    m_isShown = shown;
+    m_timer.start(0);
+}
+
+void BarPlacement::updateSoon() {
+    if (!m_timer.isActive())
+        m_timer.start(burstDuration);
+}
+
+void BarPlacement::update() {
+    if (!m_isShown) {
+        m_bar.hide();
+        return;
+    }
+    // There is none for a moment while the last screen is unplugged.
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr)
+        return;
+    m_bar.setScreen(screen);
+    if (!m_bar.isVisible())
+        declareDock();
+    place(*screen);
+    m_bar.show();
+}
+
+void BarPlacement::declareDock() {
+    m_bar.create();
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return;
+    const auto window = static_cast<xcb_window_t>(m_bar.winId());
+    if (!m_desktop)
+        m_desktop.emplace(connection, window);
+    m_desktop->declareDock(window);
+    m_strut.reset();
+    m_desktop->setStrut(window, m_strut);
+}
+
+void BarPlacement::place(const QScreen& screen) {
+    const QRect geometry = screen.geometry();
+    const double pixelsPerPoint = screen.devicePixelRatio();
+    if (!m_desktop) {
+        m_bar.setGeometry(barGeometry(geometry, pixelsPerPoint, 0));
+        return;
+    }
+    const auto window = static_cast<xcb_window_t>(m_bar.winId());
+    const QRect pixels = screenPixels(geometry, pixelsPerPoint);
+    const int height = static_cast<int>(std::ceil(barHeightPoints * pixelsPerPoint));
+    const int offset = freeOffset(pixels, height, m_desktop->otherTopDocks(window));
+    const QRect target = barGeometry(geometry, pixelsPerPoint, offset);
+    // At a scale of 1.5 Qt asks for steps of 2 pixels, and the window manager cuts 33 pixels to 32. Steps
+    // count from the base size.
+    m_bar.setBaseSize(target.size());
+    m_bar.setGeometry(target);
+
+    const std::optional<TopStrut> strut =
+        strutFor(windowPixels(target, geometry, pixelsPerPoint), pixels,
+                 m_desktop->rootSize().value_or(pixels.size()), pixelsOfScreensOtherThan(screen));
+    // The window manager answers every strut, changed or not, with an announcement that leads back here.
+    if (strut != m_strut) {
+        m_desktop->setStrut(window, strut);
+        m_strut = strut;
+    }
+}
+
+} // namespace orvelle

@@ -1,0 +1,105 @@
+#include "shell/x11/popup_window.h"
+
+#include "shell/painted/popup_geometry.h"
+#include "shell/x11/input_focus.h"
+#include "shell/x11/pointer_presses.h"
+#include "shell/x11/x11_connection.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include <string>
+#include <utility>
+
+namespace orvelle {
+namespace {
+
+bool desktopComposesWindows() {
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return false;
+    const xcb_atom_t compositor = internAtom(connection, "_NET_WM_CM_S" + std::to_string(screenNumber()));
+    const auto owner = takeReply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+} // namespace
+
+PopupWindow::PopupWindow(QWindow& window)
+    : m_window(window)
+    , m_fade(window) {
+    // Not a popup, whose grab would take the click that closes it away from what was clicked.
+    m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    m_window.installEventFilter(this);
+    connect(&m_window, &QWindow::activeChanged, this, &PopupWindow::activeChanged);
+    connect(&m_window, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible)
+            close();
+    });
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PopupWindow::close);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PopupWindow::close);
+}
+
+PopupWindow::~PopupWindow() = default;
+
+bool PopupWindow::paintsItsCorners() const {
+    return m_window.requestedFormat().hasAlpha() && desktopComposesWindows();
+}
+
+void PopupWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spared) {
+    m_spared = spared;
+    m_isPainted = m_window.isExposed();
+    m_window.setScreen(&screen);
+    connect(&screen, &QScreen::geometryChanged, this, &PopupWindow::close, Qt::UniqueConnection);
+    // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
+    // step is 2 pixels.
+    m_window.setBaseSize(geometry.size());
+    m_window.setGeometry(geometry);
+    m_window.setMask(paintsItsCorners() ? QRegion() : roundedRegion(geometry.size(), popupCornerRadiusPoints));
+    m_wasActive = false;
+    m_presses = std::make_unique<PointerPresses>();
+    connect(m_presses.get(), &PointerPresses::pressed, this, &PopupWindow::pressed);
+    m_fade.show(desktopComposesWindows());
+    m_window.requestActivate();
+}
+
+void PopupWindow::close() {
+    if (!isShown())
+        return;
+    m_presses.release()->deleteLater(); // it may be what asks for this
+    m_fade.hide(m_window.isVisible() && desktopComposesWindows());
+    Q_EMIT closed();
+}
+
+void PopupWindow::pressed() {
+    const QPoint position = QCursor::pos();
+    if (!m_window.geometry().contains(position) && !m_spared.contains(position))
+        close();
+}
+
+void PopupWindow::activeChanged() {
+    // Qt tells of a lost keyboard late: it may have come back since, as when a window manager gave it first
+    // to a window that was about to close.
+    if (m_window.isActive())
+        m_wasActive = true;
+    else if (m_wasActive && !InputFocus::isIn(m_window.winId()))
+        close();
+}
+
+bool PopupWindow::eventFilter(QObject* watched, QEvent* event) {
+    // The window paints when it handles the event, which is after this filter.
+    if (event->type() == QEvent::Expose && m_window.isExposed() && !std::exchange(m_isPainted, true))
+        QMetaObject::invokeMethod(this, &PopupWindow::painted, Qt::QueuedConnection);
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        Q_EMIT dismissed();
+        close();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orvelle

@@ -1,0 +1,88 @@
+#include "shell/single_instance.h"
+
+#include "shell/desktop.h"
+#include "shell/x11/x11_connection.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+
+namespace orvelle {
+namespace {
+
+/// A window that is never shown: what owns a selection must be a window, and what is told something too.
+xcb_window_t createHiddenWindow(xcb_connection_t* connection) {
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, 0, window, rootWindow(connection), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    return window;
+}
+
+/// Owns the selection by a hidden window and is told of later starts by messages to it.
+class SelectionOwner final : public SingleInstance, private QAbstractNativeEventFilter {
+public:
+    SelectionOwner(xcb_connection_t* connection, xcb_atom_t instance)
+        : m_connection(connection)
+        , m_instance(instance)
+        , m_window(createHiddenWindow(connection)) {
+        xcb_set_selection_owner(m_connection, m_window, m_instance, XCB_CURRENT_TIME);
+        QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+    ~SelectionOwner() override {
+        QCoreApplication::instance()->removeNativeEventFilter(this);
+        xcb_destroy_window(m_connection, m_window); // gives the selection up
+        xcb_flush(m_connection);
+    }
+
+private:
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
+        constexpr std::uint8_t sentByClient = 0x80;
+        if (eventType != "xcb_generic_event_t")
+            return false;
+        const auto& event = *static_cast<const xcb_client_message_event_t*>(message);
+        if ((event.response_type & ~sentByClient) == XCB_CLIENT_MESSAGE && event.window == m_window &&
+            event.type == m_instance)
+            Q_EMIT startedAgain();
+        return false;
+    }
+
+    xcb_connection_t* m_connection;
+    xcb_atom_t m_instance;
+    xcb_window_t m_window;
+};
+
+void tellOfAnotherStart(xcb_connection_t* connection, xcb_window_t owner, xcb_atom_t instance) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = owner;
+    message.type = instance;
+    xcb_send_event(connection, 0, owner, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&message)); // to the client that created the window
+    xcb_flush(connection);
+}
+
+} // namespace
+
+// The server keeps who owns a selection and forgets it when that process ends, however it ends; unlike a file
+// it also tells apart the desktops of one user.
+std::unique_ptr<SingleInstance> becomeSingleInstance() {
+    xcb_connection_t* connection = xcbConnection();
+    const xcb_atom_t instance =
+        connection != nullptr ? internAtom(connection, "_ORVELLE_INSTANCE") : xcb_atom_t{XCB_ATOM_NONE};
+    if (instance == XCB_ATOM_NONE)
+        return std::make_unique<SingleInstance>(); // nobody can be asked
+    // Nobody else may ask between the question and the claim.
+    xcb_grab_server(connection);
+    const auto owner = takeReply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, instance), nullptr));
+    std::unique_ptr<SingleInstance> only;
+    if (owner && owner->owner != XCB_WINDOW_NONE)
+        tellOfAnotherStart(connection, owner->owner, instance);
+    else
+        only = std::make_unique<SelectionOwner>(connection, instance);
+    xcb_ungrab_server(connection);
+    xcb_flush(connection);
+    return only;
+}
+
+} // namespace orvelle

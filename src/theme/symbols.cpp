@@ -1,0 +1,75 @@
+#include "theme/symbols.h"
+
+#include "theme/device_pixels.h"
+#include "theme/symbol_shapes.h"
+
+#include <QCache>
+
+#include <algorithm>
+
+namespace orvelle {
+namespace {
+
+struct SymbolKey {
+    QString name;
+    double fontSize = 0;
+    QRgb color = 0;
+    double devicePixelRatio = 0;
+    int weight = 0;
+
+    bool operator==(const SymbolKey&) const = default;
+};
+
+size_t qHash(const SymbolKey& key, size_t seed = 0) {
+    return qHashMulti(seed, key.name, key.fontSize, key.color, key.devicePixelRatio, key.weight);
+}
+
+QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
+    const int side = std::max(1, qRound(symbolExtent(key.fontSize) * key.devicePixelRatio));
+    QImage image = symbolShape(key.name, side, weight);
+    if (image.isNull()) {
+        qWarning("No symbol is named \"%s\"", qUtf8Printable(key.name));
+        return {};
+    }
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), QColor::fromRgba(key.color));
+    painter.end();
+    image.setDevicePixelRatio(key.devicePixelRatio);
+    return image;
+}
+
+} // namespace
+
+bool isKnownSymbol(QStringView name) {
+    return hasSymbolShape(name);
+}
+
+QImage symbolImage(QStringView name, double fontSize, const QColor& color, double devicePixelRatio,
+                   QFont::Weight weight) {
+    constexpr double largestSide = 4096;
+    const double side = symbolExtent(fontSize) * devicePixelRatio;
+    if (!(fontSize > 0) || !(devicePixelRatio > 0) || !(side <= largestSide))
+        return {};
+    constexpr qsizetype keptBytes = qsizetype{1024} * 1024;
+    static QCache<SymbolKey, QImage> cache(keptBytes);
+    const SymbolKey key{name.toString(), fontSize, color.rgba(), devicePixelRatio, weight};
+    if (const QImage* kept = cache.object(key))
+        return *kept;
+    QImage image = renderSymbol(key, weight);
+    if (!image.isNull())
+        cache.insert(key, new QImage(image), image.sizeInBytes());
+    return image;
+}
+
+void paintSymbol(QPainter& painter, QStringView name, const QPointF& center, double fontSize,
+                 const QColor& color, QFont::Weight weight) {
+    const QImage image = symbolImage(name, fontSize, color, devicePixelsPerPoint(painter), weight);
+    if (image.isNull())
+        return;
+    const QSizeF size = image.deviceIndependentSize();
+    const QPointF topLeft = center - QPointF(size.width() / 2, size.height() / 2);
+    painter.drawImage(QRectF(snappedToDevicePixels(painter, topLeft), size), image);
+}
+
+} // namespace orvelle

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "theme/app_theme.h"
+
+#include <QObject>
+
+namespace orvelle {
+
+class SettingsStore;
+
+/// The current theme, and the colour of each module: the user's own colour where one is switched on and can
+/// be read, else that of the theme. Views ask here for a module's colour and observe the store beside the
+/// theme, because the user's own colours are settings. Main thread only.
+class ThemeManager : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(orvelle::AppTheme currentTheme READ currentTheme NOTIFY currentThemeChanged)
+
+public:
+    /// Starts with the theme that the store names, and follows it.
+    explicit ThemeManager(SettingsStore& settings, QObject* parent = nullptr);
+
+    [[nodiscard]] static const QList<AppTheme>& builtInThemes() { return orvelle::builtInThemes(); }
+
+    /// Midnight while the store names no theme.
+    [[nodiscard]] const AppTheme& currentTheme() const { return m_currentTheme; }
+
+    /// Makes the theme with this id the current one and stores the id; an id that no theme has changes
+    /// nothing.
+    Q_INVOKABLE void selectTheme(const QString& id);
+
+    [[nodiscard]] QColor cpuColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor memoryColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor networkColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor diskColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor batteryColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor sensorColor(const SettingsStore& settings) const;
+
+Q_SIGNALS:
+    void currentThemeChanged();
+
+private:
+    void followStoredId();
+
+    SettingsStore& m_settings;
+    AppTheme m_currentTheme;
+};
+
+} // namespace orvelle

@@ -1,0 +1,111 @@
+#include "windows/charts/chart_item.h"
+
+#include <QPainter>
+#include <QQuickPaintedItem>
+#include <QQuickWindow>
+
+#include <cmath>
+
+namespace orvelle {
+
+/// What a chart item is painted on. It is larger than the item by the overhang, because an item's own picture
+/// ends at its edges.
+class ChartCanvas final : public QQuickPaintedItem {
+public:
+    explicit ChartCanvas(ChartItem& host)
+        : QQuickPaintedItem(&host)
+        , m_host(host) {}
+
+    void paint(QPainter* painter) override {
+        painter->translate(-position());
+        m_host.paintChart(*painter, {{0, 0}, m_host.size()});
+    }
+
+private:
+    ChartItem& m_host;
+};
+
+ChartItem::ChartItem(AnimationClock& clock)
+    : m_clock(clock)
+    , m_part(clock, [this](double seconds) { step(seconds); })
+    , m_canvas(new ChartCanvas(*this)) {
+    connect(this, &ChartItem::changed, this, &ChartItem::followChange);
+    connect(&clock, &AnimationClock::reducedChanged, this, &ChartItem::refresh);
+}
+
+ChartItem::~ChartItem() = default;
+
+std::chrono::milliseconds ChartItem::frameInterval() const {
+    return std::chrono::milliseconds(16);
+}
+
+void ChartItem::componentComplete() {
+    QQuickItem::componentComplete();
+    updateShown();
+}
+
+void ChartItem::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickItem::itemChange(change, data);
+    if (change == ItemSceneChange)
+        watchWindow(data.window);
+    else if (change == ItemVisibleHasChanged)
+        updateShown();
+}
+
+void ChartItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        fitCanvas();
+}
+
+void ChartItem::watchWindow(QQuickWindow* window) {
+    disconnect(m_windowShown);
+    if (window != nullptr)
+        m_windowShown = connect(window, &QWindow::visibleChanged, this, &ChartItem::updateShown);
+    updateShown();
+}
+
+void ChartItem::updateShown() {
+    const bool isShown = isComponentComplete() && isVisible() && window() != nullptr && window()->isVisible();
+    if (m_isShown == isShown)
+        return;
+    m_isShown = isShown;
+    if (isShown && !m_hasOpened) {
+        m_hasOpened = true;
+        open();
+    }
+    refresh();
+}
+
+void ChartItem::followChange() {
+    follow();
+    refresh();
+}
+
+void ChartItem::step(double seconds) {
+    advance(seconds);
+    refresh();
+    Q_EMIT moved();
+}
+
+void ChartItem::refresh() {
+    if (!mayMove())
+        settle();
+    const QSizeF natural = naturalSize();
+    setImplicitSize(natural.width(), natural.height());
+    fitCanvas();
+    m_canvas->update();
+    if (mayMove() && isMoving())
+        m_part.start(frameInterval());
+    else
+        m_part.stop();
+}
+
+void ChartItem::fitCanvas() {
+    // Whole points keep the picture on the pixels that it was painted for.
+    const double room = std::ceil(overhang());
+    m_canvas->setPosition({-room, -room});
+    m_canvas->setSize(size() + 2 * QSizeF(room, room));
+}
+
+} // namespace orvelle

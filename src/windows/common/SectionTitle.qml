@@ -1,0 +1,9 @@
+import QtQuick
+import Orvelle.Common
+
+PlainText {
+    size: 10
+    weight: Font.DemiBold
+    color: Look.secondaryLabel
+    Accessible.role: Accessible.Heading
+}

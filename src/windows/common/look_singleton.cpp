@@ -1,0 +1,12 @@
+#include "windows/common/look_singleton.h"
+
+#include "theme/font_changes.h"
+
+namespace orvelle {
+
+Look::Look(QObject* parent)
+    : QObject(parent) {
+    connect(&FontChanges::shared(), &FontChanges::changed, this, &Look::fontsChanged);
+}
+
+} // namespace orvelle

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Charts
+import Orvelle.Common
+import Orvelle.Panels
+
+PanelBody {
+    id: panel
+
+    required property CPUMonitor cpu
+    required property ProcessMonitor process
+    readonly property var coreUsages: cpu.coreUsages
+    readonly property color moduleColor: colors.cpu
+
+    PanelHeader {
+        symbol: "cpu"
+        title: "CPU"
+        moduleColor: panel.moduleColor
+        PlainText {
+            objectName: "totalUsage"
+            text: PanelRules.percentText(panel.cpu.totalUsage * 100)
+            size: 18
+            weight: Font.Bold
+            color: panel.moduleColor
+            Accessible.name: "Total usage " + text
+        }
+    }
+    Divider {}
+    ColumnLayout {
+        spacing: 6
+        SectionTitle { text: "PER CORE" }
+        AnimatedBarChart {
+            objectName: "coreChart"
+            Layout.fillWidth: true
+            Layout.preferredHeight: 50
+            values: panel.coreUsages.map(core => core.user + core.system)
+            maxValue: 1
+            barSpacing: 2
+            cornerRadius: 2
+            baseColor: panel.moduleColor
+            showGlow: PanelRules.hasGlow(panel.settings.glowIntensity)
+            animateChanges: true
+            barStyle: panel.settings.barChartStyle
+            glowIntensity: panel.settings.glowIntensity
+            animationSpeed: panel.settings.animationSpeed
+            Accessible.role: Accessible.Chart
+            Accessible.name: "Usage per core"
+        }
+        RowLayout {
+            spacing: 12
+            LegendItem {
+                text: "User: " + PanelRules.percentText(panel.cpu.userUsage * 100)
+                swatchColor: panel.moduleColor
+            }
+            LegendItem {
+                text: "System: " + PanelRules.percentText(panel.cpu.systemUsage * 100)
+                swatchColor: Look.withOpacity(panel.moduleColor, 0.5)
+            }
+        }
+    }
+    Divider {}
+    ColumnLayout {
+        spacing: 6
+        SectionTitle { text: "HISTORY (60s)" }
+        HistoryGraph {
+            objectName: "history"
+            Layout.preferredHeight: 60
+            settings: panel.settings
+            themeManager: panel.themeManager
+            data: panel.cpu.usageHistory
+            lineColor: panel.moduleColor
+            Accessible.name: "Usage history"
+        }
+    }
+    Divider {}
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: 0
+        StatisticColumn {
+            label: "Load Average"
+            value: PanelRules.loadAveragesText(panel.cpu.loadAverage1, panel.cpu.loadAverage5,
+                                               panel.cpu.loadAverage15)
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 8
+        }
+        StatisticColumn {
+            label: "Uptime"
+            value: PanelRules.formatUptime(panel.cpu.uptime)
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.minimumWidth: 8
+        }
+        StatisticColumn {
+            label: "Cores"
+            value: panel.coreUsages.length
+        }
+    }
+    Divider {}
+    ProcessListView {
+        objectName: "processes"
+        title: "Top Processes"
+        processes: panel.process.topCPUProcesses
+        mode: ProcessListView.DisplayMode.CPU
+        accentColor: panel.moduleColor
+    }
+}

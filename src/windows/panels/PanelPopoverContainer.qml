@@ -1,0 +1,69 @@
+import QtQuick
+import Orvelle.Common
+import Orvelle.Panels
+
+/// The frame of every panel: the content, which scrolls where it is high, above a footer with the button that
+/// opens the settings.
+FocusScope {
+    id: container
+
+    required property ThemeManager themeManager
+    required property Item content
+    required property real cornerRadius
+    signal openSettings()
+
+    width: 320
+    height: 500
+    focus: true
+    Keys.forwardTo: [scroller] // also from the footer
+
+    readonly property bool isWindowShown: Window.visibility !== Window.Hidden
+    onIsWindowShownChanged: if (!isWindowShown) scroller.reset()
+
+    readonly property Item focusedItem: Window.activeFocusItem
+    onFocusedItemChanged: {
+        for (let item = focusedItem; item !== null; item = item.parent) {
+            if (item === content)
+                scroller.reveal(focusedItem);
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: container.cornerRadius
+        color: container.themeManager.currentTheme.backgroundColor
+        border.width: radius > 0 ? 1 / Screen.devicePixelRatio : 0
+        border.color: Look.separator
+    }
+    Scroller {
+        id: scroller
+        objectName: "scroller"
+        width: parent.width
+        anchors.top: parent.top
+        anchors.bottom: divider.top
+        content: container.content
+        focus: true
+    }
+    Divider {
+        id: divider
+        width: parent.width
+        anchors.bottom: footer.top
+    }
+    Item {
+        id: footer
+        objectName: "footer"
+        width: parent.width
+        height: button.height + 2 * 8
+        anchors.bottom: parent.bottom
+
+        SettingsButton {
+            id: button
+            objectName: "settingsButton"
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            y: Look.centred(parent.height, height)
+            focusColor: container.themeManager.currentTheme.accentColor
+            onPressed: container.openSettings()
+        }
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvelle.Common
+import Orvelle.Panels
+
+/// A mounted volume: its name, how full it is, and its sizes.
+Rectangle {
+    id: card
+
+    required property var volume
+    required property color moduleColor
+    readonly property real used: PanelRules.volumeUsedFraction(volume)
+    readonly property color usageColor: PanelRules.volumeUsageColor(used, moduleColor)
+
+    Layout.fillWidth: true
+    implicitHeight: rows.implicitHeight + 2 * 8
+    radius: 6
+    color: Look.card
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: volume.name + " " + PanelRules.formatPercent(used)
+
+    ColumnLayout {
+        id: rows
+        x: 8
+        y: 8
+        width: card.width - 2 * 8
+        spacing: 6
+
+        RowLayout {
+            spacing: 6
+            Symbol {
+                objectName: "symbol"
+                name: PanelRules.volumeSymbol(card.volume.id)
+                fontSize: 11
+                color: Look.secondaryLabel
+            }
+            PlainText {
+                text: card.volume.name
+                Layout.fillWidth: true
+            }
+            PlainText {
+                objectName: "percent"
+                text: PanelRules.formatPercent(card.used)
+                weight: Font.DemiBold
+                monospaced: true
+                color: card.usageColor
+            }
+        }
+        UsageBar {
+            fraction: card.used
+            fillColor: card.usageColor
+        }
+        // In a wide font the last size stands below the others.
+        Flow {
+            id: sizes
+            readonly property real leastSpacing: 6
+            readonly property real freeWidth: width - usedSize.width - freeSize.width - totalSize.width
+            Layout.fillWidth: true
+            spacing: freeWidth < 2 * leastSpacing ? leastSpacing : freeWidth / 2
+            PlainText {
+                id: usedSize
+                text: PanelRules.byteSizeText(PanelRules.volumeUsedBytes(card.volume)) + " used"
+                size: 9
+                color: Look.secondaryLabel
+            }
+            PlainText {
+                id: freeSize
+                text: PanelRules.byteSizeText(card.volume.freeSpace) + " free"
+                size: 9
+                color: Look.secondaryLabel
+            }
+            PlainText {
+                id: totalSize
+                text: PanelRules.byteSizeText(card.volume.totalSpace) + " total"
+                size: 9
+                color: Look.secondaryLabel
+            }
+        }
+    }
+}

@@ -1,0 +1,9 @@
+#include "windows/panels/machine_word.h"
+
+namespace orvelle {
+
+QString machineWord() {
+    return QStringLiteral("computer");
+}
+
+} // namespace orvelle

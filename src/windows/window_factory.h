@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QStringView>
+#include <QWindow>
+
+#include <functional>
+#include <memory>
+
+namespace orvelle {
+
+class SettingsStore;
+class SystemMonitor;
+class ThemeManager;
+
+/// What the windows show, and what they ask of the program.
+struct WindowContext {
+    SystemMonitor& monitor;
+    SettingsStore& settings;
+    ThemeManager& themes;
+    std::function<void()> openSettings;
+    std::function<void()> quitApp;
+    /// Null, or an object with a text property `error`: why the program could not be made to start at login.
+    QObject* launchAtLogin = nullptr;
+};
+
+/// Makes the contents of the program's windows. They must not outlive it. Main thread only.
+class WindowFactory {
+public:
+    virtual ~WindowFactory() = default;
+
+    /// The detail panel of the module with this key in its frame, not shown yet, 320 x 500 points with its
+    /// corners rounded by so many; null for a key that no module has.
+    [[nodiscard]] virtual std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) = 0;
+    /// The settings, not shown yet.
+    [[nodiscard]] virtual std::unique_ptr<QWindow> makeSettings() = 0;
+};
+
+/// Everything in the context must outlive the result. Null, with the reason on the program's standard error,
+/// when they cannot be loaded, which happens when the program is not installed whole.
+[[nodiscard]] std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context);
+
+} // namespace orvelle

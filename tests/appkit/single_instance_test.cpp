@@ -1,0 +1,56 @@
+#include "appkit/program.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+namespace orvelle {
+namespace {
+
+using namespace simulated;
+
+class SingleInstanceTest : public AppKitTest {};
+
+TEST_F(SingleInstanceTest, IsTheOneThatRunsAlone) {
+    EXPECT_NE(becomeSingleInstance(), nullptr);
+    EXPECT_TRUE(desktop().deeds.empty());
+}
+
+TEST_F(SingleInstanceTest, IsNotASecondProcessWhichHasTheFirstOneToldOfIt) {
+    desktop().script.instances = {{.processIdentifier = 499}, {.processIdentifier = 500}};
+    EXPECT_EQ(becomeSingleInstance(), nullptr);
+    EXPECT_EQ(desktop().deeds, std::vector<std::string>{"open the program's bundle"});
+}
+
+TEST_F(SingleInstanceTest, IsNotHinderedByAProcessThatHasEnded) {
+    desktop().script.instances = {{.processIdentifier = 499, .isTerminated = true},
+                                  {.processIdentifier = 500}};
+    EXPECT_NE(becomeSingleInstance(), nullptr);
+}
+
+TEST_F(SingleInstanceTest, IsWhateverRunsOutsideABundle) {
+    desktop().script.bundleIdentifier.reset();
+    desktop().script.instances = {{.processIdentifier = 499}};
+    EXPECT_NE(becomeSingleInstance(), nullptr);
+}
+
+TEST_F(SingleInstanceTest, HearsOfLaterStartsOnceItsLoopHasBegun) {
+    std::unique_ptr<SingleInstance> instance = becomeSingleInstance();
+    ASSERT_NE(instance, nullptr);
+    const QSignalSpy startedAgain(instance.get(), &SingleInstance::startedAgain);
+    openProgramAgain();
+    EXPECT_EQ(startedAgain.size(), 0) << "the application object would take the event back";
+    QCoreApplication::processEvents();
+    openProgramAgain();
+    openProgramAgain();
+    EXPECT_EQ(startedAgain.size(), 2);
+    instance.reset();
+    openProgramAgain();
+    EXPECT_EQ(startedAgain.size(), 2);
+}
+
+TEST_F(SingleInstanceTest, NeedsNoPreparation) {
+    EXPECT_FALSE(prepareDesktop());
+}
+
+} // namespace
+} // namespace orvelle

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "menu_bar/item_nodes.h"
+#include "menu_bar/scene_painter.h"
+#include "settings/settings_store.h"
+#include "support/pixels.h"
+#include "theme/theme_manager.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace orvelle {
+
+inline constexpr std::array allDisplayStyles = {
+    MenuBarDisplayStyle::miniBars, MenuBarDisplayStyle::textOnly, MenuBarDisplayStyle::iconAndText,
+    MenuBarDisplayStyle::sparkline, MenuBarDisplayStyle::dotIndicator};
+
+/// Settings and themes of a fresh user, and pictures of items. One point is two pixels.
+class ItemFixture : public ::testing::Test {
+protected:
+    static constexpr double barHeight = 22;
+    static constexpr double pixelsPerPoint = 2;
+
+    /// The item as the menu bar shows it in a place of `length` points.
+    [[nodiscard]] static QImage picture(const SceneNode& scene, double length,
+                                        double ratio = pixelsPerPoint) {
+        return paintedImage({length, barHeight}, ratio, [&](QPainter& painter) {
+            paintScene(painter, {0, 0, length, barHeight}, scene);
+        });
+    }
+    template <class Item>
+    [[nodiscard]] static QImage picture(const Item& item, double length, double ratio = pixelsPerPoint) {
+        return picture(item.body().body, length, ratio);
+    }
+
+    /// In every style and at every screen scale, nothing is painted outside the item's place.
+    template <class Item>
+    void expectItStaysInItsPlace(const Item& item, double length) {
+        constexpr double margin = 30;
+        for (const MenuBarDisplayStyle style : allDisplayStyles) {
+            settings.setMenuBarDisplayStyle(style);
+            for (const double ratio : {1.0, 1.5, 2.0}) {
+                const QRectF place(margin, margin, length, barHeight);
+                const QImage image =
+                    paintedImage({length + 2 * margin, barHeight + 2 * margin}, ratio,
+                                 [&](QPainter& painter) { paintScene(painter, place, item.body().body); });
+                const QRect allowed = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
+                EXPECT_FALSE(paintedRect(image).isEmpty());
+                EXPECT_TRUE(allowed.contains(paintedRect(image)))
+                    << "style " << static_cast<int>(style) << " at scale " << ratio;
+            }
+        }
+    }
+
+    QTemporaryDir folder;
+    SettingsStore settings{folder.filePath(QStringLiteral("settings.ini"))};
+    ThemeManager themes{settings};
+};
+
+/// How many separate painted stretches a row of pixels has within [left, right).
+inline int countRuns(const QImage& image, int y, int left, int right) {
+    int runs = 0;
+    bool isInside = false;
+    for (int x = left; x < right; ++x) {
+        const bool isPainted = qAlpha(image.pixel(x, y)) > 0;
+        runs += isPainted && !isInside ? 1 : 0;
+        isInside = isPainted;
+    }
+    return runs;
+}
+
+} // namespace orvelle

@@ -1,0 +1,109 @@
+#include "item_fixture.h"
+#include "menu_bar/item_nodes.h"
+#include "menu_bar/scene_layout.h"
+#include "theme/fonts.h"
+
+#include <algorithm>
+
+namespace orvelle {
+namespace {
+
+const QColor tint(200, 30, 10);
+
+class ItemNodesTest : public ItemFixture {};
+
+TEST_F(ItemNodesTest, DotsHaveTheirColoursFromLeftToRight) {
+    const SceneNode dots = dotsNode({Qt::red, Qt::green, Qt::blue});
+    EXPECT_EQ(extentOf(dots).size, QSizeF(16, 4));
+    const QImage image = picture(dots, 16);
+    const int centerLine = image.height() / 2;
+    EXPECT_EQ(image.pixelColor(4, centerLine), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(16, centerLine), QColor(Qt::green));
+    EXPECT_EQ(image.pixelColor(28, centerLine), QColor(Qt::blue));
+    EXPECT_EQ(countRuns(image, centerLine, 0, image.width()), 3);
+}
+
+TEST_F(ItemNodesTest, NoDotsTakeNoRoom) {
+    EXPECT_EQ(extentOf(dotsNode({})).size.width(), 0);
+}
+
+TEST_F(ItemNodesTest, ALevelBarIsFilledUpToItsFraction) {
+    const QImage image = picture(levelBarNode({28, 8}, 3, 0.5, tint, true), 28);
+    const int centerLine = image.height() / 2;
+    EXPECT_GT(image.pixelColor(26, centerLine).alpha(), 200);
+    EXPECT_EQ(image.pixelColor(30, centerLine).alpha(), 38) << "only the track, white at 0.15";
+}
+
+TEST_F(ItemNodesTest, ALevelIsTheColourAtFourFifthsOverTheTrack) {
+    const QImage full = picture(levelBarNode({28, 8}, 3, 1, tint, true), 28);
+    const QColor level = full.pixelColor(26, full.height() / 2);
+    EXPECT_NEAR(level.alphaF(), 0.8 + 0.2 * 0.15, 0.005);
+    // Over black the colour's part and the white track's can be told apart.
+    EXPECT_NEAR(level.redF() * level.alphaF(), tint.redF() * 0.8 + 0.2 * 0.15, 0.01);
+    EXPECT_NEAR(level.blueF() * level.alphaF(), tint.blueF() * 0.8 + 0.2 * 0.15, 0.01);
+}
+
+TEST_F(ItemNodesTest, ALevelAboveOneFillsTheBarAndNoMore) {
+    EXPECT_EQ(picture(levelBarNode({28, 8}, 3, 7, tint, true), 40),
+              picture(levelBarNode({28, 8}, 3, 1, tint, true), 40));
+}
+
+TEST_F(ItemNodesTest, ALowLevelDoesNotStickOutOfTheRoundedTrack) {
+    const QImage empty = picture(levelBarNode({28, 8}, 3, 0, tint, true), 28);
+    const QImage low = picture(levelBarNode({28, 8}, 3, 0.04, tint, true), 28);
+    for (int y = 0; y < empty.height(); ++y)
+        EXPECT_EQ(qAlpha(empty.pixel(0, y)) == 0, qAlpha(low.pixel(0, y)) == 0) << "in line " << y;
+    EXPECT_NE(empty, low);
+}
+
+TEST_F(ItemNodesTest, TextIsCentredOnItsCapitals) {
+    const QRect ink = paintedRect(picture(textNode(QStringLiteral("H"), systemFont(11), Qt::white), 20));
+    EXPECT_NEAR(ink.top() + ink.bottom() + 1, barHeight * pixelsPerPoint, 2);
+}
+
+TEST_F(ItemNodesTest, CondensedTextKeepsItsHeightAndAllItsLetters) {
+    const SceneNode text = textNode(QStringLiteral("HHHH"), systemFont(11), Qt::white);
+    const QRect wide = paintedRect(picture(text, 60));
+    const QRect narrow = paintedRect(picture(text, extentOf(text).size.width() * 0.8));
+    EXPECT_NEAR(narrow.height(), wide.height(), 1);
+    EXPECT_NEAR(narrow.width(), wide.width() * 0.8, 3);
+}
+
+TEST_F(ItemNodesTest, AnIconIsTwelvePointsSquareInTheModulesColour) {
+    const SceneNode icon = iconNode(QStringLiteral("cpu"), tint);
+    EXPECT_EQ(extentOf(icon).size, QSizeF(12, 12));
+    EXPECT_GT(countPixels(picture(icon, 12), tint), 20);
+}
+
+TEST_F(ItemNodesTest, AHistoryIsDrawnFromItsLastTwentySamples) {
+    const QSizeF size(32, 12);
+    QList<double> history(20, 0.5);
+    const QImage twenty = picture(historyNode(history, tint, 1, size), 32);
+    history.prepend(1.0);
+    EXPECT_EQ(picture(historyNode(history, tint, 1, size), 32), twenty) << "the 21st is left out";
+    history = QList<double>(20, 0.5);
+    history.first() = 1.0;
+    EXPECT_NE(picture(historyNode(history, tint, 1, size), 32), twenty) << "the 20th is drawn";
+}
+
+TEST_F(ItemNodesTest, AHistoryIsALineOfOnePointOverAFaintFill) {
+    const QImage image = picture(historyNode(QList<double>(20, 0.5), tint, 1, {32, 12}), 32);
+    const int column = image.width() / 2;
+    const int lastLineOfCanvas = (11 + 6) * 2 - 1;
+    const QColor fill = image.pixelColor(column, lastLineOfCanvas);
+    EXPECT_EQ(fill.alpha(), 38) << "0.15";
+    EXPECT_NEAR(fill.red(), tint.red(), 4);
+    double lineWidthPixels = 0;
+    for (int y = 0; y < image.height(); ++y)
+        lineWidthPixels += std::max(0.0, (image.pixelColor(column, y).alphaF() - 0.15) / 0.85);
+    EXPECT_NEAR(lineWidthPixels, pixelsPerPoint, 0.25);
+}
+
+TEST_F(ItemNodesTest, AnEmptyHistoryTakesItsRoomAndDrawsNothing) {
+    const SceneNode history = historyNode({}, tint, 1, {32, 12});
+    EXPECT_EQ(extentOf(history).size, QSizeF(32, 12));
+    EXPECT_TRUE(paintedRect(picture(history, 32)).isEmpty());
+}
+
+} // namespace
+} // namespace orvelle

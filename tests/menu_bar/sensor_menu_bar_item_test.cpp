@@ -1,0 +1,85 @@
+#include "core/sensor_monitor.h"
+#include "item_fixture.h"
+#include "menu_bar/sensor_item_rules.h"
+#include "menu_bar/sensor_menu_bar_item.h"
+#include "platform/replay/fake_sources.h"
+#include "theme/fonts.h"
+#include "theme/label_colors.h"
+#include "theme/system_colors.h"
+
+namespace orvelle {
+namespace {
+
+constexpr double sensorLength = 50;
+
+class SensorMenuBarItemTest : public ItemFixture {
+protected:
+    void warm(double celsius) {
+        source.cpuTemperature = celsius;
+        monitor.update();
+    }
+    [[nodiscard]] QImage pictureIn(MenuBarDisplayStyle style) {
+        settings.setMenuBarDisplayStyle(style);
+        return picture(item, sensorLength);
+    }
+    [[nodiscard]] static SceneNode text(const QString& text, const QColor& color) {
+        return textNode(text, monospacedSystemFont(10, QFont::Medium), color);
+    }
+    [[nodiscard]] QColor cool() const { return temperatureColor(20, themes.sensorColor(settings)); }
+
+    FakeSensorSource source;
+    SensorMonitor monitor{[this]() -> SensorSource& { return source; }};
+    SensorMenuBarItem item{monitor, settings, themes};
+};
+
+TEST_F(SensorMenuBarItemTest, MiniBarsAndTextOnlyShowTheTemperature) {
+    warm(45);
+    const QImage expected = picture(text(QStringLiteral("45°"), cool()), sensorLength);
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), expected);
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), expected);
+}
+
+TEST_F(SensorMenuBarItemTest, IconAndTextShowsBothInTheTemperaturesColour) {
+    warm(85);
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), SystemColors::red);
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText),
+              picture(row({icon, text(QStringLiteral("85°"), SystemColors::red)}, 2), sensorLength));
+}
+
+TEST_F(SensorMenuBarItemTest, DashesInTheSecondaryColourStandForNoTemperature) {
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
+              picture(text(QStringLiteral("--°"), LabelColors::secondary), sensorLength));
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Sensors: no temperature"));
+}
+
+TEST_F(SensorMenuBarItemTest, TheMenuBarStaysInCelsius) {
+    warm(45);
+    const QImage before = pictureIn(MenuBarDisplayStyle::textOnly);
+    settings.setUseFahrenheit(true);
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly), before);
+    EXPECT_EQ(item.body().accessibleText, QStringLiteral("Sensors 45°C"));
+}
+
+TEST_F(SensorMenuBarItemTest, TheSparklineShowsTheTemperatureHistoryUpTo110Degrees) {
+    for (const double celsius : {40.0, 90.0, 65.0})
+        warm(celsius);
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), SystemColors::yellow);
+    const SceneNode history = historyNode({40, 90, 65}, SystemColors::yellow, 110, {24, 10});
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::sparkline), picture(row({icon, history}, 2), sensorLength));
+}
+
+TEST_F(SensorMenuBarItemTest, DotsShowHowWarmItIs) {
+    warm(39);
+    const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), cool());
+    EXPECT_EQ(pictureIn(MenuBarDisplayStyle::dotIndicator),
+              picture(row({icon, dotsNode(temperatureDotColors(39))}, 2), sensorLength));
+}
+
+TEST_F(SensorMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
+    warm(100);
+    warm(120);
+    expectItStaysInItsPlace(item, sensorLength);
+}
+
+} // namespace
+} // namespace orvelle

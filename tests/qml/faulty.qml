@@ -1,8 +1,0 @@
-import QtQuick
-import Orvelle.Look
-
-// What the lint must notice: the role that a label asks for does not exist.
-PlainText {
-    text: "Faulty"
-    color: Look.missingRole
-}

@@ -1,0 +1,273 @@
+#include "animation/animation_timing.h"
+#include "quick_fixture.h"
+#include "windows/charts/animated_bar_chart_item.h"
+#include "windows/charts/animated_line_graph_item.h"
+#include "windows/charts/mini_bar_item.h"
+#include "windows/charts/temperature_gauge_item.h"
+
+namespace orvelle {
+namespace {
+
+QVariant values(const QList<double>& list) {
+    return QVariant::fromValue(list);
+}
+
+class BarChartItem : public QuickFixture {
+protected:
+    BarChartItem() {
+        chart->setProperty("baseColor", QColor(Qt::blue));
+        chart->setProperty("values", values({0.2, 0.4}));
+    }
+    [[nodiscard]] double ratio(qsizetype index) const { return chart->shownLooks().at(index).ratio; }
+    void expectAJumpTo(const QList<double>& list) {
+        chart->setProperty("values", values(list));
+        EXPECT_EQ(ratio(0), list[0]);
+        EXPECT_EQ(ratio(1), list[1]);
+        EXPECT_FALSE(clock.isRunning());
+    }
+
+    std::unique_ptr<AnimatedBarChartItem> chart = placed<AnimatedBarChartItem>();
+};
+
+TEST_F(BarChartItem, StandsAtItsValuesWhenItIsFirstShown) {
+    showWindow();
+    EXPECT_EQ(ratio(0), 0.2);
+    EXPECT_EQ(ratio(1), 0.4);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(BarChartItem, FollowsAChangeByTheSpringOfItsSpeed) {
+    for (const auto speed : {AnimationSpeed::slow, AnimationSpeed::normal, AnimationSpeed::fast}) {
+        chart->setProperty("animationSpeed", QVariant::fromValue(speed));
+        chart->setProperty("values", values({0.2, 0.4}));
+        showWindow();
+        chart->setProperty("values", values({0.7, 0.4}));
+        EXPECT_EQ(ratio(0), 0.2);
+        Spring expected(0.2);
+        expected.retarget(0.7);
+        for (int frame = 0; frame < 8; ++frame) {
+            seconds += 0.02;
+            clock.step();
+            expected.advance(0.02, *barSpring(speed, true));
+            EXPECT_NEAR(ratio(0), expected.position(), 1e-6);
+            EXPECT_EQ(ratio(1), 0.4) << "only the bar that changed moves";
+        }
+        window.hide();
+    }
+}
+
+TEST_F(BarChartItem, IsNotCutOffWhileItOvershoots) {
+    chart->setProperty("barStyle", QVariant::fromValue(BarChartStyle::square));
+    chart->setProperty("showGlow", false);
+    chart->setProperty("values", values({0, 0}));
+    showWindow();
+    chart->setProperty("values", values({1, 0}));
+    pass(0.28); // about half of the period that the damping leaves: the furthest way out
+    EXPECT_NEAR(ratio(0), 1.046, 0.002);
+    waitForFrame();
+    EXPECT_GT(colorAt(60, 29).red(), 100) << "0.046 of 50 points above its place";
+    EXPECT_EQ(colorAt(60, 26).red(), 0);
+}
+
+TEST_F(BarChartItem, KeepsItsSpeedWhenTheValueChangesInTheMiddle) {
+    showWindow();
+    chart->setProperty("values", values({1, 0.4}));
+    pass(0.1);
+    const double before = ratio(0);
+    chart->setProperty("values", values({0, 0.4}));
+    EXPECT_EQ(ratio(0), before);
+    seconds += 0.016;
+    clock.step();
+    EXPECT_GT(ratio(0), before) << "it is carried on before it turns back";
+    pass(3);
+    EXPECT_EQ(ratio(0), 0);
+}
+
+TEST_F(BarChartItem, MovesHeightAndColorTogetherAndEndsExactly) {
+    showWindow();
+    chart->setProperty("values", values({1, 0.4}));
+    pass(0.1);
+    const QColor between = chart->shownLooks().at(0).color;
+    EXPECT_GT(between.red(), 10);
+    EXPECT_GT(between.blue(), 10);
+    pass(3);
+    EXPECT_EQ(chart->shownLooks().at(0), (AnimatedBar{.value = 1, .baseColor = Qt::blue}.look()));
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_EQ(framesWhenLeftAlone(), 0);
+}
+
+TEST_F(BarChartItem, JumpsAtSpeedInstantAndWithoutAnimateChanges) {
+    showWindow();
+    chart->setProperty("animationSpeed", QVariant::fromValue(AnimationSpeed::instant));
+    expectAJumpTo({0.9, 0.1});
+    chart->setProperty("animationSpeed", QVariant::fromValue(AnimationSpeed::normal));
+    chart->setProperty("animateChanges", false);
+    expectAJumpTo({0.3, 0.8});
+}
+
+TEST_F(BarChartItem, EndsItsMotionWhenItIsNoLongerToMove) {
+    showWindow();
+    chart->setProperty("values", values({0.9, 0.1}));
+    pass(0.05);
+    chart->setProperty("animateChanges", false);
+    EXPECT_EQ(ratio(0), 0.9);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(BarChartItem, ShowsAnotherBaseColorAtOnce) {
+    showWindow();
+    chart->setProperty("baseColor", QColor(Qt::green));
+    EXPECT_EQ(chart->shownLooks().at(0).color, QColor(Qt::green));
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(BarChartItem, ShowsNewBarsAtTheirValueAndForgetsOldOnes) {
+    showWindow();
+    chart->setProperty("values", values({0.2, 0.4, 0.6}));
+    ASSERT_EQ(chart->shownLooks().size(), 3);
+    EXPECT_EQ(ratio(2), 0.6);
+    EXPECT_FALSE(clock.isRunning());
+    chart->setProperty("values", values({}));
+    EXPECT_TRUE(chart->shownLooks().isEmpty());
+    chart->setProperty("values", values({0.9}));
+    EXPECT_EQ(ratio(0), 0.9);
+}
+
+class LineGraphItem : public QuickFixture {
+protected:
+    LineGraphItem() {
+        graph->setProperty("lineColor", QColor(Qt::white));
+        graph->setProperty("data", values({0, 1, 0}));
+    }
+    std::unique_ptr<AnimatedLineGraphItem> graph = placed<AnimatedLineGraphItem>();
+};
+
+TEST_F(LineGraphItem, TakesItsDataWithoutMotionWhenItIsFirstShown) {
+    EXPECT_TRUE(graph->animatedData().isEmpty());
+    showWindow();
+    EXPECT_EQ(graph->animatedData(), (QList<double>{0, 1, 0}));
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_GT(colorAt(90, 32).red(), 100) << "the peak in the middle";
+}
+
+TEST_F(LineGraphItem, EasesToNewDataInThreeTenthsOfASecond) {
+    showWindow();
+    graph->setProperty("data", values({1, 0, 1}));
+    EXPECT_EQ(graph->animatedData(), (QList<double>{0, 1, 0}));
+    pass(0.1);
+    const double progress = easeInOut().valueForProgress(1.0 / 3);
+    EXPECT_NEAR(graph->animatedData().at(0), progress, 1e-6);
+    EXPECT_NEAR(graph->animatedData().at(1), 1 - progress, 1e-6);
+    pass(0.2);
+    EXPECT_EQ(graph->animatedData(), (QList<double>{1, 0, 1}));
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_EQ(framesWhenLeftAlone(), 0);
+}
+
+TEST_F(LineGraphItem, RedrawsAtMostTenTimesASecond) {
+    showWindow();
+    int moves = 0;
+    QObject::connect(graph.get(), &ChartItem::moved, graph.get(), [&moves] { ++moves; });
+    for (int change = 0; change < 10; ++change) {
+        graph->setProperty("data", values({0, change / 10.0, 1}));
+        pass(0.1);
+    }
+    EXPECT_LE(moves, 10);
+    EXPECT_GE(moves, 9);
+}
+
+TEST_F(LineGraphItem, KeepsItsLineWhereItWasWhenTheHistoryGrows) {
+    showWindow();
+    graph->setProperty("data", values({0, 1, 0, 0.5, 1}));
+    EXPECT_EQ(graph->animatedData(), (QList<double>{0, 0.5, 1, 0.5, 0}));
+}
+
+class MiniBarItemTest : public QuickFixture {
+protected:
+    MiniBarItemTest() {
+        bar->setProperty("color", QColor(Qt::blue));
+        bar->setProperty("value", 0.2);
+    }
+    std::unique_ptr<MiniBarItem> bar = placed<MiniBarItem>();
+};
+
+TEST_F(MiniBarItemTest, EasesToAnotherValueInThreeTenthsOfASecond) {
+    showWindow();
+    EXPECT_EQ(bar->shownLook().ratio, 0.2);
+    bar->setProperty("value", 0.8);
+    pass(0.1);
+    EXPECT_NEAR(bar->shownLook().ratio, 0.2 + 0.6 * easeInOut().valueForProgress(1.0 / 3), 1e-6);
+    pass(0.2);
+    EXPECT_EQ(bar->shownLook(), (MiniBar{.value = 0.8, .color = Qt::blue}.look()));
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(MiniBarItemTest, ShowsAnotherColorAtOnce) {
+    showWindow();
+    bar->setProperty("color", QColor(Qt::green));
+    EXPECT_EQ(bar->shownLook().color, QColor(Qt::green));
+    EXPECT_FALSE(clock.isRunning());
+}
+
+class GaugeItem : public QuickFixture {
+protected:
+    GaugeItem() {
+        gauge->setProperty("maxTemp", 100);
+        gauge->setProperty("temperature", 40);
+    }
+    std::unique_ptr<TemperatureGaugeItem> gauge = placed<TemperatureGaugeItem>();
+};
+
+TEST_F(GaugeItem, ShowsItsTemperatureWithoutAnOpening) {
+    showWindow();
+    EXPECT_EQ(gauge->shownFraction(), 0.4);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, EasesItsDialInHalfASecond) {
+    showWindow();
+    gauge->setProperty("temperature", 80);
+    pass(0.2);
+    EXPECT_NEAR(gauge->shownFraction(), 0.4 + 0.4 * easeInOut().valueForProgress(0.4), 1e-6);
+    pass(0.3);
+    EXPECT_EQ(gauge->shownFraction(), 0.8);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, EasesItsGlowTogetherWithItsDial) {
+    gauge->setProperty("glowIntensity", QVariant::fromValue(GlowIntensity::intense));
+    showWindow();
+    // Beside the filled part of the dial, whose middle is at (90, 65) and whose stroke ends 38 points from
+    // it.
+    const auto halo = [this] { return colorAt(90 - 40, 65 - 8); };
+    const auto redPerGreen = [&] {
+        const QColor color = halo();
+        EXPECT_GT(color.value(), 30);
+        return static_cast<double>(color.red()) / color.green();
+    };
+    EXPECT_LT(redPerGreen(), 0.5) << "green while it is cool";
+    gauge->setProperty("temperature", 95);
+    waitForFrame();
+    EXPECT_LT(redPerGreen(), 0.5) << "the dial has not moved yet either";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 0.8);
+    EXPECT_LT(redPerGreen(), 2) << "half way between green and red";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 3);
+}
+
+TEST_F(GaugeItem, ShowsTheGlowOfAnotherStrengthAtOnce) {
+    showWindow();
+    gauge->setProperty("showGlow", false);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, AsksForTheRoomOfDialAndCaption) {
+    EXPECT_EQ(gauge->implicitWidth(), 70);
+    EXPECT_EQ(gauge->implicitHeight(), TemperatureGauge{}.height());
+}
+
+} // namespace
+} // namespace orvelle

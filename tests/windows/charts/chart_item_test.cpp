@@ -1,0 +1,194 @@
+#include "quick_fixture.h"
+#include "windows/charts/animated_bar_chart_item.h"
+#include "windows/charts/animated_ring_chart_item.h"
+#include "windows/charts/chart_item.h"
+#include "windows/charts/sparkline_items.h"
+
+namespace orvelle {
+namespace {
+
+/// Chosen before the first window of any test, because the choice cannot change afterwards.
+class SoftwareSceneGraph : public ::testing::Environment {
+    void SetUp() override { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+};
+const auto* const softwareSceneGraph = ::testing::AddGlobalTestEnvironment(new SoftwareSceneGraph);
+
+class ChartItemTest : public QuickFixture {
+protected:
+    ChartItemTest() {
+        setValue(0.2);
+        chart->setProperty("baseColor", QColor(Qt::blue));
+        chart->setProperty("glowIntensity", QVariant::fromValue(GlowIntensity::intense));
+    }
+    void setValue(double value) { chart->setProperty("values", QVariant::fromValue(QList<double>{value})); }
+    [[nodiscard]] double ratio() const { return chart->shownLooks().at(0).ratio; }
+
+    std::unique_ptr<AnimatedBarChartItem> chart = placed<AnimatedBarChartItem>();
+};
+
+TEST_F(ChartItemTest, RepaintsWhenAFieldChangesAndNotWhenItIsSetToTheSame) {
+    showWindow();
+    chart->setProperty("barStyle", QVariant::fromValue(BarChartStyle::square));
+    waitForFrame();
+    int changes = 0;
+    QObject::connect(chart.get(), &ChartItem::changed, chart.get(), [&changes] { ++changes; });
+    chart->setProperty("barStyle", QVariant::fromValue(BarChartStyle::square));
+    setValue(0.2);
+    chart->setProperty("maxValue", 1.0);
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(framesWhenLeftAlone(), 0);
+}
+
+TEST_F(ChartItemTest, RepaintsWhileItMovesAndNeverAfterwards) {
+    showWindow();
+    setValue(0.9);
+    waitForFrame();
+    for (int step = 0; step < 3; ++step) {
+        pass(0.02);
+        waitForFrame();
+    }
+    pass(3);
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_EQ(framesWhenLeftAlone(), 0);
+}
+
+TEST_F(ChartItemTest, DoesNotMoveBeforeItIsShown) {
+    setValue(0.9);
+    EXPECT_EQ(ratio(), 0.9);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, DoesNotMoveWhileItIsHidden) {
+    showWindow();
+    setValue(0.9);
+    EXPECT_TRUE(clock.isRunning());
+    chart->setVisible(false);
+    EXPECT_FALSE(clock.isRunning());
+    setValue(0.5);
+    EXPECT_FALSE(clock.isRunning());
+    chart->setVisible(true);
+    EXPECT_EQ(ratio(), 0.5) << "it comes back with the newest value";
+    EXPECT_FALSE(clock.isRunning());
+    setValue(0.6);
+    EXPECT_TRUE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, DoesNotMoveInAHiddenPartOfTheWindowOrAHiddenWindow) {
+    QQuickItem part(window.contentItem());
+    chart->setParentItem(&part);
+    showWindow();
+    setValue(0.9);
+    part.setVisible(false);
+    EXPECT_FALSE(clock.isRunning());
+    part.setVisible(true);
+    setValue(0.3);
+    EXPECT_TRUE(clock.isRunning());
+    window.hide();
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_EQ(ratio(), 0.3);
+    setValue(0.4);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, DoesNotMoveOutsideAnyWindow) {
+    showWindow();
+    chart->setParentItem(nullptr);
+    setValue(0.9);
+    EXPECT_EQ(ratio(), 0.9);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, LeavesTheClockWhenItIsDestroyed) {
+    showWindow();
+    setValue(0.9);
+    EXPECT_TRUE(clock.isRunning());
+    chart.reset();
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, JumpsWhileTheUserWantsNoMotion) {
+    showWindow();
+    setValue(0.9);
+    pass(0.05);
+    clock.setReduced(true);
+    EXPECT_EQ(ratio(), 0.9);
+    EXPECT_FALSE(clock.isRunning());
+    setValue(0.1);
+    EXPECT_EQ(ratio(), 0.1);
+    EXPECT_FALSE(clock.isRunning());
+    clock.setReduced(false);
+    setValue(0.9);
+    EXPECT_TRUE(clock.isRunning());
+}
+
+TEST_F(ChartItemTest, NeitherOpensNorPulsesWhileTheUserWantsNoMotion) {
+    clock.setReduced(true);
+    const auto ring = placed<AnimatedRingChartItem>();
+    ring->setProperty("pulseCritical", true);
+    ring->setProperty("value", 0.95);
+    showWindow();
+    EXPECT_EQ(ring->animatedValue(), 0.95);
+    EXPECT_EQ(ring->pulseScale(), 1);
+    EXPECT_FALSE(clock.isRunning());
+    clock.setReduced(false);
+    EXPECT_TRUE(clock.isRunning()) << "the value is critical still";
+}
+
+TEST_F(ChartItemTest, ShowsTheGlowBeyondItsEdges) {
+    setValue(1);
+    showWindow();
+    EXPECT_GT(colorAt(90, 27).red(), 10) << "above the item, whose top is at 30";
+    EXPECT_GT(colorAt(37, 60).red(), 10) << "to its left";
+    chart->setProperty("showGlow", false);
+    waitForFrame();
+    EXPECT_EQ(colorAt(90, 27), QColor(Qt::black));
+    EXPECT_EQ(colorAt(37, 60), QColor(Qt::black));
+}
+
+TEST_F(ChartItemTest, FollowsItsSize) {
+    chart->setProperty("showGlow", false);
+    setValue(1);
+    showWindow();
+    EXPECT_EQ(colorAt(160, 70), QColor(Qt::black));
+    chart->setSize({140, 60});
+    waitForFrame();
+    EXPECT_GT(colorAt(160, 70).red(), 100);
+    EXPECT_GT(colorAt(160, 88).red(), 100) << "its own height is the chart's";
+}
+
+TEST_F(ChartItemTest, AsksForTheHeightOfItsChart) {
+    EXPECT_EQ(chart->implicitHeight(), AnimatedBarChart{}.height);
+}
+
+TEST_F(ChartItemTest, SparklinesShowTheirDataAndNeverMove) {
+    chart.reset();
+    const auto sparkline = placed<SparklineViewItem>();
+    sparkline->setProperty("lineColor", QColor(Qt::green));
+    sparkline->setProperty("data", QVariant::fromValue(QList<double>{1, 1}));
+    showWindow();
+    EXPECT_GT(colorAt(90, 31).green(), 100) << "full scale, a point below the top";
+    EXPECT_GT(colorAt(90, 60).green(), 30);
+    sparkline->setProperty("fillColor", QColor(Qt::red));
+    EXPECT_FALSE(clock.isRunning());
+    waitForFrame();
+    EXPECT_EQ(colorAt(90, 60), QColor(Qt::red));
+    sparkline->setProperty("fillColor", QVariant());
+    waitForFrame();
+    EXPECT_EQ(colorAt(90, 60).red(), 0);
+}
+
+TEST_F(ChartItemTest, DualSparklinesShowBothDirections) {
+    chart.reset();
+    const auto sparklines = placed<DualSparklineViewItem>();
+    sparklines->setProperty("topColor", QColor(Qt::green));
+    sparklines->setProperty("bottomColor", QColor(Qt::red));
+    sparklines->setProperty("topData", QVariant::fromValue(QList<double>{1, 1}));
+    sparklines->setProperty("bottomData", QVariant::fromValue(QList<double>{1, 1}));
+    showWindow();
+    EXPECT_GT(colorAt(90, 60).green(), 15);
+    EXPECT_GT(colorAt(90, 60).red(), 15);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+} // namespace
+} // namespace orvelle

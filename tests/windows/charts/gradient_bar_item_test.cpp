@@ -1,0 +1,76 @@
+#include "animation/animation_timing.h"
+#include "animation/spring.h"
+#include "quick_fixture.h"
+#include "windows/charts/gradient_bar_item.h"
+
+namespace orvelle {
+namespace {
+
+class GradientBarHosting : public QuickFixture {
+protected:
+    GradientBarHosting() {
+        bar->setProperty("color", QColor(Qt::red));
+        bar->setProperty("fraction", 0.2);
+    }
+
+    std::unique_ptr<GradientBarItem> bar = placed<GradientBarItem>();
+};
+
+TEST_F(GradientBarHosting, StandsAtItsFractionWhenItIsFirstShown) {
+    showWindow();
+    EXPECT_EQ(bar->shownFraction(), 0.2);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GradientBarHosting, FollowsAChangeByASpringThatOvershootsOnce) {
+    showWindow();
+    bar->setProperty("fraction", 0.6);
+    Spring expected(0.2);
+    expected.retarget(0.6);
+    double largest = 0;
+    for (int frame = 0; frame < 40; ++frame) {
+        seconds += 0.016;
+        clock.step();
+        expected.advance(0.016, {.response = 0.4, .dampingFraction = 0.7});
+        EXPECT_NEAR(bar->shownFraction(), expected.position(), 0.002);
+        largest = std::max(largest, bar->shownFraction());
+    }
+    // e^(-pi d / sqrt(1 - d^2)) of the way beyond the target, for a damping fraction d of 0.7.
+    EXPECT_NEAR(largest, 0.6 + 0.4 * 0.046, 0.002);
+    EXPECT_EQ(bar->shownFraction(), 0.6);
+    EXPECT_FALSE(clock.isRunning()) << "nothing is left to do once it stands still";
+}
+
+TEST_F(GradientBarHosting, ShowsTheNewFractionAtOnceWhereNothingMayMove) {
+    clock.setReduced(true);
+    showWindow();
+    bar->setProperty("fraction", 0.9);
+    EXPECT_EQ(bar->shownFraction(), 0.9);
+    clock.setReduced(false);
+    window.hide();
+    bar->setProperty("fraction", 0.1);
+    EXPECT_EQ(bar->shownFraction(), 0.1);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GradientBarHosting, IsNotCutOffWhileItOvershoots) {
+    bar->setProperty("fraction", 0.0);
+    showWindow();
+    bar->setProperty("fraction", 1.0);
+    pass(0.28); // about half of the period that the damping leaves: the furthest way out
+    EXPECT_NEAR(bar->shownFraction(), 1.046, 0.002);
+    waitForFrame();
+    EXPECT_GT(colorAt(40 + 100 + 3, 30 + 25).red(), 200);
+    EXPECT_EQ(colorAt(40 + 100 + 6, 30 + 25).red(), 0);
+}
+
+TEST_F(GradientBarHosting, RestsForAnotherColor) {
+    showWindow();
+    bar->setProperty("color", QColor(Qt::green));
+    EXPECT_FALSE(clock.isRunning());
+    waitForFrame();
+    EXPECT_GT(colorAt(42, 50).green(), 100);
+}
+
+} // namespace
+} // namespace orvelle

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "core/system_monitor.h"
+#include "platform/replay/fake_machine.h"
+#include "settings/settings_store.h"
+#include "support/frames.h"
+#include "support/temporary_settings.h"
+#include "theme/system_colors.h"
+#include "theme/theme_manager.h"
+#include "windows/common/quick_engine.h"
+#include "windows/panels/panel_factory.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace orvelle {
+
+/// A machine by script, and its panels. A warning of Qt or QML while a panel lives fails the test.
+class PanelFixture : public ::testing::Test {
+protected:
+    PanelFixture() { s_previousHandler = qInstallMessageHandler(&PanelFixture::failOnMessage); }
+    ~PanelFixture() override { qInstallMessageHandler(s_previousHandler); }
+
+    /// Samples the machine, which was set up before, some times.
+    void sample(int times = 1) {
+        for (int count = 0; count < times; ++count) {
+            monitor.updateCycle();
+            machine.clock.advance(std::chrono::seconds(3));
+        }
+    }
+
+    /// Shows the panel of a module. Never null when it could be made.
+    QQuickView* show(const char16_t* key) {
+        panel = factory.makePanel(key);
+        if (panel == nullptr) {
+            ADD_FAILURE() << "no panel was made";
+            return nullptr;
+        }
+        panel->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel.get()));
+        settle();
+        return panel.get();
+    }
+    /// Has everything laid out and painted that changed.
+    void settle() { ASSERT_TRUE(orvelle::settle(*panel)) << "it is repainted again and again"; }
+
+    /// The item inside the panel with this object name; a failure when there is none.
+    [[nodiscard]] QQuickItem* item(const char* name) const {
+        QQuickItem* found = find(panel->contentItem(), QString::fromLatin1(name));
+        if (found == nullptr)
+            ADD_FAILURE() << "no item is called " << name;
+        return found;
+    }
+    [[nodiscard]] QString textOf(const char* name) const {
+        const QQuickItem* found = item(name);
+        return found != nullptr ? found->property("text").toString() : QString();
+    }
+    /// A colour as pixels have it: eight bits each.
+    [[nodiscard]] static QColor asShown(const QColor& color) { return QColor::fromRgba(color.rgba()); }
+    [[nodiscard]] QColor colorOf(const char* name, const char* property = "color") const {
+        const QQuickItem* found = item(name);
+        return found != nullptr ? asShown(found->property(property).value<QColor>()) : QColor();
+    }
+    /// Every text that can be seen, from top to bottom as the items stand in the tree.
+    [[nodiscard]] QStringList shownTexts() const {
+        QStringList texts;
+        for (const QQuickItem* found : shownItems("QQuickText", "QQuickTextInput"))
+            texts.append(found->property("text").toString());
+        return texts;
+    }
+    /// The items of these classes that can be seen, in the order of the tree.
+    [[nodiscard]] QList<const QQuickItem*> shownItems(const char* className,
+                                                      const char* otherClassName = nullptr) const {
+        QList<const QQuickItem*> found;
+        collect(panel->contentItem(), {className, otherClassName}, found);
+        return found;
+    }
+    [[nodiscard]] bool shows(const char16_t* text) const {
+        return shownTexts().contains(QString::fromUtf16(text));
+    }
+
+    /// Nothing reaches out of the panel's width, and what the panel holds ends above the footer.
+    void expectNothingIsCutOff() const {
+        const QQuickItem* scroller = item("scroller");
+        const QQuickItem* footer = item("footer");
+        ASSERT_TRUE(scroller != nullptr && footer != nullptr);
+        EXPECT_LE(scroller->y() + scroller->height(), footer->y());
+        EXPECT_TRUE(scroller->clip());
+        expectInside(panel->contentItem(), panel->width());
+    }
+
+    TemporarySettings file;
+    SettingsStore settings{file.path()};
+    ThemeManager themes{settings};
+    FakeMachine machine;
+    SystemMonitor monitor{machine.sources(), settings};
+    int settingsOpened = 0;
+    std::unique_ptr<QQmlEngine> engine = makeEngine();
+    PanelFactory factory{*engine,
+                         {.monitor = monitor, .settings = settings, .themes = themes, .openSettings = [this] {
+                              ++settingsOpened;
+                          }}};
+    std::unique_ptr<QQuickView> panel;
+
+private:
+    static void failOnMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            ADD_FAILURE() << "a message: " << message.toStdString();
+        s_previousHandler(type, context, message);
+    }
+
+    static QQuickItem* find(QQuickItem* root, const QString& name) {
+        if (root->objectName() == name)
+            return root;
+        for (QQuickItem* child : root->childItems()) {
+            if (QQuickItem* found = find(child, name))
+                return found;
+        }
+        return nullptr;
+    }
+    static void collect(const QQuickItem* root, const std::array<const char*, 2>& classNames,
+                        QList<const QQuickItem*>& found) {
+        if (!root->isVisible())
+            return;
+        if (std::ranges::any_of(classNames, [root](const char* className) {
+                return className != nullptr && root->inherits(className);
+            }))
+            found.append(root);
+        for (const QQuickItem* child : root->childItems())
+            collect(child, classNames, found);
+    }
+    static std::string describe(const QQuickItem* item) {
+        return item->metaObject()->className() + (": " + item->property("text").toString().toStdString());
+    }
+    static void expectInside(const QQuickItem* root, double width) {
+        // A turned symbol and the canvas of a glowing chart may reach beyond their room, and nothing else.
+        if (!root->isVisible() || root->rotation() != 0 || root->inherits("QQuickPaintedItem"))
+            return;
+        const QRectF place = root->mapRectToScene({0, 0, root->width(), root->height()});
+        EXPECT_GE(place.left(), 0) << describe(root);
+        EXPECT_LE(place.right(), width) << describe(root);
+        for (const QQuickItem* child : root->childItems())
+            expectInside(child, width);
+    }
+
+    static inline QtMessageHandler s_previousHandler = nullptr;
+};
+
+} // namespace orvelle
