@@ -2,11 +2,16 @@
 
 #include "settings/setting_value.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace orvelle {
 
 class SettingsStore;
+
+/// How a value is handed over: a text by reference, everything else by value.
+template <class Value>
+using PassedSetting = std::conditional_t<std::is_same_v<Value, QString>, const QString&, Value>;
 
 /// One setting of the store, whatever its type: its key, and how its value stands to what is stored.
 class AnySetting {

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <thread>
-#include <vector>
 
 namespace orvelle {
 namespace {
@@ -30,39 +29,7 @@ SettingsStore::SettingsStore(const QString& filePath, QObject* parent)
 
 SettingsStore::SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* parent)
     : QObject(parent)
-    , m_storage(std::move(storage))
-    , m_settings{&m_showCPU,
-                 &m_showMemory,
-                 &m_showNetwork,
-                 &m_showDisk,
-                 &m_showBattery,
-                 &m_showSensors,
-                 &m_updateInterval,
-                 &m_cpuDisplayMode,
-                 &m_useFahrenheit,
-                 &m_compactMode,
-                 &m_colorTheme,
-                 &m_selectedThemeId,
-                 &m_graphLineStyle,
-                 &m_graphFillStyle,
-                 &m_barChartStyle,
-                 &m_ringChartStyle,
-                 &m_menuBarDisplayStyle,
-                 &m_animationSpeed,
-                 &m_glowIntensity,
-                 &m_useCustomCPUColor,
-                 &m_useCustomMemoryColor,
-                 &m_useCustomNetworkColor,
-                 &m_useCustomDiskColor,
-                 &m_useCustomBatteryColor,
-                 &m_useCustomSensorColor,
-                 &m_customCPUColorHex,
-                 &m_customMemoryColorHex,
-                 &m_customNetworkColorHex,
-                 &m_customDiskColorHex,
-                 &m_customBatteryColorHex,
-                 &m_customSensorColorHex,
-                 &m_launchAtLogin} {
+    , m_storage(std::move(storage)) {
     m_reloadDelay.setObjectName(QStringLiteral("reloadDelay"));
     m_reloadDelay.setSingleShot(true);
     m_reloadDelay.setInterval(settleTime);

@@ -14,7 +14,7 @@ const AppTheme& themeWithIdOrMidnight(const QString& id) {
     return theme == themes.end() ? themes.front() : *theme;
 }
 
-QColor moduleColor(bool isCustom, const QString& customHex, const QColor& themeColor) {
+QColor chosenColor(bool isCustom, const QString& customHex, const QColor& themeColor) {
     return isCustom ? hexToColor(customHex).value_or(themeColor) : themeColor;
 }
 
@@ -40,33 +40,16 @@ void ThemeManager::followStoredId() {
     Q_EMIT currentThemeChanged();
 }
 
-QColor ThemeManager::cpuColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomCPUColor(), settings.customCPUColorHex(), m_currentTheme.cpuColor);
-}
-
-QColor ThemeManager::memoryColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomMemoryColor(), settings.customMemoryColorHex(),
-                       m_currentTheme.memoryColor);
-}
-
-QColor ThemeManager::networkColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomNetworkColor(), settings.customNetworkColorHex(),
-                       m_currentTheme.networkColor);
-}
-
-QColor ThemeManager::diskColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomDiskColor(), settings.customDiskColorHex(),
-                       m_currentTheme.diskColor);
-}
-
-QColor ThemeManager::batteryColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomBatteryColor(), settings.customBatteryColorHex(),
-                       m_currentTheme.batteryColor);
-}
-
-QColor ThemeManager::sensorColor(const SettingsStore& settings) const {
-    return moduleColor(settings.useCustomSensorColor(), settings.customSensorColorHex(),
-                       m_currentTheme.sensorColor);
+QColor ThemeManager::moduleColor(ModuleId module, const SettingsStore& settings) const {
+    switch (module) {
+#define ORVELLE_MODULE(id, Type, Title, color, ...)                                                          \
+    case ModuleId::id:                                                                                       \
+        return chosenColor(settings.useCustom##Type##Color(), settings.custom##Type##ColorHex(),             \
+                           m_currentTheme.color);
+        ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
+    }
+    return {};
 }
 
 } // namespace orvelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/modules.h"
 #include "theme/app_theme.h"
 
 #include <QObject>
@@ -28,12 +29,13 @@ public:
     /// nothing.
     Q_INVOKABLE void selectTheme(const QString& id);
 
-    [[nodiscard]] QColor cpuColor(const SettingsStore& settings) const;
-    [[nodiscard]] QColor memoryColor(const SettingsStore& settings) const;
-    [[nodiscard]] QColor networkColor(const SettingsStore& settings) const;
-    [[nodiscard]] QColor diskColor(const SettingsStore& settings) const;
-    [[nodiscard]] QColor batteryColor(const SettingsStore& settings) const;
-    [[nodiscard]] QColor sensorColor(const SettingsStore& settings) const;
+    [[nodiscard]] QColor moduleColor(ModuleId module, const SettingsStore& settings) const;
+#define ORVELLE_MODULE(id, ...)                                                                              \
+    [[nodiscard]] QColor id##Color(const SettingsStore& settings) const {                                    \
+        return moduleColor(ModuleId::id, settings);                                                          \
+    }
+    ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
 
 Q_SIGNALS:
     void currentThemeChanged();

@@ -24,10 +24,10 @@ void ModuleColors::setThemeManager(ThemeManager* themeManager) {
     Q_EMIT changed();
 }
 
-QColor ModuleColors::colorBy(QColor (ThemeManager::*color)(const SettingsStore&) const) const {
+QColor ModuleColors::colorOf(ModuleId module) const {
     if (!m_settings || !m_themeManager)
         return Qt::transparent;
-    return (*m_themeManager.*color)(*m_settings);
+    return m_themeManager->moduleColor(module, *m_settings);
 }
 
 } // namespace orvelle

@@ -17,12 +17,9 @@ class ModuleColors : public QObject {
     Q_PROPERTY(orvelle::SettingsStore* settings READ settings WRITE setSettings NOTIFY changed REQUIRED)
     Q_PROPERTY(
         orvelle::ThemeManager* themeManager READ themeManager WRITE setThemeManager NOTIFY changed REQUIRED)
-    Q_PROPERTY(QColor cpu READ cpu NOTIFY changed)
-    Q_PROPERTY(QColor memory READ memory NOTIFY changed)
-    Q_PROPERTY(QColor network READ network NOTIFY changed)
-    Q_PROPERTY(QColor disk READ disk NOTIFY changed)
-    Q_PROPERTY(QColor battery READ battery NOTIFY changed)
-    Q_PROPERTY(QColor sensor READ sensor NOTIFY changed)
+#define ORVELLE_MODULE(id, ...) Q_PROPERTY(QColor id READ id NOTIFY changed)
+    ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
 
 public:
     using QObject::QObject;
@@ -32,18 +29,16 @@ public:
     [[nodiscard]] ThemeManager* themeManager() const { return m_themeManager; }
     void setThemeManager(ThemeManager* themeManager);
 
-    [[nodiscard]] QColor cpu() const { return colorBy(&ThemeManager::cpuColor); }
-    [[nodiscard]] QColor memory() const { return colorBy(&ThemeManager::memoryColor); }
-    [[nodiscard]] QColor network() const { return colorBy(&ThemeManager::networkColor); }
-    [[nodiscard]] QColor disk() const { return colorBy(&ThemeManager::diskColor); }
-    [[nodiscard]] QColor battery() const { return colorBy(&ThemeManager::batteryColor); }
-    [[nodiscard]] QColor sensor() const { return colorBy(&ThemeManager::sensorColor); }
+#define ORVELLE_MODULE(id, ...)                                                                              \
+    [[nodiscard]] QColor id() const { return colorOf(ModuleId::id); }
+    ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
 
 Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] QColor colorBy(QColor (ThemeManager::*color)(const SettingsStore&) const) const;
+    [[nodiscard]] QColor colorOf(ModuleId module) const;
 
     QPointer<SettingsStore> m_settings;
     QPointer<ThemeManager> m_themeManager;
