@@ -18,18 +18,18 @@ namespace {
 constexpr double barHeight = 22;
 
 /// What a redraw of the bar does: builds the view of each module anew and paints it in its place.
-void paintItems(QPainter& painter, std::span<const Module> shown, const ModuleContext& context) {
+void paintItems(QPainter& painter, std::span<const ModuleInfo> shown, const ModuleContext& context) {
     double left = 0;
-    for (const Module& module : shown) {
-        paintScene(painter, {left, 0, module.length, barHeight}, module.makeScene(context).body);
-        left += module.length;
+    for (const ModuleInfo& module : shown) {
+        paintScene(painter, {left, 0, module.width, barHeight}, makeScene(module.id, context).body);
+        left += module.width;
     }
 }
 
-double costOf(std::span<const Module> shown, const ModuleContext& context, double pixelsPerPoint) {
+double costOf(std::span<const ModuleInfo> shown, const ModuleContext& context, double pixelsPerPoint) {
     double length = 0;
-    for (const Module& module : shown)
-        length += module.length;
+    for (const ModuleInfo& module : shown)
+        length += module.width;
     QImage image((QSizeF(length, barHeight) * pixelsPerPoint).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(pixelsPerPoint);
     image.fill(Qt::black);
@@ -51,8 +51,8 @@ void printItemCosts() {
     for (int index = 0; index < styles.keyCount(); ++index) {
         settings.setMenuBarDisplayStyle(static_cast<MenuBarDisplayStyle>(styles.value(index)));
         std::printf("| %s | %.3f | %.3f | %.3f |\n", styles.key(index),
-                    costOf(modules().first(2), context, 1), costOf(modules(), context, 1),
-                    costOf(modules(), context, 2));
+                    costOf(std::span(moduleTable).first(2), context, 1), costOf(moduleTable, context, 1),
+                    costOf(moduleTable, context, 2));
     }
     std::puts("");
 }

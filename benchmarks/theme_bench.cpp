@@ -37,9 +37,9 @@ class Desktop {
 public:
     Desktop() {
         m_bar.setGeometry(0, 0, 1280, 22);
-        for (const Module& module : modules())
+        for (const ModuleInfo& module : moduleTable)
             m_presenters.push_back(std::make_unique<ItemPresenter>(
-                m_bar.addItem(QString(module.key), module.length), AnimationClock::shared()));
+                m_bar.addItem(QString(module.key), module.width), AnimationClock::shared()));
         showItems();
         QObject::connect(&m_settings, &SettingsStore::changed, &m_bar, [this] { showItems(); });
         QObject::connect(&m_bar, &BarWindow::painted, &m_bar, [this] { seen(&m_bar); });
@@ -63,7 +63,7 @@ public:
 private:
     void showItems() {
         for (std::size_t index = 0; index < m_presenters.size(); ++index)
-            m_presenters[index]->show(modules()[index].makeScene({*m_monitor, m_settings, m_themes}));
+            m_presenters[index]->show(makeScene(moduleTable[index].id, {*m_monitor, m_settings, m_themes}));
     }
     void seen(const QWindow* window) {
         m_waiting.erase(window);
@@ -78,7 +78,7 @@ private:
     PanelFactory m_panels{
         *m_engine,
         {.monitor = *m_monitor, .settings = m_settings, .themes = m_themes, .openSettings = [] {}}};
-    std::unique_ptr<QQuickView> m_panel = m_panels.makePanel(u"cpu");
+    std::unique_ptr<QQuickView> m_panel = m_panels.makePanel(ModuleId::cpu);
     std::unique_ptr<QQuickView> m_settingsView =
         makeSettingsView(*m_engine, {.settings = m_settings, .themes = m_themes, .quitApp = [] {}});
     BarWindow m_bar;

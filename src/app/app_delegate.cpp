@@ -55,23 +55,23 @@ void AppDelegate::setupStatusItems() {
         m_dependencies.statusBar.removeItem(*item);
     m_statusItems.clear();
     m_shownModules.clear();
-    for (const Module& module : modules()) {
-        if ((m_settings.*module.isShown)())
+    for (const ModuleInfo& module : moduleTable) {
+        if (m_settings.isShown(module.id))
             createStatusItem(module);
     }
     redraw();
     subscribe();
 }
 
-void AppDelegate::createStatusItem(const Module& module) {
-    StatusItem& item = m_dependencies.statusBar.addItem(module.key, module.length);
+void AppDelegate::createStatusItem(const ModuleInfo& module) {
+    StatusItem& item = m_dependencies.statusBar.addItem(module.key, module.width);
     m_statusItems.insert(module.key, &item);
     item.setClickHandler([this, &item](ClickButton button) { statusItemClicked(item, button); });
     m_popovers.insert_or_assign(module.key,
-                                m_dependencies.statusBar.makePopover([this, key = module.key](double radius) {
-                                    return views() ? views()->makePanel(QString(key), radius) : nullptr;
+                                m_dependencies.statusBar.makePopover([this, id = module.id](double radius) {
+                                    return windows() ? windows()->makePanel(id, radius) : nullptr;
                                 }));
-    m_shownModules.push_back({module, std::make_unique<ItemPresenter>(item, m_dependencies.clock)});
+    m_shownModules.push_back({module.id, std::make_unique<ItemPresenter>(item, m_dependencies.clock)});
 }
 
 void AppDelegate::subscribe() {
@@ -86,7 +86,7 @@ void AppDelegate::subscribe() {
 
 void AppDelegate::redraw() {
     for (const ShownModule& shown : m_shownModules)
-        shown.presenter->show(shown.module.makeScene({m_monitor, m_settings, m_themes}));
+        shown.presenter->show(makeScene(shown.module, {m_monitor, m_settings, m_themes}));
 }
 
 void AppDelegate::statusItemClicked(const StatusItem& item, ClickButton button) {
@@ -131,15 +131,15 @@ void AppDelegate::showContextMenu(const StatusItem& item) {
 
 void AppDelegate::openSettings() {
     qCDebug(openLog, "the settings were asked for");
-    if (m_settingsWindow == nullptr && views() != nullptr) {
-        if (std::unique_ptr<QWindow> content = views()->makeSettings())
+    if (m_settingsWindow == nullptr && windows() != nullptr) {
+        if (std::unique_ptr<QWindow> content = windows()->makeSettings())
             m_settingsWindow = m_dependencies.makeSettingsWindow(std::move(content));
     }
     if (m_settingsWindow != nullptr)
         m_settingsWindow->bringForward();
 }
 
-WindowFactory* AppDelegate::views() {
+WindowFactory* AppDelegate::windows() {
     if (m_windowFactory == nullptr)
         m_windowFactory =
             m_dependencies.loadWindowFactory({m_monitor, m_settings, m_themes, [this] { openSettings(); },
@@ -153,8 +153,8 @@ void AppDelegate::quitApp() {
 
 AppDelegate::Visibility AppDelegate::currentVisibility() const {
     Visibility visibility;
-    for (const Module& module : modules())
-        visibility.insert(module.key, (m_settings.*module.isShown)());
+    for (const ModuleInfo& module : moduleTable)
+        visibility.insert(module.key, m_settings.isShown(module.id));
     return visibility;
 }
 

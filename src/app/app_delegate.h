@@ -82,17 +82,17 @@ private:
     using Visibility = QMap<QString, bool>;
 
     struct ShownModule {
-        const Module& module;
+        ModuleId module;
         std::unique_ptr<ItemPresenter> presenter;
     };
 
     void setupStatusItems();
-    void createStatusItem(const Module& module);
+    void createStatusItem(const ModuleInfo& module);
     void subscribe();
     /// Shows the present values in every item.
     void redraw();
     void closePopoversExcept(const Popover* kept);
-    [[nodiscard]] WindowFactory* views();
+    [[nodiscard]] WindowFactory* windows();
     [[nodiscard]] Visibility currentVisibility() const;
     void snapshotVisibility();
     void startRefreshTimer();

@@ -95,10 +95,11 @@ void OrvelleApp::logSamples() {
     if (!sampleLog().isDebugEnabled())
         return;
     QObject::connect(&m_monitor, &SystemMonitor::changed, &m_delegate, [this] {
-        for (const Module& module : modules())
-            qCDebug(sampleLog, "%s %s, cycle %lld", module.key.data(),
-                    module.describeSample(m_monitor).c_str(),
+        for (const ModuleInfo& module : moduleTable) {
+            const ItemScene scene = makeScene(module.id, {m_monitor, m_settings, m_themes});
+            qCDebug(sampleLog, "%s: %s, cycle %lld", module.key.data(), qUtf8Printable(scene.accessibleText),
                     static_cast<long long>(m_monitor.updateCycleCount()));
+        }
     });
 }
 

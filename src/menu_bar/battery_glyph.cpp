@@ -1,6 +1,5 @@
 #include "menu_bar/battery_glyph.h"
 
-#include "menu_bar/battery_item_rules.h"
 #include "theme/device_pixels.h"
 #include "theme/label_colors.h"
 
@@ -32,7 +31,7 @@ void paintOutline(QPainter& painter, const QRectF& body) {
     painter.drawRoundedRect(body.adjusted(inset, inset, -inset, -inset), bodyCornerRadius, bodyCornerRadius);
 }
 
-void paintFill(QPainter& painter, const QRectF& body, qint64 charge, const QColor& color) {
+void paintFill(QPainter& painter, const QRectF& body, double charge, const QColor& color) {
     const QPointF topLeft = body.topLeft() + QPointF(fillInset, fillInset);
     const QRectF fill(topLeft, QSizeF(batteryFillWidth(charge), body.height() - 2 * fillInset));
     painter.setPen(Qt::NoPen);
@@ -49,6 +48,11 @@ void paintTerminal(QPainter& painter, const QRectF& body) {
 }
 
 } // namespace
+
+double batteryFillWidth(double charge) {
+    constexpr double fullWidth = 18;
+    return fullWidth * charge;
+}
 
 QSizeF batteryGlyphSize() {
     return {leadingMargin + bodySize.width() + terminalGap + terminalSize.width(), bodySize.height()};

@@ -1,11 +1,9 @@
 #include "menu_bar/battery_menu_bar_item.h"
 
 #include "core/battery_monitor.h"
-#include "menu_bar/battery_item_rules.h"
-#include "menu_bar/item_nodes.h"
-#include "settings/settings_store.h"
 #include "theme/system_colors.h"
-#include "theme/theme_manager.h"
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
@@ -26,15 +24,8 @@ QString chargeText(const BatteryInfo& battery) {
 
 } // namespace
 
-BatteryMenuBarItem::BatteryMenuBarItem(const BatteryMonitor& monitor, const SettingsStore& settings,
-                                       const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene BatteryMenuBarItem::body() const {
-    return {
-        .body = picture(), .accessibleName = QStringLiteral("Battery"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString BatteryMenuBarItem::accessibleText() const {
@@ -49,17 +40,16 @@ SceneNode BatteryMenuBarItem::picture() const {
     const BatteryInfo& battery = m_monitor.battery();
     if (!battery.isPresent)
         return externalPower();
-    const QColor color =
-        batteryColor(battery.currentCapacity, battery.isCharging, m_themes.batteryColor(m_settings));
+    const QColor color = batteryColor(battery.currentCapacity, battery.isCharging, moduleColor());
     const SceneNode icon = iconNode(QStringLiteral("battery.100"), color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::textOnly:
         return charge(valueFontSize);
     case MenuBarDisplayStyle::miniBars:
     case MenuBarDisplayStyle::iconAndText:
-        return row(
-            {{BatteryShape{.charge = battery.currentCapacity, .color = color}}, charge(smallValueFontSize)},
-            batterySpacing);
+        return row({{BatteryShape{.charge = chargedFraction(battery.currentCapacity), .color = color}},
+                    charge(smallValueFontSize)},
+                   batterySpacing);
     case MenuBarDisplayStyle::sparkline:
         return row({icon, historyNode(m_monitor.chargeHistory(), color, 1.0, batteryHistorySize)},
                    batterySpacing);
@@ -74,6 +64,25 @@ SceneNode BatteryMenuBarItem::charge(double fontSize) const {
     if (m_monitor.battery().isCharging)
         parts.push_back(symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow));
     return row(parts, batterySpacing);
+}
+
+double chargedFraction(qint64 charge) {
+    return std::clamp(static_cast<double>(charge) / 100, 0.0, 1.0);
+}
+
+QColor batteryColor(qint64 charge, bool isCharging, const QColor& color) {
+    if (isCharging)
+        return SystemColors::green;
+    if (charge < 21)
+        return SystemColors::red;
+    return charge < 41 ? SystemColors::yellow : color;
+}
+
+QList<QColor> batteryDotColors(qint64 charge, const QColor& color) {
+    constexpr qsizetype dotCount = 5;
+    constexpr double unlitOpacity = 0.2;
+    const qsizetype lit = litDotCount(chargedFraction(charge) * static_cast<double>(dotCount), dotCount);
+    return meterColors(color, lit, dotCount, unlitOpacity);
 }
 
 } // namespace orvelle

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "menu_bar/item_scene.h"
+#include "menu_bar/menu_bar_item.h"
 
 namespace orvelle {
 
 class BatteryMonitor;
-class SettingsStore;
-class ThemeManager;
 
 /// The battery module's place in the menu bar: the charge as glyph, text, dots or history; on a machine
-/// without a battery that it runs on external power. What it refers to must outlive it.
-class BatteryMenuBarItem {
+/// without a battery that it runs on external power.
+class BatteryMenuBarItem : public MenuBarItem<ModuleId::battery, BatteryMonitor> {
 public:
-    BatteryMenuBarItem(const BatteryMonitor& monitor, const SettingsStore& settings,
-                       const ThemeManager& themes);
+    using MenuBarItem::MenuBarItem;
 
     /// The present values in the style that the user chose.
     [[nodiscard]] ItemScene body() const;
@@ -23,10 +20,15 @@ private:
     [[nodiscard]] QString accessibleText() const;
     /// The charge with a bolt beside it while charging.
     [[nodiscard]] SceneNode charge(double fontSize) const;
-
-    const BatteryMonitor& m_monitor;
-    const SettingsStore& m_settings;
-    const ThemeManager& m_themes;
 };
+
+/// A charge in percent as a fraction from 0 to 1, whatever the battery says.
+[[nodiscard]] double chargedFraction(qint64 charge);
+
+/// Green while charging; otherwise red below 21, yellow below 41, and else `color`.
+[[nodiscard]] QColor batteryColor(qint64 charge, bool isCharging, const QColor& color);
+
+/// Five dots of one colour, one lit for each full fifth of the charge.
+[[nodiscard]] QList<QColor> batteryDotColors(qint64 charge, const QColor& color);
 
 } // namespace orvelle

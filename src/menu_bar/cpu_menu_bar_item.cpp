@@ -3,10 +3,11 @@
 #include "charts/mini_bar.h"
 #include "core/cpu_monitor.h"
 #include "formatting/formatters.h"
-#include "menu_bar/cpu_item_rules.h"
-#include "menu_bar/item_nodes.h"
-#include "settings/settings_store.h"
-#include "theme/theme_manager.h"
+#include "menu_bar/scene_layout.h"
+#include "theme/opacity.h"
+#include "theme/system_colors.h"
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
@@ -20,14 +21,8 @@ double coreLoad(const CPUMonitor::CoreUsage& core) {
 
 } // namespace
 
-CPUMenuBarItem::CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings,
-                               const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene CPUMenuBarItem::body() const {
-    return {.body = picture(), .accessibleName = QStringLiteral("CPU"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString CPUMenuBarItem::accessibleText() const {
@@ -35,7 +30,7 @@ QString CPUMenuBarItem::accessibleText() const {
 }
 
 SceneNode CPUMenuBarItem::picture() const {
-    const QColor color = m_themes.cpuColor(m_settings);
+    const QColor color = moduleColor();
     const SceneNode icon = iconNode(QStringLiteral("cpu"), color);
     const SceneNode usage = valueNode(formatPercent(m_monitor.totalUsage()));
     switch (m_settings.menuBarDisplayStyle()) {
@@ -68,6 +63,19 @@ SceneNode CPUMenuBarItem::coreDots(const QColor& color) const {
     for (const CPUMonitor::CoreUsage& core : cores.first(coreDotCount(cores.size())))
         colors.append(coreDotColor(coreLoad(core), color));
     return dotsNode(colors);
+}
+
+qsizetype coreDotCount(qsizetype coreCount) {
+    constexpr qsizetype mostDots = 8;
+    return std::min(coreCount, mostDots);
+}
+
+QColor coreDotColor(double load, const QColor& color) {
+    if (load < 0.3)
+        return withOpacity(color, 0.3);
+    if (load < 0.6)
+        return withOpacity(color, 0.6);
+    return load < 0.8 ? color : SystemColors::red;
 }
 
 } // namespace orvelle

@@ -1,18 +1,15 @@
 #pragma once
 
-#include "menu_bar/item_scene.h"
+#include "menu_bar/menu_bar_item.h"
 
 namespace orvelle {
 
 class CPUMonitor;
-class SettingsStore;
-class ThemeManager;
 
 /// The CPU module's place in the menu bar: total usage, a bar or a dot for each core, or the usage history.
-/// What it refers to must outlive it.
-class CPUMenuBarItem {
+class CPUMenuBarItem : public MenuBarItem<ModuleId::cpu, CPUMonitor> {
 public:
-    CPUMenuBarItem(const CPUMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
+    using MenuBarItem::MenuBarItem;
 
     /// The present values in the style that the user chose.
     [[nodiscard]] ItemScene body() const;
@@ -22,10 +19,12 @@ private:
     [[nodiscard]] QString accessibleText() const;
     [[nodiscard]] SceneNode coreBars(const QColor& color) const;
     [[nodiscard]] SceneNode coreDots(const QColor& color) const;
-
-    const CPUMonitor& m_monitor;
-    const SettingsStore& m_settings;
-    const ThemeManager& m_themes;
 };
+
+/// How many cores have a dot.
+[[nodiscard]] qsizetype coreDotCount(qsizetype coreCount);
+
+/// The colour of a core's dot: `color` at three strengths as the load, a fraction, grows, and red from 0.8.
+[[nodiscard]] QColor coreDotColor(double load, const QColor& color);
 
 } // namespace orvelle

@@ -3,11 +3,8 @@
 #include "charts/sparkline_view.h"
 #include "core/disk_monitor.h"
 #include "formatting/formatters.h"
-#include "menu_bar/disk_item_rules.h"
-#include "menu_bar/item_nodes.h"
-#include "menu_bar/item_rules.h"
-#include "settings/settings_store.h"
-#include "theme/theme_manager.h"
+#include "theme/opacity.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {
@@ -17,14 +14,8 @@ constexpr QSizeF diskHistorySize(28, 12);
 
 } // namespace
 
-DiskMenuBarItem::DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings,
-                                 const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene DiskMenuBarItem::body() const {
-    return {.body = picture(), .accessibleName = QStringLiteral("Disk"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString DiskMenuBarItem::accessibleText() const {
@@ -35,7 +26,7 @@ QString DiskMenuBarItem::accessibleText() const {
 }
 
 SceneNode DiskMenuBarItem::picture() const {
-    const QColor color = m_themes.diskColor(m_settings);
+    const QColor color = moduleColor();
     const SceneNode icon = iconNode(QStringLiteral("internaldrive"), color);
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
@@ -96,6 +87,11 @@ SceneNode DiskMenuBarItem::activityDots() const {
     const AppTheme& theme = m_themes.currentTheme();
     return dotsNode({activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor),
                      activityDotColor(m_monitor.diskIO().writeSpeed, theme.diskWriteColor)});
+}
+
+QColor activityArrowColor(double bytesPerSecond, const QColor& color) {
+    constexpr double idleOpacity = 0.4;
+    return isActive(bytesPerSecond) ? color : withOpacity(SystemColors::grey, idleOpacity);
 }
 
 } // namespace orvelle

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "menu_bar/item_scene.h"
+#include "menu_bar/menu_bar_item.h"
 
 #include <optional>
 
 namespace orvelle {
 
 class DiskMonitor;
-class SettingsStore;
-class ThemeManager;
 
 /// The disk module's place in the menu bar: how full the first volume is, and whether the disks are being
-/// read and written. What it refers to must outlive it.
-class DiskMenuBarItem {
+/// read and written.
+class DiskMenuBarItem : public MenuBarItem<ModuleId::disk, DiskMonitor> {
 public:
-    DiskMenuBarItem(const DiskMonitor& monitor, const SettingsStore& settings, const ThemeManager& themes);
+    using MenuBarItem::MenuBarItem;
 
     /// The present values in the style that the user chose.
     [[nodiscard]] ItemScene body() const;
@@ -30,10 +28,9 @@ private:
     [[nodiscard]] SceneNode activityAndUsage(const QColor& color) const;
     [[nodiscard]] SceneNode history() const;
     [[nodiscard]] SceneNode activityDots() const;
-
-    const DiskMonitor& m_monitor;
-    const SettingsStore& m_settings;
-    const ThemeManager& m_themes;
 };
+
+/// The colour of the arrow of one direction: `color` while bytes flow, else a faint grey.
+[[nodiscard]] QColor activityArrowColor(double bytesPerSecond, const QColor& color);
 
 } // namespace orvelle

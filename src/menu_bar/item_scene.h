@@ -68,7 +68,7 @@ struct DotsShape {
 
 /// A battery that is filled in proportion to its charge.
 struct BatteryShape {
-    qint64 charge = 0; ///< percent
+    double charge = 0; ///< 0 to 1
     QColor color = {}; ///< of the fill
 
     bool operator==(const BatteryShape&) const = default;

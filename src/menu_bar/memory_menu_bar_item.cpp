@@ -2,10 +2,6 @@
 
 #include "core/memory_monitor.h"
 #include "formatting/formatters.h"
-#include "menu_bar/item_nodes.h"
-#include "menu_bar/item_rules.h"
-#include "settings/settings_store.h"
-#include "theme/theme_manager.h"
 
 #include <algorithm>
 
@@ -21,15 +17,8 @@ constexpr double unlitOpacity = 0.2;
 
 } // namespace
 
-MemoryMenuBarItem::MemoryMenuBarItem(const MemoryMonitor& monitor, const SettingsStore& settings,
-                                     const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene MemoryMenuBarItem::body() const {
-    return {
-        .body = picture(), .accessibleName = QStringLiteral("Memory"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString MemoryMenuBarItem::accessibleText() const {
@@ -37,7 +26,7 @@ QString MemoryMenuBarItem::accessibleText() const {
 }
 
 SceneNode MemoryMenuBarItem::picture() const {
-    const QColor color = m_themes.memoryColor(m_settings);
+    const QColor color = moduleColor();
     const double used = usedFraction(m_monitor.info());
     const SceneNode icon = iconNode(QStringLiteral("memorychip"), color);
     switch (m_settings.menuBarDisplayStyle()) {

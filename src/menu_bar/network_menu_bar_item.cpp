@@ -3,13 +3,9 @@
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
 #include "formatting/formatters.h"
-#include "menu_bar/item_nodes.h"
-#include "menu_bar/item_rules.h"
-#include "settings/settings_store.h"
 #include "theme/fonts.h"
 #include "theme/label_colors.h"
 #include "theme/opacity.h"
-#include "theme/theme_manager.h"
 
 namespace orvelle {
 namespace {
@@ -34,15 +30,8 @@ SceneNode rateWithArrow(const QString& arrow, double bytesPerSecond, const QColo
 
 } // namespace
 
-NetworkMenuBarItem::NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
-                                       const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene NetworkMenuBarItem::body() const {
-    return {
-        .body = picture(), .accessibleName = QStringLiteral("Network"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString NetworkMenuBarItem::accessibleText() const {
@@ -53,7 +42,7 @@ QString NetworkMenuBarItem::accessibleText() const {
 SceneNode NetworkMenuBarItem::picture() const {
     constexpr double widthBesideRates = 32;
     constexpr double widthBesideIcon = 36;
-    const SceneNode icon = iconNode(QStringLiteral("network"), m_themes.networkColor(m_settings));
+    const SceneNode icon = iconNode(QStringLiteral("network"), moduleColor());
     const bool hasHistory = !m_monitor.downloadHistory().isEmpty();
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "menu_bar/item_scene.h"
+#include "menu_bar/menu_bar_item.h"
 
 namespace orvelle {
 
 class NetworkMonitor;
-class SettingsStore;
-class ThemeManager;
 
 /// The network module's place in the menu bar: the upload rate above the download rate, their histories, or a
-/// dot for each direction. What it refers to must outlive it.
-class NetworkMenuBarItem {
+/// dot for each direction.
+class NetworkMenuBarItem : public MenuBarItem<ModuleId::network, NetworkMonitor> {
 public:
-    NetworkMenuBarItem(const NetworkMonitor& monitor, const SettingsStore& settings,
-                       const ThemeManager& themes);
+    using MenuBarItem::MenuBarItem;
 
     /// The present values in the style that the user chose.
     [[nodiscard]] ItemScene body() const;
@@ -27,10 +24,6 @@ private:
     [[nodiscard]] SceneNode ratePair() const;
     [[nodiscard]] SceneNode history(double width) const;
     [[nodiscard]] SceneNode activityDots() const;
-
-    const NetworkMonitor& m_monitor;
-    const SettingsStore& m_settings;
-    const ThemeManager& m_themes;
 };
 
 } // namespace orvelle

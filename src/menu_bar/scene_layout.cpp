@@ -1,8 +1,6 @@
 #include "menu_bar/scene_layout.h"
 
 #include "menu_bar/battery_glyph.h"
-#include "menu_bar/cpu_item_rules.h"
-#include "menu_bar/shape_painting.h"
 #include "theme/symbols.h"
 
 #include <QFontMetricsF>
@@ -85,6 +83,22 @@ double gapWithin(const RowShape& row, const Extent& extent, double width) {
     if (row.nodes.size() < 2 || excess <= 0)
         return row.spacing;
     return std::max(0.0, row.spacing - excess / static_cast<double>(row.nodes.size() - 1));
+}
+
+double coreBarsWidth(qsizetype coreCount) {
+    constexpr double widthPerCore = 3.5;
+    constexpr qsizetype widestCoreCount = 12;
+    return static_cast<double>(std::min(coreCount, widestCoreCount)) * widthPerCore;
+}
+
+QList<QRectF> coreBarSlots(qsizetype coreCount) {
+    const auto count = static_cast<double>(coreCount);
+    const double spacing = std::min(1.0, coreBarsWidth(coreCount) / (2 * count - 1));
+    const double barWidth = (coreBarsWidth(coreCount) - spacing * (count - 1)) / count;
+    QList<QRectF> bars;
+    for (qsizetype core = 0; core < coreCount; ++core)
+        bars.append(QRectF(static_cast<double>(core) * (barWidth + spacing), 0, barWidth, coreBarsHeight));
+    return bars;
 }
 
 const TextExtent& textExtent(const TextShape& text) {

@@ -2,6 +2,8 @@
 
 #include "menu_bar/item_scene.h"
 
+#include <QRectF>
+
 /// How much room the shapes of a scene want. Lengths are in points.
 namespace orvelle {
 
@@ -32,5 +34,17 @@ struct TextExtent {
 
 /// Texts are measured once and remembered while they recur: to measure one costs as much as to paint it.
 [[nodiscard]] const TextExtent& textExtent(const TextShape& text);
+
+inline constexpr double coreBarsHeight = 14;
+
+/// Width of the frame that all cores' bars share: 3.5 for each core, and no more than for 12 cores.
+[[nodiscard]] double coreBarsWidth(qsizetype coreCount);
+
+/// The slots of the cores' bars from left to right in a frame at the origin. Bars lie 1 apart; where a bar
+/// would become narrower than the gap beside it, the two share the room equally.
+[[nodiscard]] QList<QRectF> coreBarSlots(qsizetype coreCount);
+
+/// Between the dots of a row.
+inline constexpr double dotSpacing = 2;
 
 } // namespace orvelle

@@ -2,12 +2,12 @@
 
 #include "core/sensor_monitor.h"
 #include "formatting/formatters.h"
-#include "menu_bar/item_nodes.h"
-#include "menu_bar/sensor_item_rules.h"
-#include "settings/settings_store.h"
 #include "theme/fonts.h"
 #include "theme/label_colors.h"
-#include "theme/theme_manager.h"
+#include "theme/opacity.h"
+#include "theme/system_colors.h"
+
+#include <fmt/format.h>
 
 namespace orvelle {
 namespace {
@@ -18,15 +18,8 @@ constexpr double historyMaximum = 110;
 
 } // namespace
 
-SensorMenuBarItem::SensorMenuBarItem(const SensorMonitor& monitor, const SettingsStore& settings,
-                                     const ThemeManager& themes)
-    : m_monitor(monitor)
-    , m_settings(settings)
-    , m_themes(themes) {}
-
 ItemScene SensorMenuBarItem::body() const {
-    return {
-        .body = picture(), .accessibleName = QStringLiteral("Sensors"), .accessibleText = accessibleText()};
+    return scene(picture(), accessibleText());
 }
 
 QString SensorMenuBarItem::accessibleText() const {
@@ -37,7 +30,7 @@ QString SensorMenuBarItem::accessibleText() const {
 
 SceneNode SensorMenuBarItem::picture() const {
     const double celsius = m_monitor.cpuTemperature();
-    const QColor color = temperatureColor(celsius, m_themes.sensorColor(m_settings));
+    const QColor color = temperatureColor(celsius, moduleColor());
     const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), color);
     const SceneNode text =
         textNode(temperatureText(celsius), monospacedSystemFont(smallValueFontSize, QFont::Medium),
@@ -55,6 +48,26 @@ SceneNode SensorMenuBarItem::picture() const {
         break;
     }
     return row({icon, dotsNode(temperatureDotColors(celsius))}, sensorSpacing);
+}
+
+QString temperatureText(double celsius) {
+    return celsius > 0 ? QString::fromStdString(fmt::format("{:.0f}°", celsius)) : QStringLiteral("--°");
+}
+
+QColor temperatureColor(double celsius, const QColor& color) {
+    if (celsius < 60)
+        return withOpacity(color, 0.7);
+    return celsius < 80 ? SystemColors::yellow : SystemColors::red;
+}
+
+QList<QColor> temperatureDotColors(double celsius) {
+    constexpr double degreesPerDot = 20;
+    constexpr double unlitOpacity = 0.15;
+    QList<QColor> colors = {SystemColors::green, SystemColors::green, SystemColors::yellow,
+                            SystemColors::orange, SystemColors::red};
+    for (qsizetype dot = litDotCount(celsius / degreesPerDot, colors.size()); dot < colors.size(); ++dot)
+        colors[dot] = withOpacity(colors.at(dot), unlitOpacity);
+    return colors;
 }
 
 } // namespace orvelle

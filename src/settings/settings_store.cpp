@@ -62,6 +62,17 @@ SettingsStore::~SettingsStore() {
         std::this_thread::sleep_for(retryInterval);
 }
 
+bool SettingsStore::isShown(ModuleId module) const {
+    switch (module) {
+#define ORVELLE_MODULE(id, Type, Title, ...)                                                                 \
+    case ModuleId::id:                                                                                       \
+        return show##Title();
+        ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
+    }
+    return false;
+}
+
 void SettingsStore::tune(const QString& property, const QVariant& value) {
     m_isTuning = true;
     setProperty(property.toLatin1(), value);

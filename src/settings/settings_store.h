@@ -95,6 +95,9 @@ public:
     ORVELLE_SETTINGS
 #undef SETTING
 
+    /// Whether the module has an item in the menu bar.
+    [[nodiscard]] bool isShown(ModuleId module) const;
+
     /// Why a value that was set could not be stored, in a few words for the user; empty when all are. The
     /// value holds until the program ends and is stored together with the next one that can be. While another
     /// program has the storage for itself, saving is tried again and again; this tells of it when that lasts.

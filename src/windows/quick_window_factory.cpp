@@ -9,8 +9,8 @@ QuickWindowFactory::QuickWindowFactory(const WindowContext& context)
     , m_panels(*m_engine, {context.monitor, context.settings, context.themes, context.openSettings})
     , m_settings{context.settings, context.themes, context.launchAtLogin, context.quitApp} {}
 
-std::unique_ptr<QWindow> QuickWindowFactory::makePanel(QStringView key, double cornerRadius) {
-    return m_panels.makePanel(key, cornerRadius);
+std::unique_ptr<QWindow> QuickWindowFactory::makePanel(ModuleId module, double cornerRadius) {
+    return m_panels.makePanel(module, cornerRadius);
 }
 
 std::unique_ptr<QWindow> QuickWindowFactory::makeSettings() {

@@ -13,7 +13,7 @@ class QuickWindowFactory final : public WindowFactory {
 public:
     explicit QuickWindowFactory(const WindowContext& context);
 
-    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override;
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(ModuleId module, double cornerRadius) override;
     [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override;
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QStringView>
+#include "settings/modules.h"
+
 #include <QWindow>
 
 #include <functional>
@@ -28,9 +29,9 @@ class WindowFactory {
 public:
     virtual ~WindowFactory() = default;
 
-    /// The detail panel of the module with this key in its frame, not shown yet, 320 x 500 points with its
-    /// corners rounded by so many; null for a key that no module has.
-    [[nodiscard]] virtual std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) = 0;
+    /// The detail panel of the module in its frame, not shown yet, 320 x 500 points. Its corners have this
+    /// radius in points. Null when it cannot be loaded.
+    [[nodiscard]] virtual std::unique_ptr<QWindow> makePanel(ModuleId module, double cornerRadius) = 0;
     /// The settings, not shown yet.
     [[nodiscard]] virtual std::unique_ptr<QWindow> makeSettings() = 0;
 };

@@ -18,8 +18,8 @@ class RecordedWindowFactory final : public WindowFactory {
 public:
     explicit RecordedWindowFactory(QStringList& calls)
         : m_calls(calls) {}
-    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
-        m_calls.append(QStringLiteral("%1 panel %2").arg(key).arg(cornerRadius));
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(ModuleId module, double cornerRadius) override {
+        m_calls.append(QStringLiteral("%1 panel %2").arg(moduleInfo(module).key).arg(cornerRadius));
         return std::make_unique<QWindow>();
     }
     [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
@@ -55,7 +55,7 @@ protected:
     }
     static QStringList everyKey() {
         QStringList keys;
-        for (const Module& module : modules())
+        for (const ModuleInfo& module : moduleTable)
             keys.append(module.key);
         return keys;
     }

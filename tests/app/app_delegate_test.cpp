@@ -11,8 +11,8 @@ TEST_F(AppDelegateTest, KnowsTheModulesInTheirFixedOrderAndLengths) {
         {QStringLiteral("cpu"), 60},  {QStringLiteral("memory"), 70},  {QStringLiteral("network"), 90},
         {QStringLiteral("disk"), 45}, {QStringLiteral("battery"), 65}, {QStringLiteral("sensor"), 50}};
     QList<std::pair<QString, double>> known;
-    for (const Module& module : modules())
-        known.append({module.key, module.length});
+    for (const ModuleInfo& module : moduleTable)
+        known.append({module.key, module.width});
     EXPECT_EQ(known, expected);
 }
 
@@ -21,7 +21,7 @@ TEST_F(AppDelegateTest, CreatesAnItemForEveryShownModuleInTableOrder) {
     delegate.applicationDidFinishLaunching();
     EXPECT_EQ(bar.identifiers(), everyKey());
     for (std::size_t index = 0; index < bar.items.size(); ++index) {
-        EXPECT_EQ(bar.items[index]->length(), modules()[index].length);
+        EXPECT_EQ(bar.items[index]->length(), moduleTable[index].width);
         EXPECT_GT(bar.items[index]->repaintCount, 0);
     }
 }

@@ -12,9 +12,9 @@ class RecordedWindowFactory final : public WindowFactory {
 public:
     explicit RecordedWindowFactory(Program& program)
         : m_program(program) {}
-    [[nodiscard]] std::unique_ptr<QWindow> makePanel(QStringView key, double cornerRadius) override {
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(ModuleId module, double cornerRadius) override {
         m_program.panelCornerRadius = cornerRadius;
-        return makeContent(key.toString(), QSize(320, 500));
+        return makeContent(moduleInfo(module).key, QSize(320, 500));
     }
     [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
         return makeContent(QStringLiteral("settings"), QSize(460, 640));

@@ -1,9 +1,11 @@
 #include "core/battery_monitor.h"
 #include "item_fixture.h"
-#include "menu_bar/battery_item_rules.h"
+#include "menu_bar/battery_glyph.h"
 #include "menu_bar/battery_menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
 #include "theme/system_colors.h"
+
+#include <limits>
 
 namespace orvelle {
 namespace {
@@ -34,7 +36,7 @@ protected:
 TEST_F(BatteryMenuBarItemTest, MiniBarsAndIconAndTextShowTheGlyphBesideTheCharge) {
     charge(63);
     const QImage expected = picture(
-        row({{BatteryShape{.charge = 63, .color = color()}}, valueNode(QStringLiteral("63%"), 10)}, 2),
+        row({{BatteryShape{.charge = 0.63, .color = color()}}, valueNode(QStringLiteral("63%"), 10)}, 2),
         batteryLength);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), expected);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::iconAndText), expected);
@@ -50,7 +52,7 @@ TEST_F(BatteryMenuBarItemTest, ABoltFollowsTheChargeWhileCharging) {
     charge(50, true);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
               picture(row({valueNode(QStringLiteral("50%")), bolt()}, 2), batteryLength));
-    const SceneNode glyph = {BatteryShape{.charge = 50, .color = SystemColors::green}};
+    const SceneNode glyph = {BatteryShape{.charge = 0.5, .color = SystemColors::green}};
     EXPECT_EQ(
         pictureIn(MenuBarDisplayStyle::miniBars),
         picture(row({glyph, row({valueNode(QStringLiteral("50%"), 10), bolt()}, 2)}, 2), batteryLength));
@@ -113,12 +115,12 @@ using BatteryGlyphTest = ItemFixture;
 
 TEST_F(BatteryGlyphTest, IsFilledInProportionToTheCharge) {
     const QColor fill(10, 200, 30);
-    const auto filledPixels = [&](qint64 charge) {
+    const auto filledPixels = [&](double charge) {
         return countPixels(picture({BatteryShape{.charge = charge, .color = fill}}, batteryLength), fill);
     };
     EXPECT_EQ(filledPixels(0), 0);
-    EXPECT_NEAR(filledPixels(50), 18 * 16, 24) << "half of 18 points, 8 high, without the corners";
-    EXPECT_NEAR(filledPixels(100), 36 * 16, 24);
+    EXPECT_NEAR(filledPixels(0.5), 18 * 16, 24) << "half of 18 points, 8 high, without the corners";
+    EXPECT_NEAR(filledPixels(1), 36 * 16, 24);
 }
 
 TEST_F(BatteryGlyphTest, HasASharpOutlineAtEveryScale) {
@@ -137,6 +139,49 @@ TEST_F(BatteryGlyphTest, HasASharpOutlineAtEveryScale) {
         EXPECT_EQ(solid, qRound(ratio)) << "at scale " << ratio;
         EXPECT_EQ(blurred, 0) << "at scale " << ratio;
     }
+}
+
+const QColor batteryModuleColor(40, 80, 120);
+
+qsizetype litBatteryDots(qint64 charge) {
+    return batteryDotColors(charge, batteryModuleColor).count(batteryModuleColor);
+}
+
+TEST(BatteryColor, WarnsOfALowCharge) {
+    EXPECT_EQ(batteryColor(0, false, batteryModuleColor), SystemColors::red);
+    EXPECT_EQ(batteryColor(20, false, batteryModuleColor), SystemColors::red);
+    EXPECT_EQ(batteryColor(21, false, batteryModuleColor), SystemColors::yellow);
+    EXPECT_EQ(batteryColor(40, false, batteryModuleColor), SystemColors::yellow);
+    EXPECT_EQ(batteryColor(41, false, batteryModuleColor), batteryModuleColor);
+    EXPECT_EQ(batteryColor(100, false, batteryModuleColor), batteryModuleColor);
+}
+
+TEST(BatteryColor, IsGreenWheneverCharging) {
+    for (const qint64 charge : {0, 20, 21, 41, 100})
+        EXPECT_EQ(batteryColor(charge, true, batteryModuleColor), SystemColors::green);
+}
+
+TEST(BatteryFill, GrowsWithTheChargeUpToEighteenPoints) {
+    EXPECT_EQ(batteryFillWidth(chargedFraction(0)), 0);
+    EXPECT_EQ(batteryFillWidth(chargedFraction(50)), 9);
+    EXPECT_EQ(batteryFillWidth(chargedFraction(100)), 18);
+}
+
+TEST(BatteryFill, StaysWithinTheGlyphWhateverTheBatterySays) {
+    EXPECT_EQ(batteryFillWidth(chargedFraction(-5)), 0);
+    EXPECT_EQ(batteryFillWidth(chargedFraction(130)), 18);
+    EXPECT_EQ(batteryFillWidth(chargedFraction(std::numeric_limits<qint64>::max())), 18);
+}
+
+TEST(BatteryDots, LightOneForEachFullFifth) {
+    EXPECT_EQ(litBatteryDots(0), 0);
+    EXPECT_EQ(litBatteryDots(19), 0);
+    EXPECT_EQ(litBatteryDots(20), 1);
+    EXPECT_EQ(litBatteryDots(60), 3);
+    EXPECT_EQ(litBatteryDots(99), 4);
+    EXPECT_EQ(litBatteryDots(100), 5);
+    EXPECT_EQ(litBatteryDots(std::numeric_limits<qint64>::max()), 5);
+    EXPECT_EQ(batteryDotColors(0, batteryModuleColor).size(), 5);
 }
 
 } // namespace

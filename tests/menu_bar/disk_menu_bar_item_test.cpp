@@ -1,10 +1,10 @@
 #include "charts/sparkline_view.h"
 #include "core/disk_monitor.h"
 #include "item_fixture.h"
-#include "menu_bar/disk_item_rules.h"
 #include "menu_bar/disk_menu_bar_item.h"
-#include "menu_bar/item_rules.h"
+#include "menu_bar/menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
+#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {
@@ -111,6 +111,15 @@ TEST_F(DiskMenuBarItemTest, TellsUsageAndActivityInWords) {
     transfer(0, 0);
     transfer(2048, 100);
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Disk 75%, read 2.0 KB/s, write 100 B/s"));
+}
+
+TEST(ActivityArrow, LightsAbove1024BytesPerSecond) {
+    const QColor directionColor(40, 80, 120);
+    QColor idle = SystemColors::grey;
+    idle.setAlphaF(0.4F);
+    EXPECT_EQ(activityArrowColor(0, directionColor), idle);
+    EXPECT_EQ(activityArrowColor(1024, directionColor), idle);
+    EXPECT_EQ(activityArrowColor(1024.5, directionColor), directionColor);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "menu_bar/item_nodes.h"
+#include "menu_bar/menu_bar_item.h"
 #include "menu_bar/scene_painter.h"
 #include "settings/settings_store.h"
 #include "support/pixels.h"

@@ -1,6 +1,6 @@
 #include "animation/animation_timing.h"
-#include "menu_bar/item_nodes.h"
 #include "menu_bar/item_presenter.h"
+#include "menu_bar/menu_bar_item.h"
 #include "support/manual_clock.h"
 #include "support/pixels.h"
 

@@ -1,4 +1,4 @@
-#include "menu_bar/item_nodes.h"
+#include "menu_bar/menu_bar_item.h"
 #include "theme/fonts.h"
 
 #include <gtest/gtest.h>
@@ -42,9 +42,9 @@ TEST(ItemSceneTest, EveryValueOfAShapeCounts) {
         levelBarNode({20, 4}, 2, 0.5, Qt::red, false),
         {CoreBarsShape{.levels = {{.look = {0.5, Qt::red}, .fullLength = 14}}}},
         {CoreBarsShape{.levels = {{.look = {0.6, Qt::red}, .fullLength = 14}}}},
-        {BatteryShape{.charge = 50, .color = Qt::green}},
-        {BatteryShape{.charge = 51, .color = Qt::green}},
-        {BatteryShape{.charge = 50, .color = Qt::red}},
+        {BatteryShape{.charge = 0.5, .color = Qt::green}},
+        {BatteryShape{.charge = 0.51, .color = Qt::green}},
+        {BatteryShape{.charge = 0.5, .color = Qt::red}},
         {line},
         changed(line, [](SparklineView& other) { other.data = {1, 3}; }),
         changed(line, [](SparklineView& other) { other.maxValue = 4; }),

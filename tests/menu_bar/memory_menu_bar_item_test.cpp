@@ -1,7 +1,7 @@
 #include "core/memory_monitor.h"
 #include "item_fixture.h"
-#include "menu_bar/item_rules.h"
 #include "menu_bar/memory_menu_bar_item.h"
+#include "menu_bar/menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
 
 namespace orvelle {

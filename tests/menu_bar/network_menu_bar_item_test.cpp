@@ -1,7 +1,7 @@
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
 #include "item_fixture.h"
-#include "menu_bar/item_rules.h"
+#include "menu_bar/menu_bar_item.h"
 #include "menu_bar/network_menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
 #include "theme/fonts.h"

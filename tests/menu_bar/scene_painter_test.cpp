@@ -1,4 +1,4 @@
-#include "menu_bar/item_nodes.h"
+#include "menu_bar/menu_bar_item.h"
 #include "menu_bar/scene_layout.h"
 #include "menu_bar/scene_painter.h"
 #include "support/pixels.h"

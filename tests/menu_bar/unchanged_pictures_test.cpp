@@ -63,8 +63,8 @@ TEST_F(UnchangedPictures, LookTheSameWheneverTheirScenesAreEqual) {
         int otherCount = 0;
         for (int round = 0; round < 30; ++round) {
             sample();
-            for (const Module& module : modules()) {
-                const SceneNode scene = module.makeScene({monitor, settings, themes}).body;
+            for (const ModuleInfo& module : moduleTable) {
+                const SceneNode scene = makeScene(module.id, {monitor, settings, themes}).body;
                 const QImage image = picture(scene, 90);
                 auto& [sceneBefore, imageBefore] = before[module.key];
                 if (scene == sceneBefore) {

@@ -2,14 +2,14 @@
 
 from planting import Fault
 
-NODES = "src/menu_bar/item_nodes.cpp"
-SIZES = "src/menu_bar/item_nodes.h"
+NODES = "src/menu_bar/menu_bar_item.cpp"
+SIZES = "src/menu_bar/menu_bar_item.h"
 BATTERY = "src/menu_bar/battery_menu_bar_item.cpp"
 NETWORK = "src/menu_bar/network_menu_bar_item.cpp"
 SENSOR = "src/menu_bar/sensor_menu_bar_item.cpp"
 DISK = "src/menu_bar/disk_menu_bar_item.cpp"
 WRITTEN = ("test_menu_bar", "WrittenValues.*")
-ITEMS = ("test_menu_bar", "*MenuBarItem*:ItemNodes*:*Rules*:*Dot*")
+ITEMS = ("test_menu_bar", "*MenuBarItem*:*Dot*:RecentSamples*")
 VALUE_FONT = "monospacedSystemFont(fontSize, QFont::Medium)"
 
 BAR_FAULTS = [
@@ -37,12 +37,12 @@ BAR_FAULTS = [
           "chargingMarkFontSize, SystemColors::green", *ITEMS),
     Fault("the charge is written small alone too", BATTERY, "return charge(valueFontSize)",
           "return charge(smallValueFontSize)", *WRITTEN),
-    Fault("unlit dots of the sensors are as bright as others", "src/menu_bar/sensor_item_rules.cpp",
+    Fault("unlit dots of the sensors are as bright as others", SENSOR,
           "unlitOpacity = 0.15", "unlitOpacity = 0.2", *ITEMS),
     Fault("read and write exchange their colours", DISK,
           "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor)",
           "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskWriteColor)", *ITEMS),
     Fault("icons are smaller", SIZES, "iconFontSize = 10", "iconFontSize = 9", *ITEMS),
-    Fault("a history is drawn from 21 samples", "src/menu_bar/item_rules.h", "recentSampleCount = 20",
+    Fault("a history is drawn from 21 samples", SIZES, "recentSampleCount = 20",
           "recentSampleCount = 21", *ITEMS),
 ]

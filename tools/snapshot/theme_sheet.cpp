@@ -21,17 +21,16 @@ constexpr int themesPerRow = 4;
 constexpr QColor barBackground(255, 255, 255, 15); ///< a little lighter than the sheet
 
 double barWidth() {
-    const std::span<const Module> all = modules();
-    return std::accumulate(all.begin(), all.end(), 2 * barPadding,
-                           [](double width, const Module& module) { return width + module.length; });
+    return std::accumulate(moduleTable.begin(), moduleTable.end(), 2 * barPadding,
+                           [](double width, const ModuleInfo& module) { return width + module.width; });
 }
 
 void paintBar(QPainter& painter, const QRectF& frame, const ModuleContext& context) {
     painter.fillRect(frame, barBackground);
     QRectF place(frame.left() + barPadding, frame.top(), 0, barHeight);
-    for (const Module& module : modules()) {
-        place.setWidth(module.length);
-        paintScene(painter, place, module.makeScene(context).body);
+    for (const ModuleInfo& module : moduleTable) {
+        place.setWidth(module.width);
+        paintScene(painter, place, makeScene(module.id, context).body);
         place.moveLeft(place.right());
     }
 }
@@ -59,7 +58,7 @@ Sheet themeSheet(SystemMonitor& monitor, FreshSettings& settings) {
     PanelFactory factory(
         *engine,
         {.monitor = monitor, .settings = settings.store, .themes = settings.themes, .openSettings = [] {}});
-    const std::unique_ptr<QQuickView> panel = factory.makePanel(u"cpu");
+    const std::unique_ptr<QQuickView> panel = factory.makePanel(ModuleId::cpu);
     panel->show();
     for (const AppTheme& theme : builtInThemes()) {
         if (sheet.rows.isEmpty() || sheet.rows.last().cells.size() == themesPerRow)

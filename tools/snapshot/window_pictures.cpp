@@ -44,8 +44,8 @@ QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settin
         *engine,
         {.monitor = monitor, .settings = settings.store, .themes = settings.themes, .openSettings = [] {}});
     QList<WindowPicture> pictures;
-    for (const Module& module : modules()) {
-        const std::unique_ptr<QQuickView> panel = factory.makePanel(QString(module.key));
+    for (const ModuleInfo& module : moduleTable) {
+        const std::unique_ptr<QQuickView> panel = factory.makePanel(module.id);
         if (panel == nullptr)
             continue;
         panel->show(); // what was never shown has not been filled yet

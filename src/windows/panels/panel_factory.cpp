@@ -11,48 +11,26 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 
-#include <optional>
 #include <utility>
 
 namespace orvelle {
 namespace {
 
-/// A panel's file and the monitors that it shows.
-struct PanelRecipe {
-    QString file;
-    QString windowTitle; ///< not seen, but read out
-    QVariantMap monitors;
-};
+/// Every monitor under the name of the property by which a panel asks for it.
+QVariantMap monitorsOf(SystemMonitor& monitor) {
+    QVariantMap monitors{{QStringLiteral("process"), QVariant::fromValue(&monitor.process())}};
+#define ORVELLE_MODULE(id, ...) monitors.insert(QStringLiteral(#id), QVariant::fromValue(&monitor.id()));
+    ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
+    return monitors;
+}
 
-std::optional<PanelRecipe> recipeOf(QStringView key, SystemMonitor& monitor) {
-    const auto object = [](QObject& source) { return QVariant::fromValue(&source); };
-    if (key == u"cpu")
-        return PanelRecipe{QStringLiteral("CPUPanelView"),
-                           QStringLiteral("Orvelle CPU"),
-                           {{QStringLiteral("cpu"), object(monitor.cpu())},
-                            {QStringLiteral("process"), object(monitor.process())}}};
-    if (key == u"memory")
-        return PanelRecipe{QStringLiteral("MemoryPanelView"),
-                           QStringLiteral("Orvelle Memory"),
-                           {{QStringLiteral("memory"), object(monitor.memory())},
-                            {QStringLiteral("process"), object(monitor.process())}}};
-    if (key == u"network")
-        return PanelRecipe{QStringLiteral("NetworkPanelView"),
-                           QStringLiteral("Orvelle Network"),
-                           {{QStringLiteral("network"), object(monitor.network())}}};
-    if (key == u"disk")
-        return PanelRecipe{QStringLiteral("DiskPanelView"),
-                           QStringLiteral("Orvelle Disk"),
-                           {{QStringLiteral("disk"), object(monitor.disk())}}};
-    if (key == u"battery")
-        return PanelRecipe{QStringLiteral("BatteryPanelView"),
-                           QStringLiteral("Orvelle Battery"),
-                           {{QStringLiteral("battery"), object(monitor.battery())}}};
-    if (key == u"sensor")
-        return PanelRecipe{QStringLiteral("SensorPanelView"),
-                           QStringLiteral("Orvelle Sensors"),
-                           {{QStringLiteral("sensor"), object(monitor.sensor())}}};
-    return std::nullopt;
+/// The properties that the object has.
+QVariantMap onlyThoseOf(const QObject& object, QVariantMap properties) {
+    properties.removeIf([&object](const QVariantMap::iterator& property) {
+        return object.metaObject()->indexOfProperty(property.key().toLatin1()) < 0;
+    });
+    return properties;
 }
 
 } // namespace
@@ -64,19 +42,24 @@ PanelFactory::PanelFactory(QQmlEngine& engine, PanelContext context)
     registerPanelTypes();
 }
 
-std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double cornerRadius) {
-    std::optional<PanelRecipe> recipe = recipeOf(key, m_context.monitor);
-    if (!recipe)
+QQuickItem* PanelFactory::createPanel(QQmlComponent& component) const {
+    // A component that is not ready must not be asked to create anything.
+    QObject* panel = component.isReady() ? component.beginCreate(m_engine.rootContext()) : nullptr;
+    if (panel == nullptr)
         return nullptr;
-    QVariantMap properties = recipe->monitors;
+    QVariantMap properties = monitorsOf(m_context.monitor);
     properties.insert(QStringLiteral("settings"), QVariant::fromValue(&m_context.settings));
     properties.insert(QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes));
+    component.setInitialProperties(panel, onlyThoseOf(*panel, properties));
+    component.completeCreate();
+    return qobject_cast<QQuickItem*>(panel);
+}
 
-    QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/Orvelle/Panels/%1.qml").arg(recipe->file)));
-    // A component that is not ready must not be asked to create anything.
-    auto* panel = component.isReady()
-                      ? qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties))
-                      : nullptr;
+std::unique_ptr<QQuickView> PanelFactory::makePanel(ModuleId module, double cornerRadius) {
+    const ModuleInfo& info = moduleInfo(module);
+    QQmlComponent component(&m_engine,
+                            QUrl(QStringLiteral("qrc:/Orvelle/Panels/%1.qml").arg(info.panelView)));
+    QQuickItem* panel = createPanel(component);
     if (panel == nullptr) {
         qWarning("%s", qUtf8Printable(component.errorString()));
         return nullptr;
@@ -87,7 +70,7 @@ std::unique_ptr<QQuickView> PanelFactory::makePanel(QStringView key, double corn
         window->makeTranslucent();
     window->setPanel(*panel, {{QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes)},
                               {QStringLiteral("cornerRadius"), cornerRadius}});
-    window->setTitle(recipe->windowTitle);
+    window->setTitle(QStringLiteral("Orvelle %1").arg(info.title)); // not seen, but read out
     window->resize(panelSize);
     return window;
 }

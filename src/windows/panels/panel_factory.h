@@ -1,11 +1,15 @@
 #pragma once
 
+#include "settings/modules.h"
+
 #include <QQuickView>
 
 #include <functional>
 #include <memory>
 
+class QQmlComponent;
 class QQmlEngine;
+class QQuickItem;
 
 namespace orvelle {
 
@@ -30,11 +34,14 @@ public:
 
     PanelFactory(QQmlEngine& engine, PanelContext context);
 
-    /// The panel of the module with this key in a window of its own, not shown yet, with its corners rounded
-    /// by so many points; null for a key that no module has.
-    [[nodiscard]] std::unique_ptr<QQuickView> makePanel(QStringView key, double cornerRadius = 0);
+    /// The module's panel in a window of its own, not shown yet. Its corners have this radius in points.
+    /// Null, with the reason on the program's standard error, when its view cannot be loaded.
+    [[nodiscard]] std::unique_ptr<QQuickView> makePanel(ModuleId module, double cornerRadius = 0);
 
 private:
+    /// A panel with the monitors that it asks for, owned by the caller; null when it cannot be created.
+    [[nodiscard]] QQuickItem* createPanel(QQmlComponent& component) const;
+
     QQmlEngine& m_engine;
     PanelContext m_context;
 };

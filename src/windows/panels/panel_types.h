@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/system_monitor.h"
+#include "settings/modules.h"
 
 #include <QAbstractItemModel>
 #include <QQmlEngine>
@@ -13,47 +14,15 @@ namespace orvelle {
 /// by itself. Called again it does nothing.
 void registerPanelTypes();
 
-struct CPUMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::CPUMonitor)
-    QML_NAMED_ELEMENT(CPUMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct MemoryMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::MemoryMonitor)
-    QML_NAMED_ELEMENT(MemoryMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct NetworkMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::NetworkMonitor)
-    QML_NAMED_ELEMENT(NetworkMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct DiskMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::DiskMonitor)
-    QML_NAMED_ELEMENT(DiskMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct BatteryMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::BatteryMonitor)
-    QML_NAMED_ELEMENT(BatteryMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct SensorMonitorInQml {
-    Q_GADGET
-    QML_FOREIGN(orvelle::SensorMonitor)
-    QML_NAMED_ELEMENT(SensorMonitor)
-    QML_UNCREATABLE("The program makes it.")
-};
+#define ORVELLE_MODULE(id, Type, ...)                                                                        \
+    struct Type##MonitorInQml {                                                                              \
+        Q_GADGET                                                                                             \
+        QML_FOREIGN(orvelle::Type##Monitor)                                                                  \
+        QML_NAMED_ELEMENT(Type##Monitor)                                                                     \
+        QML_UNCREATABLE("The program makes it.")                                                             \
+    };
+ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
 
 struct ProcessMonitorInQml {
     Q_GADGET

@@ -88,20 +88,13 @@ QString unchangedBarHelp() {
 }
 
 const QList<ModuleRow>& moduleRows() {
-    static const QList<ModuleRow> rows{
-        {u"cpu"_s, u"cpu"_s, u"CPU"_s, u"showCPU"_s, u"useCustomCPUColor"_s, u"customCPUColorHex"_s,
-         u"cpuColor"_s},
-        {u"memory"_s, u"memorychip"_s, u"Memory"_s, u"showMemory"_s, u"useCustomMemoryColor"_s,
-         u"customMemoryColorHex"_s, u"memoryColor"_s},
-        {u"network"_s, u"network"_s, u"Network"_s, u"showNetwork"_s, u"useCustomNetworkColor"_s,
-         u"customNetworkColorHex"_s, u"networkColor"_s},
-        {u"disk"_s, u"internaldrive"_s, u"Disk"_s, u"showDisk"_s, u"useCustomDiskColor"_s,
-         u"customDiskColorHex"_s, u"diskColor"_s},
-        {u"battery"_s, u"battery.100"_s, u"Battery"_s, u"showBattery"_s, u"useCustomBatteryColor"_s,
-         u"customBatteryColorHex"_s, u"batteryColor"_s},
-        {u"sensor"_s, u"thermometer"_s, u"Sensors"_s, u"showSensors"_s, u"useCustomSensorColor"_s,
-         u"customSensorColorHex"_s, u"sensorColor"_s},
-    };
+    static const QList<ModuleRow> rows = [] {
+        QList<ModuleRow> all;
+        for (const ModuleInfo& module : moduleTable)
+            all.append({module.key, module.symbol, module.title, module.showSetting,
+                        module.useCustomColorSetting, module.customColorHexSetting, module.themeColor});
+        return all;
+    }();
     return rows;
 }
 

@@ -33,9 +33,15 @@ protected:
         }
     }
 
-    /// Shows the panel of a module. Never null when it could be made.
-    QQuickView* show(const char16_t* key) {
-        panel = factory.makePanel(key);
+    /// Shows the panel of the module with this key. Never null when it could be made.
+    QQuickView* show(QStringView key) {
+        const auto* module =
+            std::ranges::find_if(moduleTable, [key](const ModuleInfo& each) { return key == each.key; });
+        if (module == moduleTable.end()) {
+            ADD_FAILURE() << "no module is called " << key.toString().toStdString();
+            return nullptr;
+        }
+        panel = factory.makePanel(module->id);
         if (panel == nullptr) {
             ADD_FAILURE() << "no panel was made";
             return nullptr;
