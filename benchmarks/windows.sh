@@ -6,6 +6,7 @@
 set -euo pipefail
 orvelle=$1
 source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
+source "$(dirname "$(readlink -f "$0")")/../scripts/modules.sh"
 settings=$(mktemp -d)
 unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_STATE_HOME=$settings
@@ -17,10 +18,9 @@ finish() {
 }
 trap finish EXIT
 
-# The middles of the items, in points from the right edge, when all six are shown.
-declare -A item_middle=([cpu]=358 [memory]=293 [network]=213 [disk]=145 [battery]=90 [sensor]=33)
-
-click_item() { xdotool mousemove $((1280 - item_middle[$1])) 11 click "${2:-1}"; }
+read_modules "$orvelle"
+# click_item NUMBER [BUTTON]: from the left, while all are shown.
+click_item() { xdotool mousemove $((1280 - module_middles[$1])) 11 click "${2:-1}"; }
 memory_kilobytes() { awk -v name="$1:" '$1 == name {print $2}' "/proc/$process/smaps_rollup"; }
 # CPU time of a process, nanoseconds.
 cpu_nanoseconds() { cat "/proc/$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'; }
@@ -57,10 +57,10 @@ end_program() {
 
 # Opens and closes each panel so many times; the log then tells how long each took.
 open_panels() {
-  local key
+  local index
   for ((round = 0; round < $1; ++round)); do
-    for key in cpu memory network disk battery sensor; do
-      click_item "$key"
+    for index in "${!module_keys[@]}"; do
+      click_item "$index"
       sleep 0.8
       xdotool key Escape
       sleep 0.3
@@ -76,7 +76,7 @@ settings_times() {
     "$settings/log"
 }
 open_settings() {
-  click_item cpu 3
+  click_item 0 3
   sleep 0.8
   xdotool key Down Return
   sleep 2
@@ -120,12 +120,12 @@ interval = 3
 INI
 }
 
-everything=(showDisk=true showSensors=true)
+everything=("${module_settings[@]/%/=true}")
 start_x_server 1280x800
 start_window_manager
 
 start_program "${everything[@]}"
-click_item cpu
+click_item 0
 sleep 3
 first_rss=$(memory_kilobytes Rss)
 panel_cpu=$(cpu_percent 30 "$process")

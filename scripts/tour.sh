@@ -6,6 +6,7 @@ set -euo pipefail
 program=$1
 pictures=$2
 source "$(dirname "$(readlink -f "$0")")/virtual_display.sh"
+source "$(dirname "$(readlink -f "$0")")/modules.sh"
 
 settings=$(mktemp -d)
 log=$settings/log
@@ -14,11 +15,9 @@ unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_CACHE_HOME=$settings XDG_STATE_HOME=$settings
 export QT_FORCE_STDERR_LOGGING=1
 
-# The items with their lengths, in the order of the bar, which ends 8 points before the edge of the screen.
-items=("CPU 60" "Memory 70" "Network 90" "Disk 45" "Battery 65" "Sensors 50")
-bar_left=$((1280 - 8 - (60 + 70 + 90 + 45 + 65 + 50)))
+read_modules "$program"
 mkdir "$settings/orvelle"
-printf '[General]\nshowDisk=true\nshowSensors=true\n' >"$settings/orvelle/orvelle.conf"
+{ echo '[General]' && printf '%s=true\n' "${module_settings[@]}"; } >"$settings/orvelle/orvelle.conf"
 program_process=""
 finish() {
   [ -z "$program_process" ] || kill "$program_process" 2>/dev/null || true
@@ -70,13 +69,10 @@ wait_for_window() {
 
 picture desktop root
 picture bar root -crop 1280x22+0+0 +repage
-left=$bar_left
-for item in "${items[@]}"; do
-  read -r name length <<<"$item"
-  xdotool mousemove $((left + length / 2)) 11 click 1
-  wait_for_window "$name"
-  picture "panel-${name,,}" "$window"
-  left=$((left + length))
+for index in "${!module_keys[@]}"; do
+  xdotool mousemove $((1280 - module_middles[index])) 11 click 1
+  wait_for_window "${module_titles[index]}"
+  picture "panel-${module_keys[index]}" "$window"
 done
 # The gear at the end of a panel opens the settings.
 xdotool mousemove --window "$window" 294 478 click 1

@@ -6,6 +6,7 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop xdotool
+read_modules "$orvelle" || exit 1
 log=$workDirectory/orvelle.log
 
 programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }

@@ -1,11 +1,12 @@
 """An assistive program for the end-to-end test: it finds the bar, uses it through AT-SPI alone, and ends Orvelle."""
 
+import os
 import subprocess
 
 from assistive import (Atspi, GLib, Role, State, children, connect, descendants, do, find_child, finish, has_state,
                        report, shown_panel, wait_until)
 
-ITEMS = ["CPU", "Memory", "Network", "Disk", "Battery", "Sensors"]
+ITEMS = os.environ["ORVELLE_MODULE_TITLES"].split("|")
 
 # What holds other things together and need not have a name of its own.
 CONTAINERS = {Role.FILLER, Role.PANEL, Role.UNKNOWN, Role.LIST, Role.SCROLL_PANE, Role.LAYERED_PANE}

@@ -7,6 +7,7 @@ orvelle=$1
 client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool import convert
+read_modules "$orvelle" || exit 1
 
 windowIsShown() { [[ -n $(xdotool search --onlyvisible --name "$1" 2>/dev/null) ]]; }
 menuIsShown() { windowIsShown '^Orvelle menu$'; }
@@ -48,7 +49,7 @@ menuIsInside() {
     ((left >= 0 && left + width <= 1280 && top >= $(pixels 22) && top <= $(pixels 22) + 1 && height > 0))
 }
 
-panelWindow() { windowsTitled 'Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)' | tail -1; }
+panelWindow() { windowsTitled "Orvelle ($ORVELLE_MODULE_TITLES)" | tail -1; }
 panelIsShown() { [[ -n $(panelWindow) ]]; }
 panelIsHidden() { ! panelIsShown; }
 

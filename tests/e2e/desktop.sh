@@ -2,6 +2,7 @@
 # tests.
 
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/modules.sh"
 
 readonly skipped=77
 readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # less of it helps whoever writes a test
@@ -59,6 +60,17 @@ waitUntil() {
 fail() {
     echo "FAILED: $1"
     failures=$((failures + 1))
+}
+
+# storeVisibility true|false: the settings say it of every module, and nothing else.
+storeVisibility() {
+    local setting
+    mkdir -p "$XDG_CONFIG_HOME/orvelle"
+    {
+        echo "[General]"
+        for setting in "${module_settings[@]}"; do echo "$setting=$1"; done
+    } >"$workDirectory/settings"
+    mv "$workDirectory/settings" "$XDG_CONFIG_HOME/orvelle/orvelle.conf"
 }
 
 # expectEqual DESCRIPTION EXPECTED ACTUAL

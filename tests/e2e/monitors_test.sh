@@ -9,17 +9,7 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool xrandr
 
-# Titles of the panels, and where the middle of each item is: in points from the right edge of the bar.
-readonly titles=(CPU Memory Network Disk Battery Sensors) middles=(358 293 213 145 90 33)
-
-showEveryModule() {
-    local module
-    mkdir -p "$XDG_CONFIG_HOME/orvelle"
-    echo "[General]" >"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
-    for module in CPU Memory Network Disk Battery Sensors; do
-        echo "show$module=true" >>"$XDG_CONFIG_HOME/orvelle/orvelle.conf"
-    done
-}
+read_modules "$orvelle" || exit 1
 
 # Points as pixels: all that stands here has a whole number of them at these scales.
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
@@ -41,7 +31,7 @@ endOrvelle() {
 windowTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -1; }
 isShown() { [[ -n $(windowTitled "$1") ]]; }
 isHidden() { ! isShown "$1"; }
-noPanelIsShown() { isHidden 'Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)'; }
+noPanelIsShown() { isHidden "Orvelle ($ORVELLE_MODULE_TITLES)"; }
 
 # setMonitor NAME OUTPUT GEOMETRY: about a quarter of a millimetre a pixel.
 setMonitor() {
@@ -73,7 +63,7 @@ arrange() {
     expectBar "$1"
 }
 
-itemMiddle() { echo $((monitorLeft + monitorWidth - $(pixels "${middles[$1]}"))); }
+itemMiddle() { echo $((monitorLeft + monitorWidth - $(pixels "${module_middles[$1]}"))); }
 # clickAt X Y BUTTON: in pixels of the screen.
 clickAt() { xdotool mousemove --screen "$screenNumber" "$1" "$2" click "$3"; }
 # clickItem NUMBER [BUTTON]
@@ -106,9 +96,9 @@ testUnderTheItems() {
     local item
     for item in 0 5; do
         clickItem "$item"
-        waitUntil "the ${titles[item]} panel opens" isShown "Orvelle ${titles[item]}"
-        waitUntil "it stands under its item, on that monitor" standsUnder "$item" middle "Orvelle ${titles[item]}" ||
-            geometry "$(windowTitled "Orvelle ${titles[item]}")"
+        waitUntil "the ${module_titles[item]} panel opens" isShown "Orvelle ${module_titles[item]}"
+        waitUntil "it stands under its item, on that monitor" standsUnder "$item" middle "Orvelle ${module_titles[item]}" ||
+            geometry "$(windowTitled "Orvelle ${module_titles[item]}")"
         clickItem "$item"
         waitUntil "it closes" noPanelIsShown
     done
@@ -163,7 +153,7 @@ testSeparateScreen() {
     endOrvelle
 }
 
-showEveryModule
+storeVisibility true
 screenNumber=0 screenWidth=2000
 start_x_server 2000x1200 && start_window_manager || exit 1
 for factor in 1 2; do

@@ -11,23 +11,7 @@ requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr 
 
 # Freed memory that a sanitizer keeps back would look like growth.
 export ASAN_OPTIONS+=:quarantine_size_mb=1
-settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
-
-# Key, title of the panel's window, length of the item: in the order of the bar, which ends 8 points before the edge.
-readonly modules=("showCPU CPU 60" "showMemory Memory 70" "showNetwork Network 90" "showDisk Disk 45"
-    "showBattery Battery 65" "showSensors Sensors 50")
-readonly barLength=$((60 + 70 + 90 + 45 + 65 + 50))
-
-# showModules VALUE: writes the settings file as another program would.
-showModules() {
-    local module
-    mkdir -p "$(dirname "$settingsFile")"
-    {
-        echo "[General]"
-        for module in "${modules[@]}"; do echo "${module%% *}=$1"; done
-    } >"$workDirectory/settings"
-    mv "$workDirectory/settings" "$settingsFile"
-}
+read_modules "$orvelle" || exit 1
 
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
 screenWidth() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale }'; }
@@ -35,7 +19,7 @@ screenWidth() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale }'; }
 panel() { windowsTitled "Orvelle $1" | tail -1; }
 panelIsShown() { isShown "Orvelle $1"; }
 panelIsHidden() { isHidden "Orvelle $1"; }
-shownPanels() { windowsTitled "Orvelle (CPU|Memory|Network|Disk|Battery|Sensors)" | wc -l; }
+shownPanels() { windowsTitled "Orvelle ($ORVELLE_MODULE_TITLES)" | wc -l; }
 onePanelIsShown() { [[ $(shownPanels) == 1 ]]; }
 noPanelIsShown() { [[ $(shownPanels) == 0 ]]; }
 hasTheKeyboard() { [[ $(xdotool getactivewindow 2>/dev/null) == "$(panel "$1")" ]]; }
@@ -59,18 +43,10 @@ endOrvelle() {
 }
 
 # Of the item with this number: its middle, in points from the left edge of the screen.
-itemMiddle() {
-    local before=0 index
-    for ((index = 0; index < $1; ++index)); do before=$((before + ${modules[index]##* })); done
-    echo $(($(screenWidth) - 8 - barLength + before + ${modules[$1]##* } / 2))
-}
+itemMiddle() { echo $(($(screenWidth) - module_middles[$1])); }
 # clickItem NUMBER [BUTTON]
 clickItem() { xdotool mousemove "$(pixels "$(itemMiddle "$1")")" "$(pixels 11)" click "${2:-1}"; }
-titleOf() {
-    local title
-    read -r _ title _ <<<"${modules[$1]}"
-    echo "$title"
-}
+titleOf() { echo "${module_titles[$1]}"; }
 
 # keepPicture NAME: for whoever wants to see what was tested.
 keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
@@ -89,7 +65,7 @@ standsUnderItem() {
 
 testEachPanel() {
     local index title
-    for index in "${!modules[@]}"; do
+    for index in "${!module_keys[@]}"; do
         title=$(titleOf "$index")
         clickItem "$index"
         waitUntil "a click opens the $title panel" panelIsShown "$title" || cat "$workDirectory/orvelle.log"
@@ -141,10 +117,10 @@ testClickOnAnotherProgram() {
 testVisibilityChange() {
     clickItem 2
     waitUntil "a panel opens" panelIsShown Network
-    showModules false
+    storeVisibility false
     waitUntil "the bar goes when every module is hidden" isHidden Orvelle
     waitUntil "and the panel with it" noPanelIsShown
-    showModules true
+    storeVisibility true
     waitUntil "the bar comes back" isShown Orvelle
     clickItem 2
     waitUntil "its panel opens again" panelIsShown Network
@@ -214,7 +190,7 @@ onDesktop() {
     start_window_manager "$@" || exit 1
 }
 
-showModules true
+storeVisibility true
 onDesktop openbox
 startOrvelle 1
 testEachPanel

@@ -7,6 +7,7 @@ orvelle=$1
 manager=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xprop xwininfo xdotool wmctrl
+read_modules "$orvelle" || exit 1
 
 export ICEAUTHORITY=$workDirectory/authority
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -19,7 +20,6 @@ store() {
     mkdir -p "$(dirname "$settingsFile")"
     { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
 }
-hideEveryModule() { store showCPU=false showMemory=false showNetwork=false showBattery=false; }
 
 shownWindows() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
 isShown() { [[ -n $(shownWindows "$1") ]]; }
@@ -112,7 +112,7 @@ testCancelledLogout() {
     waitUntil "the program is ready for the logout" isSeen saved 2
     order cancelled
     clickLastItem 1
-    waitUntil "after a cancelled logout a click opens a panel" isShown 'Orvelle (CPU|Memory|Network|Battery)'
+    waitUntil "after a cancelled logout a click opens a panel" isShown "Orvelle ($ORVELLE_MODULE_TITLES)"
     local cycle
     cycle=$(sed -n 's/.*cycle //p' "$log" | tail -1)
     waitUntil "and sampling goes on" grep -q "cycle $((cycle + 1))" "$log"
@@ -126,7 +126,7 @@ testCancelledLogout() {
 # Whether it starts at login is for its own switch to say, not for a session that is restored.
 testRestart() {
     local neverRestart=3 seen
-    hideEveryModule
+    storeVisibility false
     startSessionManager
     startOrvelle -session 10d2a3c4_1600000000_500000
     expectEqual "the session manager is not to start the program" "$neverRestart" "$(lastProperty RestartStyleHint)"
@@ -155,7 +155,7 @@ testBrokenSession() {
     startSessionManager
     ASAN_OPTIONS+=:detect_leaks=0 startOrvelle
     clickLastItem 1
-    waitUntil "a click opens a panel" isShown 'Orvelle (CPU|Memory|Network|Battery)'
+    waitUntil "a click opens a panel" isShown "Orvelle ($ORVELLE_MODULE_TITLES)"
     kill -KILL "$managerPid"
     waitUntil "the program ends with a session manager that breaks off" programIsGone
     wait "$orvellePid"

@@ -3,6 +3,7 @@
     settings_choices.py SETTINGS_FILE
 """
 
+import os
 import subprocess
 import sys
 
@@ -13,7 +14,7 @@ from assistive import (Role, State, children, connect, descendants, do, find_chi
 from screen import click, has_color
 
 SETTINGS_FILE = sys.argv[1]
-MODULES = ["CPU", "Memory", "Network", "Disk", "Battery", "Sensors"]
+MODULES = os.environ["ORVELLE_MODULE_TITLES"].split("|")
 
 # The group, the name of the choice, the key and what is stored.
 CHOICES = [

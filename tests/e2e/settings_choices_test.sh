@@ -6,6 +6,7 @@
 orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop xdotool import
+read_modules "$orvelle" || exit 1
 
 start_x_server 1280x800 && start_window_manager || exit 1
 startAccessibilityBus

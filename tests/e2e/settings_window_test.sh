@@ -11,15 +11,8 @@ settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 stateFile=$XDG_STATE_HOME/orvelle/state.conf
 autostartFile=$XDG_CONFIG_HOME/autostart/orvelle.desktop
 
-# A user who has hidden every module gets the settings by starting the program again.
-hideEveryModule() {
-    local module
-    mkdir -p "$(dirname "$settingsFile")"
-    echo '[General]' >"$settingsFile"
-    for module in CPU Memory Network Disk Battery Sensors; do
-        echo "show$module=false" >>"$settingsFile"
-    done
-}
+read_modules "$orvelle" || exit 1
+
 startOrvelle() {
     QT_LOGGING_RULES="orvelle.sample.debug=true" launch "$workDirectory/log" "$orvelle"
     # Else the second start might come first.
@@ -121,7 +114,7 @@ testChanges() {
     xdotool key Tab Tab space
     waitUntil "the second switch is stored" grep -q '^showMemory=true' "$settingsFile"
     waitUntil "and shown in the bar" isShown Orvelle
-    hideEveryModule
+    storeVisibility false
     waitUntil "hiding every module elsewhere takes the bar away" isHidden Orvelle
     # Backward: the first switch, the button that quits, and the last switch.
     xdotool key shift+Tab shift+Tab shift+Tab space
@@ -130,7 +123,7 @@ testChanges() {
     waitUntil "and no longer" test ! -e "$autostartFile"
 }
 
-hideEveryModule
+storeVisibility false
 start_x_server 1280x800 && start_window_manager || exit 1
 startOrvelle
 testFirstTime

@@ -5,7 +5,7 @@
 namespace orvelle {
 namespace {
 
-std::variant<SamplingPlan, UsageError> parsed(const char* arguments) {
+auto parsed(const char* arguments) {
     QStringList list{QStringLiteral("orvelle-probe")};
     list += QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return parseProbeArguments(list);
@@ -28,6 +28,11 @@ TEST(ProbeArguments, WhatCannotBeTakenIsAUsageError) {
     for (const char* arguments : {"--root", "--step", "--step -1", "--step inf", "--step 1e9", "--cycles 1.5",
                                   "--cycles 99999999999", "--cycles 2 --root a", "file", "--help"})
         EXPECT_TRUE(std::holds_alternative<UsageError>(parsed(arguments))) << arguments;
+}
+
+TEST(ProbeArguments, AskForTheModulesAlone) {
+    EXPECT_TRUE(std::holds_alternative<ModuleListing>(parsed("--modules")));
+    EXPECT_TRUE(std::holds_alternative<UsageError>(parsed("--modules --root a")));
 }
 
 } // namespace

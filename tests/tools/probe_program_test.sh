@@ -20,6 +20,9 @@ expect 0 '"updateCycleCount": 1' --root "$directory/empty"
 expect 0 '"updateCycleCount": 2' --step 0.05
 expect 1 'Cannot read the directory' --root "$directory/missing"
 expect 1 'Cannot read the directory' --root /dev/null
+expect 0 $'^cpu\t60\tshowCPU\ttrue\tCPU$' --modules
+expect 0 $'^sensor\t50\tshowSensors\tfalse\tSensors$' --modules
+expect 2 'goes with no other option' --modules --step 1
 expect 2 'usage:' --wrong
 expect 2 'usage:' extra
 expect 2 'usage:' --step 0

@@ -1,4 +1,5 @@
-// orvelle-probe: prints what the monitors publish as one JSON object, for tests and bug reports.
+// orvelle-probe: prints what the monitors publish as one JSON object, or which modules there are, for tests,
+// scripts and bug reports.
 
 #include "probe/probe_arguments.h"
 #include "probe/probe_session.h"
@@ -19,6 +20,12 @@ int fail(const QString& message, int status) {
     return status;
 }
 
+int print(const QByteArray& text) {
+    const auto size = static_cast<std::size_t>(text.size());
+    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    return isWritten ? EXIT_SUCCESS : fail(QStringLiteral("Cannot write the result"), exitUnreadable);
+}
+
 } // namespace
 
 int main(int argumentCount, char** argumentValues) {
@@ -26,11 +33,10 @@ int main(int argumentCount, char** argumentValues) {
     const auto arguments = orvelle::parseProbeArguments(QCoreApplication::arguments());
     if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
         return fail(error->message, exitUsage);
+    if (std::holds_alternative<orvelle::ModuleListing>(arguments))
+        return print(orvelle::moduleLines());
     const auto result = orvelle::probe(std::get<orvelle::SamplingPlan>(arguments));
     if (const auto* error = std::get_if<orvelle::UnreadableRoot>(&result))
         return fail(error->message, exitUnreadable);
-    const QByteArray text = QJsonDocument(std::get<QJsonObject>(result)).toJson();
-    const auto size = static_cast<std::size_t>(text.size());
-    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-    return isWritten ? EXIT_SUCCESS : fail(QStringLiteral("Cannot write the result"), exitUnreadable);
+    return print(QJsonDocument(std::get<QJsonObject>(result)).toJson());
 }

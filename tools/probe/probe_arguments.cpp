@@ -10,7 +10,8 @@ namespace {
 constexpr double maximumStepSeconds = 86400;
 constexpr int maximumCycles = 1'000'000;
 
-const QString usage = QStringLiteral("usage: orvelle-probe [--root DIR]... [--step SECONDS] [--cycles N]");
+const QString usage = QStringLiteral("usage: orvelle-probe [--root DIR]... [--step SECONDS] [--cycles N]\n"
+                                     "       orvelle-probe --modules");
 
 UsageError usageError(const QString& reason) {
     return {reason + QLatin1Char('\n') + usage};
@@ -18,17 +19,24 @@ UsageError usageError(const QString& reason) {
 
 } // namespace
 
-std::variant<SamplingPlan, UsageError> parseProbeArguments(const QStringList& commandLine) {
+std::variant<SamplingPlan, ModuleListing, UsageError> parseProbeArguments(const QStringList& commandLine) {
     const QCommandLineOption root(QStringLiteral("root"), {}, QStringLiteral("DIR"));
     const QCommandLineOption step(QStringLiteral("step"), {}, QStringLiteral("SECONDS"), QStringLiteral("3"));
     const QCommandLineOption cycles(QStringLiteral("cycles"), {}, QStringLiteral("N"), QStringLiteral("2"));
+    const QCommandLineOption modules(QStringLiteral("modules"));
     QCommandLineParser parser;
-    parser.addOptions({root, step, cycles});
+    parser.addOptions({root, step, cycles, modules});
     if (!parser.parse(commandLine))
         return usageError(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
         return usageError(
             QStringLiteral("Unexpected argument \"%1\"").arg(parser.positionalArguments().first()));
+
+    if (parser.isSet(modules)) {
+        if (parser.optionNames().size() > 1)
+            return usageError(QStringLiteral("--modules goes with no other option"));
+        return ModuleListing();
+    }
 
     SamplingPlan plan{.roots = parser.values(root)};
     bool isNumber = false;

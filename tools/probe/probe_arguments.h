@@ -7,7 +7,11 @@
 
 namespace orvelle {
 
+/// The user asks which modules there are, and for nothing else.
+struct ModuleListing {};
+
 /// `commandLine` begins with the program's name.
-[[nodiscard]] std::variant<SamplingPlan, UsageError> parseProbeArguments(const QStringList& commandLine);
+[[nodiscard]] std::variant<SamplingPlan, ModuleListing, UsageError>
+parseProbeArguments(const QStringList& commandLine);
 
 } // namespace orvelle

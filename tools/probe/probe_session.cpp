@@ -2,9 +2,11 @@
 
 #include "core/system_monitor.h"
 #include "probe/monitor_json.h"
+#include "settings/modules.h"
 #include "settings/settings_store.h"
 
 #include <QTemporaryDir>
+#include <fmt/format.h>
 
 namespace orvelle {
 
@@ -16,6 +18,14 @@ std::variant<QJsonObject, UnreadableRoot> probe(const SamplingPlan& plan) {
     if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
         return *error;
     return publishedValues(*std::get<std::unique_ptr<SystemMonitor>>(sampled));
+}
+
+QByteArray moduleLines() {
+    std::string lines;
+    for (const ModuleInfo& module : moduleTable)
+        lines += fmt::format("{}\t{}\t{}\t{}\t{}\n", module.key.data(), module.width,
+                             module.showSetting.data(), module.isShownByDefault, module.title.data());
+    return QByteArray::fromStdString(lines);
 }
 
 } // namespace orvelle

@@ -2,11 +2,16 @@
 
 #include "common/sampling.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 
 namespace orvelle {
 
 /// What the monitors publish after the update cycles of `plan`.
 [[nodiscard]] std::variant<QJsonObject, UnreadableRoot> probe(const SamplingPlan& plan);
+
+/// A line for each module from left to right, its fields between tabs: key, width of its status item in
+/// points, the setting that shows it, the default of that setting, and title.
+[[nodiscard]] QByteArray moduleLines();
 
 } // namespace orvelle
