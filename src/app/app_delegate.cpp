@@ -1,6 +1,5 @@
 #include "app/app_delegate.h"
 
-#include "app/context_menu_entries.h"
 #include "app/throttle.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
@@ -11,6 +10,13 @@
 #include <QCoreApplication>
 
 namespace orvelle {
+
+std::vector<MenuEntry> contextMenuEntries(std::function<void()> openSettings, std::function<void()> quitApp) {
+    return {{QStringLiteral("Settings..."), QStringLiteral(","), std::move(openSettings)},
+            {},
+            {QStringLiteral("Quit Orvelle"), QStringLiteral("q"), std::move(quitApp)}};
+}
+
 AppDelegate::AppDelegate(SystemMonitor& monitor, SettingsStore& settings, ThemeManager& themes,
                          AppDependencies dependencies, QObject* parent)
     : QObject(parent)

@@ -30,6 +30,10 @@ struct AppDependencies {
     AnimationClock& clock = AnimationClock::shared();
 };
 
+/// The menu that a right click on any item opens.
+[[nodiscard]] std::vector<MenuEntry> contextMenuEntries(std::function<void()> openSettings,
+                                                        std::function<void()> quitApp);
+
 /// Runs the program: it starts the sampling, keeps one status item with its panel for each module that the
 /// settings show, redraws the items when there are new values, and owns the settings window. Main thread
 /// only.

@@ -1,9 +1,9 @@
-#include "windows/quick_window_factory.h"
+#include "windows/window_factory.h"
 
 namespace orvelle {
 
 std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context) {
-    return std::make_unique<QuickWindowFactory>(context);
+    return std::unique_ptr<WindowFactory>(orvelleMakeWindowFactory(context));
 }
 
 } // namespace orvelle

@@ -1,4 +1,4 @@
-#include "windows/window_module.h"
+#include "windows/window_factory.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
@@ -14,13 +14,13 @@ std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context) {
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     QLibrary module(QCoreApplication::applicationDirPath() +
                     QStringLiteral("/../lib/orvelle/liborvelle_views"));
-    const auto makeViews =
+    const auto makeFactory =
         reinterpret_cast<decltype(&orvelleMakeWindowFactory)>(module.resolve(makeWindowFactorySymbol));
-    if (makeViews == nullptr) {
+    if (makeFactory == nullptr) {
         std::fprintf(stderr, "Orvelle cannot open its windows: %s\n", qPrintable(module.errorString()));
         return nullptr;
     }
-    return std::unique_ptr<WindowFactory>(makeViews(context));
+    return std::unique_ptr<WindowFactory>(makeFactory(context));
 }
 
 } // namespace orvelle

@@ -36,8 +36,16 @@ public:
     [[nodiscard]] virtual std::unique_ptr<QWindow> makeSettings() = 0;
 };
 
-/// Everything in the context must outlive the result. Null, with the reason on the program's standard error,
-/// when they cannot be loaded, which happens when the program is not installed whole.
+/// Loads what makes the windows, which the program does not do before the first one opens. Everything in the
+/// context must outlive the result. Null, with the reason on the program's standard error, when they cannot
+/// be loaded, which happens when the program is not installed whole.
 [[nodiscard]] std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context);
 
+/// The name of the function below in the module that holds the windows.
+inline constexpr const char* makeWindowFactorySymbol = "orvelleMakeWindowFactory";
+
 } // namespace orvelle
+
+/// The factory itself, in Qt Quick. The caller owns it.
+extern "C" [[gnu::visibility("default")]] orvelle::WindowFactory*
+orvelleMakeWindowFactory(const orvelle::WindowContext& context);
