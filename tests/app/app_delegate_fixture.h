@@ -5,6 +5,7 @@
 #include "core/system_monitor.h"
 #include "platform/replay/fake_machine.h"
 #include "settings/settings_store.h"
+#include "support/shown_modules.h"
 #include "support/temporary_settings.h"
 #include "theme/theme_manager.h"
 
@@ -45,14 +46,7 @@ private:
 
 class AppDelegateTest : public ::testing::Test {
 protected:
-    void showAll(bool shown) {
-        settings.setShowCPU(shown);
-        settings.setShowMemory(shown);
-        settings.setShowNetwork(shown);
-        settings.setShowDisk(shown);
-        settings.setShowBattery(shown);
-        settings.setShowSensors(shown);
-    }
+    void showAll(bool shown) { showEveryModule(settings, shown); }
     static QStringList everyKey() {
         QStringList keys;
         for (const ModuleInfo& module : moduleTable)

@@ -77,7 +77,7 @@ TEST_F(AppDelegateWindowsTest, MakesThePanelsAnewWithTheItems) {
 
 TEST_F(AppDelegateWindowsTest, IgnoresAClickOnAnItemThatItDoesNotKnow) {
     delegate.applicationDidFinishLaunching();
-    const RecordingStatusBar::Item stranger(QStringLiteral("clock"), 40);
+    const RecordingStatusBar::Item stranger(QStringLiteral("unknown"), 40);
     bar.calls.clear();
     delegate.togglePopover(stranger);
     EXPECT_TRUE(bar.calls.isEmpty());

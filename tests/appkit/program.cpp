@@ -1,5 +1,7 @@
 #include "appkit/program.h"
 
+#include "support/shown_modules.h"
+
 #include <algorithm>
 
 namespace orvelle {
@@ -51,12 +53,7 @@ Program::Program()
 }
 
 void Program::showAll(bool shown) {
-    settings.setShowCPU(shown);
-    settings.setShowMemory(shown);
-    settings.setShowNetwork(shown);
-    settings.setShowDisk(shown);
-    settings.setShowBattery(shown);
-    settings.setShowSensors(shown);
+    showEveryModule(settings, shown);
 }
 
 void AppKitTest::TearDown() {

@@ -1,6 +1,7 @@
 #include "probe/monitor_json.h"
 
 #include "core/system_monitor.h"
+#include "settings/modules.h"
 
 #include <QJsonArray>
 #include <QMetaProperty>
@@ -46,14 +47,12 @@ QJsonObject jsonFromMonitor(const QObject& monitor) {
 } // namespace
 
 QJsonObject publishedValues(SystemMonitor& monitor) {
-    return {{QStringLiteral("updateCycleCount"), monitor.updateCycleCount()},
-            {QStringLiteral("cpu"), jsonFromMonitor(monitor.cpu())},
-            {QStringLiteral("memory"), jsonFromMonitor(monitor.memory())},
-            {QStringLiteral("disk"), jsonFromMonitor(monitor.disk())},
-            {QStringLiteral("network"), jsonFromMonitor(monitor.network())},
-            {QStringLiteral("battery"), jsonFromMonitor(monitor.battery())},
-            {QStringLiteral("sensor"), jsonFromMonitor(monitor.sensor())},
-            {QStringLiteral("process"), jsonFromMonitor(monitor.process())}};
+    QJsonObject values{{QStringLiteral("updateCycleCount"), monitor.updateCycleCount()},
+                       {QStringLiteral("process"), jsonFromMonitor(monitor.process())}};
+#define ORVELLE_MODULE(id, ...) values.insert(QStringLiteral(#id), jsonFromMonitor(monitor.id()));
+    ORVELLE_MODULES(ORVELLE_MODULE)
+#undef ORVELLE_MODULE
+    return values;
 }
 
 } // namespace orvelle
