@@ -1,7 +1,7 @@
 #pragma once
 
 #include "menu_bar/item_scene.h"
-#include "settings/modules.h"
+#include "settings/module_table.h"
 #include "settings/settings_store.h"
 #include "theme/theme_manager.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "menu_bar/item_scene.h"
-#include "settings/modules.h"
+#include "settings/module_table.h"
 
 namespace orvelle {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/modules.h"
+#include "settings/module_table.h"
 #include "settings/setting.h"
 #include "settings/settings_storage.h"
 #include "settings/styles.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/modules.h"
+#include "settings/module_table.h"
 #include "theme/app_theme.h"
 
 #include <QObject>

@@ -25,7 +25,7 @@ NEW_FILES = ["src/core/clock_monitor.h", "src/menu_bar/clock_menu_bar_item.h",
 # What stands in a file, and what stands there afterwards.
 CHANGES = [
     # The table.
-    ("src/settings/modules.h", '"thermometer",   50,    false)',
+    ("src/settings/module_table.h", '"thermometer",   50,    false)',
      '"thermometer",   50,    false) \\\n    MODULE(clock, Clock, Clock, accentColor, "network", 40, true)'),
     # Its monitor.
     ("src/core/CMakeLists.txt", "  SOURCES\n", "  SOURCES\n    clock_monitor.h\n"),

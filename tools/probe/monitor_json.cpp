@@ -1,7 +1,7 @@
 #include "probe/monitor_json.h"
 
 #include "core/system_monitor.h"
-#include "settings/modules.h"
+#include "settings/module_table.h"
 
 #include <QJsonArray>
 #include <QMetaProperty>

@@ -2,7 +2,7 @@
 
 #include "core/system_monitor.h"
 #include "probe/monitor_json.h"
-#include "settings/modules.h"
+#include "settings/module_table.h"
 #include "settings/settings_store.h"
 
 #include <QTemporaryDir>

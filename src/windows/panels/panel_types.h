@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/system_monitor.h"
-#include "settings/modules.h"
+#include "settings/module_table.h"
 
 #include <QAbstractItemModel>
 #include <QQmlEngine>
