@@ -25,24 +25,23 @@ QList<FanInfo> fansFrom(const std::vector<std::int64_t>& speeds) {
 
 } // namespace
 
-SensorMonitor::SensorMonitor(SourceProvider source, QObject* parent)
+SensorMonitor::SensorMonitor(SensorSource& source, QObject* parent)
     : QObject(parent)
-    , m_source(std::move(source)) {}
+    , m_source(source) {}
 
 void SensorMonitor::update() {
-    SensorSource& source = m_source();
-    if (const std::optional<double> temperature = source.readCPUTemperature()) {
+    if (const std::optional<double> temperature = m_source.readCPUTemperature()) {
         publish(this, m_cpuTemperature, *temperature, &SensorMonitor::cpuTemperatureChanged);
         MetricHistory::append(m_cpuTempHistory, *temperature, maxHistoryCount);
         Q_EMIT cpuTempHistoryChanged();
     }
-    if (const std::optional<double> temperature = source.readGPUTemperature()) {
+    if (const std::optional<double> temperature = m_source.readGPUTemperature()) {
         publish(this, m_gpuTemperature, *temperature, &SensorMonitor::gpuTemperatureChanged);
         MetricHistory::append(m_gpuTempHistory, *temperature, maxHistoryCount);
         Q_EMIT gpuTempHistoryChanged();
     }
-    publish(this, m_sensors, sensorsFrom(source.readSensors()), &SensorMonitor::sensorsChanged);
-    publish(this, m_fans, fansFrom(source.readFanSpeeds()), &SensorMonitor::fansChanged);
+    publish(this, m_sensors, sensorsFrom(m_source.readSensors()), &SensorMonitor::sensorsChanged);
+    publish(this, m_fans, fansFrom(m_source.readFanSpeeds()), &SensorMonitor::fansChanged);
 }
 
 } // namespace orvelle

@@ -7,8 +7,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 namespace orvelle {
 
 /// A temperature sensor that read plausibly at the last update.
@@ -50,12 +48,10 @@ class SensorMonitor : public QObject {
 public:
     using TemperatureSensor = orvelle::TemperatureSensor;
     using FanInfo = orvelle::FanInfo;
-    /// Gives the machine's sensors, which it creates when it is first asked.
-    using SourceProvider = std::function<SensorSource&()>;
     static constexpr qsizetype maxHistoryCount = MetricHistory::maxHistoryCount;
 
-    /// The sensors are not touched before the first update.
-    explicit SensorMonitor(SourceProvider source, QObject* parent = nullptr);
+    /// Asks the source nothing before the first update.
+    explicit SensorMonitor(SensorSource& source, QObject* parent = nullptr);
 
     /// The last temperature that the processor's sensors gave, 0 before there was one.
     [[nodiscard]] double cpuTemperature() const { return m_cpuTemperature; }
@@ -81,7 +77,7 @@ Q_SIGNALS:
     void gpuTempHistoryChanged();
 
 private:
-    SourceProvider m_source;
+    SensorSource& m_source;
     double m_cpuTemperature = 0;
     double m_gpuTemperature = 0;
     QList<TemperatureSensor> m_sensors;

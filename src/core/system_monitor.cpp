@@ -24,16 +24,8 @@ SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settin
     , m_disk(*m_sources.disk, m_sources.now)
     , m_network(*m_sources.network, m_sources.now)
     , m_battery(*m_sources.battery)
-    , m_sensor([this]() -> SensorSource& { return sensorSource(); })
+    , m_sensor(*m_sources.sensor)
     , m_process(*m_sources.process, m_sources.now) {}
-
-SensorSource& SystemMonitor::sensorSource() {
-    if (m_sources.sensor)
-        return *m_sources.sensor;
-    if (!m_smcHelper)
-        m_smcHelper = std::make_unique<SMCHelper>(*m_sources.smcUserClient);
-    return *m_smcHelper;
-}
 
 std::optional<double> SystemMonitor::activeInterval() const {
     if (m_timer == nullptr)

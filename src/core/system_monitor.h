@@ -7,7 +7,6 @@
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "core/sensor_monitor.h"
-#include "core/smc_helper.h"
 #include "core/sources/machine_sources.h"
 
 #include <QObject>
@@ -57,11 +56,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// The system's own sensors, or the System Management Controller's, connected at the first call.
-    [[nodiscard]] SensorSource& sensorSource();
-
     MachineSources m_sources;
-    std::unique_ptr<SMCHelper> m_smcHelper;
     const SettingsStore& m_settings;
     CPUMonitor m_cpu;
     MemoryMonitor m_memory;

@@ -1,34 +1,46 @@
 #include "core/sensor_monitor.h"
-#include "core/smc_helper.h"
 #include "platform/replay/fake_sources.h"
-#include "support/scripted_smc_user_client.h"
 
 #include <gtest/gtest.h>
 
 namespace orvelle {
 namespace {
 
+class CountingSensorSource final : public SensorSource {
+public:
+    int questionCount = 0;
+
+    std::optional<double> readCPUTemperature() override { return ++questionCount, std::nullopt; }
+    std::optional<double> readGPUTemperature() override { return ++questionCount, std::nullopt; }
+    std::vector<NamedTemperature> readSensors() override {
+        return ++questionCount, std::vector<NamedTemperature>{};
+    }
+    std::vector<std::int64_t> readFanSpeeds() override {
+        return ++questionCount, std::vector<std::int64_t>{};
+    }
+};
+
 class SensorMonitorTest : public ::testing::Test {
 protected:
     FakeSensorSource source;
-    SensorMonitor monitor{[this]() -> SensorSource& { return source; }};
+    SensorMonitor monitor{source};
 };
 
-TEST_F(SensorMonitorTest, StartsEmptyAndTouchesNoSensorBeforeTheFirstUpdate) {
-    int askedCount = 0;
-    SensorMonitor lazy([&]() -> SensorSource& {
-        ++askedCount;
-        return source;
-    });
-    EXPECT_EQ(askedCount, 0);
-    EXPECT_EQ(lazy.cpuTemperature(), 0);
-    EXPECT_EQ(lazy.gpuTemperature(), 0);
-    EXPECT_TRUE(lazy.sensors().isEmpty());
-    EXPECT_TRUE(lazy.fans().isEmpty());
-    EXPECT_TRUE(lazy.cpuTempHistory().isEmpty());
-    EXPECT_TRUE(lazy.gpuTempHistory().isEmpty());
+TEST_F(SensorMonitorTest, StartsEmpty) {
+    EXPECT_EQ(monitor.cpuTemperature(), 0);
+    EXPECT_EQ(monitor.gpuTemperature(), 0);
+    EXPECT_TRUE(monitor.sensors().isEmpty());
+    EXPECT_TRUE(monitor.fans().isEmpty());
+    EXPECT_TRUE(monitor.cpuTempHistory().isEmpty());
+    EXPECT_TRUE(monitor.gpuTempHistory().isEmpty());
+}
+
+TEST_F(SensorMonitorTest, AsksTheSourceNothingBeforeTheFirstUpdate) {
+    CountingSensorSource counting;
+    SensorMonitor lazy(counting);
+    EXPECT_EQ(counting.questionCount, 0);
     lazy.update();
-    EXPECT_EQ(askedCount, 1);
+    EXPECT_EQ(counting.questionCount, 4) << "each question once";
 }
 
 TEST_F(SensorMonitorTest, PublishesWhatTheSourceReads) {
@@ -97,51 +109,6 @@ TEST_F(SensorMonitorTest, AnnouncesTheAssignmentsInTheirOrder) {
     source.cpuTemperature.reset();
     monitor.update();
     EXPECT_EQ(order.join(QLatin1Char(',')), QStringLiteral("gpu,gpu history,sensors,fans"));
-}
-
-class SensorMonitorOnSMCTest : public ::testing::Test {
-protected:
-    ScriptedSMCUserClient client;
-    std::unique_ptr<SMCHelper> helper;
-    SensorMonitor monitor{[this]() -> SensorSource& {
-        if (!helper)
-            helper = std::make_unique<SMCHelper>(client);
-        return *helper;
-    }};
-};
-
-TEST_F(SensorMonitorOnSMCTest, ConnectsAtTheFirstUpdateAndOnlyThen) {
-    EXPECT_EQ(client.openCount, 0);
-    monitor.update();
-    monitor.update();
-    EXPECT_EQ(client.openCount, 1);
-}
-
-TEST_F(SensorMonitorOnSMCTest, AMachineWithoutTheServiceStaysEmpty) {
-    client.acceptsOpen = false;
-    monitor.update();
-    EXPECT_EQ(monitor.cpuTemperature(), 0);
-    EXPECT_EQ(monitor.gpuTemperature(), 0);
-    EXPECT_TRUE(monitor.cpuTempHistory().isEmpty());
-    EXPECT_TRUE(monitor.gpuTempHistory().isEmpty());
-    EXPECT_TRUE(monitor.sensors().isEmpty());
-    EXPECT_TRUE(monitor.fans().isEmpty());
-}
-
-TEST_F(SensorMonitorOnSMCTest, TheOnlyFanThatAnswersHasIndexZero) {
-    client.setFloat("F1Ac", 1500);
-    monitor.update();
-    EXPECT_EQ(monitor.fans(), (QList<FanInfo>{{0, 1500}}));
-}
-
-TEST_F(SensorMonitorOnSMCTest, ASensorAtTheEdgeOfPlausibilityIsAbsent) {
-    client.setFloat("Tm0P", 0);
-    client.setFloat("TW0P", 150);
-    client.setFloat("TB0T", 31);
-    monitor.update();
-    ASSERT_EQ(monitor.sensors().size(), 1);
-    EXPECT_EQ(monitor.sensors().first().key, QStringLiteral("TB0T"));
-    EXPECT_EQ(monitor.sensors().first().name, QStringLiteral("Battery"));
 }
 
 } // namespace

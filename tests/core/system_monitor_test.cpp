@@ -1,7 +1,6 @@
 #include "core/system_monitor.h"
 #include "platform/replay/fake_machine.h"
 #include "settings/settings_store.h"
-#include "support/scripted_smc_user_client.h"
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -115,21 +114,6 @@ TEST_F(SystemMonitorTest, TheTimerRunsOneCycleEachTime) {
     ASSERT_NE(timer, nullptr);
     ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
     EXPECT_EQ(monitor.updateCycleCount(), 2);
-}
-
-TEST_F(SystemMonitorTest, TheSensorsBehindAControllerAreConnectedInTheFirstCycle) {
-    MachineSources sources = machine.sources();
-    sources.sensor.reset();
-    auto scripted = std::make_unique<ScriptedSMCUserClient>();
-    ScriptedSMCUserClient& controller = *scripted;
-    controller.setFloat("Tp09", 55);
-    sources.smcUserClient = std::move(scripted);
-    SystemMonitor withController(std::move(sources), settings);
-    EXPECT_EQ(controller.openCount, 0);
-    withController.updateCycle();
-    withController.updateCycle();
-    EXPECT_EQ(controller.openCount, 1);
-    EXPECT_EQ(withController.sensor().cpuTemperature(), 55);
 }
 
 TEST_F(SystemMonitorTest, ACycleOffTheMainThreadStopsTheProcess) {

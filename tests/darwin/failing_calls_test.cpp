@@ -1,4 +1,3 @@
-#include "core/smc_helper.h"
 #include "darwin/typical_machine.h"
 
 #include <functional>
@@ -240,7 +239,7 @@ TEST_F(FailingCallsTest, Processes) {
 TEST_F(FailingCallsTest, ControllerKeys) {
     using Answer = std::optional<double>;
     failEachCallOf<Answer>(
-        {.ask = [](MachineSources& sources) { return SMCHelper(*sources.smcUserClient).readKey("Tp09"); },
+        {.ask = [](MachineSources& sources) { return sources.sensor->readCPUTemperature(); },
          .whole = 50.0,
          .whenFailing = {{"IOServiceMatching AppleSMC", std::nullopt},
                          {"IOServiceGetMatchingService AppleSMC", std::nullopt},

@@ -5,7 +5,6 @@
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
 #include "core/sensor_monitor.h"
-#include "core/smc_helper.h"
 #include "darwin/typical_machine.h"
 #include "platform/host.h"
 
@@ -16,7 +15,7 @@ using simulated::kernel;
 
 class DarwinMachineTest : public DarwinTest {};
 
-TEST_F(DarwinMachineTest, TheHostAnswersEveryQuestionAndItsSensorsAreBehindTheController) {
+TEST_F(DarwinMachineTest, TheHostAnswersEveryQuestion) {
     EXPECT_TRUE(host().now);
     EXPECT_TRUE(host().processor->readTicks());
     EXPECT_TRUE(host().memory->read());
@@ -24,8 +23,7 @@ TEST_F(DarwinMachineTest, TheHostAnswersEveryQuestionAndItsSensorsAreBehindTheCo
     EXPECT_TRUE(host().network->read());
     EXPECT_TRUE(host().battery->readPowerSources());
     EXPECT_TRUE(host().process->readProcesses());
-    EXPECT_EQ(host().sensor, nullptr);
-    EXPECT_NE(host().smcUserClient, nullptr);
+    EXPECT_TRUE(host().sensor->readCPUTemperature());
 }
 
 TEST_F(DarwinMachineTest, MakingTheHostTakesNoMoreThanItsPort) {
@@ -49,8 +47,8 @@ TEST_F(DarwinMachineTest, ACycleOfAllMonitorsMakesAsManyCallsEachTimeAndHoldsNot
     NetworkMonitor network(*sources.network, sources.now);
     BatteryMonitor battery(*sources.battery);
     ProcessMonitor process(*sources.process, sources.now);
-    SMCHelper controller(*sources.smcUserClient);
-    SensorMonitor sensor([&controller]() -> SensorSource& { return controller; });
+    SensorMonitor sensor(*sources.sensor);
+    sensor.update(); // connects to the controller
     static_cast<void>(takeSystemCalls());
     for (int cycle = 0; cycle < 3; ++cycle) {
         cpu.updateUsage();
@@ -95,7 +93,6 @@ TEST_F(DarwinMachineTest, ATreeIsAMachineWithNothingAndAsksTheSystemNothing) {
     EXPECT_TRUE(tree.sensor->readFanSpeeds().empty());
     EXPECT_FALSE(tree.process->readTotalMemory());
     EXPECT_FALSE(tree.process->readProcesses());
-    EXPECT_EQ(tree.smcUserClient, nullptr);
     EXPECT_TRUE(kernel().calls().empty());
 }
 

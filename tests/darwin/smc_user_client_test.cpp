@@ -1,15 +1,24 @@
-#include "core/smc_helper.h"
 #include "darwin/typical_machine.h"
+#include "platform/darwin/smc_helper.h"
 
 namespace orvelle {
 namespace {
 
 using namespace simulated;
+using namespace darwin_platform;
 using WireBlock = Kernel::WireBlock;
 
 class DarwinSMCUserClientTest : public DarwinTest {
 protected:
-    SMCUserClient& client() { return *host().smcUserClient; }
+    SMCUserClient& client() { return *m_client; }
+
+    void TearDown() override {
+        m_client.reset();
+        DarwinTest::TearDown();
+    }
+
+private:
+    std::unique_ptr<SMCUserClient> m_client = makeSMCUserClient();
 };
 
 TEST_F(DarwinSMCUserClientTest, TheBlocksOfOneReadingAreTheseBytes) {

@@ -75,6 +75,16 @@ TEST_F(DarwinUpdateCycleTest, MakesNoCallThatItDoesNotNeed) {
     }
 }
 
+TEST_F(DarwinUpdateCycleTest, ConnectsToTheControllerInTheFirstCycleAndOnlyThen) {
+    SystemMonitor monitor(makeHostSources(), settings);
+    EXPECT_EQ(takeCallCounts()["IOServiceOpen"], 0u);
+    monitor.updateCycle();
+    EXPECT_EQ(takeCallCounts()["IOServiceOpen"], 1u);
+    monitor.updateCycle();
+    EXPECT_EQ(takeCallCounts()["IOServiceOpen"], 0u);
+    EXPECT_EQ(monitor.sensor().cpuTemperature(), 50);
+}
+
 TEST_F(DarwinUpdateCycleTest, GoesOnWithoutAControllerAndAsksForItNoMore) {
     machine().services.erase("AppleSMC");
     SystemMonitor monitor(makeHostSources(), settings);

@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] QColor cool() const { return temperatureColor(20, themes.sensorColor(settings)); }
 
     FakeSensorSource source;
-    SensorMonitor monitor{[this]() -> SensorSource& { return source; }};
+    SensorMonitor monitor{source};
     SensorMenuBarItem item{monitor, settings, themes};
 };
 

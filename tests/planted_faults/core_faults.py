@@ -3,7 +3,7 @@
 from planting import Fault
 
 MONITOR = "src/core/system_monitor.cpp"
-SMC = "src/core/smc_helper.cpp"
+SMC = "src/platform/darwin/smc_helper.cpp"
 DELEGATE = "src/app/app_delegate.cpp"
 ORDER = ("test_core", "SystemMonitor*")
 
@@ -40,10 +40,10 @@ CORE_FAULTS = [
     Fault("the controller's result byte decides", SMC,
           "    return decodeSMCValue(info, output.bytes);",
           "    return output.result != 0 ? std::nullopt : decodeSMCValue(info, output.bytes);",
-          "test_core", "SMCHelper*"),
+          "test_darwin", "SMCHelper*"),
     Fault("the controller's result byte decides on the key", SMC,
           "    // The second answer is decoded", "    if (output.result != 0)\n        return std::nullopt;\n"
-          "    // The second answer is decoded", "test_core", "SMCHelper*"),
+          "    // The second answer is decoded", "test_darwin", "SMCHelper*"),
     Fault("the visibility is looked at once", DELEGATE,
           "    m_refreshTimer->callOnTimeout(",
           "    m_refreshTimer->setSingleShot(true);\n    m_refreshTimer->callOnTimeout(", "test_app", "AppDelegate*"),

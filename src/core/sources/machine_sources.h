@@ -8,13 +8,13 @@
 #include "core/sources/process_source.h"
 #include "core/sources/processor_source.h"
 #include "core/sources/sensor_source.h"
-#include "core/sources/smc_user_client.h"
 
 #include <memory>
 
 namespace orvelle {
 
-/// Everything that the monitors ask of one machine, and its clock.
+/// One source for each question that the monitors ask of a machine, and its clock. None is null once the
+/// machine is made.
 struct MachineSources {
     WallClock now;
     std::unique_ptr<ProcessorSource> processor = nullptr;
@@ -22,10 +22,7 @@ struct MachineSources {
     std::unique_ptr<DiskSource> disk = nullptr;
     std::unique_ptr<NetworkSource> network = nullptr;
     std::unique_ptr<BatterySource> battery = nullptr;
-    /// Empty on a machine whose sensors are behind a System Management Controller: `smcUserClient` then leads
-    /// to them.
     std::unique_ptr<SensorSource> sensor = nullptr;
-    std::unique_ptr<SMCUserClient> smcUserClient = nullptr;
     std::unique_ptr<ProcessSource> process = nullptr;
 };
 

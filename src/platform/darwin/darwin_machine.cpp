@@ -4,7 +4,7 @@
 #include "platform/darwin/darwin_network_source.h"
 #include "platform/darwin/darwin_process_source.h"
 #include "platform/darwin/darwin_processor_source.h"
-#include "platform/darwin/darwin_smc_user_client.h"
+#include "platform/darwin/darwin_sensor_source.h"
 #include "platform/darwin/empty_machine.h"
 #include "platform/host.h"
 
@@ -20,7 +20,7 @@ MachineSources makeHostSources() {
     machine.disk = std::make_unique<DarwinDiskSource>();
     machine.network = std::make_unique<DarwinNetworkSource>();
     machine.battery = std::make_unique<DarwinBatterySource>();
-    machine.smcUserClient = std::make_unique<DarwinSMCUserClient>();
+    machine.sensor = std::make_unique<DarwinSensorSource>(makeSMCUserClient());
     machine.process = std::make_unique<DarwinProcessSource>();
     return machine;
 }

@@ -7,10 +7,12 @@ set(ORVELLE_DARWIN_SOURCES
   darwin_network_source.cpp
   darwin_process_source.cpp
   darwin_processor_source.cpp
-  darwin_smc_user_client.cpp
+  darwin_sensor_source.cpp
   empty_machine.cpp
   mounted_volumes.mm
   properties.cpp
   registry.cpp
+  smc_helper.cpp
+  smc_user_client.cpp
   stop.cpp)
 list(TRANSFORM ORVELLE_DARWIN_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

@@ -1,8 +1,20 @@
-#include "platform/darwin/darwin_smc_user_client.h"
+#include "platform/darwin/smc_user_client.h"
 
 #include "platform/darwin/registry.h"
 
 namespace orvelle::darwin_platform {
+namespace {
+
+class DarwinSMCUserClient final : public SMCUserClient {
+public:
+    [[nodiscard]] bool open() override;
+    [[nodiscard]] bool callStructMethod(std::uint32_t selector, const SMCParameterBlock& input,
+                                        SMCParameterBlock& output, std::size_t& outputSize) override;
+    void close() override;
+
+private:
+    OwnedConnection m_connection; ///< the null name while closed
+};
 
 bool DarwinSMCUserClient::open() {
     const OwnedIOObject service = findService("AppleSMC");
@@ -24,6 +36,12 @@ bool DarwinSMCUserClient::callStructMethod(std::uint32_t selector, const SMCPara
 
 void DarwinSMCUserClient::close() {
     m_connection = OwnedConnection();
+}
+
+} // namespace
+
+std::unique_ptr<SMCUserClient> makeSMCUserClient() {
+    return std::make_unique<DarwinSMCUserClient>();
 }
 
 } // namespace orvelle::darwin_platform

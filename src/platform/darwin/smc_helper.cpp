@@ -1,10 +1,10 @@
-#include "core/smc_helper.h"
+#include "platform/darwin/smc_helper.h"
 
-#include "core/checked.h"
+#include "platform/darwin/stop.h"
 
 #include <array>
 
-namespace orvelle {
+namespace orvelle::darwin_platform {
 namespace {
 
 using namespace std::string_view_literals;
@@ -43,6 +43,13 @@ constexpr std::array namedKeys{
     NamedKey{"Ts1P", "Palm Rest 2"},
     NamedKey{"TB0T", "Battery"},
 };
+
+std::int64_t truncatedSpeed(double speed) {
+    constexpr double limit = 9223372036854775808.0; // 2^63, the first double beyond the range
+    if (!(speed < limit))
+        stopForContradiction("no integer can hold a fan's speed");
+    return static_cast<std::int64_t>(speed);
+}
 
 } // namespace
 
@@ -145,9 +152,9 @@ std::vector<std::int64_t> SMCHelper::readFanSpeeds() {
     for (const std::string_view key : fanSpeedKeys) {
         const std::optional<double> speed = readKey(key);
         if (speed && *speed > 0)
-            speeds.push_back(checkedTruncate(*speed));
+            speeds.push_back(truncatedSpeed(*speed));
     }
     return speeds;
 }
 
-} // namespace orvelle
+} // namespace orvelle::darwin_platform

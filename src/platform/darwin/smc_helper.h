@@ -1,13 +1,13 @@
 #pragma once
 
 #include "core/sources/sensor_source.h"
-#include "core/sources/smc_user_client.h"
+#include "platform/darwin/smc_user_client.h"
 
 #include <mutex>
 #include <span>
 #include <string_view>
 
-namespace orvelle {
+namespace orvelle::darwin_platform {
 
 /// The code of a key or a type: its first four bytes, most significant first; fewer when the text is shorter.
 [[nodiscard]] constexpr std::uint32_t smcCode(std::string_view text) {
@@ -52,4 +52,4 @@ private:
     std::mutex m_lock; ///< held for the whole of opening, closing and the two calls of one key
 };
 
-} // namespace orvelle
+} // namespace orvelle::darwin_platform

@@ -4,9 +4,10 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <type_traits>
 
-namespace orvelle {
+namespace orvelle::darwin_platform {
 
 /// The structure that the System Management Controller's user client takes and gives: 80 bytes, integers in
 /// the host's little-endian order. A field that a command does not name stays 0.
@@ -83,4 +84,7 @@ public:
     virtual void close() = 0;
 };
 
-} // namespace orvelle
+/// The user client of this machine's "AppleSMC" service, not yet open.
+[[nodiscard]] std::unique_ptr<SMCUserClient> makeSMCUserClient();
+
+} // namespace orvelle::darwin_platform

@@ -1,11 +1,10 @@
-#include "core/smc_helper.h"
-#include "support/scripted_smc_user_client.h"
+#include "darwin/scripted_smc_user_client.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-namespace orvelle {
+namespace orvelle::darwin_platform {
 namespace {
 
 using WireBlock = ScriptedSMCUserClient::WireBlock;
@@ -259,10 +258,10 @@ TEST_F(SMCHelperTest, FansThatStandStillOrFailGiveAnEmptyListRatherThanZeros) {
 
 TEST_F(SMCHelperTest, AFanSpeedThatNoIntegerCanHoldStopsTheProcess) {
     client.setFloat("F0Ac", std::numeric_limits<float>::infinity());
-    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "truncation out of range");
+    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "no integer can hold a fan's speed");
     client.setFloat("F0Ac", 1e19F);
-    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "truncation out of range");
+    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "no integer can hold a fan's speed");
 }
 
 } // namespace
-} // namespace orvelle
+} // namespace orvelle::darwin_platform

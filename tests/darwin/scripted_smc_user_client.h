@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/smc_helper.h"
+#include "platform/darwin/smc_helper.h"
 
 #include <cstring>
 #include <map>
 
-namespace orvelle {
+namespace orvelle::darwin_platform {
 
 /// Stands in for the System Management Controller: it knows the keys that a test gives it, answers an unknown
 /// key as the controller does (success, and a type of 0), and notes every call.
@@ -95,4 +95,4 @@ private:
     std::map<std::uint32_t, Value> m_values;
 };
 
-} // namespace orvelle
+} // namespace orvelle::darwin_platform

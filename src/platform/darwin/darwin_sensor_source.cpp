@@ -1,0 +1,28 @@
+#include "platform/darwin/darwin_sensor_source.h"
+
+namespace orvelle::darwin_platform {
+
+DarwinSensorSource::DarwinSensorSource(std::unique_ptr<SMCUserClient> client)
+    : m_client(std::move(client)) {}
+
+SMCHelper& DarwinSensorSource::helper() {
+    return m_helper ? *m_helper : m_helper.emplace(*m_client);
+}
+
+std::optional<double> DarwinSensorSource::readCPUTemperature() {
+    return helper().readCPUTemperature();
+}
+
+std::optional<double> DarwinSensorSource::readGPUTemperature() {
+    return helper().readGPUTemperature();
+}
+
+std::vector<NamedTemperature> DarwinSensorSource::readSensors() {
+    return helper().readSensors();
+}
+
+std::vector<std::int64_t> DarwinSensorSource::readFanSpeeds() {
+    return helper().readFanSpeeds();
+}
+
+} // namespace orvelle::darwin_platform
