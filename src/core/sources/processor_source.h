@@ -29,7 +29,7 @@ public:
     /// One entry per core that the system lists now, in its order; nothing when the counters cannot be read.
     [[nodiscard]] virtual std::optional<std::vector<CoreTicks>> readTicks() = 0;
 
-    /// The 1-, 5- and 15-minute load averages; nothing when they cannot be read.
+    /// The 1-, 5- and 15-minute load averages, finite and at least 0; nothing when they cannot be read.
     [[nodiscard]] virtual std::optional<std::array<double, 3>> readLoadAverages() = 0;
 
     /// Boot time in whole seconds since 1970-01-01 UTC; nothing when it cannot be read.

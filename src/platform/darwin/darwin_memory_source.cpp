@@ -62,7 +62,7 @@ std::optional<MemoryReading> DarwinMemorySource::read() {
     static_assert(sizeof(xsw_usage) == 32);
     const xsw_usage swap = readSysctl<xsw_usage>(CTL_VM, VM_SWAPUSAGE).value_or(xsw_usage{});
     reading.swapTotal = swap.xsu_total;
-    reading.swapUsed = swap.xsu_used;
+    reading.swapUsed = std::min(swap.xsu_used, swap.xsu_total);
     return reading;
 }
 

@@ -72,8 +72,11 @@ std::optional<std::vector<InterfaceEntry>> DarwinNetworkSource::read() {
         return std::nullopt;
     const InterfaceList list(first);
     std::vector<InterfaceEntry> entries;
-    for (const ifaddrs* source = list.get(); source != nullptr; source = source->ifa_next)
-        entries.push_back(interfaceEntry(*source));
+    for (const ifaddrs* source = list.get(); source != nullptr; source = source->ifa_next) {
+        InterfaceEntry entry = interfaceEntry(*source);
+        if (!entry.name.empty())
+            entries.push_back(std::move(entry));
+    }
     return entries;
 }
 

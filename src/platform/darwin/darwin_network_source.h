@@ -4,8 +4,8 @@
 
 namespace orvelle::darwin_platform {
 
-/// Answers from `getifaddrs`, one entry for each of the list's. The byte counters are the 32-bit ones of the
-/// link-layer entries, which wrap at 4 GiB.
+/// Answers from `getifaddrs`, one entry for each of the list's whose name can be shown. The byte counters are
+/// the 32-bit ones of the link-layer entries, which wrap at 4 GiB.
 class DarwinNetworkSource final : public NetworkSource {
 public:
     /// An entry of an interface that is down or a loopback tells no address and no bytes: nobody asks for

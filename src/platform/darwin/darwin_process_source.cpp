@@ -39,8 +39,8 @@ void inspect(ProcessRecord& record, std::int32_t pid) {
     if (size != sizeof information)
         return;
     takeName(record);
-    record.userNanoseconds = information.pti_total_user;
-    record.systemNanoseconds = information.pti_total_system;
+    record.userNanoseconds = std::min(information.pti_total_user, ProcessRecord::maximumNanoseconds);
+    record.systemNanoseconds = std::min(information.pti_total_system, ProcessRecord::maximumNanoseconds);
     record.residentBytes = std::min(information.pti_resident_size, ProcessRecord::maximumBytes);
 }
 

@@ -11,9 +11,9 @@ namespace orvelle::darwin_platform {
 [[nodiscard]] std::string_view lastPathComponent(std::string_view path);
 
 /// Answers from libproc and {CTL_HW, HW_MEMSIZE}. A process of another user, whose times and memory the
-/// system tells only to a privileged program, has an empty name like one that ended meanwhile. The times are
-/// passed on as the system counts them. The lists are kept, so that a sample allocates only for names it
-/// never saw before.
+/// system tells only to a privileged program, has an empty name like one that ended meanwhile. The times pass
+/// as the system counts them, cut at the bounds of the record. The lists are kept, so that a sample allocates
+/// only for names it never saw before.
 class DarwinProcessSource final : public ProcessSource {
 public:
     [[nodiscard]] std::optional<std::uint64_t> readTotalMemory() override;

@@ -3,6 +3,8 @@
 #include "platform/darwin/stop.h"
 #include "platform/darwin/sysctl_value.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <sys/time.h>
 
@@ -48,7 +50,9 @@ std::optional<std::array<double, 3>> DarwinProcessorSource::readLoadAverages() {
     std::array<double, 3> averages{};
     if (getloadavg(averages.data(), static_cast<int>(averages.size())) < 0)
         return std::nullopt;
-    return averages;
+    const bool isPlausible =
+        std::ranges::all_of(averages, [](double average) { return std::isfinite(average) && average >= 0; });
+    return isPlausible ? std::optional(averages) : std::nullopt;
 }
 
 std::optional<std::int64_t> DarwinProcessorSource::readBootTime() {

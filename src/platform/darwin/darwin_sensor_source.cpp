@@ -1,5 +1,7 @@
 #include "platform/darwin/darwin_sensor_source.h"
 
+#include <algorithm>
+
 namespace orvelle::darwin_platform {
 
 DarwinSensorSource::DarwinSensorSource(std::unique_ptr<SMCUserClient> client)
@@ -22,7 +24,10 @@ std::vector<NamedTemperature> DarwinSensorSource::readSensors() {
 }
 
 std::vector<std::int64_t> DarwinSensorSource::readFanSpeeds() {
-    return helper().readFanSpeeds();
+    std::vector<std::int64_t> speeds = helper().readFanSpeeds();
+    for (std::int64_t& speed : speeds)
+        speed = std::min(speed, maximumFanSpeed);
+    return speeds;
 }
 
 } // namespace orvelle::darwin_platform
