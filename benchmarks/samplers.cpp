@@ -5,7 +5,7 @@
 #include "platform/host.h"
 #include "platform/linux/process_clock.h"
 #include "platform/linux/process_files.h"
-#include "platform/linux/process_search.h"
+#include "platform/linux/process_table.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,8 +1,7 @@
 #include "parsers.h"
-#include "platform/linux/diskstats.h"
-#include "platform/linux/mountinfo.h"
-#include "platform/linux/volume_choice.h"
-#include "platform/linux/volume_space.h"
+#include "platform/linux/linux_disk_source.h"
+#include "platform/linux/linux_volumes.h"
+#include "platform/linux/mounts.h"
 #include "require.h"
 
 #include <algorithm>

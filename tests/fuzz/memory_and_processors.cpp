@@ -1,6 +1,6 @@
 #include "parsers.h"
-#include "platform/linux/meminfo.h"
-#include "platform/linux/proc_stat.h"
+#include "platform/linux/linux_memory_source.h"
+#include "platform/linux/linux_processor_source.h"
 #include "require.h"
 
 #include <cmath>

@@ -1,10 +1,8 @@
 #include "parsers.h"
-#include "platform/linux/default_routes.h"
+#include "platform/linux/files.h"
 #include "platform/linux/interface_addresses.h"
-#include "platform/linux/interface_kind.h"
-#include "platform/linux/interface_state.h"
-#include "platform/linux/net_dev.h"
-#include "platform/linux/sysfs.h"
+#include "platform/linux/interface_attributes.h"
+#include "platform/linux/proc_net.h"
 #include "platform/linux/text.h"
 #include "require.h"
 

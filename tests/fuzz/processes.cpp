@@ -1,7 +1,7 @@
 #include "parsers.h"
 #include "platform/linux/process_clock.h"
-#include "platform/linux/process_search.h"
-#include "platform/linux/process_stat.h"
+#include "platform/linux/process_files.h"
+#include "platform/linux/process_table.h"
 #include "require.h"
 
 #include <algorithm>

@@ -1,6 +1,5 @@
 #include "platform/linux/battery_packs.h"
 
-#include "platform/linux/pack_figures.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>
@@ -8,6 +7,128 @@
 
 namespace orvelle::linux_platform {
 namespace {
+
+/// A figure in whole units; nothing where it cannot be told, and then whatever is computed from it is nothing
+/// too.
+using Figure = std::optional<double>;
+
+/// `value` when it is above 0.
+Figure positive(const Figure& value) {
+    return value && *value > 0 ? value : std::nullopt;
+}
+
+/// `first` when it can be told, else `second`.
+Figure firstOf(const Figure& first, const Figure& second) {
+    return first ? first : second;
+}
+
+Figure product(const Figure& left, const Figure& right) {
+    return left && right ? Figure(*left * *right) : std::nullopt;
+}
+
+/// Nothing also when `divisor` is not above 0.
+Figure quotient(const Figure& dividend, const Figure& divisor) {
+    const Figure parts = positive(divisor);
+    return dividend && parts ? Figure(*dividend / *parts) : std::nullopt;
+}
+
+using Reading = std::optional<std::int64_t>;
+
+/// In the base unit: sysfs counts in millionths. Nothing when the driver gives nothing or less than 0.
+Figure fromMillionths(const Reading& value) {
+    return value && *value >= 0 ? Figure(static_cast<double>(*value) / 1e6) : std::nullopt;
+}
+
+/// Volts now.
+Figure presentVoltage(const BatteryPack& pack) {
+    return positive(fromMillionths(pack.voltageNow));
+}
+
+bool countsInEnergy(const BatteryPack& pack) {
+    return fromMillionths(pack.energyNow).has_value();
+}
+
+/// Volts that turn energy into charge and back: those that the pack was designed for, as its maker counts,
+/// else the present ones.
+Figure countingVoltage(const BatteryPack& pack) {
+    return firstOf(positive(fromMillionths(pack.voltageMinDesign)), presentVoltage(pack));
+}
+
+Figure wattHours(const BatteryPack& pack, const Reading& energy, const Reading& charge) {
+    return firstOf(fromMillionths(energy), product(fromMillionths(charge), countingVoltage(pack)));
+}
+
+Figure milliampereHours(const BatteryPack& pack, const Reading& charge, const Reading& energy) {
+    const Figure ampereHours =
+        firstOf(fromMillionths(charge), quotient(fromMillionths(energy), countingVoltage(pack)));
+    return product(ampereHours, 1000.0);
+}
+
+/// Drivers differ in the sign that they give a current, so the direction comes from the status. Without
+/// external power a pack that is not being charged (by another pack) can only give.
+Figure withDirection(const Reading& millionths, const BatteryPack& pack, bool isOnExternalPower) {
+    if (!millionths)
+        return std::nullopt;
+    const bool gives =
+        pack.status == PackStatus::discharging || (!isOnExternalPower && pack.status != PackStatus::charging);
+    return std::abs(static_cast<double>(*millionths)) / (gives ? -1e6 : 1e6);
+}
+
+/// Watt-hours that the pack holds now, from energy or charge files.
+Figure energyNow(const BatteryPack& pack) {
+    return wattHours(pack, pack.energyNow, pack.chargeNow);
+}
+
+/// Watt-hours that the full pack holds, those that it was designed for when it tells no others.
+Figure energyFull(const BatteryPack& pack) {
+    return firstOf(wattHours(pack, pack.energyFull, pack.chargeFull),
+                   wattHours(pack, pack.energyFullDesign, pack.chargeFullDesign));
+}
+
+/// Ampere-hours that the pack holds now; nothing when it counts in energy.
+Figure chargeNow(const BatteryPack& pack) {
+    return countsInEnergy(pack) ? std::nullopt : fromMillionths(pack.chargeNow);
+}
+
+/// Ampere-hours that the full pack holds, those that it was designed for when it tells no others; nothing
+/// when it counts in energy.
+Figure chargeFull(const BatteryPack& pack) {
+    if (countsInEnergy(pack))
+        return std::nullopt;
+    return firstOf(fromMillionths(pack.chargeFull), fromMillionths(pack.chargeFullDesign));
+}
+
+/// Milliampere-hours that the pack was designed to hold, from charge or energy files.
+Figure designCapacity(const BatteryPack& pack) {
+    return milliampereHours(pack, pack.chargeFullDesign, pack.energyFullDesign);
+}
+
+/// Milliampere-hours that the full pack holds, from charge or energy files.
+Figure fullCapacity(const BatteryPack& pack) {
+    return milliampereHours(pack, pack.chargeFull, pack.energyFull);
+}
+
+/// Charge as a fraction, by energy, by charge or by the percentage that the pack tells; not cut to 0..1.
+Figure chargeLevel(const BatteryPack& pack) {
+    const Figure byEnergy = quotient(energyNow(pack), energyFull(pack));
+    const Figure byCharge =
+        quotient(fromMillionths(pack.chargeNow),
+                 firstOf(fromMillionths(pack.chargeFull), fromMillionths(pack.chargeFullDesign)));
+    const Figure byItself =
+        pack.capacity ? Figure(static_cast<double>(*pack.capacity) / 100.0) : std::nullopt;
+    return firstOf(byEnergy, firstOf(byCharge, byItself));
+}
+
+/// Amperes that flow into the pack; negative while it gives.
+Figure currentInto(const BatteryPack& pack, bool isOnExternalPower) {
+    return withDirection(pack.currentNow, pack, isOnExternalPower);
+}
+
+/// Watts that flow into the pack; negative while it gives.
+Figure powerInto(const BatteryPack& pack, bool isOnExternalPower) {
+    return firstOf(withDirection(pack.powerNow, pack, isOnExternalPower),
+                   product(currentInto(pack, isOnExternalPower), presentVoltage(pack)));
+}
 
 /// No battery of a machine reaches this in any unit; it keeps nonsense away from the limits of the types.
 constexpr double largestFigure = 1e9;

@@ -1,7 +1,6 @@
 #include "platform/linux/linux_battery_source.h"
 
-#include "platform/linux/directory.h"
-#include "platform/linux/sysfs.h"
+#include "platform/linux/files.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "core/sources/battery_source.h"
 #include "platform/linux/battery_packs.h"
-#include "platform/linux/kept_file.h"
+#include "platform/linux/files.h"
 #include "platform/linux/search_pace.h"
 
 namespace orvelle::linux_platform {

@@ -1,7 +1,7 @@
 #include "platform/linux/linux_network_source.h"
 
-#include "platform/linux/host_root.h"
-#include "platform/linux/interface_kind.h"
+#include "platform/linux/files.h"
+#include "platform/linux/interface_attributes.h"
 #include "platform/names/sanitize.h"
 
 #include <algorithm>

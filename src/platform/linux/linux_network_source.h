@@ -1,12 +1,11 @@
 #pragma once
 
 #include "core/sources/network_source.h"
-#include "platform/linux/default_routes.h"
+#include "platform/linux/files.h"
 #include "platform/linux/interface_addresses.h"
-#include "platform/linux/interface_state.h"
+#include "platform/linux/interface_attributes.h"
 #include "platform/linux/interface_watch.h"
-#include "platform/linux/kept_file.h"
-#include "platform/linux/net_dev.h"
+#include "platform/linux/proc_net.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 #include "platform/linux/linux_process_source.h"
 
-#include "platform/linux/kept_file.h"
-#include "platform/linux/meminfo.h"
+#include "platform/linux/files.h"
+#include "platform/linux/linux_memory_source.h"
 #include "platform/linux/process_clock.h"
 #include "platform/linux/text.h"
 

@@ -2,8 +2,6 @@
 
 #include "core/sources/process_source.h"
 #include "platform/linux/process_files.h"
-#include "platform/linux/process_search.h"
-#include "platform/linux/process_stat.h"
 #include "platform/linux/process_table.h"
 
 #include <filesystem>

@@ -1,8 +1,7 @@
 #include "platform/linux/linux_sensor_source.h"
 
-#include "platform/linux/directory.h"
-#include "platform/linux/hwmon_rules.h"
-#include "platform/linux/sysfs.h"
+#include "platform/linux/files.h"
+#include "platform/linux/hwmon.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/sources/sensor_source.h"
-#include "platform/linux/hwmon_scan.h"
-#include "platform/linux/kept_file.h"
+#include "platform/linux/files.h"
+#include "platform/linux/hwmon.h"
 #include "platform/linux/search_pace.h"
 #include "platform/linux/sleep_guard.h"
 

@@ -1,15 +1,22 @@
 #include "platform/linux/linux_volumes.h"
 
-#include "platform/linux/host_root.h"
-#include "platform/linux/volume_choice.h"
-#include "platform/linux/volume_labels.h"
+#include "platform/linux/files.h"
+#include "platform/linux/mounts.h"
+#include "platform/linux/text.h"
 #include "platform/names/sanitize.h"
 
 #include <algorithm>
 #include <array>
+#include <sys/statvfs.h>
 
 namespace orvelle::linux_platform {
 namespace {
+
+/// The last component of a link's target, which is not looked up; empty when there is no such link.
+std::string linkedName(const std::filesystem::path& link) {
+    std::error_code ignored;
+    return std::filesystem::read_symlink(link, ignored).filename().string();
+}
 
 /// The choice is made anew after so many readings in any case: a label may be written without a mount.
 constexpr unsigned readingsPerChoice = 20;
@@ -18,6 +25,77 @@ constexpr unsigned readingsPerChoice = 20;
 constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/hosts", "/etc/resolv.conf"};
 
 } // namespace
+
+VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes) {
+    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    const std::uint64_t total = std::min(totalBytes, largest);
+    // A file system can report more blocks free than it has while it is being changed in size.
+    return {.totalBytes = static_cast<std::int64_t>(total),
+            .freeBytes = static_cast<std::int64_t>(std::min(freeBytes, total))};
+}
+
+SpaceAnswer hostVolumeSpace(const std::string& path) {
+    using Clock = std::chrono::steady_clock;
+    struct statvfs space = {};
+    const Clock::time_point start = Clock::now();
+    const bool isTold = ::statvfs(path.c_str(), &space) == 0;
+    SpaceAnswer answer{.space = std::nullopt, .took = Clock::now() - start};
+    if (isTold)
+        answer.space = volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
+                                   saturatingMultiply(space.f_bavail, space.f_frsize));
+    return answer;
+}
+
+unsigned readingsToSkipAfter(std::chrono::duration<double> took) {
+    constexpr std::chrono::milliseconds patience{50};
+    constexpr unsigned skippedPerPatience = 10;
+    constexpr double mostSkipped = 200;
+    if (took <= patience)
+        return 0;
+    return static_cast<unsigned>(std::min(took / patience * skippedPerPatience, mostSkipped));
+}
+
+std::map<std::string, VolumeSpace> parseVolumeSpaces(std::string_view text) {
+    std::map<std::string, VolumeSpace> spaces;
+    while (!text.empty()) {
+        std::string_view line = trimmed(takeLine(text));
+        const std::string_view path = takeWord(line);
+        const auto total = takeNumber<std::uint64_t>(line);
+        const auto free = takeNumber<std::uint64_t>(line);
+        if (total && free)
+            spaces.insert_or_assign(withoutOctalEscapes(path), volumeSpace(*total, *free));
+    }
+    return spaces;
+}
+
+VolumeLabels::VolumeLabels(std::filesystem::path root)
+    : m_root(std::move(root)) {
+    const std::filesystem::path directory = m_root / "dev/disk/by-label";
+    for (const std::string& link : namesIn(directory)) {
+        const std::string device = linkedName(directory / link);
+        if (!device.empty())
+            m_labelsByDevice.emplace(device, withoutHexEscapes(link));
+    }
+}
+
+std::optional<std::string> VolumeLabels::labelOf(const Mount& mount) const {
+    const std::filesystem::path source = std::filesystem::path(mount.source).lexically_normal();
+    if (m_labelsByDevice.empty() || !source.native().starts_with("/dev/"))
+        return std::nullopt;
+    // The source may be the device itself, a link that the device mapper made or a name that no device has
+    // (/dev/root), where only the number leads to the device.
+    const std::string number = std::to_string(mount.deviceMajor) + ':' + std::to_string(mount.deviceMinor);
+    for (const std::string& device :
+         {linkedName(m_root / "sys/dev/block" / number), source.filename().string(),
+          linkedName(m_root / source.relative_path())}) {
+        const auto position = m_labelsByDevice.find(device);
+        if (position == m_labelsByDevice.end())
+            continue;
+        std::string label = sanitizedName(position->second);
+        return label.empty() ? std::nullopt : std::optional(std::move(label));
+    }
+    return std::nullopt;
+}
 
 LinuxVolumes::LinuxVolumes(const std::filesystem::path& root)
     : LinuxVolumes(root, isHostRoot(root) ? hostVolumeSpace : SpaceReader()) {}

@@ -1,7 +1,7 @@
 #include "platform/linux/process_clock.h"
 
 #include "core/sources/process_source.h"
-#include "platform/linux/kept_file.h"
+#include "platform/linux/files.h"
 #include "platform/linux/text.h"
 
 #include <ctime>

@@ -1,6 +1,10 @@
 #include "platform/linux/process_files.h"
 
+#include "platform/linux/text.h"
+#include "platform/names/sanitize.h"
+
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <fcntl.h>
@@ -8,6 +12,33 @@
 
 namespace orvelle::linux_platform {
 namespace {
+
+constexpr std::uint64_t kernelThreadFlag = 0x00200000; // PF_KTHREAD
+
+constexpr std::string_view unshowableName = "\xEF\xBF\xBD"; // U+FFFD
+
+/// Numbers of the fields after the short name, as proc.rst and proc(5) count them.
+enum Field : std::size_t {
+    firstField = 4,
+    flagsField = 9,
+    userTicksField = 14,
+    systemTicksField = 15,
+    threadCountField = 20,
+    startTimeField = 22,
+    residentPagesField = 24,
+};
+
+/// Fields 4 to 24 as text; nothing when one is missing, or when the text ends right after the last: its
+/// digits could be cut.
+std::optional<std::array<std::string_view, residentPagesField + 1>> takeFields(std::string_view rest) {
+    std::array<std::string_view, residentPagesField + 1> fields;
+    for (std::size_t field = firstField; field <= residentPagesField; ++field) {
+        fields[field] = takeWord(rest);
+        if (fields[field].empty() || rest.empty())
+            return std::nullopt;
+    }
+    return fields;
+}
 
 /// `PID/NAME` without an allocation: it is needed for every process that ran.
 class FileOfProcess {
@@ -34,6 +65,57 @@ std::optional<std::int32_t> pidOf(std::string_view entry) {
 }
 
 } // namespace
+
+std::optional<ProcessStat> parseProcessStat(std::string_view text) {
+    const std::size_t open = text.find('(');
+    const std::size_t close = text.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return std::nullopt;
+    std::string_view rest = text.substr(close + 1);
+    const std::string_view state = takeWord(rest);
+    const auto fields = takeFields(rest);
+    if (state.size() != 1 || !fields)
+        return std::nullopt;
+
+    const auto number = [&fields](Field field) { return parseNumber<std::uint64_t>((*fields)[field]); };
+    const auto flags = number(flagsField);
+    const auto userTicks = number(userTicksField);
+    const auto systemTicks = number(systemTicksField);
+    const auto threadCount = number(threadCountField);
+    const auto startTime = number(startTimeField);
+    const auto residentPages = number(residentPagesField);
+    if (!flags || !userTicks || !systemTicks || !threadCount || !startTime || !residentPages)
+        return std::nullopt;
+    return ProcessStat{.comm = text.substr(open + 1, close - open - 1),
+                       .state = state.front(),
+                       .flags = *flags,
+                       .userTicks = *userTicks,
+                       .systemTicks = *systemTicks,
+                       .threadCount = *threadCount,
+                       .startTime = *startTime,
+                       .residentPages = *residentPages};
+}
+
+bool isRunning(const ProcessStat& stat) {
+    const bool hasEnded = stat.state == 'Z' || stat.state == 'X' || stat.state == 'x';
+    return stat.threadCount > (hasEnded ? 1 : 0);
+}
+
+bool isKernelThread(const ProcessStat& stat) {
+    return (stat.flags & kernelThreadFlag) != 0;
+}
+
+std::string processName(std::string_view executablePath, std::string_view comm) {
+    constexpr std::string_view removedMark = " (deleted)";
+    if (executablePath.ends_with(removedMark))
+        executablePath.remove_suffix(removedMark.size());
+    // Without any slash npos + 1 is 0, and the whole text is the name.
+    std::string name = sanitizedName(executablePath.substr(executablePath.rfind('/') + 1));
+    if (name.empty())
+        name = sanitizedName(comm);
+    // A process without a name is not listed, and none may hide behind characters that show nothing.
+    return name.empty() && !comm.empty() ? std::string(unshowableName) : name;
+}
 
 ProcessFiles::ProcessFiles(const std::filesystem::path& root)
     : m_path(root / "proc") {}

@@ -1,6 +1,6 @@
 #include "platform/linux/sleep_guard.h"
 
-#include "platform/linux/sysfs.h"
+#include "platform/linux/files.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/kept_file.h"
+#include "platform/linux/files.h"
 
 #include <chrono>
 #include <functional>

@@ -1,15 +1,18 @@
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <concepts>
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <string>
 #include <string_view>
 
-/// Reading of kernel text without copies. Nothing here trusts the text: a missing or malformed number is
-/// nothing, and a number beyond its type is the largest one.
 namespace orvelle::linux_platform {
+
+// Reading of kernel text without copies. Nothing here trusts the text: a missing or malformed number is
+// nothing, and a number beyond its type is the largest one.
 
 /// Cuts `text` at the first `separator` and returns the part before it; the separator is dropped. Without one
 /// the whole text is returned and `text` becomes empty.
@@ -100,5 +103,27 @@ template <class Number>
 [[nodiscard]] constexpr std::uint64_t saturatingSubtract(std::uint64_t left, std::uint64_t right) {
     return left > right ? left - right : 0;
 }
+
+/// `text` with every backslash and three octal digits replaced by the byte that they stand for: the way in
+/// which mountinfo and fstab write blanks and line ends (`\040`).
+[[nodiscard]] std::string withoutOctalEscapes(std::string_view text);
+
+/// `text` with every `\x` and two hexadecimal digits replaced by the byte that they stand for: the way in
+/// which udev writes what it does not put into a link's name (`\x20`).
+[[nodiscard]] std::string withoutHexEscapes(std::string_view text);
+
+/// Keeps the sum of a list of counters within 64 bits, whatever a damaged text says: each counter is cut at
+/// what the ones before it left. No machine moves 2^63 bytes, so real counters are never cut.
+class SaturatingSum {
+public:
+    [[nodiscard]] std::uint64_t take(std::uint64_t counter) {
+        const std::uint64_t taken = std::min(counter, m_left);
+        m_left -= taken;
+        return taken;
+    }
+
+private:
+    std::uint64_t m_left = std::uint64_t{1} << 63;
+};
 
 } // namespace orvelle::linux_platform

@@ -1,7 +1,7 @@
 #include "common/example_script.h"
 #include "fuzz/mutations.h"
 #include "platform/host.h"
-#include "platform/linux/kept_file.h"
+#include "platform/linux/files.h"
 #include "platform/replay/replay_machine.h"
 #include "support/machine_moments.h"
 #include "support/source_contract.h"
