@@ -1,5 +1,3 @@
-#include "charts/any_shape.h"
-#include "charts/continuous_rounded_rect.h"
 #include "charts/pie_slice.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"
@@ -127,12 +125,6 @@ TEST(PieSlice, ReachesFromTheMiddleOfItsRectangle) {
     EXPECT_FALSE(quarter.contains(QPointF(140, 12))) << "beyond the radius, half of the shorter side";
     EXPECT_TRUE(PieSlice({10, 10}).path({0, 0, 100, 100}).isEmpty());
     EXPECT_TRUE(PieSlice({0, 90}).path({0, 0, 0, 100}).isEmpty());
-}
-
-TEST(AnyShape, IsWhateverItsBuilderReturns) {
-    const AnyShape capsule{[](const QRectF& rectangle) { return continuousCapsule(rectangle); }};
-    EXPECT_EQ(capsule.path({1, 2, 30, 10}), continuousCapsule({1, 2, 30, 10}));
-    EXPECT_TRUE(AnyShape{}.path({0, 0, 1, 1}).isEmpty());
 }
 
 QColor colorAtPosition(const QGradient& gradient, double position) {

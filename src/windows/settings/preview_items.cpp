@@ -39,9 +39,8 @@ void GraphLineDrawing::paint(QPainter* painter) {
 }
 
 void BarDrawing::paint(QPainter* painter) {
-    const AnyShape shape = previewBarShape(m_style);
     for (const QRectF& bar : previewBars(m_style, size()))
-        painter->fillPath(shape.path(bar), withOpacity(m_color, barOpacity));
+        painter->fillPath(previewBarShape(m_style, bar), withOpacity(m_color, barOpacity));
 }
 
 void RingDrawing::paint(QPainter* painter) {

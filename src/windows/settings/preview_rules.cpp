@@ -64,20 +64,16 @@ QList<QRectF> previewBars(BarChartStyle style, const QSizeF& frame) {
     return bars;
 }
 
-AnyShape previewBarShape(BarChartStyle style) {
+QPainterPath previewBarShape(BarChartStyle style, const QRectF& bar) {
     switch (style) {
     case BarChartStyle::rounded:
-        return {[](const QRectF& bar) { return continuousRoundedRect(bar, 2); }};
+        return continuousRoundedRect(bar, 2);
     case BarChartStyle::square:
-        return {[](const QRectF& bar) {
-            QPainterPath path;
-            path.addRect(bar);
-            return path;
-        }};
+        return continuousRoundedRect(bar, 0);
     case BarChartStyle::pill:
-        return {&continuousCapsule};
+        return continuousCapsule(bar);
     case BarChartStyle::thinLine:
-        return {[](const QRectF& bar) { return continuousRoundedRect(bar, 0.5); }};
+        return continuousRoundedRect(bar, 0.5);
     }
     return {};
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "charts/any_shape.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -21,8 +20,8 @@ namespace orvelle {
 /// Five bars in the middle of the frame's bottom edge, from left to right.
 [[nodiscard]] QList<QRectF> previewBars(BarChartStyle style, const QSizeF& frame);
 
-/// The outline of a bar.
-[[nodiscard]] AnyShape previewBarShape(BarChartStyle style);
+/// The outline of a bar that fills `bar`.
+[[nodiscard]] QPainterPath previewBarShape(BarChartStyle style, const QRectF& bar);
 
 inline constexpr double previewRingSide = 22;
 inline constexpr double previewRingStroke = 3;

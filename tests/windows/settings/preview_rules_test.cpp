@@ -86,7 +86,7 @@ TEST(PreviewBarsTest, StandOnTheBottomTwoPointsApartAndAsHighAsTheirSamples) {
 TEST(PreviewBarsTest, AreShapedByTheirStyle) {
     const QRectF bar(0, 0, 6, 18);
     const auto corner = [&](BarChartStyle style, double offset) {
-        return previewBarShape(style).path(bar).contains(QPointF(offset, offset));
+        return previewBarShape(style, bar).contains(QPointF(offset, offset));
     };
     EXPECT_TRUE(corner(BarChartStyle::square, 0.05));
     EXPECT_FALSE(corner(BarChartStyle::thinLine, 0.05));
@@ -96,7 +96,7 @@ TEST(PreviewBarsTest, AreShapedByTheirStyle) {
     EXPECT_FALSE(corner(BarChartStyle::pill, 0.8));
     for (const BarChartStyle style :
          {BarChartStyle::rounded, BarChartStyle::square, BarChartStyle::pill, BarChartStyle::thinLine})
-        EXPECT_EQ(previewBarShape(style).path(bar).boundingRect(), bar);
+        EXPECT_EQ(previewBarShape(style, bar).boundingRect(), bar);
 }
 
 /// The direction from the middle of a ring to a point, degrees clockwise from three o'clock.
