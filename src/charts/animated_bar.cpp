@@ -55,10 +55,6 @@ double AnimatedBar::overhang() const {
     return showGlow ? glowReach(barGlowRadius(barStyle, glowIntensity)) + glowRise : 0;
 }
 
-void AnimatedBar::paint(QPainter& painter, const QRectF& slot) const {
-    paint(painter, slot, look(), nullptr);
-}
-
 void AnimatedBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown,
                         PictureCache<BarPicture>* cache, std::size_t index) const {
     if (!isPaintable(slot.size()))

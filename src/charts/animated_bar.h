@@ -19,19 +19,14 @@ struct AnimatedBar {
     double cornerRadius = 0; ///< points; pill and thin-line bars have a radius of their own
     QColor baseColor = {};   ///< colour below half scale
     bool showGlow = true;
-    bool animate = true; ///< whether the host animates changes
     BarChartStyle barStyle = BarChartStyle::rounded;
     GlowIntensity glowIntensity = GlowIntensity::medium;
-    AnimationSpeed animationSpeed = AnimationSpeed::normal;
 
     /// The look of the present value, towards which a host animates.
     [[nodiscard]] BarLook look() const;
 
     /// How far the glow reaches beyond the slot on every side, points.
     [[nodiscard]] double overhang() const;
-
-    /// Paints the look of the present value at the bottom of `slot`.
-    void paint(QPainter& painter, const QRectF& slot) const;
 
     /// Paints the bar as it looks in the middle of an animation. Without its glow the bar stays within the
     /// slot's width, except that a thin line is never narrower than 1.5 points. `index` numbers the bars that

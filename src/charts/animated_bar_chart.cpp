@@ -17,22 +17,8 @@ AnimatedBar barOf(const AnimatedBarChart& chart, double value) {
             .cornerRadius = barCornerRadius(chart.barStyle),
             .baseColor = chart.baseColor,
             .showGlow = chart.showGlow,
-            .animate = chart.animateChanges,
             .barStyle = chart.barStyle,
-            .glowIntensity = chart.glowIntensity,
-            .animationSpeed = chart.animationSpeed};
-}
-
-QList<QRectF> rowOfSlots(const AnimatedBarChart& chart, const QRectF& bounds, qsizetype count) {
-    const QRectF frame = centred({bounds.width(), chart.height}, bounds);
-    const BarRow row = barRow(count, frame.width(), barSpacingFor(chart.barStyle, chart.barSpacing));
-    QList<QRectF> result;
-    result.reserve(count);
-    for (qsizetype index = 0; index < count; ++index) {
-        const double left = frame.left() + static_cast<double>(index) * (row.slotWidth + row.gap);
-        result.append({left, frame.top(), row.slotWidth, frame.height()});
-    }
-    return result;
+            .glowIntensity = chart.glowIntensity};
 }
 
 /// At most `largestCount` looks, each the tallest of an equal share of all.
@@ -59,8 +45,16 @@ QList<AnimatedBar> AnimatedBarChart::bars() const {
     return result;
 }
 
-QList<QRectF> AnimatedBarChart::barSlots(const QRectF& bounds) const {
-    return rowOfSlots(*this, bounds, values.size());
+QList<QRectF> AnimatedBarChart::barSlots(const QRectF& bounds, qsizetype count) const {
+    const QRectF frame = centred({bounds.width(), height}, bounds);
+    const BarRow row = barRow(count, frame.width(), barSpacingFor(barStyle, barSpacing));
+    QList<QRectF> result;
+    result.reserve(count);
+    for (qsizetype index = 0; index < count; ++index) {
+        const double left = frame.left() + static_cast<double>(index) * (row.slotWidth + row.gap);
+        result.append({left, frame.top(), row.slotWidth, frame.height()});
+    }
+    return result;
 }
 
 void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, PictureCache<BarPicture>* cache) const {
@@ -78,7 +72,7 @@ void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, const QLis
     constexpr double barsPerPixel = 2;
     const double pixels = std::ceil(bounds.width() * devicePixelsPerPoint(painter));
     const QList<BarLook> drawn = tallestLooks(shown, static_cast<qsizetype>(pixels * barsPerPixel));
-    const QList<QRectF> places = rowOfSlots(*this, bounds, drawn.size());
+    const QList<QRectF> places = barSlots(bounds, drawn.size());
     const AnimatedBar bar = barOf(*this, 0); // each bar's value is in its look
     for (qsizetype index = 0; index < drawn.size(); ++index)
         bar.paint(painter, places[index], drawn[index], cache, static_cast<std::size_t>(index));

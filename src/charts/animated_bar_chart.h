@@ -9,10 +9,9 @@ namespace orvelle {
 /// A row of bars for a series of values, one per element from left to right.
 struct AnimatedBarChart {
     QList<double> values = {};
-    double maxValue = 1;     ///< value that fills a bar to the full height
-    double barSpacing = 2;   ///< points between bars; some styles ask for more
-    double cornerRadius = 3; ///< kept for callers; the bars take their radius from the style
-    QColor baseColor = {};   ///< colour of a bar below half scale
+    double maxValue = 1;   ///< value that fills a bar to the full height
+    double barSpacing = 2; ///< points between bars; some styles ask for more
+    QColor baseColor = {}; ///< colour of a bar below half scale
     bool showGlow = true;
     double height = 50; ///< of the chart, points
     bool animateChanges = true;
@@ -23,9 +22,9 @@ struct AnimatedBarChart {
     /// One bar per value.
     [[nodiscard]] QList<AnimatedBar> bars() const;
 
-    /// The spaces that the bars stand in. The chart is as wide as `bounds` and `height` points high, centred
-    /// in it; the bars share the width that their gaps leave. Where the gaps would leave none, they shrink.
-    [[nodiscard]] QList<QRectF> barSlots(const QRectF& bounds) const;
+    /// The slots of `count` bars. The chart is as wide as `bounds` and `height` points high, centred in it;
+    /// `barRow` shares out the width.
+    [[nodiscard]] QList<QRectF> barSlots(const QRectF& bounds, qsizetype count) const;
 
     /// Paints the present values, and the glow beyond the chart as every bar does.
     void paint(QPainter& painter, const QRectF& bounds, PictureCache<BarPicture>* cache = nullptr) const;

@@ -24,7 +24,6 @@ struct AnimatedLineGraph {
     GlowIntensity glowIntensity = GlowIntensity::medium;
     QColor gridColor = Qt::transparent; ///< of the three horizontal lines over the graph
     QList<double> animatedData = {};    ///< the series that is drawn; `data` is drawn while it is empty
-    double phase = 0;                   ///< kept by the host; the drawing does not read it
 
     /// The samples that are drawn.
     [[nodiscard]] const QList<double>& series() const { return animatedData.isEmpty() ? data : animatedData; }

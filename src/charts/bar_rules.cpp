@@ -109,10 +109,6 @@ double barGlowRadius(BarChartStyle style, GlowIntensity intensity) {
     return style == BarChartStyle::thinLine ? glowRadius(intensity) / 2 : glowRadius(intensity);
 }
 
-double miniBarHeight(double fraction, double availableHeight) {
-    return barHeight(std::min(fraction, 1.0), availableHeight);
-}
-
 QColor miniBarColor(double fraction, const QColor& color) {
     if (fraction >= threeQuartersFull)
         return SystemColors::red;

@@ -50,9 +50,6 @@ struct BarRow {
 /// Radius of a bar's shadow: that of the glow, half of it around thin lines.
 [[nodiscard]] double barGlowRadius(BarChartStyle style, GlowIntensity intensity);
 
-/// Height of a mini bar filled to `fraction` (1 is full) of `availableHeight`. Not a number counts as empty.
-[[nodiscard]] double miniBarHeight(double fraction, double availableHeight);
-
 /// `color` below half, then yellow, and red from three quarters up.
 [[nodiscard]] QColor miniBarColor(double fraction, const QColor& color);
 

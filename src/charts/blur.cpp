@@ -132,12 +132,6 @@ QImage imageOf(const Plane& plane) {
 
 } // namespace
 
-int blurReach(double sigma) {
-    if (!blursAnything(sigma))
-        return 0;
-    return passes * (Box::forSigma(std::min(sigma, largestSigma)).reach + 1);
-}
-
 QImage blurredAlpha(const QImage& alpha, double sigma) {
     if (alpha.isNull() || !blursAnything(sigma))
         return alpha;

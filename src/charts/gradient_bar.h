@@ -12,10 +12,8 @@ struct GradientBar {
     QColor color = {};      ///< at the end of the fill
     QColor trackColor = {}; ///< of the whole width, below the fill
 
-    /// Fills `bounds`; a fraction above 1 reaches out of them to the right, in proportion.
-    void paint(QPainter& painter, const QRectF& bounds) const { paint(painter, bounds, fraction); }
-
-    /// Paints the bar as it looks in the middle of an animation.
+    /// Fills `bounds` in the middle of an animation; a fraction above 1 reaches out of them to the right, in
+    /// proportion.
     void paint(QPainter& painter, const QRectF& bounds, double shownFraction) const;
 
     bool operator==(const GradientBar&) const = default;

@@ -4,18 +4,14 @@
 #include <QList>
 #include <QPainter>
 #include <QRectF>
-#include <QString>
-#include <QUuid>
 
 namespace orvelle {
 
 /// A ring divided into coloured segments by their share of the whole.
 struct MultiSegmentRing {
     struct Segment {
-        QUuid id = QUuid::createUuid(); ///< fresh for every segment
-        double value = 0;               ///< share of the sum of all segments
+        double value = 0; ///< share of the sum of all segments
         QColor color = {};
-        QString label = {}; ///< name for callers; the ring does not draw it
     };
 
     QList<Segment> segments = {}; ///< drawn in order, clockwise from twelve o'clock

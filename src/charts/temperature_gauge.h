@@ -36,9 +36,7 @@ struct TemperatureGauge {
     QString label = {};
     double temperature = 0; ///< degrees Celsius; 0 or below means that there is no reading
     double maxTemp = 110;   ///< degrees Celsius at which the dial is full
-    QString icon = {};      ///< name of a symbol for callers; the gauge does not draw it
     bool useFahrenheit = false;
-    QColor baseColor = {}; ///< kept for callers; the dial has colours of its own
     GlowIntensity glowIntensity = GlowIntensity::medium;
     bool showGlow = true;
 

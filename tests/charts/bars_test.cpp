@@ -14,7 +14,6 @@ protected:
         return {.values = values,
                 .maxValue = 1,
                 .barSpacing = 2,
-                .cornerRadius = 9,
                 .baseColor = Qt::blue,
                 .showGlow = false,
                 .height = 20,
@@ -190,26 +189,22 @@ TEST_P(Bars, MiniBarStaysInASlotLowerThanItsSliver) {
 }
 
 TEST(AnimatedBarChart, HandsTheStylesRadiusToItsBarsAndPassesTheRestOn) {
-    AnimatedBarChart chart{.values = {1, 2}, .maxValue = 4, .cornerRadius = 9, .baseColor = Qt::green};
-    chart.animateChanges = false;
+    AnimatedBarChart chart{.values = {1, 2}, .maxValue = 4, .baseColor = Qt::green};
     chart.glowIntensity = GlowIntensity::subtle;
-    chart.animationSpeed = AnimationSpeed::fast;
     const QList<AnimatedBar> bars = chart.bars();
     ASSERT_EQ(bars.size(), 2);
     EXPECT_EQ(bars[1].value, 2);
     EXPECT_EQ(bars[1].maxValue, 4);
-    EXPECT_EQ(bars[1].cornerRadius, 3) << "from the style, not from the chart's field";
+    EXPECT_EQ(bars[1].cornerRadius, 3);
     EXPECT_EQ(bars[1].baseColor, QColor(Qt::green));
-    EXPECT_FALSE(bars[1].animate);
     EXPECT_EQ(bars[1].glowIntensity, GlowIntensity::subtle);
-    EXPECT_EQ(bars[1].animationSpeed, AnimationSpeed::fast);
 }
 
 TEST(AnimatedBarChart, LaysPillsThreePointsApartAndRoundedBarsAsAsked) {
     AnimatedBarChart chart{.values = {1, 1, 1}, .barSpacing = 1, .height = 20};
     const auto gap = [&](BarChartStyle style) {
         chart.barStyle = style;
-        const QList<QRectF> places = chart.barSlots({0, 0, 100, 20});
+        const QList<QRectF> places = chart.barSlots({0, 0, 100, 20}, 3);
         EXPECT_NEAR(places.last().right(), 100, 1e-9);
         return places[1].left() - places[0].right();
     };

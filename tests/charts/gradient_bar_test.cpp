@@ -12,7 +12,7 @@ protected:
 
     [[nodiscard]] QImage paintedBar(double fraction) const {
         const GradientBar bar{.fraction = fraction, .color = Qt::red, .trackColor = Qt::blue};
-        return painted(size, [&](QPainter& painter) { bar.paint(painter, {{0, 0}, size}); });
+        return painted(size, [&](QPainter& painter) { bar.paint(painter, {{0, 0}, size}, fraction); });
     }
 };
 

@@ -288,12 +288,5 @@ TEST_P(SegmentRing, SurvivesAnyInput) {
     }
 }
 
-TEST(MultiSegmentRing, GivesEverySegmentAFreshIdentity) {
-    const MultiSegmentRing::Segment first;
-    const MultiSegmentRing::Segment second;
-    EXPECT_FALSE(first.id.isNull());
-    EXPECT_NE(first.id, second.id);
-}
-
 } // namespace
 } // namespace orvelle

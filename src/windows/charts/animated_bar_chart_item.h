@@ -16,7 +16,6 @@ class AnimatedBarChartItem : public orvelle::ChartItem {
     Q_PRIVATE_PROPERTY(chart(), QList<double> values MEMBER values NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double maxValue MEMBER maxValue NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double barSpacing MEMBER barSpacing NOTIFY changed)
-    Q_PRIVATE_PROPERTY(chart(), double cornerRadius MEMBER cornerRadius NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), QColor baseColor MEMBER baseColor NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), bool showGlow MEMBER showGlow NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), bool animateChanges MEMBER animateChanges NOTIFY changed)

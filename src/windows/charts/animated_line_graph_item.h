@@ -22,15 +22,12 @@ class AnimatedLineGraphItem : public orvelle::ChartItem {
     Q_PRIVATE_PROPERTY(chart(), QColor gridColor MEMBER gridColor NOTIFY changed)
     /// The series that is drawn now; empty until the graph is first shown.
     Q_PROPERTY(QList<double> animatedData READ animatedData NOTIFY moved)
-    /// Always 0.
-    Q_PROPERTY(double phase READ phase CONSTANT)
 
 public:
     explicit AnimatedLineGraphItem(AnimationClock& clock = AnimationClock::shared())
         : ChartItem(clock) {}
 
     [[nodiscard]] QList<double> animatedData() const { return m_series.shown(); }
-    [[nodiscard]] double phase() const { return m_chart.phase; }
 
 protected:
     void paintChart(QPainter& painter, const QRectF& bounds) override;

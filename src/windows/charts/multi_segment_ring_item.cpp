@@ -12,7 +12,6 @@ MultiSegmentRing::Segment segmentOf(const QVariant& fields) {
     MultiSegmentRing::Segment segment;
     segment.value = map.value(QStringLiteral("value")).toDouble();
     segment.color = map.value(QStringLiteral("color")).value<QColor>();
-    segment.label = map.value(QStringLiteral("label")).toString();
     return segment;
 }
 

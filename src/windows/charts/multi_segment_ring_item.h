@@ -13,7 +13,7 @@ namespace orvelle {
 class MultiSegmentRingItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(MultiSegmentRing)
-    /// Objects with the fields `value` (a number), `color` and `label` (a text).
+    /// Objects with the fields `value` (a number) and `color`.
     Q_PROPERTY(QVariantList segments READ segments WRITE setSegments NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double lineWidth MEMBER lineWidth NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double size MEMBER size NOTIFY changed)

@@ -14,9 +14,7 @@ class TemperatureGaugeItem : public orvelle::ChartItem {
     Q_PRIVATE_PROPERTY(chart(), QString label MEMBER label NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double temperature MEMBER temperature NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), double maxTemp MEMBER maxTemp NOTIFY changed)
-    Q_PRIVATE_PROPERTY(chart(), QString icon MEMBER icon NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), bool useFahrenheit MEMBER useFahrenheit NOTIFY changed)
-    Q_PRIVATE_PROPERTY(chart(), QColor baseColor MEMBER baseColor NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), orvelle::GlowIntensity glowIntensity MEMBER glowIntensity NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), bool showGlow MEMBER showGlow NOTIFY changed)
 

@@ -36,7 +36,6 @@ PanelBody {
             values: panel.coreUsages.map(core => core.user + core.system)
             maxValue: 1
             barSpacing: 2
-            cornerRadius: 2
             baseColor: panel.moduleColor
             showGlow: PanelRules.hasGlow(panel.settings.glowIntensity)
             animateChanges: true

@@ -17,7 +17,6 @@ TemperatureGauge {
     label: title
     temperature: celsius
     maxTemp: 110
-    icon: "cpu"
     useFahrenheit: settings.useFahrenheit
     glowIntensity: settings.glowIntensity
     showGlow: PanelRules.hasGlow(settings.glowIntensity)

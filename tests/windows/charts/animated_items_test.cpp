@@ -2,7 +2,6 @@
 #include "quick_fixture.h"
 #include "windows/charts/animated_bar_chart_item.h"
 #include "windows/charts/animated_line_graph_item.h"
-#include "windows/charts/mini_bar_item.h"
 #include "windows/charts/temperature_gauge_item.h"
 
 namespace orvelle {
@@ -180,33 +179,6 @@ TEST_F(LineGraphItem, KeepsItsLineWhereItWasWhenTheHistoryGrows) {
     showWindow();
     graph->setProperty("data", values({0, 1, 0, 0.5, 1}));
     EXPECT_EQ(graph->animatedData(), (QList<double>{0, 0.5, 1, 0.5, 0}));
-}
-
-class MiniBarItemTest : public QuickFixture {
-protected:
-    MiniBarItemTest() {
-        bar->setProperty("color", QColor(Qt::blue));
-        bar->setProperty("value", 0.2);
-    }
-    std::unique_ptr<MiniBarItem> bar = placed<MiniBarItem>();
-};
-
-TEST_F(MiniBarItemTest, EasesToAnotherValueInThreeTenthsOfASecond) {
-    showWindow();
-    EXPECT_EQ(bar->shownLook().ratio, 0.2);
-    bar->setProperty("value", 0.8);
-    pass(0.1);
-    EXPECT_NEAR(bar->shownLook().ratio, 0.2 + 0.6 * easeInOut().valueForProgress(1.0 / 3), 1e-6);
-    pass(0.2);
-    EXPECT_EQ(bar->shownLook(), (MiniBar{.value = 0.8, .color = Qt::blue}.look()));
-    EXPECT_FALSE(clock.isRunning());
-}
-
-TEST_F(MiniBarItemTest, ShowsAnotherColorAtOnce) {
-    showWindow();
-    bar->setProperty("color", QColor(Qt::green));
-    EXPECT_EQ(bar->shownLook().color, QColor(Qt::green));
-    EXPECT_FALSE(clock.isRunning());
 }
 
 class GaugeItem : public QuickFixture {

@@ -2,7 +2,6 @@
 #include "windows/charts/animated_bar_chart_item.h"
 #include "windows/charts/animated_ring_chart_item.h"
 #include "windows/charts/chart_item.h"
-#include "windows/charts/sparkline_items.h"
 
 namespace orvelle {
 namespace {
@@ -158,36 +157,6 @@ TEST_F(ChartItemTest, FollowsItsSize) {
 
 TEST_F(ChartItemTest, AsksForTheHeightOfItsChart) {
     EXPECT_EQ(chart->implicitHeight(), AnimatedBarChart{}.height);
-}
-
-TEST_F(ChartItemTest, SparklinesShowTheirDataAndNeverMove) {
-    chart.reset();
-    const auto sparkline = placed<SparklineViewItem>();
-    sparkline->setProperty("lineColor", QColor(Qt::green));
-    sparkline->setProperty("data", QVariant::fromValue(QList<double>{1, 1}));
-    showWindow();
-    EXPECT_GT(colorAt(90, 31).green(), 100) << "full scale, a point below the top";
-    EXPECT_GT(colorAt(90, 60).green(), 30);
-    sparkline->setProperty("fillColor", QColor(Qt::red));
-    EXPECT_FALSE(clock.isRunning());
-    waitForFrame();
-    EXPECT_EQ(colorAt(90, 60), QColor(Qt::red));
-    sparkline->setProperty("fillColor", QVariant());
-    waitForFrame();
-    EXPECT_EQ(colorAt(90, 60).red(), 0);
-}
-
-TEST_F(ChartItemTest, DualSparklinesShowBothDirections) {
-    chart.reset();
-    const auto sparklines = placed<DualSparklineViewItem>();
-    sparklines->setProperty("topColor", QColor(Qt::green));
-    sparklines->setProperty("bottomColor", QColor(Qt::red));
-    sparklines->setProperty("topData", QVariant::fromValue(QList<double>{1, 1}));
-    sparklines->setProperty("bottomData", QVariant::fromValue(QList<double>{1, 1}));
-    showWindow();
-    EXPECT_GT(colorAt(90, 60).green(), 15);
-    EXPECT_GT(colorAt(90, 60).red(), 15);
-    EXPECT_FALSE(clock.isRunning());
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "windows/charts/animated_ring_chart_item.h"
 #include "windows/charts/chart_types.h"
 #include "windows/charts/multi_segment_ring_item.h"
-#include "windows/charts/sparkline_items.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -34,32 +33,29 @@ protected:
 };
 
 TEST_F(ChartsInQml, EveryChartHasItsName) {
-    for (const char* name : {"AnimatedBarChart", "AnimatedLineGraph", "SparklineView", "DualSparklineView",
-                             "AnimatedRingChart", "MultiSegmentRing", "TemperatureGauge", "MiniBar"})
+    for (const char* name : {"AnimatedBarChart", "AnimatedLineGraph", "AnimatedRingChart", "MultiSegmentRing",
+                             "TemperatureGauge", "GradientBar", "ContinuousRectangle"})
         expectItCanBeCreated(QByteArray(name) + " {}");
 }
 
 TEST_F(ChartsInQml, EveryFieldIsAProperty) {
     expectItCanBeCreated("AnimatedBarChart { values: [1, 2]; maxValue: 4; barSpacing: 1; height: 30; "
-                         "cornerRadius: 2; baseColor: 'red'; showGlow: false; animateChanges: false; "
+                         "baseColor: 'red'; showGlow: false; animateChanges: false; "
                          "barStyle: 'pill'; glowIntensity: 'subtle'; animationSpeed: 'slow' }");
     expectItCanBeCreated("AnimatedLineGraph { data: [1, 2]; maxValue: 4; lineColor: 'red'; height: 30; "
                          "fillGradient: false; showGlow: false; lineWidth: 2; lineStyle: 'dotted'; "
                          "fillStyle: 'striped'; glowIntensity: 'intense'; gridColor: '#20ffffff'; "
-                         "property var shown: [animatedData, phase] }");
-    expectItCanBeCreated("SparklineView { data: [1, 2]; maxValue: 4; lineColor: 'red'; fillColor: 'blue'; "
-                         "lineWidth: 2; width: 30; height: 10 }");
-    expectItCanBeCreated("DualSparklineView { topData: [1, 2]; bottomData: [1, 2]; topColor: 'red'; "
-                         "bottomColor: 'blue'; width: 30; height: 10 }");
+                         "property var shown: animatedData }");
     expectItCanBeCreated("AnimatedRingChart { value: 0.5; lineWidth: 8; size: 60; baseColor: 'red'; "
                          "trackColor: 'blue'; showGlow: false; pulseCritical: true; criticalThreshold: 0.8; "
                          "label: '50%'; sublabel: 'Used'; ringStyle: 'arcGauge'; glowIntensity: 'none'; "
                          "animationSpeed: 'instant'; property var shown: [animatedValue, pulseScale] }");
     expectItCanBeCreated("MultiSegmentRing { segments: []; lineWidth: 8; size: 60; trackColor: 'blue'; "
                          "property real shown: animatedProgress }");
-    expectItCanBeCreated("TemperatureGauge { label: 'CPU'; temperature: 50; maxTemp: 110; icon: 'cpu'; "
-                         "useFahrenheit: true; baseColor: 'red'; glowIntensity: 'none'; showGlow: false }");
-    expectItCanBeCreated("MiniBar { value: 0.5; color: 'red' }");
+    expectItCanBeCreated("TemperatureGauge { label: 'CPU'; temperature: 50; maxTemp: 110; "
+                         "useFahrenheit: true; glowIntensity: 'none'; showGlow: false }");
+    expectItCanBeCreated("GradientBar { fraction: 0.5; color: 'red'; trackColor: 'blue' }");
+    expectItCanBeCreated("ContinuousRectangle { color: 'red'; radius: 3 }");
 }
 
 TEST_F(ChartsInQml, StylesAreSetByNameOrByThePropertyOfAnotherObject) {
@@ -74,7 +70,7 @@ TEST_F(ChartsInQml, StylesAreSetByNameOrByThePropertyOfAnotherObject) {
 }
 
 TEST_F(ChartsInQml, DataIsTheSeriesAndObjectsInsideAChartAreKept) {
-    const auto graph = created("AnimatedLineGraph { data: [0.5, 1.5]; MiniBar {} }");
+    const auto graph = created("AnimatedLineGraph { data: [0.5, 1.5]; GradientBar {} }");
     EXPECT_EQ(graph->property("data").value<QList<double>>(), (QList<double>{0.5, 1.5}));
 }
 
@@ -86,13 +82,13 @@ TEST_F(ChartsInQml, AbsentTextsAreNull) {
 }
 
 TEST_F(ChartsInQml, SegmentsAreObjects) {
-    const auto ring = created("MultiSegmentRing { segments: [{value: 3, color: 'red', label: 'Wired'}] }");
+    const auto ring = created("MultiSegmentRing { segments: [{value: 3, color: 'red'}] }");
     const QVariantMap segment = ring->property("segments").toList().at(0).toMap();
-    EXPECT_EQ(segment.value(QStringLiteral("label")), QVariant(QStringLiteral("Wired")));
+    EXPECT_EQ(segment.value(QStringLiteral("value")), QVariant(3));
 }
 
 TEST_F(ChartsInQml, OneSwitchEndsAllMotion) {
-    const auto object = created("MiniBar { property bool calm: AnimationClock.reduced }");
+    const auto object = created("GradientBar { property bool calm: AnimationClock.reduced }");
     EXPECT_FALSE(object->property("calm").toBool());
     AnimationClock::shared().setReduced(true);
     EXPECT_TRUE(object->property("calm").toBool());
