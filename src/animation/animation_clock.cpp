@@ -10,7 +10,7 @@
 namespace orvelle {
 namespace {
 
-/// Steps that are due this close together are taken together, so that the screen is repainted once for them.
+/// Steps due this close together are taken together, so that the screen is repainted once.
 constexpr double slackSeconds = 0.004;
 
 double secondsOfSteadyClock() {
@@ -46,31 +46,31 @@ void AnimationClock::setReduced(bool isReduced) {
 
 void AnimationClock::step() {
     const double present = now();
-    const std::vector<Animation*> parts = m_parts; // a step may start, stop and even destroy parts
-    for (Animation* part : parts) {
-        const bool stillMoves = std::ranges::find(m_parts, part) != m_parts.end();
-        if (stillMoves && part->dueTime() <= present + slackSeconds)
-            part->takeStep(present);
+    const std::vector<Animation*> animations = m_animations; // a step may start, stop or destroy others
+    for (Animation* animation : animations) {
+        const bool stillRuns = std::ranges::find(m_animations, animation) != m_animations.end();
+        if (stillRuns && animation->dueTime() <= present + slackSeconds)
+            animation->takeStep(present);
     }
     schedule();
 }
 
-void AnimationClock::add(Animation& part) {
-    m_parts.push_back(&part);
+void AnimationClock::add(Animation& animation) {
+    m_animations.push_back(&animation);
     schedule();
 }
 
-void AnimationClock::remove(Animation& part) {
-    std::erase(m_parts, &part);
+void AnimationClock::remove(Animation& animation) {
+    std::erase(m_animations, &animation);
     schedule();
 }
 
 void AnimationClock::schedule() {
-    if (m_parts.empty()) {
+    if (m_animations.empty()) {
         m_timer.stop();
         return;
     }
-    const Animation* first = *std::ranges::min_element(m_parts, {}, &Animation::dueTime);
+    const Animation* first = *std::ranges::min_element(m_animations, {}, &Animation::dueTime);
     const double milliseconds = std::ceil((first->dueTime() - now()) * 1000);
     m_timer.start(std::max(0, static_cast<int>(milliseconds)));
 }
@@ -85,17 +85,17 @@ Animation::~Animation() {
 
 void Animation::start(std::chrono::milliseconds interval) {
     m_interval = std::chrono::duration<double>(interval).count();
-    if (m_isMoving) {
-        m_clock.schedule(); // it may be due sooner now
+    if (m_isRunning) {
+        m_clock.schedule(); // the next step may be due sooner
         return;
     }
-    m_isMoving = true;
+    m_isRunning = true;
     m_lastStep = m_clock.now();
     m_clock.add(*this);
 }
 
 void Animation::stop() {
-    if (std::exchange(m_isMoving, false))
+    if (std::exchange(m_isRunning, false))
         m_clock.remove(*this);
 }
 

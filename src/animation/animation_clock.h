@@ -11,12 +11,11 @@ namespace orvelle {
 
 class Animation;
 
-/// The time by which everything on the screen moves, and whether it may move at all. One timer serves all
-/// parts that move, so that they are repainted together; while none moves there is no timer. Main thread
-/// only.
+/// The time of all animations, and the switch that turns them off. One timer drives them together, so that
+/// the screen is repainted once for all; it stops when no animation runs. Main thread only.
 class AnimationClock final : public QObject {
     Q_OBJECT
-    /// Whether the user wants no motion: then every change shows at once.
+    /// Whether the user wants reduced motion: every change then shows at once.
     Q_PROPERTY(bool reduced READ isReduced WRITE setReduced NOTIFY reducedChanged)
 
 public:
@@ -24,10 +23,10 @@ public:
     using Clock = std::function<double()>;
 
     explicit AnimationClock(QObject* parent = nullptr);
-    /// For tests: `clock` decides what time it is, and `step` what happens then.
+    /// For tests: `clock` gives the time and the test calls `step`.
     explicit AnimationClock(Clock clock, QObject* parent = nullptr);
 
-    /// The one that the program's windows move by. It lives as long as the application object.
+    /// The clock of the program. It lives as long as the application object.
     [[nodiscard]] static AnimationClock& shared();
 
     [[nodiscard]] bool isReduced() const { return m_isReduced; }
@@ -35,9 +34,9 @@ public:
 
     /// The present moment, seconds.
     [[nodiscard]] double now() const { return m_clock(); }
-    /// Whether anything moves, and so whether the timer runs.
+    /// Whether any animation runs.
     [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
-    /// Has every part that is due take its step; the timer calls it.
+    /// Steps every animation that is due. The timer calls it.
     void step();
 
 Q_SIGNALS:
@@ -45,30 +44,31 @@ Q_SIGNALS:
 
 private:
     friend class Animation;
-    void add(Animation& part);
-    void remove(Animation& part);
+    void add(Animation& animation);
+    void remove(Animation& animation);
     /// Sets the timer to the first step that is due.
     void schedule();
 
     Clock m_clock;
     QTimer m_timer;
-    std::vector<Animation*> m_parts; ///< those that move now
+    std::vector<Animation*> m_animations; ///< those that run
     bool m_isReduced = false;
 };
 
-/// Something that moves step by step while it is started.
+/// Calls a function step by step while it runs.
 class Animation {
 public:
-    /// `step` is told how many seconds have passed since the start or the step before. It may stop the part.
+    /// `step` receives the seconds since the start or the step before. It may stop this animation and destroy
+    /// others.
     Animation(AnimationClock& clock, std::function<void(double)> step);
     ~Animation();
     Animation(const Animation&) = delete;
     Animation& operator=(const Animation&) = delete;
 
-    /// Takes a step every `interval` from now on. One that moves already goes on, at the new interval.
+    /// Steps every `interval` from now on. An animation that runs already continues at the new interval.
     void start(std::chrono::milliseconds interval);
     void stop();
-    [[nodiscard]] bool isMoving() const { return m_isMoving; }
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
 private:
     friend class AnimationClock;
@@ -78,9 +78,9 @@ private:
 
     AnimationClock& m_clock;
     std::function<void(double)> m_step;
-    bool m_isMoving = false;
+    bool m_isRunning = false;
     double m_interval = 0; ///< seconds
-    double m_lastStep = 0; ///< when the part was started or took its last step
+    double m_lastStep = 0; ///< the moment of the last step, or of the start
 };
 
 } // namespace orvelle

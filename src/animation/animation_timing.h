@@ -1,22 +1,14 @@
 #pragma once
 
+#include "animation/spring.h"
 #include "settings/styles.h"
 
 #include <QEasingCurve>
 
 #include <optional>
 
-/// How long and along which curve the charts move. Durations are seconds.
+/// The durations and curves of all animations of charts. Durations are seconds.
 namespace orvelle {
-
-/// How a spring moves: `response` is the period it would have without damping, in seconds; a damping fraction
-/// of 1 would be the least that does not overshoot. The fraction lies above 0 and below 1.
-struct SpringParameters {
-    double response = 0;
-    double dampingFraction = 0;
-
-    bool operator==(const SpringParameters&) const = default;
-};
 
 /// The spring of a bar's height and colour; nothing when changes show at once.
 [[nodiscard]] std::optional<SpringParameters> barSpring(AnimationSpeed speed, bool animate);
@@ -36,11 +28,11 @@ inline constexpr double lineGraphRedrawSeconds = 0.1;    ///< shortest time betw
 inline constexpr double segmentRingOpeningSeconds = 1.0; ///< ease out, from progress 0 to 1
 inline constexpr double temperatureGaugeSeconds = 0.5;   ///< ease in and out
 
-/// One way of a critical ring's pulse, from scale 1 to `pulseLargestScale` or back; it repeats forever.
+/// Half a period of a critical ring's pulse: from scale 1 to `pulseLargestScale`, or back.
 inline constexpr double pulseSeconds = 0.8;
 inline constexpr double pulseLargestScale = 1.03;
 
-/// The scale of a ring that has been pulsing for `elapsedSeconds`: it eases in and out from 1 up and back.
+/// The scale of a ring that has been pulsing for `elapsedSeconds`; it eases in and out both ways.
 [[nodiscard]] double pulseScaleAt(double elapsedSeconds);
 
 /// Starts and ends gently: the cubic Bezier curve through (0.42, 0) and (0.58, 1).

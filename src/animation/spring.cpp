@@ -13,7 +13,7 @@ void Spring::jump(double target) {
 void Spring::advance(double seconds, const SpringParameters& parameters) {
     if (!(seconds > 0))
         return;
-    // The solution of x'' + 2 decay x' + frequency^2 x = 0 for the distance x from the target.
+    // The solution of x'' + 2 decay x' + frequency^2 x = 0, where x is the distance from the target.
     const double frequency = 2 * std::numbers::pi / parameters.response;
     const double decay = parameters.dampingFraction * frequency;
     const double swing = frequency * std::sqrt(1 - parameters.dampingFraction * parameters.dampingFraction);

@@ -1,15 +1,26 @@
 #pragma once
 
-#include "animation/interpolate.h"
-
+#include <QColor>
 #include <QEasingCurve>
+#include <QList>
 
 #include <utility>
 
 namespace orvelle {
 
-/// A value that takes a fixed time to follow a change, along a curve. A change in the middle of another one
-/// starts from what is shown then. `interpolate` tells what lies between two values.
+// Interpolation: the first value at `progress` 0, the second at 1.
+
+[[nodiscard]] double interpolate(double from, double to, double progress);
+
+/// Each component by itself.
+[[nodiscard]] QColor interpolate(const QColor& from, const QColor& to, double progress);
+
+/// Two histories over the same width, as a series of the second one's length. A first one of another length
+/// is resampled along its line. A series with fewer than two samples has no line: the second shows at once.
+[[nodiscard]] QList<double> interpolate(const QList<double>& from, const QList<double>& to, double progress);
+
+/// A value that follows a change along a curve, in a fixed time. A change in the middle of a transition
+/// starts from the value shown then. `Value` has a function `interpolate`.
 template <typename Value>
 class Transition {
 public:
@@ -26,7 +37,7 @@ public:
     [[nodiscard]] const Value& target() const { return m_target; }
     [[nodiscard]] bool isSettled() const { return m_elapsedSeconds >= m_seconds; }
 
-    /// Moves to `target` within `seconds` from now on. The curve must outlive the motion.
+    /// Moves to `target` within `seconds` from now on. The curve must outlive the transition.
     void retarget(Value target, double seconds, const QEasingCurve& curve) {
         m_from = shown();
         m_target = std::move(target);
@@ -43,7 +54,7 @@ public:
     /// Shows the present target at once.
     void settle() { jump(m_target); }
 
-    /// Lets `seconds` pass.
+    /// Lets `seconds` pass; 0 or less changes nothing.
     void advance(double seconds) {
         if (isSettled() || !(seconds > 0))
             return;
@@ -58,7 +69,7 @@ private:
     Value m_target;
     double m_seconds = 0;
     double m_elapsedSeconds = 0;
-    const QEasingCurve* m_curve = nullptr; ///< of the motion under way
+    const QEasingCurve* m_curve = nullptr; ///< null until the first transition
 };
 
 } // namespace orvelle

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/interpolate.h"
+#include "animation/transition.h"
 
 #include <QColor>
 #include <QList>

@@ -1,6 +1,6 @@
 #include "charts/temperature_gauge.h"
 
-#include "animation/interpolate.h"
+#include "animation/transition.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/glow_painter.h"

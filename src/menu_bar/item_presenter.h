@@ -31,7 +31,7 @@ public:
     /// What the item shows now, which may be on its way to the scene.
     [[nodiscard]] const SceneNode& shown() const { return m_shown; }
     /// Whether levels are on their way.
-    [[nodiscard]] bool isMoving() const { return m_part.isMoving(); }
+    [[nodiscard]] bool isMoving() const { return m_part.isRunning(); }
 
 private:
     void retarget(bool mayMove, double pixelsPerPoint);

@@ -13,20 +13,20 @@ using namespace std::chrono_literals;
 class AnimationClockTest : public ::testing::Test, protected ManualClock {
 protected:
     std::vector<double> steps;
-    Animation part{clock, [this](double elapsed) { steps.push_back(elapsed); }};
+    Animation animation{clock, [this](double elapsed) { steps.push_back(elapsed); }};
 };
 
-TEST_F(AnimationClockTest, RunsNoTimerWhileNothingMoves) {
+TEST_F(AnimationClockTest, RunsItsTimerOnlyWhileAnAnimationRuns) {
     EXPECT_FALSE(clock.isRunning());
-    part.start(16ms);
+    animation.start(16ms);
     EXPECT_TRUE(clock.isRunning());
-    part.stop();
+    animation.stop();
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(AnimationClockTest, TellsAPartHowMuchTimeHasPassed) {
+TEST_F(AnimationClockTest, PassesTheElapsedTimeToAnAnimation) {
     seconds = 10;
-    part.start(16ms);
+    animation.start(16ms);
     seconds = 10.02;
     clock.step();
     seconds = 10.05;
@@ -36,8 +36,8 @@ TEST_F(AnimationClockTest, TellsAPartHowMuchTimeHasPassed) {
     EXPECT_NEAR(steps[1], 0.03, 1e-9);
 }
 
-TEST_F(AnimationClockTest, HasAPartStepNoOftenerThanItsInterval) {
-    part.start(100ms);
+TEST_F(AnimationClockTest, StepsAnAnimationNoOftenerThanItsInterval) {
+    animation.start(100ms);
     pass(0.09);
     EXPECT_TRUE(steps.empty());
     pass(0.91);
@@ -47,7 +47,7 @@ TEST_F(AnimationClockTest, HasAPartStepNoOftenerThanItsInterval) {
 TEST_F(AnimationClockTest, TakesStepsTogetherThatAreDueAlmostTogether) {
     int others = 0;
     Animation other(clock, [&others](double) { ++others; });
-    part.start(16ms);
+    animation.start(16ms);
     seconds = 0.002;
     other.start(16ms);
     seconds = 0.016;
@@ -56,17 +56,17 @@ TEST_F(AnimationClockTest, TakesStepsTogetherThatAreDueAlmostTogether) {
     EXPECT_EQ(others, 1);
 }
 
-TEST_F(AnimationClockTest, DoesNotStartAPartTwice) {
-    part.start(16ms);
+TEST_F(AnimationClockTest, DoesNotRestartARunningAnimation) {
+    animation.start(16ms);
     seconds = 0.01;
-    part.start(16ms);
+    animation.start(16ms);
     seconds = 0.02;
     clock.step();
     ASSERT_EQ(steps.size(), 1U);
-    EXPECT_NEAR(steps[0], 0.02, 1e-9) << "it goes on, it does not begin again";
+    EXPECT_NEAR(steps[0], 0.02, 1e-9) << "its time still counts from the first start";
 }
 
-TEST_F(AnimationClockTest, LetsAStepDestroyAnotherPart) {
+TEST_F(AnimationClockTest, LetsAStepDestroyAnotherAnimation) {
     int others = 0;
     auto other = std::make_unique<Animation>(clock, [&others](double) { ++others; });
     Animation destroyer(clock, [&other](double) { other.reset(); });
@@ -78,18 +78,18 @@ TEST_F(AnimationClockTest, LetsAStepDestroyAnotherPart) {
     EXPECT_EQ(other, nullptr);
 }
 
-TEST_F(AnimationClockTest, LetsAPartStopItself) {
+TEST_F(AnimationClockTest, LetsAnAnimationStopItself) {
     Animation* self = nullptr;
     Animation once(clock, [&self](double) { self->stop(); });
     self = &once;
     once.start(16ms);
     seconds = 0.02;
     clock.step();
-    EXPECT_FALSE(once.isMoving());
+    EXPECT_FALSE(once.isRunning());
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(AnimationClockTest, TellsWhenTheSwitchIsTurned) {
+TEST_F(AnimationClockTest, AnnouncesAChangeOfReducedMotionOnce) {
     int turns = 0;
     QObject::connect(&clock, &AnimationClock::reducedChanged, &clock, [&turns] { ++turns; });
     clock.setReduced(true);

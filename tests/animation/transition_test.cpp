@@ -19,7 +19,7 @@ TEST(Transition, FollowsItsCurveForItsTime) {
     EXPECT_TRUE(value.isSettled());
 }
 
-TEST(Transition, GoesOnFromWhereItStandsWhenItsTargetChanges) {
+TEST(Transition, StartsFromTheShownValueWhenItsTargetChanges) {
     Transition<double> value(0);
     value.retarget(1, 0.4, easeInOut());
     value.advance(0.2);
@@ -52,32 +52,18 @@ TEST(Transition, ShowsAJumpAtOnce) {
     EXPECT_EQ(value.shown(), 6);
 }
 
-TEST(Mixed, BlendsLengthAndColorOfABar) {
-    const BarLook middle = interpolate(BarLook{0, QColor(0, 0, 255)}, BarLook{0.5, QColor(255, 0, 0)}, 0.5);
-    EXPECT_DOUBLE_EQ(middle.ratio, 0.25);
-    EXPECT_NEAR(middle.color.redF(), 0.5, 1e-3);
-    EXPECT_NEAR(middle.color.blueF(), 0.5, 1e-3);
-}
-
-TEST(Mixed, DoesNotBlendRowsOfDifferentLength) {
-    const QList<BarLook> two{{0, Qt::red}, {0, Qt::red}};
-    const QList<BarLook> one{{1, Qt::blue}};
-    EXPECT_EQ(interpolate(two, one, 0.1), one);
-    EXPECT_EQ(interpolate(one, two, 0.1), two);
-}
-
-TEST(Mixed, BlendsSeriesSampleBySample) {
+TEST(Interpolate, BlendsASeriesSampleBySample) {
     EXPECT_EQ(interpolate(QList<double>{0, 1, 2}, QList<double>{1, 1, 0}, 0.5), (QList<double>{0.5, 1, 1}));
 }
 
-TEST(Mixed, ReadsASeriesOfAnotherLengthOffItsLine) {
+TEST(Interpolate, ResamplesASeriesOfAnotherLengthAlongItsLine) {
     const QList<double> three{0, 1, 0};
     EXPECT_EQ(interpolate(three, QList<double>{9, 9, 9, 9, 9}, 0), (QList<double>{0, 0.5, 1, 0.5, 0}));
     EXPECT_EQ(interpolate(three, QList<double>{9, 9}, 0), (QList<double>{0, 0}));
     EXPECT_EQ(interpolate(three, QList<double>{9, 9, 9, 9}, 1), (QList<double>{9, 9, 9, 9}));
 }
 
-TEST(Mixed, TakesTheNewSeriesWhereOneHasNoLine) {
+TEST(Interpolate, ShowsTheSecondSeriesAtOnceWhereOneIsTooShortForALine) {
     const QList<double> line{1, 2, 3};
     for (const QList<double>& none : {QList<double>{}, QList<double>{7}}) {
         EXPECT_EQ(interpolate(none, line, 0.1), line);

@@ -23,7 +23,7 @@ void WindowFade::show(bool softly) {
 
 void WindowFade::hide(bool softly) {
     fadeTo(0, softly ? outTime : std::chrono::milliseconds(0));
-    if (!m_part.isMoving())
+    if (!m_part.isRunning())
         m_window.hide();
 }
 

@@ -1,5 +1,7 @@
 #include "windows/charts/animated_bar_chart_item.h"
 
+#include "animation/animation_timing.h"
+
 #include <algorithm>
 
 namespace orvelle {

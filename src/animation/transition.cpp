@@ -1,5 +1,6 @@
-#include "animation/interpolate.h"
+#include "animation/transition.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orvelle {
@@ -7,7 +8,7 @@ namespace {
 
 constexpr qsizetype fewestDrawnSamples = 2;
 
-/// The sample at `position`, counted in samples from the oldest; between two it is read off a straight line.
+/// The value of the line through the samples at `position`, which is counted in samples from the oldest.
 double sampleAt(const QList<double>& series, double position) {
     const auto before = static_cast<qsizetype>(std::floor(position));
     const qsizetype after = std::min(before + 1, series.size() - 1);
