@@ -3,7 +3,6 @@
 #include "charts/bar_rules.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
-#include "charts/glow_painter.h"
 #include "theme/opacity.h"
 
 #include <QLinearGradient>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/bar_look.h"
-#include "charts/picture_cache.h"
+#include "charts/picture.h"
 #include "settings/styles.h"
 
 #include <QColor>

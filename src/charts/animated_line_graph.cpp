@@ -1,10 +1,10 @@
 #include "charts/animated_line_graph.h"
 
-#include "charts/blur.h"
 #include "charts/canvas.h"
-#include "charts/glow_painter.h"
+#include "charts/glow.h"
 #include "charts/line_mask.h"
 #include "charts/line_rules.h"
+#include "charts/picture.h"
 #include "charts/sample_points.h"
 #include "theme/device_pixels.h"
 #include "theme/opacity.h"

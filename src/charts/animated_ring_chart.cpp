@@ -3,8 +3,6 @@
 #include "animation/animation_timing.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
-#include "charts/glow_painter.h"
-#include "charts/label_text.h"
 #include "charts/pie_slice.h"
 #include "charts/ring_rules.h"
 #include "charts/ring_shades.h"

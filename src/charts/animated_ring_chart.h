@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/picture_cache.h"
+#include "charts/picture.h"
 #include "settings/styles.h"
 
 #include <QColor>

@@ -1,5 +1,7 @@
 #include "charts/canvas.h"
 
+#include <QFontMetricsF>
+
 namespace orvelle {
 namespace {
 
@@ -28,6 +30,18 @@ QRectF centred(const QSizeF& size, const QRectF& bounds) {
     QRectF result({0, 0}, size);
     result.moveCenter(bounds.center());
     return result;
+}
+
+double lineHeight(const QFont& font) {
+    return QFontMetricsF(font).height();
+}
+
+void drawLabel(QPainter& painter, const QRectF& line, const QString& text, const QFont& font,
+               const QColor& color) {
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(line, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                     QFontMetricsF(font).elidedText(text, Qt::ElideRight, line.width()));
 }
 
 } // namespace orvelle

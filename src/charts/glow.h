@@ -1,8 +1,15 @@
 #pragma once
 
+#include "charts/picture.h"
 #include "settings/styles.h"
 
-/// What the strengths of glow stand for in every chart. A chart applies them only when its `showGlow` is
+#include <QColor>
+#include <QImage>
+#include <QRectF>
+
+#include <functional>
+
+/// The glow of charts: a blurred copy of a shape in one colour. A chart glows only when its `showGlow` is
 /// true.
 namespace orvelle {
 
@@ -21,7 +28,7 @@ namespace orvelle {
     return 0;
 }
 
-/// Radius of the blur in points; its standard deviation is half of that.
+/// Radius of the blur, points: twice its standard deviation.
 [[nodiscard]] constexpr double glowRadius(GlowIntensity intensity) {
     switch (intensity) {
     case GlowIntensity::none:
@@ -36,9 +43,34 @@ namespace orvelle {
     return 0;
 }
 
-/// How far a blur of `radius` can reach beyond what it blurs, points.
+/// How far a blur of `radius` reaches beyond what it blurs, points.
 [[nodiscard]] constexpr double glowReach(double radius) {
     return 1.5 * radius;
 }
+
+/// `inked` with room around it for its glow.
+[[nodiscard]] QRectF withGlowRoom(const QRectF& inked, double radius);
+
+struct GlowStyle {
+    QColor color = {}; ///< with the glow's opacity
+    double radius = 0; ///< of the blur, points
+
+    /// The glow of a chart in `color`.
+    [[nodiscard]] static GlowStyle of(const QColor& color, GlowIntensity intensity);
+
+    [[nodiscard]] bool isVisible() const { return radius > 0 && color.alpha() > 0; }
+};
+
+/// Paints a blurred copy of `mask` (Format_Alpha8, made for the grid under `painter`).
+void paintGlow(QPainter& painter, const Picture& mask, const GlowStyle& style);
+
+/// Paints a blurred copy of what `draw` paints within `inked`; of its colours only the opacity counts.
+void paintGlow(QPainter& painter, const QRectF& inked, const GlowStyle& style,
+               const std::function<void(QPainter&)>& draw);
+
+/// `mask` (Format_Alpha8) blurred like a Gaussian of the standard deviation `sigma`, in pixels. What lies
+/// outside the image counts as clear, and what is spread outside is lost. A sigma of 0 or below, or not
+/// finite, leaves the mask unchanged.
+[[nodiscard]] QImage blurredAlpha(const QImage& mask, double sigma);
 
 } // namespace orvelle

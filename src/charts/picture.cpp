@@ -5,12 +5,13 @@
 #include <QPaintDevice>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orvelle {
 namespace {
 
-/// More pixels a side than this are no picture of a chart; their memory would be felt.
+/// Pixels per side. A larger picture cannot be seen as a whole and takes too much memory.
 constexpr double largestPictureSide = 8192;
 
 double steppedResolution(const QPainter& painter) {
@@ -20,7 +21,7 @@ double steppedResolution(const QPainter& painter) {
            stepsPerUnit;
 }
 
-/// Whether the painter's points are only scaled to its pixels, and by exactly this much.
+/// Whether the way from points to pixels is a plain scale, and by exactly this factor.
 bool isOnlyScaledBy(const QTransform& toDevice, double pixelsPerPoint) {
     return toDevice.type() <= QTransform::TxScale && qFuzzyCompare(toDevice.m11(), pixelsPerPoint) &&
            qFuzzyCompare(toDevice.m22(), pixelsPerPoint);
@@ -46,10 +47,10 @@ QTransform PixelGrid::toPixels() const {
 
 QRect PixelGrid::covering(const QRectF& area) const {
     const QRectF pixels = toPixels().mapRect(area);
-    const bool isPaintable =
+    const bool isDrawable =
         !pixels.isEmpty() && pixels.width() < largestPictureSide && pixels.height() < largestPictureSide &&
         std::abs(pixels.x()) < largestPictureSide && std::abs(pixels.y()) < largestPictureSide;
-    return isPaintable ? pixels.toAlignedRect() : QRect();
+    return isDrawable ? pixels.toAlignedRect() : QRect();
 }
 
 Picture rasterize(const PixelGrid& grid, const QRectF& area, QImage::Format format,
@@ -83,6 +84,24 @@ void showPicture(QPainter& painter, const Picture& picture) {
         painter.drawImage(QPointF(picture.offset), picture.image);
     }
     painter.restore();
+}
+
+QImage tinted(const QImage& mask, const QColor& color) {
+    std::array<QRgb, 256> shades{};
+    const QRgb opaque = color.rgb();
+    for (std::size_t opacity = 0; opacity < shades.size(); ++opacity) {
+        const auto shade = static_cast<int>(std::lround(color.alphaF() * static_cast<float>(opacity)));
+        shades[opacity] = qPremultiply(qRgba(qRed(opaque), qGreen(opaque), qBlue(opaque), shade));
+    }
+    QImage image(mask.size(), QImage::Format_ARGB32_Premultiplied);
+    const int width = mask.width();
+    for (int y = 0; y < mask.height(); ++y) {
+        const uchar* opacities = mask.constScanLine(y);
+        auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < width; ++x)
+            pixels[x] = shades[opacities[x]];
+    }
+    return image;
 }
 
 } // namespace orvelle

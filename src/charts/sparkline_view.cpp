@@ -1,8 +1,8 @@
 #include "charts/sparkline_view.h"
 
-#include "charts/blur.h"
 #include "charts/canvas.h"
 #include "charts/line_mask.h"
+#include "charts/picture.h"
 #include "charts/sample_points.h"
 #include "charts/sparkline_rules.h"
 #include "theme/device_pixels.h"

@@ -1,9 +1,8 @@
-#include "charts/blur.h"
+#include "charts/glow.h"
 
-#include <QColor>
+#include "theme/opacity.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -13,12 +12,12 @@ namespace {
 
 /// Three boxes in a row differ from a Gaussian of the same variance by less than 3 % of its peak.
 constexpr int passes = 3;
-/// No glow needs more; it keeps the reach of the blur within an int.
+/// More than any glow needs; it keeps the reach of the blur within an int.
 constexpr double largestSigma = 1000;
 
-/// A moving average over 2 x reach + 1 samples with the weight `middle` and one more on each side with the
-/// smaller weight `edge`. The weights add up to 1. The edge lets the average have any variance, where whole
-/// boxes could only step from one odd width to the next.
+/// A moving average: 2 x reach + 1 samples have the weight `middle`, and one more on each side has the
+/// smaller weight `edge`. The weights add up to 1. The edges allow any variance; without them the width could
+/// only step from one odd number to the next.
 struct Box {
     int reach = 0;
     float middle = 1;
@@ -108,54 +107,57 @@ Plane transposed(const Plane& source) {
     return target;
 }
 
-Plane planeOf(const QImage& alpha) {
-    Plane plane(alpha.width(), alpha.height());
+Plane planeOf(const QImage& mask) {
+    Plane plane(mask.width(), mask.height());
     for (int y = 0; y < plane.height; ++y)
-        std::copy_n(alpha.constScanLine(y), plane.width, plane.row(y));
+        std::copy_n(mask.constScanLine(y), plane.width, plane.row(y));
     return plane;
 }
 
 QImage imageOf(const Plane& plane) {
-    QImage alpha(plane.width, plane.height, QImage::Format_Alpha8);
+    QImage mask(plane.width, plane.height, QImage::Format_Alpha8);
     for (int y = 0; y < plane.height; ++y) {
         const float* values = plane.row(y);
-        uchar* pixels = alpha.scanLine(y);
+        uchar* pixels = mask.scanLine(y);
         for (int x = 0; x < plane.width; ++x)
             pixels[x] = static_cast<uchar>(std::clamp(values[x] + 0.5F, 0.0F, 255.0F));
     }
-    return alpha;
-}
-
-[[nodiscard]] bool blursAnything(double sigma) {
-    return std::isfinite(sigma) && sigma > 0;
+    return mask;
 }
 
 } // namespace
 
-QImage blurredAlpha(const QImage& alpha, double sigma) {
-    if (alpha.isNull() || !blursAnything(sigma))
-        return alpha;
-    const Box box = Box::forSigma(std::min(sigma, largestSigma));
-    const Plane upright = blurredDownColumns(planeOf(alpha), box);
-    return imageOf(transposed(blurredDownColumns(transposed(upright), box)));
+GlowStyle GlowStyle::of(const QColor& color, GlowIntensity intensity) {
+    return {withOpacity(color, glowOpacity(intensity)), glowRadius(intensity)};
 }
 
-QImage tinted(const QImage& alpha, const QColor& color) {
-    std::array<QRgb, 256> shades{};
-    const QRgb opaque = color.rgb();
-    for (std::size_t opacity = 0; opacity < shades.size(); ++opacity) {
-        const auto shade = static_cast<int>(std::lround(color.alphaF() * static_cast<float>(opacity)));
-        shades[opacity] = qPremultiply(qRgba(qRed(opaque), qGreen(opaque), qBlue(opaque), shade));
-    }
-    QImage image(alpha.size(), QImage::Format_ARGB32_Premultiplied);
-    const int width = alpha.width();
-    for (int y = 0; y < alpha.height(); ++y) {
-        const uchar* opacities = alpha.constScanLine(y);
-        auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < width; ++x)
-            pixels[x] = shades[opacities[x]];
-    }
-    return image;
+QRectF withGlowRoom(const QRectF& inked, double radius) {
+    const double reach = glowReach(radius);
+    return inked.adjusted(-reach, -reach, reach, reach);
+}
+
+void paintGlow(QPainter& painter, const Picture& mask, const GlowStyle& style) {
+    if (mask.image.isNull() || !style.isVisible())
+        return;
+    const double sigmaPixels = style.radius / 2 * PixelGrid::under(painter).pixelsPerPoint;
+    showPicture(painter, {tinted(blurredAlpha(mask.image, sigmaPixels), style.color), mask.offset});
+}
+
+void paintGlow(QPainter& painter, const QRectF& inked, const GlowStyle& style,
+               const std::function<void(QPainter&)>& draw) {
+    if (style.isVisible())
+        paintGlow(painter,
+                  rasterize(PixelGrid::under(painter), withGlowRoom(inked, style.radius),
+                            QImage::Format_Alpha8, draw),
+                  style);
+}
+
+QImage blurredAlpha(const QImage& mask, double sigma) {
+    if (mask.isNull() || !std::isfinite(sigma) || sigma <= 0)
+        return mask;
+    const Box box = Box::forSigma(std::min(sigma, largestSigma));
+    const Plane upright = blurredDownColumns(planeOf(mask), box);
+    return imageOf(transposed(blurredDownColumns(transposed(upright), box)));
 }
 
 } // namespace orvelle

@@ -1,7 +1,5 @@
-#include "charts/blur.h"
 #include "charts/glow.h"
 
-#include <QColor>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -65,7 +63,7 @@ TEST_P(BlurOfSigma, AddsTheVarianceOfAGaussian) {
     EXPECT_NEAR(added, GetParam() * GetParam(), 0.01 * GetParam() * GetParam() + 0.3);
 }
 
-TEST_P(BlurOfSigma, LooksTheSameFromEverySide) {
+TEST_P(BlurOfSigma, IsSymmetric) {
     const QImage blurred = blurredAlpha(whiteSquare(101, 15), GetParam());
     for (int y = 0; y < 101; ++y) {
         for (int x = 0; x < 101; ++x) {
@@ -101,7 +99,7 @@ TEST_P(BlurOfSigma, SpreadsNothingFartherThanThreeSigma) {
         EXPECT_EQ(at(blurred, x, 50), 0) << x;
 }
 
-TEST(Blur, LeavesTheImageAloneWithoutASigma) {
+TEST(Blur, LeavesTheImageUnchangedWithoutASigma) {
     const QImage image = whiteSquare(11, 3);
     EXPECT_EQ(blurredAlpha(image, 0), image);
     EXPECT_EQ(blurredAlpha(image, -1), image);
@@ -115,18 +113,6 @@ TEST(Blur, SurvivesImagesSmallerThanItsReach) {
     EXPECT_EQ(blurredAlpha(whiteSquare(3, 1), 1e9).size(), QSize(3, 3));
 }
 
-TEST(Tint, MultipliesTheOpacities) {
-    QImage alpha = clear(3, 1);
-    alpha.scanLine(0)[1] = 128;
-    alpha.scanLine(0)[2] = 255;
-    const QImage image = tinted(alpha, QColor(255, 0, 0, 128));
-    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-    EXPECT_NEAR(image.pixelColor(1, 0).alpha(), 64, 1);
-    EXPECT_NEAR(image.pixelColor(2, 0).alpha(), 128, 1);
-    EXPECT_EQ(image.pixelColor(2, 0).red(), 255);
-    EXPECT_TRUE(tinted(QImage(), Qt::red).isNull());
-}
-
 TEST(Glow, GrowsWithItsIntensity) {
     EXPECT_EQ(glowOpacity(GlowIntensity::none), 0);
     EXPECT_EQ(glowOpacity(GlowIntensity::subtle), 0.3);
@@ -138,7 +124,7 @@ TEST(Glow, GrowsWithItsIntensity) {
     EXPECT_EQ(glowRadius(GlowIntensity::intense), 8);
 }
 
-TEST(Glow, HasRoomForAllThatItsBlurSpreads) {
+TEST(Glow, ReachesAtLeastAsFarAsItsBlur) {
     for (const double radius : {1.0, 2.0, 4.0, 8.0}) {
         for (const double pixelsPerPoint : {1.0, 1.25, 1.5, 2.0, 3.0}) {
             const int start = (201 - 31) / 2;
