@@ -1,15 +1,50 @@
 #include "charts/animated_bar_chart.h"
 
-#include "charts/bar_rules.h"
 #include "charts/canvas.h"
+#include "charts/continuous_rounded_rect.h"
+#include "charts/glow.h"
 #include "theme/device_pixels.h"
+#include "theme/opacity.h"
+
+#include <QLinearGradient>
 
 #include <algorithm>
 #include <cmath>
 
 namespace orvelle {
-
 namespace {
+
+constexpr double smallestWidth = 1; ///< of a slot
+constexpr double topOpacity = 0.9;
+constexpr double bottomOpacity = 0.6;
+/// The glow sits one point higher than the bar.
+constexpr double glowRise = 1;
+
+QBrush barBrush(BarChartStyle style, const QColor& color, double top, double bottom) {
+    if (style == BarChartStyle::thinLine)
+        return color;
+    QLinearGradient fade(0, top, 0, bottom);
+    fade.setColorAt(0, withOpacity(color, topOpacity));
+    fade.setColorAt(1, withOpacity(color, bottomOpacity));
+    return fade;
+}
+
+/// Draws the bar in a slot whose top-left corner is the origin.
+void drawBar(QPainter& painter, const AnimatedBar& bar, const QSizeF& slotSize, const BarLook& shown) {
+    const QRectF slot({0, 0}, slotSize);
+    const double height = barHeight(shown.ratio, slot.height());
+    const QPainterPath shape = barShape(bar.barStyle, slot, height, bar.cornerRadius);
+    const QBrush brush = barBrush(bar.barStyle, shown.color, slot.bottom() - height, slot.bottom());
+    if (bar.showGlow) {
+        GlowStyle style = GlowStyle::of(shown.color, bar.glowIntensity);
+        style.radius = barGlowRadius(bar.barStyle, bar.glowIntensity);
+        paintGlow(painter, shape.boundingRect().translated(0, -glowRise), style, [&](QPainter& mask) {
+            mask.translate(0, -glowRise);
+            mask.fillPath(shape, brush);
+        });
+    }
+    painter.fillPath(shape, brush);
+}
 
 AnimatedBar barOf(const AnimatedBarChart& chart, double value) {
     return {.value = value,
@@ -36,6 +71,31 @@ QList<BarLook> tallestLooks(const QList<BarLook>& looks, qsizetype largestCount)
 }
 
 } // namespace
+
+BarLook AnimatedBar::look() const {
+    const double ratio = barFillRatio(value, maxValue);
+    return {ratio, barColor(ratio, baseColor)};
+}
+
+double AnimatedBar::overhang() const {
+    return showGlow ? glowReach(barGlowRadius(barStyle, glowIntensity)) + glowRise : 0;
+}
+
+void AnimatedBar::paint(QPainter& painter, const QRectF& slot, const BarLook& shown,
+                        PictureCache<BarPicture>* cache, std::size_t index) const {
+    if (!isPaintable(slot.size()))
+        return;
+    const double width = barWidth(barStyle, slot.width());
+    const double height = std::max(barHeight(shown.ratio, slot.height()), slot.height());
+    const QRectF inked(slot.width() / 2 - width / 2, slot.height() - height, width, height);
+    const double room = overhang();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(slot.topLeft());
+    const auto draw = [&](QPainter& target) { drawBar(target, *this, slot.size(), shown); };
+    showKept(painter, cache, BarPicture{*this, shown}, inked.adjusted(-room, -room, room, room), draw, index);
+    painter.restore();
+}
 
 QList<AnimatedBar> AnimatedBarChart::bars() const {
     QList<AnimatedBar> result;
@@ -76,6 +136,63 @@ void AnimatedBarChart::paint(QPainter& painter, const QRectF& bounds, const QLis
     const AnimatedBar bar = barOf(*this, 0); // each bar's value is in its look
     for (qsizetype index = 0; index < drawn.size(); ++index)
         bar.paint(painter, places[index], drawn[index], cache, static_cast<std::size_t>(index));
+}
+
+double barCornerRadius(BarChartStyle style) {
+    switch (style) {
+    case BarChartStyle::rounded:
+        return 3;
+    case BarChartStyle::square:
+        return 0;
+    case BarChartStyle::pill:
+        return 50; // more than half of any bar's width: a capsule
+    case BarChartStyle::thinLine:
+        return 0.5;
+    }
+    return 0;
+}
+
+double barSpacingFor(BarChartStyle style, double spacing) {
+    constexpr double airySpacing = 3;
+    const bool isAiry = style == BarChartStyle::pill || style == BarChartStyle::thinLine;
+    return isAiry ? std::max(airySpacing, spacing) : spacing;
+}
+
+BarRow barRow(qsizetype count, double width, double spacing) {
+    if (count < 1)
+        return {};
+    const auto slotCount = static_cast<double>(count);
+    const double slotWidth = (width - spacing * (slotCount - 1)) / slotCount;
+    const double asWideAsGaps = width / (2 * slotCount - 1);
+    const double leastWidth = std::min(smallestWidth, asWideAsGaps);
+    if (slotWidth >= leastWidth)
+        return {slotWidth, spacing};
+    return {leastWidth, (width - leastWidth * slotCount) / (slotCount - 1)};
+}
+
+double barWidth(BarChartStyle style, double slotWidth) {
+    constexpr double thinShare = 0.3;
+    constexpr double thinnest = 1.5;
+    return style == BarChartStyle::thinLine ? std::max(slotWidth * thinShare, thinnest) : slotWidth;
+}
+
+QPainterPath barShape(BarChartStyle style, const QRectF& slot, double height, double cornerRadius) {
+    const double width = barWidth(style, slot.width());
+    const QRectF bar(slot.center().x() - width / 2, slot.bottom() - height, width, height);
+    switch (style) {
+    case BarChartStyle::rounded:
+    case BarChartStyle::square:
+        return continuousRoundedRect(bar, cornerRadius);
+    case BarChartStyle::pill:
+        return continuousCapsule(bar);
+    case BarChartStyle::thinLine:
+        return continuousRoundedRect(bar, barCornerRadius(BarChartStyle::thinLine));
+    }
+    return {};
+}
+
+double barGlowRadius(BarChartStyle style, GlowIntensity intensity) {
+    return style == BarChartStyle::thinLine ? glowRadius(intensity) / 2 : glowRadius(intensity);
 }
 
 } // namespace orvelle

@@ -1,6 +1,6 @@
 #include "menu_bar/cpu_menu_bar_item.h"
 
-#include "charts/mini_bar.h"
+#include "charts/plain_bars.h"
 #include "core/cpu_monitor.h"
 #include "formatting/formatters.h"
 #include "menu_bar/scene_layout.h"

@@ -1,6 +1,6 @@
 #include "menu_bar/scene_painter.h"
 
-#include "charts/mini_bar.h"
+#include "charts/plain_bars.h"
 #include "menu_bar/battery_glyph.h"
 #include "menu_bar/scene_layout.h"
 #include "theme/device_pixels.h"

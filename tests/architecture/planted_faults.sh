@@ -26,20 +26,20 @@ plant() {
 plant src/core/sources/disk_source.h     '#include "core/checked.h"'                       'wrong arrow: core/sources/disk_source.h: core/checked.h'
 plant src/core/cpu_monitor.cpp           '#include "platform/linux/text.h"'                'wrong arrow: core/cpu_monitor.cpp: platform/linux/text.h'
 plant src/core/cpu_monitor.cpp           '#include "theme/theme_manager.h"'                'wrong arrow: core/cpu_monitor.cpp: theme/theme_manager.h'
-plant src/platform/linux/meminfo.cpp     '#include "charts/mini_bar.h"'                    'wrong arrow: platform/linux/meminfo.cpp: charts/mini_bar.h'
+plant src/platform/linux/meminfo.cpp     '#include "charts/plain_bars.h"'                  'wrong arrow: platform/linux/meminfo.cpp: charts/plain_bars.h'
 plant src/platform/linux/meminfo.cpp     '#include "core/memory_monitor.h"'                'wrong arrow: platform/linux/meminfo.cpp: core/memory_monitor.h'
 plant src/platform/linux/meminfo.cpp     '#include "platform/darwin/registry.h"'           'wrong arrow: platform/linux/meminfo.cpp: platform/darwin/registry.h'
 plant src/platform/replay/any.cpp        '#include "platform/linux/text.h"'                'wrong arrow: platform/replay/any.cpp: platform/linux/text.h'
 plant src/settings/settings_store.cpp    '#include "core/checked.h"'                       'wrong arrow: settings/settings_store.cpp: core/checked.h'
 plant src/settings/settings_store.cpp    '#include "theme/app_theme.h"'                    'wrong arrow: settings/settings_store.cpp: theme/app_theme.h'
-plant src/charts/mini_bar.cpp            '#include "windows/charts/chart_item.h"'          'wrong arrow: charts/mini_bar.cpp: windows/charts/chart_item.h'
-plant src/charts/mini_bar.cpp            '#include "core/cpu_monitor.h"'                   'wrong arrow: charts/mini_bar.cpp: core/cpu_monitor.h'
+plant src/charts/plain_bars.cpp          '#include "windows/charts/chart_item.h"'          'wrong arrow: charts/plain_bars.cpp: windows/charts/chart_item.h'
+plant src/charts/plain_bars.cpp          '#include "core/cpu_monitor.h"'                   'wrong arrow: charts/plain_bars.cpp: core/cpu_monitor.h'
 plant src/app/main.cpp                   '#include "platform/linux/text.h"'                'wrong arrow: app/main.cpp: platform/linux/text.h'
 plant src/app/main.cpp                   '#include "shell/painted/bar_window.h"'           'wrong arrow: app/main.cpp: shell/painted/bar_window.h'
 plant src/app/main.cpp                   '#include "windows/panels/panel_factory.h"'       'wrong arrow: app/main.cpp: windows/panels/panel_factory.h'
 plant src/app/main.cpp                   '#include "windows/common/quick_engine.h"'        'wrong arrow: app/main.cpp: windows/common/quick_engine.h'
 plant src/shell/x11/any.cpp              '#include "windows/panels/panel_factory.h"'       'wrong arrow: shell/x11/any.cpp: windows/panels/panel_factory.h'
-plant src/shell/x11/any.cpp              '#include "charts/mini_bar.h"'                    'wrong arrow: shell/x11/any.cpp: charts/mini_bar.h'
+plant src/shell/x11/any.cpp              '#include "charts/plain_bars.h"'                  'wrong arrow: shell/x11/any.cpp: charts/plain_bars.h'
 plant src/shell/painted/any.cpp          '#include "shell/x11/input_focus.h"'              'wrong arrow: shell/painted/any.cpp: shell/x11/input_focus.h'
 plant src/animation/any.cpp              '#include "theme/fonts.h"'                        'wrong arrow: animation/any.cpp: theme/fonts.h'
 plant src/theme/any.cpp                  '#include "animation/spring.h"'                   'wrong arrow: theme/any.cpp: animation/spring.h'
@@ -52,11 +52,11 @@ plant src/windows/panels/any.cpp         '#include "windows/settings/any.h"'    
 plant src/elsewhere/any.cpp              '#include <vector>'                               'no rule for this folder: elsewhere/any.cpp'
 
 # Other ways to write an include.
-plant src/charts/mini_bar.cpp            '#include <charts/canvas.h>'                      "angle include of the project's own: charts/mini_bar.cpp: charts/canvas.h"
-plant src/core/cpu_monitor.cpp           '#include "../charts/mini_bar.h"'                 'relative include: core/cpu_monitor.cpp: ../charts/mini_bar.h'
-plant src/core/cpu_monitor.cpp           '#include "core/../charts/mini_bar.h"'            'relative include: core/cpu_monitor.cpp: core/../charts/mini_bar.h'
+plant src/charts/plain_bars.cpp          '#include <charts/canvas.h>'                      "angle include of the project's own: charts/plain_bars.cpp: charts/canvas.h"
+plant src/core/cpu_monitor.cpp           '#include "../charts/plain_bars.h"'               'relative include: core/cpu_monitor.cpp: ../charts/plain_bars.h'
+plant src/core/cpu_monitor.cpp           '#include "core/../charts/plain_bars.h"'          'relative include: core/cpu_monitor.cpp: core/../charts/plain_bars.h'
 plant src/core/cpu_monitor.cpp           '#include "checked.h"'                            'include without its folder: core/cpu_monitor.cpp: checked.h'
-plant src/core/cpu_monitor.cpp           '  #  include  "charts/mini_bar.h"'               'wrong arrow: core/cpu_monitor.cpp: charts/mini_bar.h'
+plant src/core/cpu_monitor.cpp           '  #  include  "charts/plain_bars.h"'             'wrong arrow: core/cpu_monitor.cpp: charts/plain_bars.h'
 plant src/core/cpu_monitor.cpp           '#include"animation/spring.h"'                    'wrong arrow: core/cpu_monitor.cpp: animation/spring.h'
 plant src/platform/darwin/any.mm         '#import "core/checked.h"'                        'wrong arrow: platform/darwin/any.mm: core/checked.h'
 plant src/core/cpu_monitor.cpp           '#include HEADER'                                 'include that cannot be judged: core/cpu_monitor.cpp: HEADER'
@@ -76,7 +76,7 @@ plant src/core/sources/disk_source.h     '#include <QString>'                   
 plant src/platform/linux/meminfo.cpp     '#include <QString>'                              'Qt Core: platform/linux/meminfo.cpp: QString'
 plant src/platform/replay/any.cpp        '#include <QList>'                                'Qt Core: platform/replay/any.cpp: QList'
 plant src/settings/settings_file.h       '#include <QColor>'                               'Qt Gui: settings/settings_file.h: QColor'
-plant src/charts/mini_bar.h              '#include <QQuickPaintedItem>'                    'Qt Quick: charts/mini_bar.h: QQuickPaintedItem'
+plant src/charts/plain_bars.h            '#include <QQuickPaintedItem>'                    'Qt Quick: charts/plain_bars.h: QQuickPaintedItem'
 plant src/app/app_delegate.h             '#include <QQmlEngine>'                           'Qt Qml: app/app_delegate.h: QQmlEngine'
 plant src/shell/painted/bar_window.cpp   '#include <QQuickView>'                           'Qt Quick: shell/painted/bar_window.cpp: QQuickView'
 
@@ -87,7 +87,7 @@ for macro in __APPLE__ __MACH__ __linux __linux__ __gnu_linux__ __unix__ __FreeB
 done
 plant src/platform/host.h                '#ifdef __linux__'                                "$question src/platform/host.h: #ifdef __linux__"
 plant tools/probe/main.cpp               'constexpr bool isMac = TARGET_OS_OSX;'           "$question tools/probe/main.cpp: constexpr bool isMac = TARGET_OS_OSX;"
-plant src/charts/mini_bar.cpp            'auto name = QSysInfo::kernelType();'             "$question src/charts/mini_bar.cpp: auto name = QSysInfo::kernelType();"
+plant src/charts/plain_bars.cpp          'auto name = QSysInfo::kernelType();'             "$question src/charts/plain_bars.cpp: auto name = QSysInfo::kernelType();"
 plant src/windows/panels/Any.qml         'property bool mac: Qt.platform.os == "osx"'      "$question src/windows/panels/Any.qml: property bool mac: Qt.platform.os == \"osx\""
 
 if "$check" "$copy" "$qt_headers" >/dev/null 2>"$copy/complaints"; then

@@ -1,4 +1,6 @@
-#include "charts/bar_animation.h"
+#include "charts/bar_look.h"
+#include "support/odd_numbers.h"
+#include "theme/system_colors.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +8,93 @@
 
 namespace orvelle {
 namespace {
+
+const QColor baseColor = QColor::fromRgbF(0.2F, 0.5F, 1.0F);
+
+void expectColor(const QColor& color, double red, double green, double blue) {
+    EXPECT_NEAR(color.redF(), red, 1e-4);
+    EXPECT_NEAR(color.greenF(), green, 1e-4);
+    EXPECT_NEAR(color.blueF(), blue, 1e-4);
+    EXPECT_EQ(color.alpha(), 255);
+}
+
+TEST(BarFillRatio, IsTheShareOfTheMaximum) {
+    EXPECT_DOUBLE_EQ(barFillRatio(1, 4), 0.25);
+}
+
+TEST(BarFillRatio, IsClampedBetweenEmptyAndFull) {
+    EXPECT_EQ(barFillRatio(-1, 4), 0);
+    EXPECT_EQ(barFillRatio(9, 4), 1);
+    EXPECT_EQ(barFillRatio(infinity, 4), 1);
+    EXPECT_EQ(barFillRatio(-infinity, 4), 0);
+}
+
+TEST(BarFillRatio, IsEmptyWithoutAMaximum) {
+    EXPECT_EQ(barFillRatio(1, 0), 0);
+    EXPECT_EQ(barFillRatio(1, -2), 0);
+    EXPECT_EQ(barFillRatio(1, notANumber), 0);
+}
+
+TEST(BarFillRatio, IsEmptyForAnythingThatIsNotANumber) {
+    EXPECT_EQ(barFillRatio(notANumber, 1), 0);
+    EXPECT_EQ(barFillRatio(infinity, infinity), 0);
+}
+
+TEST(BarHeight, NeverFallsBelowOnePoint) {
+    EXPECT_EQ(barHeight(0.5, 50), 25);
+    EXPECT_EQ(barHeight(0, 50), 1);
+    EXPECT_EQ(barHeight(0.01, 50), 1);
+    EXPECT_EQ(barHeight(-3, 50), 1);
+}
+
+TEST(BarColor, IsTheBaseColorBelowHalf) {
+    EXPECT_EQ(barColor(0, baseColor), baseColor);
+    EXPECT_EQ(barColor(0.4999, QColor(10, 20, 30, 40)), QColor(10, 20, 30, 40)) << "opacity is kept";
+}
+
+TEST(BarColor, StartsItsBlendAtHalfWithTheBaseColor) {
+    expectColor(barColor(0.5, baseColor), 0.2, 0.5, 1);
+}
+
+TEST(BarColor, IsHalfwayToAmberInTheMiddleOfTheBlend) {
+    expectColor(barColor(0.625, baseColor), 0.6, 0.675, 0.5);
+}
+
+TEST(BarColor, IsAmberAtThreeQuarters) {
+    expectColor(barColor(0.75, baseColor), 1, 0.85, 0);
+}
+
+TEST(BarColor, FadesFromAmberToRed) {
+    expectColor(barColor(0.875, baseColor), 1, 0.425, 0);
+    expectColor(barColor(1, baseColor), 1, 0, 0);
+}
+
+TEST(BarColor, StaysRedWhereASpringOvershoots) {
+    expectColor(barColor(1.04, baseColor), 1, 0, 0);
+}
+
+TEST(BarColor, BlendsFromAColorOfAnotherColorSpace) {
+    expectColor(barColor(0.5, QColor::fromHsvF(0, 1, 1)), 1, 0, 0);
+}
+
+TEST(BarColor, BlendsFromWhiteWithoutAValidBaseColor) {
+    expectColor(barColor(0.5, QColor()), 1, 1, 1);
+}
+
+TEST(BarColor, LosesItsOpacityOnlyInTheBlend) {
+    const QColor translucent(0, 0, 255, 100);
+    EXPECT_EQ(barColor(0.4, translucent).alpha(), 100);
+    EXPECT_EQ(barColor(0.6, translucent).alpha(), 255);
+}
+
+TEST(MiniBarColor, ChangesAtHalfAndAtThreeQuarters) {
+    EXPECT_EQ(miniBarColor(0.4999, baseColor), baseColor);
+    EXPECT_EQ(miniBarColor(0.5, baseColor), SystemColors::yellow);
+    EXPECT_EQ(miniBarColor(0.7499, baseColor), SystemColors::yellow);
+    EXPECT_EQ(miniBarColor(0.75, baseColor), SystemColors::red);
+    EXPECT_EQ(miniBarColor(1.4, baseColor), SystemColors::red);
+    EXPECT_EQ(miniBarColor(notANumber, baseColor), baseColor);
+}
 
 constexpr SpringParameters spring{.response = 0.4, .dampingFraction = 0.7};
 

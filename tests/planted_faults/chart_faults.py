@@ -6,7 +6,7 @@ BARS = ("test_charts", "*Bar*")
 RINGS = ("test_charts", "*Ring*")
 GRAPHS = ("test_charts", "*Line*:*Dash*")
 PICTURES = ("test_golden_pictures", "*Bar*:*Line*:*Spark*:*Ring*:*Gauge*")
-BAR = "src/charts/animated_bar.cpp"
+BAR = "src/charts/animated_bar_chart.cpp"
 RING = "src/charts/animated_ring_chart.cpp"
 SEGMENTS = "src/charts/multi_segment_ring.cpp"
 GRAPH = "src/charts/animated_line_graph.cpp"
@@ -18,7 +18,7 @@ CHART_FAULTS = [
     Fault("a bar's glow sinks", BAR, "glowRise = 1;", "glowRise = -1;", *BARS),
     Fault("a bar fades upwards", BAR, "fade.setColorAt(0, withOpacity(color, topOpacity));",
           "fade.setColorAt(0, withOpacity(color, bottomOpacity));", *BARS),
-    Fault("a thin line glows as far as a bar", "src/charts/bar_rules.cpp",
+    Fault("a thin line glows as far as a bar", BAR,
           "glowRadius(intensity) / 2 : glowRadius(intensity)", "glowRadius(intensity) : glowRadius(intensity)", *BARS),
     Fault("segments end in round caps", SEGMENTS, "Qt::FlatCap", "Qt::RoundCap", *RINGS),
     Fault("segments end in square caps", SEGMENTS, "Qt::FlatCap", "Qt::SquareCap", *RINGS),

@@ -1,5 +1,5 @@
 #include "charts/animated_bar_chart.h"
-#include "charts/mini_bar.h"
+#include "charts/plain_bars.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
 #include "theme/system_colors.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "charts/animated_bar_chart.h"
-#include "charts/bar_animation.h"
 #include "windows/charts/chart_item.h"
 
 #include <vector>

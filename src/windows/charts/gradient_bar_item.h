@@ -1,7 +1,7 @@
 #pragma once
 
 #include "animation/spring.h"
-#include "charts/gradient_bar.h"
+#include "charts/plain_bars.h"
 #include "windows/charts/chart_item.h"
 
 namespace orvelle {

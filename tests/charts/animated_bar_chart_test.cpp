@@ -1,12 +1,85 @@
 #include "at_scale.h"
 #include "charts/animated_bar_chart.h"
-#include "charts/bar_rules.h"
-#include "charts/mini_bar.h"
 #include "support/odd_numbers.h"
-#include "theme/system_colors.h"
+
+#include <algorithm>
 
 namespace orvelle {
 namespace {
+
+TEST(BarCornerRadius, ComesFromTheStyle) {
+    EXPECT_EQ(barCornerRadius(BarChartStyle::rounded), 3.0);
+    EXPECT_EQ(barCornerRadius(BarChartStyle::square), 0.0);
+    EXPECT_EQ(barCornerRadius(BarChartStyle::pill), 50.0);
+    EXPECT_EQ(barCornerRadius(BarChartStyle::thinLine), 0.5);
+}
+
+TEST(BarSpacing, IsAtLeastThreePointsForPillsAndThinLines) {
+    EXPECT_EQ(barSpacingFor(BarChartStyle::pill, 1), 3);
+    EXPECT_EQ(barSpacingFor(BarChartStyle::thinLine, 1), 3);
+    EXPECT_EQ(barSpacingFor(BarChartStyle::thinLine, 5), 5);
+    EXPECT_EQ(barSpacingFor(BarChartStyle::rounded, 1), 1);
+    EXPECT_EQ(barSpacingFor(BarChartStyle::square, 1), 1);
+}
+
+TEST(BarRow, SharesTheWidthThatTheGapsLeave) {
+    const BarRow row = barRow(4, 46, 2);
+    EXPECT_DOUBLE_EQ(row.slotWidth, 10);
+    EXPECT_DOUBLE_EQ(row.gap, 2);
+}
+
+TEST(BarRow, ShrinksTheGapsWhereTheyWouldLeaveNoRoomForBars) {
+    const BarRow row = barRow(200, 288, 2);
+    EXPECT_GT(row.slotWidth, 0);
+    EXPECT_DOUBLE_EQ(row.slotWidth, row.gap);
+    EXPECT_NEAR(200 * row.slotWidth + 199 * row.gap, 288, 1e-9);
+}
+
+TEST(BarRow, ShrinksTheGapsWhereBarsWouldBeHairlines) {
+    const BarRow row = barRow(24, 72, 3); // the gaps would leave an eighth of a point
+    EXPECT_DOUBLE_EQ(row.slotWidth, 1);
+    EXPECT_NEAR(24 * row.slotWidth + 23 * row.gap, 72, 1e-9);
+    for (qsizetype count = 1; count < 300; ++count) {
+        const BarRow any = barRow(count, 288, 3);
+        EXPECT_GE(any.slotWidth, std::min(1.0, 288.0 / static_cast<double>(2 * count - 1))) << count;
+        EXPECT_LE(any.gap, 3) << count;
+    }
+}
+
+TEST(BarRow, IsEmptyWithoutBars) {
+    EXPECT_EQ(barRow(0, 100, 2).slotWidth, 0);
+}
+
+TEST(BarWidth, IsThreeTenthsOfTheSlotForThinLinesButAtLeastOneAndAHalf) {
+    EXPECT_DOUBLE_EQ(barWidth(BarChartStyle::thinLine, 4), 1.5);
+    EXPECT_DOUBLE_EQ(barWidth(BarChartStyle::thinLine, 20), 6);
+    EXPECT_DOUBLE_EQ(barWidth(BarChartStyle::rounded, 20), 20);
+}
+
+TEST(BarShape, StandsAtTheBottomOfItsSlot) {
+    const QRectF slot(10, 20, 20, 50);
+    for (const auto style : {BarChartStyle::rounded, BarChartStyle::square, BarChartStyle::pill})
+        EXPECT_EQ(barShape(style, slot, 30, 3).boundingRect(), QRectF(10, 40, 20, 30));
+    EXPECT_EQ(barShape(BarChartStyle::thinLine, slot, 30, 3).boundingRect(), QRectF(17, 40, 6, 30));
+}
+
+TEST(BarShape, RoundsItsCornersByStyle) {
+    const QRectF slot(0, 0, 20, 50);
+    const QPointF corner(0.2, 0.2);
+    const QPointF pillShoulder(2, 2);
+    EXPECT_TRUE(barShape(BarChartStyle::square, slot, 50, 0).contains(corner));
+    EXPECT_FALSE(barShape(BarChartStyle::rounded, slot, 50, 3).contains(corner));
+    EXPECT_TRUE(barShape(BarChartStyle::rounded, slot, 50, 3).contains(pillShoulder));
+    EXPECT_FALSE(barShape(BarChartStyle::pill, slot, 50, 0).contains(pillShoulder)) << "always a capsule";
+}
+
+TEST(BarGlowRadius, IsHalvedAroundThinLines) {
+    EXPECT_EQ(barGlowRadius(BarChartStyle::rounded, GlowIntensity::intense), 8);
+    EXPECT_EQ(barGlowRadius(BarChartStyle::pill, GlowIntensity::subtle), 2);
+    EXPECT_EQ(barGlowRadius(BarChartStyle::thinLine, GlowIntensity::intense), 4);
+    EXPECT_EQ(barGlowRadius(BarChartStyle::thinLine, GlowIntensity::medium), 2);
+    EXPECT_EQ(barGlowRadius(BarChartStyle::thinLine, GlowIntensity::none), 0);
+}
 
 class Bars : public AtScale {
 protected:
@@ -60,7 +133,7 @@ TEST_P(Bars, FadeFromTopToBottom) {
     EXPECT_NEAR(colorAt(image, 10, 19.5).alphaF(), 0.6, 0.02);
 }
 
-TEST_P(Bars, ThatAreThinLinesAreSolidAndCentred) {
+TEST_P(Bars, InThinLineStyleAreSolidAndCentred) {
     AnimatedBarChart chart = Bars::chart({0.4});
     chart.barStyle = BarChartStyle::thinLine;
     const QImage image = paintedChart(chart, {20, 20});
@@ -105,7 +178,7 @@ TEST_P(Bars, GlowSitsOnePointHigherThanTheBarAndStaysWithinItsOverhang) {
     EXPECT_EQ(colorAt(image, 30, 18.5).red(), 255);
 }
 
-TEST_P(Bars, GlowIsShapedLikeTheBarOnePointAboveIt) {
+TEST_P(Bars, GlowHasTheShapeOfTheBarOnePointAboveIt) {
     // A thin line has the same opacity everywhere, so that its glow is alike at both ends.
     AnimatedBarChart chart = Bars::chart({0.4});
     chart.barStyle = BarChartStyle::thinLine;
@@ -160,35 +233,7 @@ TEST_P(Bars, OfAHundredThousandValuesArePaintedInTime) {
     EXPECT_EQ(paintedRect(image).width(), pixels(300));
 }
 
-TEST_P(Bars, MiniBarChangesColorAndStopsAtItsSlot) {
-    const QRectF slot(2, 3, 4, 10);
-    const auto paintedBar = [&](double value) {
-        return painted({10, 20}, [&](QPainter& painter) { MiniBar{value, Qt::blue}.paint(painter, slot); });
-    };
-    EXPECT_EQ(colorAt(paintedBar(0.3), 4, 11), QColor(Qt::blue));
-    EXPECT_EQ(colorAt(paintedBar(0.5), 4, 11), SystemColors::yellow);
-    EXPECT_EQ(colorAt(paintedBar(0.75), 4, 11), SystemColors::red);
-    EXPECT_EQ(colorAt(paintedBar(1.4), 4, 11), SystemColors::red);
-    EXPECT_EQ(paintedRect(paintedBar(1.4)), QRect(pixels(2), pixels(3), pixels(4), pixels(10)));
-    EXPECT_EQ(paintedRect(paintedBar(0.5)), QRect(pixels(2), pixels(8), pixels(4), pixels(5)));
-}
-
-TEST_P(Bars, MiniBarShowsASliverWhenIdle) {
-    for (const double value : {0.0, -3.0, -infinity, notANumber}) {
-        const auto paint = [&](QPainter& painter) { MiniBar{value, Qt::blue}.paint(painter, {2, 3, 4, 10}); };
-        EXPECT_EQ(paintedRect(painted({10, 20}, paint)), QRect(pixels(2), pixels(12), pixels(4), pixels(1)));
-    }
-}
-
-TEST_P(Bars, MiniBarStaysInASlotLowerThanItsSliver) {
-    const auto paint = [&](QPainter& painter) { MiniBar{1, Qt::blue}.paint(painter, {2, 3, 4, 0.5}); };
-    EXPECT_TRUE(
-        QRect(pixels(2), pixels(3), pixels(4), pixels(1)).contains(paintedRect(painted({10, 20}, paint))));
-    const auto paintNothing = [&](QPainter& painter) { MiniBar{1, Qt::blue}.paint(painter, {2, 3, 0, 0}); };
-    EXPECT_TRUE(paintedRect(painted({10, 20}, paintNothing)).isEmpty());
-}
-
-TEST(AnimatedBarChart, HandsTheStylesRadiusToItsBarsAndPassesTheRestOn) {
+TEST(AnimatedBarChart, GivesItsBarsTheRadiusOfTheStyleAndItsOwnFields) {
     AnimatedBarChart chart{.values = {1, 2}, .maxValue = 4, .baseColor = Qt::green};
     chart.glowIntensity = GlowIntensity::subtle;
     const QList<AnimatedBar> bars = chart.bars();
@@ -214,7 +259,7 @@ TEST(AnimatedBarChart, LaysPillsThreePointsApartAndRoundedBarsAsAsked) {
     EXPECT_NEAR(gap(BarChartStyle::square), 1, 1e-9);
 }
 
-TEST(AnimatedBar, LooksAsItsValueAsks) {
+TEST(AnimatedBar, TakesHeightAndColorFromItsValue) {
     const AnimatedBar bar{.value = 3, .maxValue = 4, .baseColor = Qt::blue};
     EXPECT_EQ(bar.look().ratio, 0.75);
     EXPECT_EQ(bar.look().color, barColor(0.75, Qt::blue));
