@@ -1,6 +1,6 @@
 #include "charts/animated_bar_chart.h"
 #include "charts/animated_line_graph.h"
-#include "charts/animated_ring_chart.h"
+#include "charts/ring_charts.h"
 #include "paint_cost.h"
 #include "theme/system_colors.h"
 

@@ -3,13 +3,15 @@
 #include "animation/transition.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
-#include "charts/ring_rules.h"
-#include "charts/ring_shades.h"
-#include "charts/temperature_rules.h"
+#include "charts/ring_geometry.h"
 #include "theme/fonts.h"
 #include "theme/label_colors.h"
 #include "theme/opacity.h"
 #include "theme/system_colors.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
 
 namespace orvelle {
 namespace {
@@ -53,7 +55,7 @@ QPainterPath dialArc(const Trim& trim) {
 /// Draws track, glow and progress around the origin.
 void drawDial(QPainter& painter, const TemperatureDial& dial) {
     const QPainterPath progress = dialArc(ringProgress(RingChartStyle::halfGauge, dial.look.fraction));
-    const QPen pen = dialPen(gaugeShade(temperatureStops(), dialSize));
+    const QPen pen = dialPen(gaugeGradient(temperatureStops(), dialSize));
     painter.strokePath(dialArc(ringTrack(RingChartStyle::halfGauge)),
                        dialPen(withOpacity(SystemColors::white, trackOpacity)));
     if (!progress.isEmpty())
@@ -63,6 +65,32 @@ void drawDial(QPainter& painter, const TemperatureDial& dial) {
 }
 
 } // namespace
+
+double temperatureFraction(double temperature, double maxTemp) {
+    return maxTemp > 0 ? clampedFraction(temperature / maxTemp) : 0;
+}
+
+QColor temperatureBandColor(double temperature) {
+    if (temperature < 50)
+        return SystemColors::green;
+    if (temperature < 70)
+        return SystemColors::yellow;
+    if (temperature < 90)
+        return SystemColors::orange;
+    return SystemColors::red;
+}
+
+bool isTemperatureKnown(double temperature) {
+    return std::isfinite(temperature) && temperature > 0;
+}
+
+QString temperatureReading(double temperature, bool useFahrenheit) {
+    if (!isTemperatureKnown(temperature))
+        return QStringLiteral("--°");
+    const double shown = useFahrenheit ? temperature * 9 / 5 + 32 : temperature;
+    return QString::fromStdString(fmt::format("{:.0f}", shown)) +
+           (useFahrenheit ? QStringLiteral("°F") : QStringLiteral("°C"));
+}
 
 DialLook interpolate(const DialLook& from, const DialLook& to, double progress) {
     return {interpolate(from.fraction, to.fraction, progress),

@@ -7,8 +7,7 @@ RINGS = ("test_charts", "*Ring*")
 GRAPHS = ("test_charts", "*Line*:*Dash*")
 PICTURES = ("test_golden_pictures", "*Bar*:*Line*:*Spark*:*Ring*:*Gauge*")
 BAR = "src/charts/animated_bar_chart.cpp"
-RING = "src/charts/animated_ring_chart.cpp"
-SEGMENTS = "src/charts/multi_segment_ring.cpp"
+RING = "src/charts/ring_charts.cpp"
 GRAPH = "src/charts/animated_line_graph.cpp"
 GAUGE = "src/charts/temperature_gauge.cpp"
 SPARKLINE = "src/charts/sparkline_view.cpp"
@@ -20,10 +19,10 @@ CHART_FAULTS = [
           "fade.setColorAt(0, withOpacity(color, bottomOpacity));", *BARS),
     Fault("a thin line glows as far as a bar", BAR,
           "glowRadius(intensity) / 2 : glowRadius(intensity)", "glowRadius(intensity) : glowRadius(intensity)", *BARS),
-    Fault("segments end in round caps", SEGMENTS, "Qt::FlatCap", "Qt::RoundCap", *RINGS),
-    Fault("segments end in square caps", SEGMENTS, "Qt::FlatCap", "Qt::SquareCap", *RINGS),
-    Fault("segments begin at three o'clock", SEGMENTS, "firstSegmentStart = -90", "firstSegmentStart = 0", *RINGS),
-    Fault("segments are drawn from the last", SEGMENTS, "segmentTrim(angles[index], animatedProgress)",
+    Fault("segments end in round caps", RING, "Qt::FlatCap", "Qt::RoundCap", *RINGS),
+    Fault("segments end in square caps", RING, "Qt::FlatCap", "Qt::SquareCap", *RINGS),
+    Fault("segments begin at three o'clock", RING, "firstSegmentStart = -90", "firstSegmentStart = 0", *RINGS),
+    Fault("segments are drawn from the last", RING, "segmentTrim(angles[index], animatedProgress)",
           "segmentTrim(angles[segments.size() - 1 - index], animatedProgress)", *RINGS),
     Fault("rings end in butt caps", RING, "Qt::RoundCap", "Qt::FlatCap", *RINGS),
     Fault("the hub of a pie is larger", RING, "hubShare = 0.6", "hubShare = 0.65", *PICTURES),

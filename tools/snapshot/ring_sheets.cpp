@@ -1,6 +1,5 @@
 #include "animation/animation_timing.h"
-#include "charts/animated_ring_chart.h"
-#include "charts/multi_segment_ring.h"
+#include "charts/ring_charts.h"
 #include "charts/temperature_gauge.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"

@@ -1,7 +1,7 @@
 #include "windows/charts/animated_ring_chart_item.h"
 
 #include "animation/animation_timing.h"
-#include "charts/ring_rules.h"
+#include "charts/ring_geometry.h"
 #include "theme/font_changes.h"
 #include "windows/charts/optional_values.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "animation/transition.h"
-#include "charts/multi_segment_ring.h"
+#include "charts/ring_charts.h"
 #include "windows/charts/chart_item.h"
 
 #include <QVariantList>

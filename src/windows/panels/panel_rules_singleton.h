@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/temperature_rules.h"
+#include "charts/temperature_gauge.h"
 #include "core/disk_monitor.h"
 #include "core/memory_monitor.h"
 #include "core/network_monitor.h"

@@ -1,6 +1,5 @@
 #include "at_scale.h"
-#include "charts/animated_ring_chart.h"
-#include "charts/multi_segment_ring.h"
+#include "charts/ring_charts.h"
 #include "support/odd_numbers.h"
 #include "theme/system_colors.h"
 
@@ -86,7 +85,7 @@ TEST_P(Rings, PieFillsAWedgeAndHasADarkHub) {
     EXPECT_EQ(paintedRect(image), QRect(pixels(20), pixels(20), pixels(80), pixels(80)));
 }
 
-TEST_P(Rings, AboveOneAreFullAndRed) {
+TEST_P(Rings, AreFullAndRedAboveOne) {
     for (const auto style : {RingChartStyle::fullRing, RingChartStyle::halfGauge, RingChartStyle::pieChart}) {
         const AnimatedRingChart full = ring(style, 1.4);
         EXPECT_EQ(full.target(), 1);
@@ -96,7 +95,7 @@ TEST_P(Rings, AboveOneAreFullAndRed) {
     }
 }
 
-TEST_P(Rings, BelowZeroAreEmpty) {
+TEST_P(Rings, AreEmptyBelowZero) {
     for (const auto style : {RingChartStyle::fullRing, RingChartStyle::halfGauge, RingChartStyle::arcGauge,
                              RingChartStyle::pieChart}) {
         const AnimatedRingChart empty = ring(style, -0.2);

@@ -1,5 +1,6 @@
-#include "charts/ring_rules.h"
+#include "charts/ring_geometry.h"
 
+#include "charts/canvas.h"
 #include "theme/system_colors.h"
 
 #include <algorithm>
@@ -12,18 +13,15 @@ constexpr double fullTurn = 360;
 constexpr double warningValue = 0.6;
 constexpr double criticalValue = 0.8;
 
+// Qt measures the start of a conical gradient in degrees from three o'clock, and its positions run
+// counter-clockwise, so that a clockwise gradient is written backwards.
+constexpr double threeOClock = 0;
+constexpr double twelveOClock = 90;
+
 } // namespace
 
 double clampedFraction(double value) {
     return std::isnan(value) ? 0 : std::clamp(value, 0.0, 1.0);
-}
-
-QColor ringStatusColor(double value, const QColor& baseColor) {
-    if (value >= criticalValue)
-        return SystemColors::red;
-    if (value >= warningValue)
-        return SystemColors::yellow;
-    return baseColor;
 }
 
 bool pulseApplies(double value, double criticalThreshold, bool pulseCritical) {
@@ -57,7 +55,7 @@ QPainterPath trimmedCircle(const QRectF& square, const Trim& trim, double rotati
     QPainterPath path;
     if (!(trim.to > trim.from))
         return path;
-    // Qt counts angles against the clock.
+    // Qt counts angles counter-clockwise.
     const double start = -(trim.from * fullTurn + rotation);
     path.arcMoveTo(square, start);
     path.arcTo(square, start, -(trim.to - trim.from) * fullTurn);
@@ -85,11 +83,58 @@ Trim segmentTrim(const SegmentAngles& angles, double progress) {
     return {angles.start / fullTurn, end * clampedFraction(progress)};
 }
 
-double wedgeSweep(double startAngle, double endAngle) {
+double PieSlice::sweep() const {
     const double sweep = endAngle - startAngle;
     if (!std::isfinite(sweep))
         return 0;
     return sweep < 0 ? std::fmod(sweep, fullTurn) + fullTurn : std::min(sweep, fullTurn);
+}
+
+QPainterPath PieSlice::path(const QRectF& rectangle) const {
+    const double diameter = std::min(rectangle.width(), rectangle.height());
+    QPainterPath wedge;
+    if (!(diameter > 0) || sweep() <= 0)
+        return wedge;
+    const QRectF disc = centred({diameter, diameter}, rectangle);
+    wedge.moveTo(disc.center());
+    wedge.arcTo(disc, -startAngle, -sweep()); // Qt counts angles counter-clockwise
+    wedge.closeSubpath();
+    return wedge;
+}
+
+QColor ringStatusColor(double value, const QColor& baseColor) {
+    if (value >= criticalValue)
+        return SystemColors::red;
+    if (value >= warningValue)
+        return SystemColors::yellow;
+    return baseColor;
+}
+
+QConicalGradient ringGradient(const QColor& start, const QColor& end, double fraction) {
+    constexpr double hairsbreadth = 1e-4; // two stops cannot share one position
+    QConicalGradient gradient(QPointF(0, 0), twelveOClock);
+    const double lastFilled = 1 - fraction;
+    gradient.setColorAt(0, fraction < 1 ? start : end);
+    if (fraction < 1) {
+        gradient.setColorAt(lastFilled / 2, start);
+        gradient.setColorAt(std::min(lastFilled / 2 + hairsbreadth, lastFilled), end);
+        gradient.setColorAt(lastFilled, end);
+    }
+    gradient.setColorAt(1, start);
+    return gradient;
+}
+
+QLinearGradient gaugeGradient(const QGradientStops& stops, double diameter) {
+    QLinearGradient gradient(-diameter / 2, 0, diameter / 2, 0);
+    gradient.setStops(stops);
+    return gradient;
+}
+
+QConicalGradient pieGradient(const QColor& start, const QColor& end) {
+    QConicalGradient gradient(QPointF(0, 0), threeOClock);
+    gradient.setColorAt(0, end);
+    gradient.setColorAt(1, start);
+    return gradient;
 }
 
 } // namespace orvelle

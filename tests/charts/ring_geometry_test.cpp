@@ -1,6 +1,4 @@
-#include "charts/pie_slice.h"
-#include "charts/ring_rules.h"
-#include "charts/ring_shades.h"
+#include "charts/ring_geometry.h"
 #include "support/odd_numbers.h"
 #include "theme/system_colors.h"
 
@@ -18,7 +16,7 @@ void expectSamePoint(const QPointF& actual, const QPointF& expected) {
     EXPECT_NEAR(actual.y(), expected.y(), 1e-3);
 }
 
-TEST(ClampedFraction, LiesBetweenZeroAndOne) {
+TEST(ClampedFraction, IsBetweenZeroAndOne) {
     EXPECT_EQ(clampedFraction(0.4), 0.4);
     EXPECT_EQ(clampedFraction(1.4), 1);
     EXPECT_EQ(clampedFraction(-0.2), 0);
@@ -43,7 +41,7 @@ TEST(PulseApplies, FromTheThresholdUpWhenItIsSwitchedOn) {
     EXPECT_FALSE(pulseApplies(notANumber, 0, true));
 }
 
-TEST(RingTrims, CoverTheirStylesStretch) {
+TEST(RingTrims, CoverTheStretchOfTheirStyle) {
     EXPECT_EQ(ringTrack(RingChartStyle::fullRing), (Trim{0, 1}));
     EXPECT_EQ(ringTrack(RingChartStyle::halfGauge), (Trim{0.25, 0.75}));
     EXPECT_EQ(ringTrack(RingChartStyle::arcGauge), (Trim{0.125, 0.875}));
@@ -83,7 +81,7 @@ TEST(TrimmedCircle, IsEmptyWhenItDoesNotGoForward) {
     EXPECT_TRUE(trimmedCircle(square, {0, notANumber}, 90).isEmpty());
 }
 
-TEST(SegmentAngles, ShareTheCircleInOrder) {
+TEST(SegmentAngles, DivideTheCircleInOrder) {
     const QList<SegmentAngles> angles = segmentAngles({1, 2, 1});
     EXPECT_EQ(angles, (QList<SegmentAngles>{{0, 90}, {90, 180}, {270, 90}}));
 }
@@ -107,14 +105,17 @@ TEST(SegmentTrim, EndsWithTheCircle) {
     EXPECT_EQ(segmentTrim({350, 20}, 1).to, 1);
 }
 
-TEST(WedgeSweep, GoesClockwise) {
-    EXPECT_EQ(wedgeSweep(-90, 162), 252);
-    EXPECT_EQ(wedgeSweep(-90, -90), 0);
-    EXPECT_EQ(wedgeSweep(-90, 270), 360);
-    EXPECT_EQ(wedgeSweep(0, 900), 360);
-    EXPECT_EQ(wedgeSweep(90, 0), 270);
-    EXPECT_EQ(wedgeSweep(0, infinity), 0);
-    EXPECT_EQ(wedgeSweep(notANumber, 0), 0);
+TEST(PieSlice, SweepsClockwise) {
+    const auto sweep = [](double start, double end) {
+        return PieSlice{.startAngle = start, .endAngle = end}.sweep();
+    };
+    EXPECT_EQ(sweep(-90, 162), 252);
+    EXPECT_EQ(sweep(-90, -90), 0);
+    EXPECT_EQ(sweep(-90, 270), 360);
+    EXPECT_EQ(sweep(0, 900), 360);
+    EXPECT_EQ(sweep(90, 0), 270);
+    EXPECT_EQ(sweep(0, infinity), 0);
+    EXPECT_EQ(sweep(notANumber, 0), 0);
 }
 
 TEST(PieSlice, ReachesFromTheMiddleOfItsRectangle) {
@@ -141,10 +142,12 @@ QColor colorAtPosition(const QGradient& gradient, double position) {
     return {};
 }
 
-TEST(RingShade, RunsClockwiseFromStartToEnd) {
-    const QConicalGradient shade = ringShade(QColor(255, 0, 0, 100), QColor(255, 0, 0, 200), 0.5);
-    EXPECT_EQ(shade.angle(), 90);
-    const auto alphaAfter = [&](double clockwise) { return colorAtPosition(shade, 1 - clockwise).alpha(); };
+TEST(RingGradient, RunsClockwiseFromStartToEnd) {
+    const QConicalGradient gradient = ringGradient(QColor(255, 0, 0, 100), QColor(255, 0, 0, 200), 0.5);
+    EXPECT_EQ(gradient.angle(), 90);
+    const auto alphaAfter = [&](double clockwise) {
+        return colorAtPosition(gradient, 1 - clockwise).alpha();
+    };
     EXPECT_EQ(alphaAfter(0), 100);
     EXPECT_NEAR(alphaAfter(0.25), 150, 1);
     EXPECT_NEAR(alphaAfter(0.5), 200, 1);
@@ -152,17 +155,17 @@ TEST(RingShade, RunsClockwiseFromStartToEnd) {
     EXPECT_NEAR(alphaAfter(0.9), 100, 1) << "the round cap at the start";
 }
 
-TEST(RingShade, HasNoGapWhenTheRingIsFull) {
-    const QConicalGradient shade = ringShade(QColor(255, 0, 0, 100), QColor(255, 0, 0, 200), 1);
-    EXPECT_EQ(shade.stops().size(), 2);
-    EXPECT_EQ(colorAtPosition(shade, 0).alpha(), 200);
-    EXPECT_EQ(colorAtPosition(shade, 1).alpha(), 100);
+TEST(RingGradient, HasNoGapWhenTheRingIsFull) {
+    const QConicalGradient gradient = ringGradient(QColor(255, 0, 0, 100), QColor(255, 0, 0, 200), 1);
+    EXPECT_EQ(gradient.stops().size(), 2);
+    EXPECT_EQ(colorAtPosition(gradient, 0).alpha(), 200);
+    EXPECT_EQ(colorAtPosition(gradient, 1).alpha(), 100);
 }
 
-TEST(GaugeShade, RunsFromTheLeftEdgeToTheRight) {
-    const QLinearGradient shade = gaugeShade({{0, Qt::green}, {1, Qt::red}}, 70);
-    EXPECT_EQ(shade.start(), QPointF(-35, 0));
-    EXPECT_EQ(shade.finalStop(), QPointF(35, 0));
+TEST(GaugeGradient, RunsFromTheLeftEdgeToTheRight) {
+    const QLinearGradient gradient = gaugeGradient({{0, Qt::green}, {1, Qt::red}}, 70);
+    EXPECT_EQ(gradient.start(), QPointF(-35, 0));
+    EXPECT_EQ(gradient.finalStop(), QPointF(35, 0));
 }
 
 } // namespace

@@ -1,11 +1,9 @@
-#include "charts/animated_ring_chart.h"
+#include "charts/ring_charts.h"
 
 #include "animation/animation_timing.h"
 #include "charts/canvas.h"
 #include "charts/glow.h"
-#include "charts/pie_slice.h"
-#include "charts/ring_rules.h"
-#include "charts/ring_shades.h"
+#include "charts/ring_geometry.h"
 #include "theme/fonts.h"
 #include "theme/label_colors.h"
 #include "theme/opacity.h"
@@ -24,7 +22,7 @@ constexpr double labelShare = 0.22;
 constexpr double sublabelShare = 0.1;
 constexpr double labelSpacing = 2;
 
-/// The drawing has its origin in the chart's centre, so that it can be turned and scaled about it.
+/// The chart is drawn around the origin, so that it can be scaled about its centre.
 QRectF squareAround(double side) {
     return {-side / 2, -side / 2, side, side};
 }
@@ -36,13 +34,14 @@ QPen ringPen(const QBrush& brush, double lineWidth) {
 QBrush progressBrush(const AnimatedRingChart& chart, const QColor& status) {
     switch (chart.ringStyle) {
     case RingChartStyle::fullRing:
-        return ringShade(withOpacity(status, ringStartOpacity), status, clampedFraction(chart.animatedValue));
+        return ringGradient(withOpacity(status, ringStartOpacity), status,
+                            clampedFraction(chart.animatedValue));
     case RingChartStyle::halfGauge:
-        return gaugeShade({{0, withOpacity(status, gaugeStartOpacity)}, {1, status}}, chart.size);
+        return gaugeGradient({{0, withOpacity(status, gaugeStartOpacity)}, {1, status}}, chart.size);
     case RingChartStyle::arcGauge:
-        return gaugeShade({{0, chart.baseColor}, {1, status}}, chart.size);
+        return gaugeGradient({{0, chart.baseColor}, {1, status}}, chart.size);
     case RingChartStyle::pieChart:
-        return pieShade(withOpacity(status, pieStartOpacity), status);
+        return pieGradient(withOpacity(status, pieStartOpacity), status);
     }
     return {};
 }
@@ -83,7 +82,7 @@ void drawPie(QPainter& painter, const AnimatedRingChart& chart, const QColor& st
     painter.drawEllipse(squareAround(chart.size * hubShare));
 }
 
-/// Everything but the labels, around the origin.
+/// Draws everything but the labels.
 void drawRing(QPainter& painter, const AnimatedRingChart& chart) {
     const QColor status = ringStatusColor(chart.value, chart.baseColor);
     if (chart.ringStyle == RingChartStyle::pieChart)
@@ -92,7 +91,7 @@ void drawRing(QPainter& painter, const AnimatedRingChart& chart) {
         drawArc(painter, chart, status);
 }
 
-/// The chart without what its picture does not show: the labels, which are written anew, and the scale.
+/// The chart without the fields that its picture does not show: the labels and the scale.
 AnimatedRingChart pictureSubject(AnimatedRingChart chart) {
     chart.label.reset();
     chart.sublabel.reset();
@@ -100,7 +99,7 @@ AnimatedRingChart pictureSubject(AnimatedRingChart chart) {
     return chart;
 }
 
-/// The labels present, stacked and centred.
+/// Paints the present labels, stacked and centred.
 void paintLabels(QPainter& painter, const AnimatedRingChart& chart) {
     const QFont largeFont = roundedSystemFont(chart.size * labelShare, QFont::Bold);
     const QFont smallFont = roundedSystemFont(chart.size * sublabelShare, QFont::Medium);
@@ -115,6 +114,20 @@ void paintLabels(QPainter& painter, const AnimatedRingChart& chart) {
     if (chart.sublabel)
         drawLabel(painter, {left, top + largeHeight + gap, chart.size, smallHeight}, *chart.sublabel,
                   smallFont, LabelColors::secondary);
+}
+
+constexpr double firstSegmentStart = -90;
+
+QPen segmentPen(const QColor& color, double lineWidth) {
+    return {color, lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin};
+}
+
+QList<double> valuesOf(const QList<MultiSegmentRing::Segment>& segments) {
+    QList<double> values;
+    values.reserve(segments.size());
+    for (const MultiSegmentRing::Segment& segment : segments)
+        values.append(segment.value);
+    return values;
 }
 
 } // namespace
@@ -149,6 +162,24 @@ void AnimatedRingChart::paint(QPainter& painter, const QRectF& bounds,
              [this](QPainter& target) { drawRing(target, *this); });
     painter.restore();
     paintLabels(painter, *this);
+    painter.restore();
+}
+
+void MultiSegmentRing::paint(QPainter& painter, const QRectF& bounds) const {
+    if (!isPaintable({size, size}) || !isPaintable({lineWidth, lineWidth}))
+        return;
+    const QRectF square = centred({size, size}, bounds);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(segmentPen(trackColor, lineWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(square);
+    const QList<SegmentAngles> angles = segmentAngles(valuesOf(segments));
+    for (qsizetype index = 0; index < segments.size(); ++index) {
+        const Trim trim = segmentTrim(angles[index], animatedProgress);
+        painter.strokePath(trimmedCircle(square, trim, firstSegmentStart),
+                           segmentPen(segments[index].color, lineWidth));
+    }
     painter.restore();
 }
 

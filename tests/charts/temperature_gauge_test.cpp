@@ -1,6 +1,5 @@
 #include "at_scale.h"
 #include "charts/temperature_gauge.h"
-#include "charts/temperature_rules.h"
 #include "support/odd_numbers.h"
 #include "theme/system_colors.h"
 
