@@ -2,10 +2,7 @@
 
 #include "charts/canvas.h"
 #include "charts/glow.h"
-#include "charts/line_mask.h"
-#include "charts/line_rules.h"
-#include "charts/picture.h"
-#include "charts/sample_points.h"
+#include "charts/line_geometry.h"
 #include "theme/device_pixels.h"
 #include "theme/opacity.h"
 
@@ -16,12 +13,15 @@
 namespace orvelle {
 namespace {
 
+constexpr double smallestScale = 0.001;
 constexpr double gradientTopOpacity = 0.3;
 constexpr double gradientBottomOpacity = 0.05;
 constexpr double solidOpacity = 0.2;
 constexpr double stripedAreaOpacity = 0.08;
 constexpr double stripeOpacity = 0.1;
 constexpr double stripeWidth = 1;
+/// Between two stripes of the striped fill; the first lies on the top edge.
+constexpr double stripeDistance = 4;
 constexpr double gridLineWidth = 0.5;
 /// How much wider than the line its glow is stroked.
 constexpr double glowExtraWidth = 2;
@@ -108,6 +108,16 @@ void AnimatedLineGraph::paint(QPainter& painter, const QRectF& bounds,
     const Canvas canvas(painter, centred(size, bounds));
     const auto draw = [&](QPainter& target) { drawGraph(target, *this, size); };
     showKept(painter, cache, *this, QRectF({0, 0}, size), draw);
+}
+
+double lineGraphScale(double maxValue) {
+    return maxValue > smallestScale ? maxValue : smallestScale;
+}
+
+std::optional<DashPattern> lineDashes(GraphLineStyle style) {
+    if (style == GraphLineStyle::dotted)
+        return DashPattern{.dash = 3, .gap = 4};
+    return std::nullopt;
 }
 
 } // namespace orvelle

@@ -9,7 +9,7 @@
 namespace orvelle {
 namespace {
 
-/// The pixels of a mask, to which straight pieces of a line are added.
+/// Draws the straight pieces of a line into a mask.
 class MaskWriter {
 public:
     MaskWriter(QImage& mask, double lineWidth)
@@ -21,7 +21,7 @@ public:
         , m_core(static_cast<float>(lineWidth / 2) - halfPixel)
         , m_densest(static_cast<float>(std::min(lineWidth, 1.0))) {}
 
-    /// Adds the round-ended piece between two positions, in pixels. Pieces are united, never added up.
+    /// Draws the piece between two positions, in pixels, with round ends. Overlapping pieces do not add up.
     void add(const QPointF& from, const QPointF& to) {
         const auto startX = static_cast<float>(from.x()), startY = static_cast<float>(from.y());
         const auto alongX = static_cast<float>(to.x()) - startX, alongY = static_cast<float>(to.y()) - startY;
@@ -51,8 +51,8 @@ private:
         return static_cast<int>(std::clamp(position, 0.0F, static_cast<float>(limit)));
     }
 
-    /// The opacity of a pixel whose centre is this far from the line. A line thinner than a pixel is never
-    /// denser than the share of the pixel that it covers.
+    /// The opacity of a pixel whose centre is this far from the line. Under a line thinner than a pixel it is
+    /// at most the share of the pixel that the line covers.
     [[nodiscard]] uchar coverage(float squaredDistance) const {
         if (squaredDistance >= m_reach * m_reach)
             return 0;
@@ -75,7 +75,7 @@ void addLine(MaskWriter& writer, const QPolygonF& line) {
         writer.add(line[index - 1], line[index]);
 }
 
-/// Walks along the line, with dashes and gaps carried over its corners.
+/// Draws the dashes, which continue around corners.
 void addDashes(MaskWriter& writer, const QPolygonF& line, const DashPattern& dashes) {
     bool isDash = true;
     double left = dashes.dash;
@@ -100,8 +100,8 @@ void addDashes(MaskWriter& writer, const QPolygonF& line, const DashPattern& das
     }
 }
 
-/// The path as polylines in pixels of the mask. It is flattened at a higher resolution, because the corners
-/// that are invisible in a filled outline would show along the edge of a line.
+/// The path as polylines in pixels of the mask. It is flattened at a higher resolution than a fill needs,
+/// because the corners would show along the edge of a line.
 QList<QPolygonF> flattened(const QPainterPath& path, const QTransform& toMask) {
     constexpr double finer = 2;
     QList<QPolygonF> lines = path.toSubpathPolygons(toMask * QTransform::fromScale(finer, finer));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "charts/line_rules.h"
 #include "charts/picture.h"
 
 #include <QPainterPath>
@@ -9,9 +8,17 @@
 
 namespace orvelle {
 
+/// Lengths along a dashed line, points.
+struct DashPattern {
+    double dash = 0;
+    double gap = 0;
+
+    bool operator==(const DashPattern&) const = default;
+};
+
 /// The coverage (Format_Alpha8) within `area` of a line of `width` points along `path`, with round caps and
-/// joins. Every pixel takes its coverage from its distance to the line, which for the long, winding lines of
-/// a history is several times faster than filling their outline.
+/// joins. The coverage of a pixel is computed from its distance to the line: for the long, winding lines of a
+/// history that is several times faster than filling their outline.
 [[nodiscard]] Picture lineMask(const PixelGrid& grid, const QRectF& area, const QPainterPath& path,
                                double width, const std::optional<DashPattern>& dashes = std::nullopt);
 

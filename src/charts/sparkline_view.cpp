@@ -1,10 +1,9 @@
 #include "charts/sparkline_view.h"
 
 #include "charts/canvas.h"
+#include "charts/line_geometry.h"
 #include "charts/line_mask.h"
 #include "charts/picture.h"
-#include "charts/sample_points.h"
-#include "charts/sparkline_rules.h"
 #include "theme/device_pixels.h"
 #include "theme/opacity.h"
 
@@ -48,6 +47,36 @@ QList<SparklineView> DualSparklineView::layers() const {
 void DualSparklineView::paint(QPainter& painter, const QRectF& bounds) const {
     for (const SparklineView& sparkline : layers())
         sparkline.paint(painter, bounds);
+}
+
+std::optional<double> sparklineScale(const QList<double>& data, double maxValue) {
+    if (data.size() < 2)
+        return std::nullopt;
+    if (maxValue > 0)
+        return maxValue;
+    double largest = 0; // starting from zero also skips samples that are not a number
+    for (const double sample : data)
+        largest = sample > largest ? sample : largest;
+    return largest > 0 ? std::optional(largest) : std::nullopt;
+}
+
+QPainterPath sparklinePath(const QList<QPointF>& points) {
+    QPainterPath path;
+    if (points.size() < 2)
+        return path;
+    path.reserve(static_cast<int>(points.size() * 3));
+    path.moveTo(points.first());
+    if (points.size() == 2) {
+        path.lineTo(points.last());
+        return path;
+    }
+    for (qsizetype index = 1; index < points.size(); ++index) {
+        const QPointF& from = points[index - 1];
+        const QPointF& to = points[index];
+        const double middle = (from.x() + to.x()) / 2;
+        path.cubicTo({middle, from.y()}, {middle, to.y()}, to);
+    }
+    return path;
 }
 
 } // namespace orvelle

@@ -2,10 +2,9 @@
 
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
-#include "charts/line_rules.h"
+#include "charts/line_geometry.h"
 #include "charts/ring_geometry.h"
-#include "charts/sample_points.h"
-#include "charts/sparkline_rules.h"
+#include "charts/sparkline_view.h"
 #include "windows/settings/shared_widths.h"
 
 #include <algorithm>

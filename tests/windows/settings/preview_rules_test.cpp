@@ -1,4 +1,4 @@
-#include "charts/sparkline_rules.h"
+#include "charts/sparkline_view.h"
 #include "windows/settings/preview_rules.h"
 
 #include <QLineF>

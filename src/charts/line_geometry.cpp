@@ -1,4 +1,4 @@
-#include "charts/sample_points.h"
+#include "charts/line_geometry.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-/// Columns with fewer points than this on average are drawn in full.
+/// Lines with fewer points per column on average are drawn in full.
 constexpr double crowdedPointsPerColumn = 8;
 
 /// Appends the first, extreme and last of the points [first, last], in their own order and without repeats.
@@ -20,6 +20,42 @@ void appendExtremes(QList<QPointF>& kept, const QList<QPointF>& points, qsizetyp
     const auto end = std::unique(indices.begin(), indices.end());
     for (auto index = indices.begin(); index != end; ++index)
         kept.append(points[*index]);
+}
+
+/// Shorter chords have no direction.
+constexpr double smallestChord = 0.001;
+
+double length(const QPointF& vector) {
+    return std::hypot(vector.x(), vector.y());
+}
+
+/// The offset of a control point from its end of the curve. `outerChord` is the chord beyond that end.
+QPointF dampedTangent(const QPointF& span, double outerChord, double innerChord) {
+    if (outerChord <= smallestChord || innerChord <= smallestChord)
+        return {};
+    return span / (3 * (1 + outerChord / innerChord));
+}
+
+void addSpline(QPainterPath& path, const QList<QPointF>& points) {
+    const qsizetype last = points.size() - 1;
+    for (qsizetype index = 0; index < last; ++index) {
+        const QPointF& before = points[std::max<qsizetype>(index - 1, 0)];
+        const QPointF& after = points[std::min(index + 2, last)];
+        const SplineControls controls = dampedControls(before, points[index], points[index + 1], after);
+        path.cubicTo(controls.first, controls.second, points[index + 1]);
+    }
+}
+
+void addSteps(QPainterPath& path, const QList<QPointF>& points) {
+    for (qsizetype index = 1; index < points.size(); ++index) {
+        path.lineTo(points[index].x(), points[index - 1].y());
+        path.lineTo(points[index]);
+    }
+}
+
+void addLines(QPainterPath& path, const QList<QPointF>& points) {
+    for (qsizetype index = 1; index < points.size(); ++index)
+        path.lineTo(points[index]);
 }
 
 } // namespace
@@ -60,6 +96,28 @@ QList<QPointF> visiblePoints(const QList<QPointF>& points, double columnWidth) {
         first = index;
     }
     return kept;
+}
+
+SplineControls dampedControls(const QPointF& before, const QPointF& from, const QPointF& to,
+                              const QPointF& after) {
+    const double chord = length(to - from);
+    return {from + dampedTangent(to - before, length(from - before), chord),
+            to - dampedTangent(after - from, length(after - to), chord)};
+}
+
+QPainterPath linePath(const QList<QPointF>& points, GraphLineStyle style) {
+    QPainterPath path;
+    if (points.size() < 2)
+        return path;
+    path.reserve(static_cast<int>(points.size() * 3));
+    path.moveTo(points.first());
+    if (style == GraphLineStyle::stepped)
+        addSteps(path, points);
+    else if (style == GraphLineStyle::smooth && points.size() > 2)
+        addSpline(path, points);
+    else
+        addLines(path, points);
+    return path;
 }
 
 QPainterPath areaUnder(const QPainterPath& line, const QList<QPointF>& points, double bottom) {

@@ -7,6 +7,24 @@
 namespace orvelle {
 namespace {
 
+TEST(LineGraphScale, IsNeverBelowAThousandth) {
+    EXPECT_EQ(lineGraphScale(110), 110);
+    EXPECT_EQ(lineGraphScale(0), 0.001);
+    EXPECT_EQ(lineGraphScale(-5), 0.001);
+    EXPECT_EQ(lineGraphScale(notANumber), 0.001);
+}
+
+TEST(LineDashes, BreakOnlyTheDottedLine) {
+    EXPECT_EQ(lineDashes(GraphLineStyle::dotted), (DashPattern{3, 4}));
+    EXPECT_EQ(lineDashes(GraphLineStyle::smooth), std::nullopt);
+    EXPECT_EQ(lineDashes(GraphLineStyle::sharp), std::nullopt);
+    EXPECT_EQ(lineDashes(GraphLineStyle::stepped), std::nullopt);
+}
+
+TEST(GridLines, LieAtTheQuarters) {
+    EXPECT_EQ(gridLineHeights(60), (std::array<double, 3>{15, 30, 45}));
+}
+
 class LineGraph : public AtScale {
 protected:
     static AnimatedLineGraph bare(const QList<double>& data) {
@@ -30,7 +48,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, LineGraph, bothScales);
 
-TEST_P(LineGraph, DrawsNothingNotEvenItsGridForOneSampleOrNone) {
+TEST_P(LineGraph, DrawsNotEvenItsGridForFewerThanTwoSamples) {
     for (const QList<double>& data : {QList<double>{}, QList<double>{0.5}}) {
         AnimatedLineGraph graph = bare(data);
         graph.gridColor = Qt::white;
@@ -78,7 +96,7 @@ TEST_P(LineGraph, ClipsNegativeSamplesToItsCanvas) {
     EXPECT_EQ(colorAt(image, 40, 49.5).alpha(), 0) << "the sample itself is out of sight";
 }
 
-TEST_P(LineGraph, FillsOnlyWhenBothSwitchAndStyleSaySo) {
+TEST_P(LineGraph, FillsOnlyWhenSwitchAndStyleAllowIt) {
     AnimatedLineGraph graph = bare({0.5, 0.5});
     const QImage lineOnly = paintedGraph(graph);
     graph.fillGradient = true;
@@ -122,7 +140,7 @@ TEST_P(LineGraph, StripesTheWholeCanvas) {
     EXPECT_NEAR(colorAt(paintedGraph(graph), 30, 6).alphaF(), 0.08, 0.01) << "the area between two stripes";
 }
 
-TEST_P(LineGraph, GlowsOnlyWhenBothSwitchAndIntensitySaySo) {
+TEST_P(LineGraph, GlowsOnlyWhenSwitchAndIntensityAllowIt) {
     AnimatedLineGraph graph = bare({0.5, 0.5});
     const QImage plain = paintedGraph(graph);
     graph.showGlow = true;

@@ -1,6 +1,5 @@
 #include "at_scale.h"
-#include "charts/sample_points.h"
-#include "charts/sparkline_rules.h"
+#include "charts/line_geometry.h"
 #include "charts/sparkline_view.h"
 #include "support/odd_numbers.h"
 
