@@ -2,7 +2,7 @@
 #include "charts/animated_line_graph.h"
 #include "charts/ring_charts.h"
 #include "paint_cost.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <QImage>
 

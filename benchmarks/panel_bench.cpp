@@ -1,4 +1,4 @@
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/charts/animated_line_graph_item.h"
 
 #include <QGuiApplication>

@@ -4,7 +4,7 @@
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
 #include "shell/open_log.h"
-#include "theme/font_changes.h"
+#include "theme/fonts.h"
 #include "theme/theme_manager.h"
 
 #include <QCoreApplication>

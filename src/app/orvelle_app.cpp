@@ -3,7 +3,6 @@
 #include "animation/animation_clock.h"
 #include "platform/host.h"
 #include "shell/desktop.h"
-#include "theme/font_changes.h"
 #include "theme/fonts.h"
 
 #include <QLoggingCategory>

@@ -3,8 +3,8 @@
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
 #include "charts/glow.h"
+#include "theme/colors.h"
 #include "theme/device_pixels.h"
-#include "theme/opacity.h"
 
 #include <QLinearGradient>
 

@@ -3,8 +3,8 @@
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/line_geometry.h"
+#include "theme/colors.h"
 #include "theme/device_pixels.h"
-#include "theme/opacity.h"
 
 #include <QLinearGradient>
 

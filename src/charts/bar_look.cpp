@@ -1,6 +1,6 @@
 #include "charts/bar_look.h"
 
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "charts/glow.h"
 
-#include "theme/opacity.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 #include <cmath>

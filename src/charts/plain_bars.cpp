@@ -2,7 +2,7 @@
 
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
-#include "theme/opacity.h"
+#include "theme/colors.h"
 
 #include <QLinearGradient>
 

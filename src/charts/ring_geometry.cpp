@@ -1,7 +1,7 @@
 #include "charts/ring_geometry.h"
 
 #include "charts/canvas.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 #include <cmath>

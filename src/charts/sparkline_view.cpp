@@ -4,8 +4,8 @@
 #include "charts/line_geometry.h"
 #include "charts/line_mask.h"
 #include "charts/picture.h"
+#include "theme/colors.h"
 #include "theme/device_pixels.h"
-#include "theme/opacity.h"
 
 namespace orvelle {
 namespace {

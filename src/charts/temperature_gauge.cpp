@@ -4,10 +4,8 @@
 #include "charts/canvas.h"
 #include "charts/glow.h"
 #include "charts/ring_geometry.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
 
 #include <fmt/format.h>
 

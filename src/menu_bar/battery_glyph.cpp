@@ -1,7 +1,7 @@
 #include "menu_bar/battery_glyph.h"
 
+#include "theme/colors.h"
 #include "theme/device_pixels.h"
-#include "theme/label_colors.h"
 
 #include <algorithm>
 #include <cmath>

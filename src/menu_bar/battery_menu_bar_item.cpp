@@ -1,7 +1,7 @@
 #include "menu_bar/battery_menu_bar_item.h"
 
 #include "core/battery_monitor.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 

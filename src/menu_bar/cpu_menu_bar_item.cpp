@@ -4,8 +4,7 @@
 #include "core/cpu_monitor.h"
 #include "formatting/formatters.h"
 #include "menu_bar/scene_layout.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 

@@ -3,8 +3,7 @@
 #include "charts/sparkline_view.h"
 #include "core/disk_monitor.h"
 #include "formatting/formatters.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

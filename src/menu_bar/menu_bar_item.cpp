@@ -1,9 +1,8 @@
 #include "menu_bar/menu_bar_item.h"
 
 #include "core/checked.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
 
 #include <algorithm>
 

@@ -3,9 +3,8 @@
 #include "charts/sparkline_view.h"
 #include "core/network_monitor.h"
 #include "formatting/formatters.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
 
 namespace orvelle {
 namespace {

@@ -3,9 +3,8 @@
 #include "charts/plain_bars.h"
 #include "menu_bar/battery_glyph.h"
 #include "menu_bar/scene_layout.h"
+#include "theme/colors.h"
 #include "theme/device_pixels.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
 #include "theme/symbols.h"
 
 #include <QPainterPath>

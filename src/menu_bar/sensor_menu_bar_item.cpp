@@ -2,10 +2,8 @@
 
 #include "core/sensor_monitor.h"
 #include "formatting/formatters.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,6 @@
 #include "theme/app_theme.h"
 
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <array>
 

@@ -7,8 +7,8 @@
 
 namespace orvelle {
 
-/// A named set of colours, sRGB; opaque unless the table of themes says otherwise. There are no themes but
-/// the built-in ones.
+/// A named set of colours. They are opaque unless the table of themes says otherwise. All themes are built
+/// in.
 struct AppTheme {
     Q_GADGET
     Q_PROPERTY(QString id MEMBER id CONSTANT)
@@ -52,8 +52,8 @@ public:
     bool operator==(const AppTheme&) const = default;
 };
 
-/// The twelve themes in the order in which the settings window offers them, built on first use. The first is
-/// Midnight, which applies when no theme has the stored id.
+/// The twelve themes in the order of the settings window, built on first use. The first, Midnight, applies
+/// when no theme has the stored id.
 [[nodiscard]] const QList<AppTheme>& builtInThemes();
 
 } // namespace orvelle

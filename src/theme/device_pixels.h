@@ -2,14 +2,13 @@
 
 #include <QPainter>
 
-/// Where whole device pixels lie under a painter's present transformation.
+/// Device pixels under a painter's current transformation, which must not rotate or shear.
 namespace orvelle {
 
-/// Device pixels that one point covers, the screen's device pixel ratio included. Meant for painters that are
-/// only moved and scaled.
+/// The number of device pixels per point, including the screen's device pixel ratio.
 [[nodiscard]] double devicePixelsPerPoint(const QPainter& painter);
 
-/// The nearest position, in the painter's own points, that falls on a corner of a device pixel.
+/// The nearest position, in the painter's points, that is a corner of a device pixel.
 [[nodiscard]] QPointF snappedToDevicePixels(const QPainter& painter, const QPointF& position);
 
 } // namespace orvelle

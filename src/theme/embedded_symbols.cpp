@@ -1,4 +1,4 @@
-#include "theme/symbol_shapes.h"
+#include "theme/symbols.h"
 
 #include <QFile>
 #include <QPainter>
@@ -11,7 +11,7 @@ QString resourcePath(QStringView name) {
     return QStringLiteral(":/symbols/%1.svg").arg(name);
 }
 
-/// Width of the stroke laid around the 16-unit outline to make it heavier.
+/// The width of the stroke that thickens the 16-unit outline.
 double strokeUnits(QFont::Weight weight) {
     if (weight >= QFont::Bold)
         return 0.7;
@@ -35,11 +35,11 @@ QByteArray readOutline(QStringView name, QFont::Weight weight) {
 
 } // namespace
 
-bool hasSymbolShape(QStringView name) {
+bool isKnownSymbol(QStringView name) {
     return QFile::exists(resourcePath(name));
 }
 
-QImage symbolShape(QStringView name, int side, QFont::Weight weight) {
+QImage rasterizeSymbol(QStringView name, int side, QFont::Weight weight) {
     QSvgRenderer renderer(readOutline(name, weight));
     if (!renderer.isValid())
         return {};

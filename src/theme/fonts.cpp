@@ -1,10 +1,10 @@
 #include "theme/fonts.h"
 
-#include "theme/font_changes.h"
-
+#include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHash>
+#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -17,18 +17,18 @@ namespace {
 
 enum class FontRole { proportional, monospaced, rounded };
 
-/// What makes a font: its role, its size in logical pixels, its weight, and the screen's dots per inch.
-using WantedFont = std::tuple<FontRole, double, int, int>;
+/// The key of the cache: role, size in logical pixels, weight, and the screen's dots per inch.
+using FontKey = std::tuple<FontRole, double, int, int>;
 
-/// What has been looked up since the last change.
+/// What has been looked up since the fonts last changed.
 struct FontCache {
     QHash<FontRole, QFont> bases;
-    std::map<WantedFont, QFont> fonts;
+    std::map<FontKey, QFont> fonts;
 };
 
 FontCache& cache() {
-    static FontCache kept;
-    return kept;
+    static FontCache fonts;
+    return fonts;
 }
 
 DesktopFontNames& announced() {
@@ -36,7 +36,7 @@ DesktopFontNames& announced() {
     return names;
 }
 
-/// What fontconfig and Qt answer when the desktop has chosen nothing.
+/// Whether fontconfig or Qt names this family because the desktop has chosen none.
 bool isGenericFamily(const QString& family) {
     static const QStringList generic = {QStringLiteral("Sans Serif"), QStringLiteral("Sans"),
                                         QStringLiteral("sans-serif"), QStringLiteral("Helvetica"),
@@ -44,7 +44,7 @@ bool isGenericFamily(const QString& family) {
     return family.isEmpty() || generic.contains(family);
 }
 
-/// The first of `candidates` that is installed, else an empty string.
+/// The first of `candidates` that is installed, or an empty string.
 QString firstInstalled(const QStringList& candidates) {
     const QStringList installed = QFontDatabase::families();
     for (const QString& candidate : candidates) {
@@ -68,7 +68,7 @@ QStringList candidateFamilies(FontRole role) {
     return {};
 }
 
-/// The installed family that the desktop announces for this role, else an empty string.
+/// The installed family that the desktop announces for this role, or an empty string.
 QString announcedFamily(FontRole role) {
     if (role == FontRole::rounded)
         return {};
@@ -99,7 +99,7 @@ int logicalDotsPerInch() {
     return screen != nullptr ? qRound(screen->logicalDotsPerInchY()) : 96;
 }
 
-/// A pixel size can only be whole; a fractional one goes through points at the screen's resolution.
+/// QFont takes whole pixel sizes only; a fractional size is set in points at the screen's resolution.
 void setLogicalPixelSize(QFont& font, double pixels, int dotsPerInch) {
     if (std::rint(pixels) == pixels) {
         font.setPixelSize(static_cast<int>(pixels));
@@ -109,8 +109,8 @@ void setLogicalPixelSize(QFont& font, double pixels, int dotsPerInch) {
     font.setPointSizeF(pixels * pointsPerInch / dotsPerInch);
 }
 
-/// Looked up once: asking for the installed families walks the whole font database.
-const QFont& keptBaseFont(FontRole role) {
+/// Cached, because asking for the installed families walks the whole font database.
+const QFont& cachedBaseFont(FontRole role) {
     QHash<FontRole, QFont>& bases = cache().bases;
     auto base = bases.find(role);
     if (base == bases.end())
@@ -118,21 +118,46 @@ const QFont& keptBaseFont(FontRole role) {
     return *base;
 }
 
-/// Made once for each size, because a font that is made anew looks for its glyphs anew.
+/// Cached for each key, because a new QFont looks up its glyphs again.
 QFont makeFont(FontRole role, double size, QFont::Weight weight) {
     constexpr double largestSize = 1000;
     const double pixels = size > 0 ? std::min(size, largestSize) : 1;
     const int dotsPerInch = logicalDotsPerInch();
-    const auto [made, isNew] = cache().fonts.try_emplace(WantedFont(role, pixels, weight, dotsPerInch));
+    const auto [made, isNew] = cache().fonts.try_emplace(FontKey(role, pixels, weight, dotsPerInch));
     if (isNew) {
-        made->second = keptBaseFont(role);
+        made->second = cachedBaseFont(role);
         setLogicalPixelSize(made->second, pixels, dotsPerInch);
         made->second.setWeight(weight);
     }
     return made->second;
 }
 
+/// Drops the cached fonts and signals it.
+void resetFonts() {
+    cache() = {};
+    Q_EMIT FontChanges::shared().changed();
+}
+
 } // namespace
+
+FontChanges::FontChanges(QObject* application)
+    : QObject(application) {
+    application->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &resetFonts);
+}
+
+FontChanges& FontChanges::shared() {
+    static QPointer<FontChanges> changes;
+    if (changes == nullptr)
+        changes = new FontChanges(QCoreApplication::instance());
+    return *changes;
+}
+
+bool FontChanges::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationFontChange && watched == parent())
+        resetFonts();
+    return false;
+}
 
 QFont systemFont(double size, QFont::Weight weight) {
     return makeFont(FontRole::proportional, size, weight);
@@ -150,19 +175,14 @@ void setDesktopFontNames(const DesktopFontNames& names) {
     if (announced() == names)
         return;
     announced() = names;
-    lookUpFontsAnew();
-}
-
-void lookUpFontsAnew() {
-    cache() = {};
-    Q_EMIT FontChanges::shared().changed();
+    resetFonts();
 }
 
 QString describedFamily(const QString& description, const QStringList& families) {
-    constexpr qsizetype longest = 256; // of a description that is worth reading
-    for (const QString& choice : description.left(longest).split(u',')) {
+    constexpr qsizetype maximumLength = 256; // of a plausible description
+    for (const QString& choice : description.left(maximumLength).split(u',')) {
         const QStringList words = choice.simplified().split(u' ');
-        // Names have several words, and so have styles: the longest name that is installed is meant.
+        // Names and styles both have several words: the longest installed name is meant.
         for (qsizetype count = words.size(); count > 0; --count) {
             const QString name = words.first(count).join(u' ');
             const auto found = std::ranges::find_if(families, [&name](const QString& family) {

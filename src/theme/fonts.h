@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QFont>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
-/// The desktop's fonts by role. Sizes are points of the design, which are logical pixels on every screen: the
-/// same number of pixels whatever the screen's dots per inch, multiplied only by the device pixel ratio.
-/// Fractional sizes are kept. Fonts change while the program runs: see theme/font_changes.h. Where the
-/// desktop names no font of its own, a well-made family that is installed is taken instead of the generic
+/// The desktop's fonts by role. A size is in points of the design, which are logical pixels on every screen:
+/// only the device pixel ratio scales them, the screen's dots per inch do not. Fractional sizes are kept.
+/// Where the desktop names no font of its own, an installed family of good quality replaces the generic
 /// alias. A size that is not above 0 counts as 1, one above 1000 as 1000. Main thread only; needs a
 /// QGuiApplication.
 namespace orvelle {
@@ -21,8 +21,28 @@ namespace orvelle {
 /// A family with rounded strokes where one is installed, else the same as `systemFont`.
 [[nodiscard]] QFont roundedSystemFont(double size, QFont::Weight weight = QFont::Normal);
 
+/// Signals that the fonts above may have changed, with the desktop's choice or with what is installed, so
+/// that texts must be laid out again. Main thread only.
+class FontChanges final : public QObject {
+    Q_OBJECT
+
+public:
+    /// The instance of the process. It lives as long as the application object.
+    [[nodiscard]] static FontChanges& shared();
+
+Q_SIGNALS:
+    /// Fonts that are asked for from now on may differ.
+    void changed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit FontChanges(QObject* application);
+};
+
 /// The fonts that a desktop announces to all its programs, as descriptions: "Noto Sans Bold 11". Empty where
-/// it does not say.
+/// it announces none.
 struct DesktopFontNames {
     QString proportional;
     QString monospaced;
@@ -30,15 +50,12 @@ struct DesktopFontNames {
     bool operator==(const DesktopFontNames&) const = default;
 };
 
-/// What the desktop announces goes before what Qt knows of it, where such a family is installed: Qt asks the
-/// desktop once, or not at all.
+/// Sets what the desktop announces. It takes precedence over what Qt knows, where such a family is installed:
+/// Qt asks the desktop once, or not at all.
 void setDesktopFontNames(const DesktopFontNames& names);
 
-/// Forgets what has been looked up, and tells it by `FontChanges`.
-void lookUpFontsAnew();
-
-/// The one of `families` that a description names: a comma separates several families to choose from, and
-/// style and size follow the name. An empty string when there is none of them.
+/// The one of `families` that a description names, or an empty string. A comma separates alternatives, and
+/// style and size follow the name.
 [[nodiscard]] QString describedFamily(const QString& description, const QStringList& families);
 
 } // namespace orvelle

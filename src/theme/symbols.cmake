@@ -1,5 +1,5 @@
-# Which picture each symbol name shows. Pictures come from the Bootstrap Icons (MIT), which are embedded in the
-# program; those that the collection lacks, or draws too finely for ten points, are our own in symbols/.
+# Maps symbol names to pictures. The Bootstrap Icons (MIT) are embedded in the program; symbols/ holds our own where
+# that collection has none, or one with strokes too thin for ten points.
 find_path(ORVELLE_BOOTSTRAP_ICONS_DIR NAMES memory.svg cpu.svg lightning-charge-fill.svg
   PATH_SUFFIXES share/bootstrap-icons/svg bootstrap-icons/svg
   DOC "Folder of the Bootstrap Icons' SVG files")

@@ -1,9 +1,10 @@
 #include "theme/symbols.h"
 
 #include "theme/device_pixels.h"
-#include "theme/symbol_shapes.h"
 
 #include <QCache>
+#include <QPixmap>
+#include <QSvgRenderer>
 
 #include <algorithm>
 
@@ -26,7 +27,7 @@ size_t qHash(const SymbolKey& key, size_t seed = 0) {
 
 QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
     const int side = std::max(1, qRound(symbolExtent(key.fontSize) * key.devicePixelRatio));
-    QImage image = symbolShape(key.name, side, weight);
+    QImage image = rasterizeSymbol(key.name, side, weight);
     if (image.isNull()) {
         qWarning("No symbol is named \"%s\"", qUtf8Printable(key.name));
         return {};
@@ -40,10 +41,6 @@ QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
 }
 
 } // namespace
-
-bool isKnownSymbol(QStringView name) {
-    return hasSymbolShape(name);
-}
 
 QImage symbolImage(QStringView name, double fontSize, const QColor& color, double devicePixelRatio,
                    QFont::Weight weight) {
@@ -70,6 +67,20 @@ void paintSymbol(QPainter& painter, QStringView name, const QPointF& center, dou
     const QSizeF size = image.deviceIndependentSize();
     const QPointF topLeft = center - QPointF(size.width() / 2, size.height() / 2);
     painter.drawImage(QRectF(snappedToDevicePixels(painter, topLeft), size), image);
+}
+
+QIcon programIcon() {
+    QSvgRenderer drawing(QStringLiteral(":/orvelle.svg"));
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 128}) {
+        QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(QPixmap::fromImage(picture));
+    }
+    return icon;
 }
 
 } // namespace orvelle

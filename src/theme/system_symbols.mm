@@ -1,4 +1,4 @@
-#include "theme/symbol_shapes.h"
+#include "theme/symbols.h"
 
 #include <AppKit/AppKit.h>
 
@@ -6,11 +6,11 @@
 #include <array>
 #include <cstdint>
 
-// The system's own symbols have the names that the program uses. Compiled with manual reference counting.
+// The program uses the names of the system's symbols. Compiled with manual reference counting.
 namespace orvelle {
 namespace {
 
-/// Gives back at its end every object that was lent while it lived.
+/// Releases the objects that were autoreleased during its lifetime.
 class ReleasePool {
   public:
     ReleasePool() = default;
@@ -35,7 +35,7 @@ NSFontWeight systemWeight(QFont::Weight weight) {
     return weight >= QFont::Medium ? NSFontWeightMedium : NSFontWeightRegular;
 }
 
-/// In the middle of the square, no larger than it, in the symbol's own proportions.
+/// Centres the symbol in the square, in its own proportions and scaled down to fit.
 NSRect placeInSquare(NSSize size, CGFloat side) {
     const CGFloat scale = std::min({CGFloat{1}, side / size.width, side / size.height});
     const CGFloat width = size.width * scale;
@@ -50,7 +50,7 @@ void draw(NSImage* symbol, CGContextRef context, CGFloat side) {
     [NSGraphicsContext restoreGraphicsState];
 }
 
-/// A context that draws into the pixels of the image; null when the system cannot make one.
+/// A context that draws into the image; null when the system cannot create one.
 CGContextRef createContext(QImage& image) {
     constexpr std::size_t bitsPerComponent = 8;
     constexpr auto layout = static_cast<std::uint32_t>(kCGImageAlphaPremultipliedFirst) |
@@ -65,12 +65,12 @@ CGContextRef createContext(QImage& image) {
 
 } // namespace
 
-bool hasSymbolShape(QStringView name) {
+bool isKnownSymbol(QStringView name) {
     const ReleasePool pool;
     return namedSymbol(name) != nil;
 }
 
-QImage symbolShape(QStringView name, int side, QFont::Weight weight) {
+QImage rasterizeSymbol(QStringView name, int side, QFont::Weight weight) {
     const ReleasePool pool;
     constexpr CGFloat sidePerPointSize = 1.2;
     NSImage* const symbol =

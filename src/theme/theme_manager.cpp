@@ -1,7 +1,7 @@
 #include "theme/theme_manager.h"
 
 #include "settings/settings_store.h"
-#include "theme/hex_color.h"
+#include "theme/colors.h"
 
 #include <algorithm>
 

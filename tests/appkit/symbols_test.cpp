@@ -1,5 +1,5 @@
 #include "appkit/program.h"
-#include "theme/symbol_shapes.h"
+#include "theme/symbols.h"
 
 namespace orvelle {
 namespace {
@@ -8,13 +8,13 @@ using namespace simulated;
 
 class SystemSymbolsTest : public AppKitTest {
 protected:
-    static QImage shape(QFont::Weight weight = QFont::Normal) { return symbolShape(u"cpu", 24, weight); }
+    static QImage shape(QFont::Weight weight = QFont::Normal) { return rasterizeSymbol(u"cpu", 24, weight); }
 };
 
 TEST_F(SystemSymbolsTest, AreThoseThatTheSystemKnows) {
-    EXPECT_TRUE(hasSymbolShape(u"cpu"));
-    EXPECT_FALSE(hasSymbolShape(u"no.such.symbol"));
-    EXPECT_TRUE(symbolShape(u"no.such.symbol", 24, QFont::Normal).isNull());
+    EXPECT_TRUE(isKnownSymbol(u"cpu"));
+    EXPECT_FALSE(isKnownSymbol(u"no.such.symbol"));
+    EXPECT_TRUE(rasterizeSymbol(u"no.such.symbol", 24, QFont::Normal).isNull());
 }
 
 TEST_F(SystemSymbolsTest, StandInTheMiddleOfTheirSquareInTheirOwnProportions) {

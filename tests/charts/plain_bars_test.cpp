@@ -1,7 +1,7 @@
 #include "at_scale.h"
 #include "charts/plain_bars.h"
 #include "support/odd_numbers.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

@@ -1,6 +1,6 @@
 #include "charts/ring_geometry.h"
 #include "support/odd_numbers.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "menu_bar/battery_glyph.h"
 #include "menu_bar/battery_menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <limits>
 

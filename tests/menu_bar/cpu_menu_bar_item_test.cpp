@@ -3,7 +3,7 @@
 #include "menu_bar/cpu_menu_bar_item.h"
 #include "menu_bar/scene_layout.h"
 #include "platform/replay/fake_sources.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <cmath>
 

@@ -4,7 +4,7 @@
 #include "menu_bar/disk_menu_bar_item.h"
 #include "menu_bar/menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

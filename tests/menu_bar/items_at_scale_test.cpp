@@ -5,8 +5,7 @@
 #include "menu_bar/memory_menu_bar_item.h"
 #include "menu_bar/sensor_menu_bar_item.h"
 #include "platform/replay/fake_machine.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <cstdlib>
 

@@ -4,9 +4,8 @@
 #include "menu_bar/menu_bar_item.h"
 #include "menu_bar/network_menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
 
 namespace orvelle {
 namespace {

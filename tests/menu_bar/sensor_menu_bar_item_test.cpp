@@ -2,9 +2,8 @@
 #include "item_fixture.h"
 #include "menu_bar/sensor_menu_bar_item.h"
 #include "platform/replay/fake_sources.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
-#include "theme/system_colors.h"
 
 namespace orvelle {
 namespace {

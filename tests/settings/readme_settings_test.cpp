@@ -1,7 +1,7 @@
 #include "settings/settings_store.h"
 #include "support/temporary_settings.h"
 #include "theme/app_theme.h"
-#include "theme/hex_color.h"
+#include "theme/colors.h"
 
 #include <QMetaProperty>
 
@@ -19,7 +19,7 @@ struct ReadmeRow {
     QString defaultValue;
 };
 
-/// What stands between back quotes, where keys and values do.
+/// The texts between back quotes, which are keys and values.
 QStringList codeSpans(const QString& cell) {
     const QStringList parts = cell.split(u'`');
     QStringList spans;
@@ -59,14 +59,14 @@ QString keyOf(const QMetaProperty& property) {
     return QString::fromLatin1(property.name());
 }
 
-/// The row of a property; an empty one where the table has none.
+/// The row of a property, empty if it is missing.
 ReadmeRow rowOf(const QMetaProperty& property) {
     static const QList<ReadmeRow> rows = readmeRows();
     const auto row = std::ranges::find(rows, keyOf(property), &ReadmeRow::key);
     return row == rows.end() ? ReadmeRow() : *row;
 }
 
-/// The values of a property that has only a few; empty for another one.
+/// All values of a property that has only a few, else an empty list.
 QStringList allValues(const QMetaProperty& property) {
     if (property.metaType() == QMetaType::fromType<bool>())
         return {u"true"_s, u"false"_s};
@@ -90,7 +90,7 @@ TEST(ReadmeSettingsTest, HasARowForEachSettingInTheStoresOrder) {
     EXPECT_EQ(listed, keys) << listed.join(u' ').toStdString();
 }
 
-TEST(ReadmeSettingsTest, TellsTheDefaultOfEverySetting) {
+TEST(ReadmeSettingsTest, StatesTheDefaultOfEverySetting) {
     const TemporarySettings settings;
     const SettingsStore store(settings.path());
     for (const QMetaProperty& property : storedProperties()) {
@@ -100,7 +100,7 @@ TEST(ReadmeSettingsTest, TellsTheDefaultOfEverySetting) {
     }
 }
 
-TEST(ReadmeSettingsTest, TellsEveryValueOfASwitchAChoiceAndTheTheme) {
+TEST(ReadmeSettingsTest, ListsEveryValueOfASwitchAChoiceAndTheTheme) {
     qsizetype choices = 0;
     for (const QMetaProperty& property : storedProperties()) {
         const QStringList values = allValues(property);
@@ -112,7 +112,7 @@ TEST(ReadmeSettingsTest, TellsEveryValueOfASwitchAChoiceAndTheTheme) {
     EXPECT_EQ(choices, 25);
 }
 
-TEST(ReadmeSettingsTest, TellsTheLimitsOfTheInterval) {
+TEST(ReadmeSettingsTest, StatesTheLimitsOfTheInterval) {
     const QMetaObject& meta = SettingsStore::staticMetaObject;
     const QStringList limits = codeSpans(rowOf(meta.property(meta.indexOfProperty("updateInterval"))).values);
     EXPECT_EQ(limits, (QStringList{u"0"_s, QString::number(maximumIntervalSeconds)}));
@@ -120,7 +120,7 @@ TEST(ReadmeSettingsTest, TellsTheLimitsOfTheInterval) {
     EXPECT_TRUE(isLegalSetting(maximumIntervalSeconds));
 }
 
-TEST(ReadmeSettingsTest, GivesAnExampleOfEachColourThatIsRead) {
+TEST(ReadmeSettingsTest, GivesAValidExampleForEachColor) {
     qsizetype colors = 0;
     for (const QMetaProperty& property : storedProperties()) {
         if (!keyOf(property).endsWith("ColorHex"_L1))

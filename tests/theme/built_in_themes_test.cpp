@@ -1,5 +1,5 @@
 #include "theme/app_theme.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <QMetaProperty>
 #include <gtest/gtest.h>
@@ -111,7 +111,7 @@ TEST(BuiltInThemesTest, HaveTheColorsOfTheTableInItsOrder) {
     }
 }
 
-TEST(BuiltInThemesTest, TheFieldsHaveTheirNamesInOrder) {
+TEST(BuiltInThemesTest, NameTheirFieldsInOrder) {
     const std::array names{"id",
                            "name",
                            "cpuColor",
@@ -138,14 +138,14 @@ TEST(BuiltInThemesTest, AreBuiltOnce) {
     EXPECT_EQ(&builtInThemes(), &builtInThemes());
 }
 
-TEST(BuiltInThemesTest, GridLinesAreTranslucentEverywhere) {
+TEST(BuiltInThemesTest, HaveTranslucentGridLines) {
     for (const AppTheme& theme : builtInThemes()) {
         EXPECT_GT(theme.graphGrid.alphaF(), 0.0F) << theme.id.toStdString();
         EXPECT_LT(theme.graphGrid.alphaF(), 0.2F) << theme.id.toStdString();
     }
 }
 
-TEST(BuiltInThemesTest, MidnightUsesTheSystemsColors) {
+TEST(BuiltInThemesTest, UseSystemColorsInMidnight) {
     const AppTheme& midnight = builtInThemes().front();
     EXPECT_EQ(midnight.networkDownloadColor, SystemColors::cyan);
     EXPECT_EQ(midnight.networkUploadColor, SystemColors::orange);

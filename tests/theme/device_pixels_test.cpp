@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-TEST(DevicePixels, AreCountedWithTheScreensRatioAndThePaintersScale) {
+TEST(DevicePixels, CombineTheScreensRatioAndThePaintersScale) {
     QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(1.5);
     QPainter painter(&image);
@@ -15,7 +15,7 @@ TEST(DevicePixels, AreCountedWithTheScreensRatioAndThePaintersScale) {
     EXPECT_DOUBLE_EQ(devicePixelsPerPoint(painter), 3);
 }
 
-TEST(DevicePixels, APositionMovesToTheNearestPixelCorner) {
+TEST(DevicePixels, SnapAPositionToTheNearestPixelCorner) {
     QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(2);
     QPainter painter(&image);
@@ -24,7 +24,7 @@ TEST(DevicePixels, APositionMovesToTheNearestPixelCorner) {
     EXPECT_EQ(snappedToDevicePixels(painter, QPointF(3.3, 4)) + QPointF(0.2, 0), QPointF(3.5, 4));
 }
 
-TEST(DevicePixels, APositionStaysWhereThePainterCollapsesEverything) {
+TEST(DevicePixels, LeaveAPositionWhenTheTransformationCannotBeInverted) {
     QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     painter.scale(0, 0);

@@ -1,4 +1,3 @@
-#include "theme/font_changes.h"
 #include "theme/fonts.h"
 
 #include <QFontDatabase>
@@ -12,25 +11,25 @@
 namespace orvelle {
 namespace {
 
-TEST(Fonts, AWholeSizeIsThatManyPixels) {
+TEST(Fonts, HaveAWholeSizeInPixels) {
     EXPECT_EQ(systemFont(11).pixelSize(), 11);
     EXPECT_EQ(monospacedSystemFont(8, QFont::Medium).pixelSize(), 8);
 }
 
-TEST(Fonts, AFractionalSizeIsKept) {
+TEST(Fonts, KeepAFractionalSize) {
     const double between = QFontMetricsF(systemFont(14.5)).height();
     EXPECT_NEAR(QFontInfo(systemFont(14.5)).pointSizeF() * 96 / 72, 14.5, 0.5);
     EXPECT_GE(between, QFontMetricsF(systemFont(14)).height());
     EXPECT_LE(between, QFontMetricsF(systemFont(15)).height());
 }
 
-TEST(Fonts, TheWeightIsAsAsked) {
+TEST(Fonts, HaveTheRequestedWeight) {
     EXPECT_EQ(systemFont(10, QFont::DemiBold).weight(), QFont::DemiBold);
     EXPECT_EQ(systemFont(10).weight(), QFont::Normal);
     EXPECT_EQ(roundedSystemFont(14, QFont::Bold).weight(), QFont::Bold);
 }
 
-TEST(Fonts, EveryMonospacedGlyphHasTheSameAdvance) {
+TEST(Fonts, HaveTheSameAdvanceForEveryMonospacedGlyph) {
     const QFontMetricsF metrics(monospacedSystemFont(11, QFont::Medium));
     EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(QStringLiteral("1")),
                      metrics.horizontalAdvance(QStringLiteral("0")));
@@ -38,7 +37,7 @@ TEST(Fonts, EveryMonospacedGlyphHasTheSameAdvance) {
                      metrics.horizontalAdvance(QStringLiteral(".")));
 }
 
-TEST(Fonts, ASizeWithoutMeaningIsMadeDrawable) {
+TEST(Fonts, ClampASizeThatCannotBeDrawn) {
     EXPECT_EQ(systemFont(0).pixelSize(), 1);
     EXPECT_EQ(systemFont(-4).pixelSize(), 1);
     EXPECT_EQ(systemFont(std::numeric_limits<double>::quiet_NaN()).pixelSize(), 1);
@@ -61,13 +60,13 @@ TEST(DescribedFamily, IsTheLongestInstalledNameBeforeStyleAndSize) {
         EXPECT_EQ(found(other), "") << QString::fromUtf16(other).toStdString();
 }
 
-TEST(DescribedFamily, OfAnEndlessDescriptionIsNone) {
+TEST(DescribedFamily, IsEmptyForAnEndlessDescription) {
     EXPECT_EQ(
         describedFamily(QString(1 << 20, u' ') + QStringLiteral("Cantarell"), {QStringLiteral("Cantarell")}),
         QString());
 }
 
-/// The desktop chooses fonts while the program runs. The fonts of these tests are installed by `./test`.
+/// The desktop changes its fonts while the program runs. `./test` installs the fonts of these tests.
 class ChangedFonts : public ::testing::Test {
 protected:
     ChangedFonts() {
@@ -82,7 +81,7 @@ private:
     QObject m_listener;
 };
 
-TEST_F(ChangedFonts, AreThoseThatTheDesktopAnnounces) {
+TEST_F(ChangedFonts, AreTheOnesThatTheDesktopAnnounces) {
     setDesktopFontNames({.proportional = QStringLiteral("DejaVu Serif Bold 11"),
                          .monospaced = QStringLiteral("DejaVu Sans 9")});
     EXPECT_EQ(changes, 1);
@@ -90,25 +89,26 @@ TEST_F(ChangedFonts, AreThoseThatTheDesktopAnnounces) {
     EXPECT_EQ(systemFont(11).pixelSize(), 11);
     EXPECT_EQ(systemFont(11).weight(), QFont::Normal);
     EXPECT_EQ(monospacedSystemFont(11).family(), QStringLiteral("DejaVu Sans"));
-    EXPECT_EQ(roundedSystemFont(14).family(), QStringLiteral("DejaVu Serif")) << "none is rounded here";
+    EXPECT_EQ(roundedSystemFont(14).family(), QStringLiteral("DejaVu Serif"))
+        << "no rounded family is installed";
     setDesktopFontNames({});
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(systemFont(11).family(), ordinary);
 }
 
-TEST_F(ChangedFonts, AreToldOnce) {
+TEST_F(ChangedFonts, AreSignalledOnce) {
     for (int count = 0; count < 3; ++count)
         setDesktopFontNames({.proportional = QStringLiteral("DejaVu Serif 11"), .monospaced = {}});
     EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ChangedFonts, AreTheOrdinaryOnesWhereNoneOfThatNameIsInstalled) {
+TEST_F(ChangedFonts, AreTheOrdinaryOnesWhenTheAnnouncedOnesAreNotInstalled) {
     setDesktopFontNames(
         {.proportional = QStringLiteral("No Such Font 11"), .monospaced = QStringLiteral("Sans 9")});
     EXPECT_EQ(systemFont(11).family(), ordinary);
 }
 
-TEST_F(ChangedFonts, AreLookedForWhenOthersAreInstalled) {
+TEST_F(ChangedFonts, AreLookedUpAgainWhenFontsAreInstalled) {
     const QString file = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuMathTeXGyre.ttf");
     const QString family = QStringLiteral("DejaVu Math TeX Gyre");
     if (QFontDatabase::families().contains(family))
@@ -124,7 +124,7 @@ TEST_F(ChangedFonts, AreLookedForWhenOthersAreInstalled) {
     EXPECT_EQ(systemFont(11).family(), ordinary);
 }
 
-TEST_F(ChangedFonts, AreToldWhenQtTellsOfThem) {
+TEST_F(ChangedFonts, AreSignalledWhenQtChangesTheApplicationFont) {
     const QFont before = QGuiApplication::font();
     QGuiApplication::setFont(QFont(QStringLiteral("DejaVu Serif"), 20)); // as the desktops' plugins do
     EXPECT_EQ(changes, 1);

@@ -1,6 +1,7 @@
 #include "support/pixels.h"
 #include "theme/symbols.h"
 
+#include <QPixmap>
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -12,12 +13,12 @@ const QColor tint = QColor(10, 200, 30);
 
 class SymbolNames : public ::testing::TestWithParam<const char*> {};
 
-TEST_P(SymbolNames, HasAPictureInTheAskedColour) {
+TEST_P(SymbolNames, HasAPictureInTheRequestedColor) {
     const QString name = QString::fromLatin1(GetParam());
     EXPECT_TRUE(isKnownSymbol(name));
     const QImage image = symbolImage(name, 24, tint, 2);
     ASSERT_FALSE(image.isNull());
-    EXPECT_GT(countPixels(image, tint), 100) << "solid parts carry the colour itself";
+    EXPECT_GT(countPixels(image, tint), 100) << "solid areas have exactly the color";
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "the corner is empty";
 }
 
@@ -31,7 +32,7 @@ INSTANTIATE_TEST_SUITE_P(All, SymbolNames,
                                            "textformat.size", "text.badge.star", "waveform.path",
                                            "circle.grid.2x1.fill"));
 
-TEST(Symbols, AnImageHasWholeDevicePixelsOfOnePointTwoTimesTheFontSize) {
+TEST(Symbols, AreOnePointTwoTimesTheFontSizeInWholeDevicePixels) {
     EXPECT_EQ(symbolImage(u"cpu", 10, tint, 1).size(), QSize(12, 12));
     EXPECT_EQ(symbolImage(u"cpu", 10, tint, 1.5).size(), QSize(18, 18));
     EXPECT_EQ(symbolImage(u"cpu", 10, tint, 2).size(), QSize(24, 24));
@@ -39,32 +40,32 @@ TEST(Symbols, AnImageHasWholeDevicePixelsOfOnePointTwoTimesTheFontSize) {
     EXPECT_EQ(symbolImage(u"cpu", 6, tint, 1).size(), QSize(7, 7));
 }
 
-TEST(Symbols, ATranslucentColourStaysTranslucent) {
+TEST(Symbols, StayTranslucentInATranslucentColor) {
     const QImage image = symbolImage(u"bolt.fill", 20, QColor(255, 0, 0, 102), 1);
     EXPECT_EQ(image.pixelColor(image.rect().center()).alpha(), 102);
 }
 
-TEST(Symbols, AHeavierWeightCoversMore) {
+TEST(Symbols, CoverMoreInAHeavierWeight) {
     const double normal = coveredArea(symbolImage(u"power", 14, tint, 2));
     const double bold = coveredArea(symbolImage(u"power", 14, tint, 2, QFont::Bold));
     EXPECT_GT(bold, normal * 1.2);
 }
 
-TEST(Symbols, AskingAgainReturnsTheKeptImage) {
+TEST(Symbols, ReturnTheCachedImageWhenRequestedAgain) {
     const QImage first = symbolImage(u"wifi", 11, tint, 1);
     EXPECT_EQ(symbolImage(u"wifi", 11, tint, 1).cacheKey(), first.cacheKey());
     EXPECT_NE(symbolImage(u"wifi", 11, QColor(Qt::white), 1).cacheKey(), first.cacheKey());
     EXPECT_NE(symbolImage(u"wifi", 11, tint, 1, QFont::Bold).cacheKey(), first.cacheKey());
 }
 
-TEST(Symbols, ManyColoursDoNotFillTheMemory) {
+TEST(Symbols, LeaveTheCacheWhenManyColorsFollow) {
     const QImage first = symbolImage(u"wifi", 40, QColor(0, 0, 0), 2);
     for (int green = 1; green < 256; ++green)
         ASSERT_FALSE(symbolImage(u"wifi", 40, QColor(0, green, 0), 2).isNull());
     EXPECT_NE(symbolImage(u"wifi", 40, QColor(0, 0, 0), 2).cacheKey(), first.cacheKey());
 }
 
-TEST(Symbols, AnUnknownNameOrASizeWithoutMeaningDrawsNothing) {
+TEST(Symbols, AreNullForAnUnknownNameOrAnInvalidSize) {
     EXPECT_FALSE(isKnownSymbol(u"no.such.symbol"));
     EXPECT_TRUE(symbolImage(u"no.such.symbol", 10, tint, 1).isNull());
     EXPECT_TRUE(symbolImage(u"../symbols/cpu/../../etc", 10, tint, 1).isNull());
@@ -76,7 +77,7 @@ TEST(Symbols, AnUnknownNameOrASizeWithoutMeaningDrawsNothing) {
 
 class PaintedSymbol : public ::testing::TestWithParam<double> {};
 
-TEST_P(PaintedSymbol, IsTheSameCrispImageWhereverItsCentreFallsWithinAPixel) {
+TEST_P(PaintedSymbol, IsTheSameCrispImageWhereverItsCenterFallsWithinAPixel) {
     const double ratio = GetParam();
     const auto painted = [ratio](const QPointF& center) {
         return paintedImage(QSizeF(20, 20), ratio,
@@ -90,6 +91,24 @@ TEST_P(PaintedSymbol, IsTheSameCrispImageWhereverItsCentreFallsWithinAPixel) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ratios, PaintedSymbol, ::testing::Values(1.0, 1.5, 2.0));
+
+TEST(ProgramIconTest, HasEverySizeThatWindowManagersUse) {
+    const QIcon icon = programIcon();
+    for (const int side : {16, 24, 32, 48, 64, 128})
+        EXPECT_TRUE(icon.availableSizes().contains(QSize(side, side))) << side;
+}
+
+TEST(ProgramIconTest, SeparatesItsThreeBarsEvenInSixteenPixels) {
+    const QImage picture = programIcon().pixmap(QSize(16, 16)).toImage();
+    EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0) << "rounded";
+    const auto brightness = [&](int x) { return picture.pixelColor(x, 10).value(); };
+    for (const int bar : {3, 7, 11}) {
+        EXPECT_GT(brightness(bar), 200) << bar;
+        EXPECT_GT(brightness(bar + 1), 200) << bar;
+    }
+    for (const int gap : {2, 5, 6, 9, 10, 13})
+        EXPECT_LT(brightness(gap), 100) << gap;
+}
 
 } // namespace
 } // namespace orvelle

@@ -2,7 +2,7 @@
 #include "charts/plain_bars.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

@@ -2,7 +2,7 @@
 #include "menu_bar/scene_painter.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

@@ -2,8 +2,7 @@
 #include "charts/sparkline_view.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

@@ -3,7 +3,7 @@
 #include "charts/temperature_gauge.h"
 #include "snapshot/sheets.h"
 #include "snapshot/style_cases.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 namespace orvelle {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "shell/painted/bar_accessibility.h"
 #include "shell/painted/bar_geometry.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 
 #include <QMouseEvent>
 #include <QPainter>

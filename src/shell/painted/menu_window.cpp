@@ -3,8 +3,8 @@
 #include "shell/painted/menu_accessibility.h"
 #include "shell/painted/menu_rules.h"
 #include "shell/painted/popup_geometry.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
-#include "theme/label_colors.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>

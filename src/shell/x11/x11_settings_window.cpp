@@ -6,7 +6,7 @@
 #include "shell/painted/window_frame.h"
 #include "shell/x11/present_desktop.h"
 #include "shell/x11/x11_connection.h"
-#include "theme/program_icon.h"
+#include "theme/symbols.h"
 
 #include <QEvent>
 #include <QGuiApplication>

@@ -2,7 +2,7 @@
 
 #include "animation/animation_timing.h"
 #include "charts/ring_geometry.h"
-#include "theme/font_changes.h"
+#include "theme/fonts.h"
 #include "windows/charts/optional_values.h"
 
 namespace orvelle {

@@ -1,7 +1,7 @@
 #include "windows/charts/temperature_gauge_item.h"
 
 #include "animation/animation_timing.h"
-#include "theme/font_changes.h"
+#include "theme/fonts.h"
 
 namespace orvelle {
 

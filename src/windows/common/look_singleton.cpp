@@ -1,6 +1,6 @@
 #include "windows/common/look_singleton.h"
 
-#include "theme/font_changes.h"
+#include "theme/fonts.h"
 
 namespace orvelle {
 

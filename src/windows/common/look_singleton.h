@@ -1,8 +1,6 @@
 #pragma once
 
-#include "theme/label_colors.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/common/look_fonts.h"
 
 #include <QObject>

@@ -2,7 +2,7 @@
 
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/panels/panel_texts.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 #include "windows/settings/preview_items.h"
 
 #include "charts/continuous_rounded_rect.h"
-#include "theme/opacity.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/settings/preview_rules.h"
 
 #include <QPainter>

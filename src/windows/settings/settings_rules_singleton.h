@@ -1,6 +1,6 @@
 #pragma once
 
-#include "theme/hex_color.h"
+#include "theme/colors.h"
 #include "theme/theme_manager.h"
 #include "windows/settings/choices.h"
 #include "windows/settings/color_parts.h"

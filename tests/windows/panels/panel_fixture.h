@@ -5,7 +5,7 @@
 #include "settings/settings_store.h"
 #include "support/frames.h"
 #include "support/temporary_settings.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "theme/theme_manager.h"
 #include "windows/common/quick_engine.h"
 #include "windows/panels/panel_factory.h"

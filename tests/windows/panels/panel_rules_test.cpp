@@ -1,6 +1,6 @@
 #include "core/network_monitor.h"
 #include "core/process_monitor.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/panels/panel_rules.h"
 
 #include <gtest/gtest.h>

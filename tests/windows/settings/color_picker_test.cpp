@@ -1,4 +1,4 @@
-#include "theme/hex_color.h"
+#include "theme/colors.h"
 #include "windows/settings/settings_fixture.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "animation/animation_clock.h"
 #include "support/manual_animations.h"
 #include "support/quick_timers.h"
-#include "theme/system_colors.h"
+#include "theme/colors.h"
 #include "windows/settings/settings_fixture.h"
 
 namespace orvelle {

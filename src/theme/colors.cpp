@@ -1,4 +1,4 @@
-#include "theme/hex_color.h"
+#include "theme/colors.h"
 
 #include <QTextBoundaryFinder>
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr qsizetype digitCount = 6;
 
-/// Characters as people count them: a letter and its accents are one.
+/// The number of user-perceived characters: a letter and its accents are one.
 qsizetype characterCount(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     qsizetype count = 0;
@@ -23,7 +23,7 @@ bool isHexadecimalDigit(QChar character) {
     return character.unicode() < 0x80 && std::isxdigit(character.unicode()) != 0;
 }
 
-/// The number that the leading digits spell; nothing when there is no digit.
+/// The number that the leading digits spell, or nothing without a digit.
 std::optional<uint> scanHexadecimal(QStringView text) {
     text = text.trimmed();
     if (text.startsWith(QLatin1StringView("0x"), Qt::CaseInsensitive))
@@ -34,12 +34,18 @@ std::optional<uint> scanHexadecimal(QStringView text) {
     return isNumber ? std::optional(number) : std::nullopt;
 }
 
-/// A colour keeps 16 bits per component, where 8-bit steps are 257 apart; whole numbers make the cut exact.
+/// `QColor` stores 16 bits per component, in which 8-bit steps are 257 apart. Integers round down exactly.
 uint steps255(quint16 component) {
     return component / 257U;
 }
 
 } // namespace
+
+QColor withOpacity(const QColor& color, double opacity) {
+    QColor result = color;
+    result.setAlphaF(static_cast<float>(std::clamp(color.alphaF() * opacity, 0.0, 1.0)));
+    return result;
+}
 
 std::optional<QColor> hexToColor(const QString& text) {
     QString digits = text.trimmed();
