@@ -13,7 +13,7 @@ bool isHexDigit(QChar character) {
     return QStringView(u"0123456789abcdefABCDEF").contains(character);
 }
 
-/// Takes the digits of a \x escape from the front.
+/// Consumes the digits of a \x escape.
 std::optional<QChar> takeCodeUnit(QStringView& text) {
     const auto* end = std::ranges::find_if_not(text, isHexDigit);
     bool isCodeUnit = false;
@@ -22,7 +22,7 @@ std::optional<QChar> takeCodeUnit(QStringView& text) {
     return isCodeUnit ? std::optional(QChar(unit)) : std::nullopt;
 }
 
-/// Takes a character, which may be an escape, from the front.
+/// Consumes one character or escape.
 std::optional<QChar> takeCharacter(QStringView& text) {
     constexpr QStringView letters(u"nrt\\\"");
     constexpr QStringView characters(u"\n\r\t\\\"");
@@ -37,8 +37,7 @@ std::optional<QChar> takeCharacter(QStringView& text) {
     return index < 0 ? std::nullopt : std::optional(characters.at(index));
 }
 
-/// The text that stands for a value, with or without quotes; nothing for a list, an unknown escape or a
-/// quote in the wrong place.
+/// The text of a value with or without quotes. Nothing for a list, an unknown escape or a misplaced quote.
 std::optional<QString> readText(QStringView value) {
     const bool isQuoted = value.startsWith(u'"');
     const QStringView ends = isQuoted ? u"\"" : u"\",";
@@ -73,7 +72,7 @@ bool needsNoQuotes(const QString& text) {
 
 QString quoted(const QString& text) {
     QString result = QStringLiteral("\"");
-    bool isBehindDigits = false; // of an escape, which has no end but the first character that is no digit
+    bool isBehindDigits = false; // of an escape, which only a character that is no digit ends
     for (const QChar character : text) {
         const ushort unit = character.unicode();
         isBehindDigits = unit < 0x20 || unit == 0x7F || character.isSurrogate() ||
@@ -94,20 +93,19 @@ QByteArray encoded(QString text) {
     return (needsNoQuotes(text) ? text : quoted(text)).toUtf8();
 }
 
-/// What follows the bracket, a comment say, does not matter.
+/// Whether the line is `[General]`; text behind the bracket is ignored.
 bool isGeneralHeader(QByteArrayView line) {
     const qsizetype end = line.indexOf(']');
     return end > 0 && line.sliced(1, end - 1).trimmed().compare("General", Qt::CaseInsensitive) == 0;
 }
 
-/// The key in a line, empty where it holds none.
+/// The key of a line, or nothing.
 QByteArrayView keyOf(QByteArrayView line) {
     const bool isComment = line.startsWith(';') || line.startsWith('#');
     return line.first(isComment ? 0 : std::max<qsizetype>(line.indexOf('='), 0)).trimmed();
 }
 
-/// How much of what stands behind the equals sign is the value. A quoted one may hold what begins a comment
-/// elsewhere.
+/// Strips the comment from the text behind an equals sign. A semicolon within quotes begins none.
 QByteArrayView withoutComment(QByteArrayView value) {
     qsizetype end = value.startsWith('"') ? 1 : 0;
     if (end == 1) {
@@ -118,14 +116,14 @@ QByteArrayView withoutComment(QByteArrayView value) {
     return (comment < 0 ? value : value.first(comment)).trimmed();
 }
 
-/// A line of the text, without blanks at its ends.
+/// A line without the blanks at its ends.
 struct Line {
     QByteArrayView text;
-    qsizetype end;  ///< behind its line feed
-    bool isGeneral; ///< in the section whose keys count, or the head of it
+    qsizetype end;  ///< offset behind its line feed
+    bool isGeneral; ///< in the general section, or its header
 };
 
-/// No list of lines is built: a hostile file may have a million.
+/// Builds no list of lines: a hostile file may have a million.
 template <class Visitor>
 void visitLines(const QByteArray& text, Visitor visit) {
     bool isGeneral = true;
@@ -140,16 +138,16 @@ void visitLines(const QByteArray& text, Visitor visit) {
     }
 }
 
-/// Where the value of a line stands in the text.
-struct Place {
+/// The range of a value in the text.
+struct Range {
     qsizetype begin;
     qsizetype length;
 };
 
-/// What a text holds of the wanted keys, and where others can follow.
+/// The wanted keys of a text, and where new ones belong.
 struct Findings {
-    std::map<QString, Place> places; ///< of equal keys the last
-    qsizetype end = -1;              ///< behind the last line of a general section that says anything
+    std::map<QString, Range> values; ///< the last of equal keys
+    qsizetype end = -1;              ///< behind the last key or header of a general section
     bool hasSections = false;
 };
 
@@ -167,9 +165,9 @@ Findings find(const QByteArray& text, const QStringList& keys) {
             return;
         const QByteArrayView behind = line.text.sliced(line.text.indexOf('=') + 1).trimmed();
         const QByteArrayView value = withoutComment(behind);
-        // Where nothing stands behind the sign, the value begins right behind it.
+        // A missing value begins right behind the sign.
         const char* begin = behind.isEmpty() ? line.text.data() + line.text.size() : value.data();
-        found.places[name] = {begin - text.constData(), value.size()};
+        found.values[name] = {begin - text.constData(), value.size()};
     });
     return found;
 }
@@ -179,7 +177,7 @@ QByteArray lineEndOf(const QByteArray& text) {
     return lineFeed > 0 && text[lineFeed - 1] == '\r' ? "\r\n" : "\n";
 }
 
-/// Adds lines for keys that have none yet.
+/// Adds lines for new keys.
 void add(QByteArray& text, const QByteArray& lines, const Findings& found, const QByteArray& lineEnd) {
     if (found.end >= 0) {
         const bool isOpen = text[found.end - 1] != '\n';
@@ -197,8 +195,8 @@ void add(QByteArray& text, const QByteArray& lines, const Findings& found, const
 
 QHash<QString, QString> values(const QByteArray& text, const QStringList& keys) {
     QHash<QString, QString> result;
-    for (const auto& [key, place] : find(text, keys).places) {
-        if (const auto value = decoded(QByteArrayView(text).sliced(place.begin, place.length)))
+    for (const auto& [key, range] : find(text, keys).values) {
+        if (const auto value = decoded(QByteArrayView(text).sliced(range.begin, range.length)))
             result.insert(key, *value);
     }
     return result;
@@ -212,19 +210,19 @@ QByteArray withValues(const QByteArray& text, const QHash<QString, QString>& val
     QByteArray result = text;
     QByteArray newLines;
     for (const QString& key : std::as_const(keys)) {
-        if (!found.places.contains(key))
+        if (!found.values.contains(key))
             newLines += key.toLatin1() + '=' + encoded(values.value(key)) + lineEnd;
     }
     if (!newLines.isEmpty())
         add(result, newLines, found, lineEnd);
-    // From behind, so that what is in front keeps its place. New lines stand behind every key.
-    std::vector<std::pair<Place, QByteArray>> changes;
-    changes.reserve(found.places.size());
-    for (const auto& [key, place] : found.places)
-        changes.emplace_back(place, encoded(values.value(key)));
+    // Back to front, so that earlier offsets stay valid. New lines follow every existing key.
+    std::vector<std::pair<Range, QByteArray>> changes;
+    changes.reserve(found.values.size());
+    for (const auto& [key, range] : found.values)
+        changes.emplace_back(range, encoded(values.value(key)));
     std::ranges::sort(changes, std::ranges::greater(), [](const auto& change) { return change.first.begin; });
-    for (const auto& [place, value] : changes)
-        result.replace(place.begin, place.length, value);
+    for (const auto& [range, value] : changes)
+        result.replace(range.begin, range.length, value);
     return result;
 }
 

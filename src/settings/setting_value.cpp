@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-/// Numbers as a preferences database hands them out; a text is not one of them.
+/// Whether it is a number of a preferences database, rather than a text.
 bool isNumber(const QVariant& stored) {
     switch (stored.typeId()) {
     case QMetaType::Int:
@@ -78,7 +78,7 @@ std::optional<QString> parseText(const QVariant& stored) {
 std::optional<int> parseCase(const QVariant& stored, const QMetaEnum& cases) {
     if (!isText(stored))
         return std::nullopt;
-    // QMetaEnum's own search also takes names with a scope and stops at a NUL.
+    // QMetaEnum::keyToValue also accepts scoped names and stops at a NUL.
     const QString name = stored.toString();
     for (int index = 0; index < cases.keyCount(); ++index) {
         if (name == QLatin1StringView(cases.key(index)))

@@ -8,14 +8,14 @@
 #include <optional>
 #include <type_traits>
 
-/// What may stand in a setting, and how it is read from what a person or another program stored. A stored
-/// value that is not legal reads as nothing, and the setting's default applies.
+/// The legal values of settings, and how stored values are parsed. People and other programs store them too:
+/// an illegal value reads as nothing, and the setting's default applies.
 namespace orvelle {
 
-/// The longest time between updates that is taken seriously, a day in seconds.
+/// The longest legal time between updates in seconds, a day.
 inline constexpr double maximumIntervalSeconds = 86400.0;
 
-/// The longest text that a setting holds, in UTF-16 units; theme names and colours need a handful.
+/// The longest legal text in UTF-16 units. Theme names and colours need a handful.
 inline constexpr qsizetype maximumTextLength = 4096;
 
 /// The name of an enumeration's case; null for a number that names none.
@@ -36,7 +36,7 @@ requires std::is_enum_v<Enum>
 /// Seconds: finite, more than 0 and at most `maximumIntervalSeconds`.
 [[nodiscard]] bool isLegalSetting(double seconds);
 [[nodiscard]] bool isLegalSetting(const QString& text);
-/// A number that was cast to the enumeration may name no case.
+/// Whether the value has a case: any number can be cast to an enumeration.
 template <class Enum>
 requires std::is_enum_v<Enum>
 [[nodiscard]] bool isLegalSetting(Enum value) {
@@ -51,7 +51,7 @@ requires std::is_enum_v<Enum>
 /// The value of the case with exactly this name.
 [[nodiscard]] std::optional<int> parseCase(const QVariant& stored, const QMetaEnum& cases);
 
-/// The setting's value as stored, or nothing where it is absent, of another type or not legal.
+/// The stored value, or nothing if it is absent, of another type or illegal.
 template <class Value>
 [[nodiscard]] std::optional<Value> parseSetting(const QVariant& stored) {
     if constexpr (std::same_as<Value, bool>) {
@@ -66,7 +66,7 @@ template <class Value>
     }
 }
 
-/// The form in which a legal value is stored: an enumeration's case by its name, everything else as it is.
+/// The stored form of a legal value: an enumeration's case as its name, everything else unchanged.
 template <class Value>
 [[nodiscard]] QVariant storedForm(const Value& value) {
     if constexpr (std::is_enum_v<Value>)

@@ -9,18 +9,19 @@
 
 namespace orvelle {
 
+class AtomicFile;
+
 /// Stored values by their keys.
 using StoredValues = QHash<QString, QVariant>;
 
-/// What became of values that were to be stored.
 enum class SaveResult {
-    saved,  ///< every reader of the place has them
-    locked, ///< another program has the place for itself; soon it may be free again
-    failed, ///< they cannot be stored there
+    saved,  ///< every reader sees the values
+    locked, ///< another program holds the lock; a later try may succeed
+    failed, ///< the values cannot be stored
 };
 
-/// Where settings are kept between runs. It shares the place with other programs and with people who edit it
-/// by hand: keys it is not asked to write keep their values.
+/// Where settings are kept between runs. Other programs and people who edit it by hand share the place: keys
+/// that are not written keep their values.
 class SettingsStorage {
 public:
     SettingsStorage() = default;
@@ -28,19 +29,43 @@ public:
     SettingsStorage& operator=(const SettingsStorage&) = delete;
     virtual ~SettingsStorage() = default;
 
-    /// What is stored now under those of `keys` that are stored; nothing when the place cannot be read.
+    /// The current values of those `keys` that are stored. Nothing when the place cannot be read.
     [[nodiscard]] virtual std::optional<StoredValues> read(const QStringList& keys) = 0;
-    /// Stores booleans, numbers and texts at once, or none of them.
+    /// Stores booleans, numbers and texts, all or none of them.
     [[nodiscard]] virtual SaveResult write(const StoredValues& values) = 0;
-    /// Why `write` did not save just now, in a few words for the user.
+    /// Why the last `write` did not save, in a few words for the user.
     [[nodiscard]] virtual QString failureReason() const = 0;
     /// The file behind the storage, which changes when another program stores something.
     [[nodiscard]] virtual QString filePath() const = 0;
 };
 
-/// The place where this operating system keeps the user's settings of this program. Where a folder is named,
-/// the place is in it instead of in the user's folder of all programs' settings: a test leaves the user's own
-/// alone.
+/// Settings in a file of ini text (see `IniText`). A write takes a lock, reads the file again, merges the
+/// values and replaces the file (see `AtomicFile`). A missing file is an empty one; its folder is created
+/// when first needed. Neither another program's lock nor a busy disk is waited for.
+class SettingsFile : public SettingsStorage {
+public:
+    explicit SettingsFile(QString filePath);
+    ~SettingsFile() override;
+
+    /// Nothing unless the path leads to a readable file of a sensible size, or to none.
+    [[nodiscard]] std::optional<StoredValues> read(const QStringList& keys) override;
+    [[nodiscard]] SaveResult write(const StoredValues& values) override;
+    [[nodiscard]] QString failureReason() const override;
+    [[nodiscard]] QString filePath() const override { return m_filePath; }
+
+private:
+    /// The file that the path leads to, by links or directly.
+    [[nodiscard]] AtomicFile& target();
+    /// The file's text, empty when it is missing. Nothing when it cannot be read.
+    [[nodiscard]] std::optional<QByteArray> text() const;
+
+    const QString m_filePath;
+    QString m_targetPath;
+    std::unique_ptr<AtomicFile> m_target;
+};
+
+/// Where this operating system keeps the program's settings: in the user's usual place, or below `folder`
+/// where one is named, which tests use to leave the user's settings alone.
 [[nodiscard]] std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder = {});
 
 } // namespace orvelle

@@ -1,6 +1,6 @@
 #include "settings/settings_store.h"
 
-#include "settings/settings_file.h"
+#include "settings/settings_storage.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

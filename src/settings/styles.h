@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// The style choices that the settings window, the menu-bar items and the charts share. Each is stored as a
-/// string equal to its case name; the cases stand in the order in which the settings window offers them.
+/// The styles that the settings window, the menu-bar items and the charts share. Each is stored by the name
+/// of its case. The settings window offers the cases in this order.
 namespace orvelle {
 Q_NAMESPACE
 

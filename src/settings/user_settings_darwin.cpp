@@ -5,8 +5,8 @@
 namespace orvelle {
 namespace {
 
-/// The user-defaults domain of the program, or a property list as it has in a folder of one's own, through
-/// QSettings' native format.
+/// The program's user-defaults domain, or a property list in a given folder, through QSettings' native
+/// format.
 class UserDefaults : public SettingsStorage {
 public:
     explicit UserDefaults(const QString& folder)
@@ -36,7 +36,7 @@ public:
     QString filePath() const override { return open()->fileName(); }
 
 private:
-    /// A new one each time: its status never returns from an error.
+    /// A new object each time: the status of one never recovers from an error.
     [[nodiscard]] std::unique_ptr<QSettings> open() const {
         if (!m_folder.isEmpty())
             return std::make_unique<QSettings>(m_folder + QStringLiteral("/com.orvelle.orvelle.plist"),
@@ -47,7 +47,7 @@ private:
         return settings;
     }
 
-    QString m_folder; ///< empty for the user's own
+    QString m_folder; ///< empty for the user-defaults domain
 };
 
 } // namespace

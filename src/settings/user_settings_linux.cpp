@@ -1,10 +1,10 @@
-#include "settings/settings_file.h"
+#include "settings/settings_storage.h"
 
 #include <QStandardPaths>
 
 namespace orvelle {
 
-/// `orvelle/orvelle.conf` in `$XDG_CONFIG_HOME`, in `~/.config` when the variable is not set.
+/// `orvelle/orvelle.conf` in `$XDG_CONFIG_HOME`, or in `~/.config` when the variable is not set.
 std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder) {
     const QString parent =
         folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) : folder;

@@ -1,5 +1,4 @@
 #include "settings/ini_text.h"
-#include "settings/settings_file.h"
 #include "settings/settings_store.h"
 #include "support/temporary_settings.h"
 
@@ -143,7 +142,7 @@ void expectEveryPropertyLegal(const SettingsStore& store) {
         expectLegal(meta->property(index), meta->property(index).read(&store));
 }
 
-TEST(HostileSettingsTest, WhateverTheFileHoldsThePropertiesAreLegal) {
+TEST(HostileSettingsTest, AnyFileGivesLegalProperties) {
     HostileText hostileText(20240917);
     for (int run = 0; run < 80; ++run) {
         SCOPED_TRACE(run);
@@ -155,7 +154,7 @@ TEST(HostileSettingsTest, WhateverTheFileHoldsThePropertiesAreLegal) {
     }
 }
 
-TEST(HostileSettingsTest, WhateverTheFileHoldsValuesCanBeStoredInIt) {
+TEST(HostileSettingsTest, ValuesCanBeStoredInAnyFile) {
     HostileText hostileText(70201);
     for (int run = 0; run < 25; ++run) {
         SCOPED_TRACE(run);
@@ -173,7 +172,7 @@ TEST(HostileSettingsTest, WhateverTheFileHoldsValuesCanBeStoredInIt) {
     }
 }
 
-TEST(HostileSettingsTest, WhateverTheFileHoldsStaysAroundAChangedValue) {
+TEST(HostileSettingsTest, AChangedValueLeavesTheRestOfAnyFileAlone) {
     HostileText hostileText(86);
     const QStringList otherKeys{u"showCPU"_s, u"glowIntensity"_s, u"selectedThemeId"_s,
                                 u"customCPUColorHex"_s};
@@ -188,7 +187,7 @@ TEST(HostileSettingsTest, WhateverTheFileHoldsStaysAroundAChangedValue) {
     }
 }
 
-TEST(HostileSettingsTest, EveryPieceUnderEveryKeyGivesALegalValue) {
+TEST(HostileSettingsTest, AnyPieceUnderAnyKeyGivesALegalValue) {
     for (const QByteArray& piece : pieces()) {
         const TemporarySettings settings;
         QByteArray text = "[General]\n";
@@ -199,7 +198,7 @@ TEST(HostileSettingsTest, EveryPieceUnderEveryKeyGivesALegalValue) {
     }
 }
 
-TEST(HostileSettingsTest, AFileThatIsTooLargeGivesTheDefaultsAndStaysAsItIs) {
+TEST(HostileSettingsTest, AnOversizedFileGivesTheDefaultsAndIsLeftAlone) {
     const TemporarySettings settings;
     const QByteArray text = "showDisk=true\n" + QByteArray(IniText::maximumSize, 'x');
     settings.writeInPlace(text);

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 using Values = QHash<QString, QString>;
 
-/// The plain text under the key `a`, null where there is none.
+/// The plain text of the key `a`, null if it is absent.
 QString valueIn(const QByteArray& text) {
     return IniText::values(text, {u"a"_s}).value(u"a"_s);
 }
@@ -48,7 +48,7 @@ const QStringList& texts() {
     return all;
 }
 
-TEST(IniTextTest, PlainValuesAreTexts) {
+TEST(IniTextTest, ReadsPlainValues) {
     EXPECT_EQ(valueOf("neon"), u"neon"_s);
     EXPECT_EQ(valueOf("  two words \t"), u"two words"_s);
     EXPECT_EQ(valueOf(""), u""_s);
@@ -60,14 +60,14 @@ TEST(IniTextTest, PlainValuesAreTexts) {
     EXPECT_EQ(valueOf(R"(a\nb)"), u"a\nb"_s);
 }
 
-TEST(IniTextTest, QuotedValuesKeepBlanksAndEscapes) {
+TEST(IniTextTest, ReadsBlanksAndEscapesInQuotes) {
     EXPECT_EQ(valueOf(R"(" a, b; ")"), u" a, b; "_s);
     EXPECT_EQ(valueOf(R"("\"\\\n\r\t\x41\x00e4\x3b1z")"), u"\"\\\n\r\tA\u00e4\u03b1z"_s);
     EXPECT_EQ(valueOf(R"("a" ; a comment)"), u"a"_s);
     EXPECT_EQ(valueOf(R"("@@home")"), u"@home"_s);
 }
 
-TEST(IniTextTest, ValuesThatAreNoPlainTextAreAbsent) {
+TEST(IniTextTest, TreatsValuesThatAreNoPlainTextAsAbsent) {
     for (const char* value : {"a, b", "@Invalid()", "@Variant(\\0\\0\\0\\x7f)", "\"@Variant(\\x0\\x0)\"",
                               "@ByteArray(x)", "@", "@Rect(0 0 1 1)", "\"open", "\"", "\"\\\"", "\"a\" b",
                               "\"a\"\"b\"", "\"\\q\"", "\"\\x\"", "a\\", "gr\xFCn"}) {
@@ -78,7 +78,7 @@ TEST(IniTextTest, ValuesThatAreNoPlainTextAreAbsent) {
     }
 }
 
-TEST(IniTextTest, OnlyTheGeneralSectionCounts) {
+TEST(IniTextTest, ReadsTheGeneralSectionOnly) {
     EXPECT_EQ(valueIn("a=1\n[Other]\na=2\n"), u"1"_s);
     EXPECT_EQ(valueIn("[Other]\na=2\n[General]\na=3"), u"3"_s);
     EXPECT_EQ(valueIn(" [general] \na=3"), u"3"_s);
@@ -89,24 +89,24 @@ TEST(IniTextTest, OnlyTheGeneralSectionCounts) {
     EXPECT_FALSE(hasValue("[General]a=1\n"));
 }
 
-TEST(IniTextTest, CommentsAndBrokenLinesAreNoValues) {
+TEST(IniTextTest, IgnoresCommentsAndBrokenLines) {
     EXPECT_FALSE(hasValue("#a=1\n;a=1\na\nA=1\naa=1\n=1\n"));
 }
 
-TEST(IniTextTest, TheLastOfEqualKeysCounts) {
+TEST(IniTextTest, ReadsTheLastOfEqualKeys) {
     EXPECT_EQ(valueIn("a=1\na=2\n"), u"2"_s);
     EXPECT_FALSE(hasValue("a=1\na=@Invalid()\n"));
     EXPECT_EQ(changed("a=1\na=2\n"), "a=1\na=new\n");
 }
 
-TEST(IniTextTest, LineEndsAndAByteOrderMarkDoNotMatter) {
+TEST(IniTextTest, AcceptsAnyLineEndAndAByteOrderMark) {
     EXPECT_EQ(valueIn("\xEF\xBB\xBF[General]\r\na=1\r\n"), u"1"_s);
     EXPECT_EQ(valueIn("\xEF\xBB\xBF"
                       "a=1"),
               u"1"_s);
 }
 
-TEST(IniTextTest, AChangedValueKeepsItsLine) {
+TEST(IniTextTest, KeepsTheLineOfAChangedValue) {
     EXPECT_EQ(changed("; mine\n\n[General]\nb=1\n  a  =  3 ; seconds\n# yours=2\nc=2"),
               "; mine\n\n[General]\nb=1\n  a  =  new ; seconds\n# yours=2\nc=2");
     EXPECT_EQ(changed("a=\nb=1\n"), "a=new\nb=1\n");
@@ -116,7 +116,7 @@ TEST(IniTextTest, AChangedValueKeepsItsLine) {
               "\xEF\xBB\xBF[General]\r\na=new\r\nb=2\r\n");
 }
 
-TEST(IniTextTest, ANewKeyFollowsTheLastOfItsSection) {
+TEST(IniTextTest, AddsANewKeyBehindTheLastOfItsSection) {
     EXPECT_EQ(changed(""), "[General]\na=new\n");
     EXPECT_EQ(changed("[General]"), "[General]\na=new\n");
     EXPECT_EQ(changed("[General]\n; mine\n"), "[General]\na=new\n; mine\n");
@@ -129,14 +129,14 @@ TEST(IniTextTest, ANewKeyFollowsTheLastOfItsSection) {
               "[General]\nb=1\n[Other]\nc=2\n[General]\nd=3\na=new\n");
 }
 
-TEST(IniTextTest, ManyValuesChangeAtOnce) {
+TEST(IniTextTest, ChangesSeveralValuesAtOnce) {
     const Values values{
         {u"a"_s, u"long enough to move the others"_s}, {u"b"_s, u""_s}, {u"d"_s, u"4"_s}, {u"c"_s, u"3"_s}};
     EXPECT_EQ(IniText::withValues("b=two\n; between\na=1\n[X]\na=1\n", values),
               "b=\n; between\na=\"long enough to move the others\"\nc=3\nd=4\n[X]\na=1\n");
 }
 
-TEST(IniTextTest, EveryTextComesBackAsItWasWritten) {
+TEST(IniTextTest, ReadsEveryTextAsItWasWritten) {
     for (const QString& text : texts()) {
         const QByteArray file = IniText::withValues("[General]\n; mine\nb=1\n", {{u"a"_s, text}});
         EXPECT_EQ(valueIn(file), text) << file.toStdString();
@@ -144,7 +144,7 @@ TEST(IniTextTest, EveryTextComesBackAsItWasWritten) {
     }
 }
 
-TEST(IniTextTest, TheOrdinaryIniFormatReadsTheSameTexts) {
+TEST(IniTextTest, WritesTextsThatQSettingsReadsUnchanged) {
     for (const QString& text : texts()) {
         const TemporarySettings settings;
         settings.writeInPlace(IniText::withValues("; mine\n[B]\na=1\n", {{u"a"_s, text}}));
@@ -155,7 +155,7 @@ TEST(IniTextTest, TheOrdinaryIniFormatReadsTheSameTexts) {
     }
 }
 
-TEST(IniTextTest, TextsOfTheOrdinaryIniFormatAreRead) {
+TEST(IniTextTest, ReadsTextsThatQSettingsWrote) {
     for (const QString& text : {u"nord"_s, u" blanks "_s, u"a,b;c"_s, u"\"q\" \\ \\x41"_s, u"@home"_s,
                                 u"#FF8000"_s, u"a=b\n"_s, u"gr\u00fcn"_s}) {
         const TemporarySettings settings;

@@ -14,7 +14,7 @@ protected:
     TemporarySettings settings;
 };
 
-TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublished) {
+TEST_F(SettingsHandEditTest, PublishesAWriteInPlace) {
     settings.writeInPlace("[General]\nshowCPU=true\n");
     SettingsStore store(settings.path());
     QSignalSpy showCPU(&store, &SettingsStore::showCPUChanged);
@@ -27,7 +27,7 @@ TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublished) {
     EXPECT_EQ(changed.count(), 1);
 }
 
-TEST_F(SettingsHandEditTest, ReplacingTheFileIsPublishedAgainAndAgain) {
+TEST_F(SettingsHandEditTest, PublishesEveryReplacementOfTheFile) {
     settings.writeInPlace("[General]\n");
     SettingsStore store(settings.path());
     for (const double seconds : {5.0, 10.0, 20.0}) {
@@ -40,7 +40,7 @@ TEST_F(SettingsHandEditTest, ReplacingTheFileIsPublishedAgainAndAgain) {
     EXPECT_EQ(store.updateInterval(), 30);
 }
 
-TEST_F(SettingsHandEditTest, AFileThatIsWrittenInStepsIsReadWhenItHasComeToRest) {
+TEST_F(SettingsHandEditTest, ReadsAFileAfterTheLastOfSeveralWrites) {
     settings.writeInPlace("[General]\nshowDisk=true\n");
     SettingsStore store(settings.path());
     QSignalSpy showDisk(&store, &SettingsStore::showDiskChanged);
@@ -52,7 +52,7 @@ TEST_F(SettingsHandEditTest, AFileThatIsWrittenInStepsIsReadWhenItHasComeToRest)
     EXPECT_EQ(showDisk.count(), 0) << "the empty file was not read";
 }
 
-TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublishedWhileSomeoneStillHoldsTheReplacedFile) {
+TEST_F(SettingsHandEditTest, PublishesAWriteInPlaceWhileTheReplacedFileIsStillOpen) {
     settings.writeInPlace("[General]\n");
     QFile held(settings.path());
     ASSERT_TRUE(held.open(QIODevice::ReadOnly));
@@ -65,7 +65,7 @@ TEST_F(SettingsHandEditTest, AWriteInPlaceIsPublishedWhileSomeoneStillHoldsTheRe
     EXPECT_TRUE(store.showSensors());
 }
 
-TEST_F(SettingsHandEditTest, AFileThatAppearsIsPublishedAndOneThatVanishesGivesTheDefaults) {
+TEST_F(SettingsHandEditTest, PublishesANewFileAndTheDefaultsWhenItVanishes) {
     SettingsStore store(settings.path());
     settings.writeInPlace("[General]\nglowIntensity=intense\n");
     awaitReading(store);
@@ -75,7 +75,7 @@ TEST_F(SettingsHandEditTest, AFileThatAppearsIsPublishedAndOneThatVanishesGivesT
     EXPECT_EQ(store.glowIntensity(), GlowIntensity::medium);
 }
 
-TEST_F(SettingsHandEditTest, AFileThatAppearsInAMissingFolderIsPublished) {
+TEST_F(SettingsHandEditTest, PublishesANewFileInANewFolder) {
     const QString path = settings.folderPath() + u"/config/orvelle/orvelle.conf"_s;
     SettingsStore store(path);
     QFile file(path);
@@ -86,7 +86,7 @@ TEST_F(SettingsHandEditTest, AFileThatAppearsInAMissingFolderIsPublished) {
     EXPECT_TRUE(store.showDisk());
 }
 
-TEST_F(SettingsHandEditTest, AValueThatIsNotLegalIsPublishedAsTheDefault) {
+TEST_F(SettingsHandEditTest, PublishesTheDefaultForAnIllegalValue) {
     settings.writeInPlace("[General]\nupdateInterval=10\n");
     SettingsStore store(settings.path());
     settings.replaceByRename("[General]\nupdateInterval=-1\n");
@@ -95,7 +95,7 @@ TEST_F(SettingsHandEditTest, AValueThatIsNotLegalIsPublishedAsTheDefault) {
     EXPECT_EQ(settings.text(), "[General]\nupdateInterval=-1\n") << "the file is left as it was written";
 }
 
-TEST_F(SettingsHandEditTest, OwnWritesAreAnnouncedOnce) {
+TEST_F(SettingsHandEditTest, AnnouncesItsOwnWritesOnce) {
     SettingsStore store(settings.path());
     QSignalSpy changed(&store, &SettingsStore::changed);
     store.setShowDisk(true);
@@ -107,7 +107,7 @@ TEST_F(SettingsHandEditTest, OwnWritesAreAnnouncedOnce) {
     EXPECT_EQ(store.customCPUColorHex(), u"@odd, \"text\"\n"_s);
 }
 
-TEST_F(SettingsHandEditTest, AWriteByAnotherStoreIsPublishedAfterAnOwnOne) {
+TEST_F(SettingsHandEditTest, PublishesAnotherStoresWriteAfterItsOwn) {
     SettingsStore store(settings.path());
     SettingsStore other(settings.path());
     store.setShowDisk(true);
@@ -118,7 +118,7 @@ TEST_F(SettingsHandEditTest, AWriteByAnotherStoreIsPublishedAfterAnOwnOne) {
     EXPECT_TRUE(other.showDisk());
 }
 
-TEST_F(SettingsHandEditTest, AFileThatCannotBeReadLeavesTheValues) {
+TEST_F(SettingsHandEditTest, KeepsItsValuesWhenTheFileCannotBeRead) {
     settings.writeInPlace("[General]\nshowDisk=true\n");
     SettingsStore store(settings.path());
     QSignalSpy changed(&store, &SettingsStore::changed);
@@ -129,7 +129,7 @@ TEST_F(SettingsHandEditTest, AFileThatCannotBeReadLeavesTheValues) {
     EXPECT_EQ(changed.count(), 0);
 }
 
-TEST_F(SettingsHandEditTest, AnEditElsewhereLeavesAValueThatCouldNotBeSaved) {
+TEST_F(SettingsHandEditTest, KeepsAnUnsavedValueWhenAnotherOneIsEdited) {
     settings.writeInPlace("[General]\nshowDisk=false\n");
     SettingsStore store(settings.path());
     ASSERT_TRUE(QFile::remove(settings.path()));
@@ -150,7 +150,7 @@ TEST_F(SettingsHandEditTest, AnEditElsewhereLeavesAValueThatCouldNotBeSaved) {
     EXPECT_TRUE(store.saveError().isEmpty());
 }
 
-TEST_F(SettingsHandEditTest, ObserversOfOnePropertySeeTheOthersUpToDate) {
+TEST_F(SettingsHandEditTest, UpdatesEveryPropertyBeforeAnnouncingOne) {
     settings.writeInPlace("[General]\n");
     SettingsStore store(settings.path());
     bool isConsistent = false;

@@ -1,4 +1,4 @@
-#include "settings/file_lock.h"
+#include "settings/shared_file.h"
 #include "settings/store_timers.h"
 #include "support/temporary_settings.h"
 

@@ -6,20 +6,20 @@
 
 namespace orvelle {
 
-/// By which a store waits until a file that changed has come to rest.
+/// Delays reading a changed file until its writer has finished.
 [[nodiscard]] inline QTimer& reloadDelay(const SettingsStore& store) {
     return *store.findChild<QTimer*>(QStringLiteral("reloadDelay"));
 }
-/// By which a store waits between two values that follow the user's hand.
+/// Spaces the writes of a value that follows the user's hand.
 [[nodiscard]] inline QTimer& tuningDelay(const SettingsStore& store) {
     return *store.findChild<QTimer*>(QStringLiteral("tuningDelay"));
 }
-/// After which a store tries again to save what another program's lock kept it from.
+/// Delays another try after a lock prevented a write.
 [[nodiscard]] inline QTimer& retryDelay(const SettingsStore& store) {
     return *store.findChild<QTimer*>(QStringLiteral("retryDelay"));
 }
 
-/// Waits until the store has seen that something changed, and has it read the file again.
+/// Waits until the store notices a change, and makes it read the file.
 inline void awaitReading(const SettingsStore& store) {
     ASSERT_TRUE(waitUntil([&] { return reloadDelay(store).isActive(); }));
     endNow(reloadDelay(store));

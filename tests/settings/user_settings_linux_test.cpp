@@ -8,12 +8,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(UserSettingsOnLinux, AreInTheFolderThatTheDesktopNames) {
+TEST(UserSettingsOnLinux, AreInTheFolderThatTheEnvironmentNames) {
     const EnvironmentVariable folder("XDG_CONFIG_HOME", "/somewhere/else");
     EXPECT_EQ(openUserSettings()->filePath(), u"/somewhere/else/orvelle/orvelle.conf"_s);
 }
 
-TEST(UserSettingsOnLinux, AreInTheHiddenFolderForThemWhereTheDesktopNamesNone) {
+TEST(UserSettingsOnLinux, AreInTheHomeFolderWhenTheEnvironmentNamesNone) {
     const EnvironmentVariable folder("XDG_CONFIG_HOME", {});
     const EnvironmentVariable home("HOME", "/home/somebody");
     EXPECT_EQ(openUserSettings()->filePath(), u"/home/somebody/.config/orvelle/orvelle.conf"_s);

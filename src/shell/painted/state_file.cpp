@@ -1,7 +1,5 @@
 #include "shell/painted/state_file.h"
 
-#include "settings/settings_file.h"
-
 #include <QDir>
 
 namespace orvelle {

@@ -1,4 +1,4 @@
-#include "settings/replaced_file.h"
+#include "settings/shared_file.h"
 #include "support/temporary_settings.h"
 #include "support/waiting.h"
 
@@ -8,16 +8,74 @@
 #include <semaphore>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace orvelle {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A disk that takes what it is given when the test says so.
+class FileLockTest : public ::testing::Test {
+protected:
+    [[nodiscard]] QString path() const { return settings.folderPath() + QStringLiteral("/lock"); }
+
+    TemporarySettings settings;
+};
+
+TEST_F(FileLockTest, HasOneHolderAndLeavesNoFile) {
+    std::optional<FileLock> lock = FileLock::take(path());
+    EXPECT_TRUE(lock);
+    EXPECT_FALSE(FileLock::take(path()));
+    lock.reset();
+    EXPECT_FALSE(QFile::exists(path()));
+    EXPECT_TRUE(FileLock::take(path()));
+}
+
+TEST_F(FileLockTest, IsReleasedWhenItsProgramIsKilled) {
+    const pid_t other = ::fork();
+    ASSERT_GE(other, 0);
+    if (other == 0) {
+        const std::optional<FileLock> lock = FileLock::take(path());
+        ::raise(SIGKILL);
+    }
+    ASSERT_EQ(::waitpid(other, nullptr, 0), other);
+    EXPECT_TRUE(QFile::exists(path()));
+    EXPECT_TRUE(FileLock::take(path()));
+}
+
+TEST_F(FileLockTest, ExcludesAProgramThatCompetesForIt) {
+    const QString held = settings.folderPath() + QStringLiteral("/held");
+    const auto takeOften = [&] {
+        for (int taken = 0; taken < 200;) {
+            const std::optional<FileLock> lock = FileLock::take(path());
+            if (!lock)
+                continue;
+            ++taken;
+            if (!QDir().mkdir(held) || !QDir().rmdir(held)) // fails if both hold the lock
+                return false;
+        }
+        return true;
+    };
+    const pid_t other = ::fork();
+    ASSERT_GE(other, 0);
+    const bool isAlone = takeOften();
+    if (other == 0)
+        ::_exit(isAlone ? 0 : 1);
+    int status = -1;
+    ASSERT_EQ(::waitpid(other, &status, 0), other);
+    EXPECT_TRUE(isAlone);
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(FileLockTest, IsRefusedWhenItsFileCannotBeCreated) {
+    EXPECT_FALSE(FileLock::take(settings.folderPath() + QStringLiteral("/missing/lock")));
+}
+
+/// A disk that finishes writing when the test says so.
 class SlowDisk {
 public:
-    [[nodiscard]] ReplacedFile::Flush flush() {
+    [[nodiscard]] AtomicFile::Flush flush() {
         return [this](int) { m_allowed.acquire(); };
     }
     void finish() { m_allowed.release(100); }
@@ -26,7 +84,7 @@ private:
     std::counting_semaphore<> m_allowed{0};
 };
 
-class ReplacedFileTest : public ::testing::Test {
+class AtomicFileTest : public ::testing::Test {
 protected:
     [[nodiscard]] QString beside(const QString& suffix) const {
         return settings.folderPath() + u"/.orvelle.conf"_s + suffix;
@@ -51,9 +109,9 @@ protected:
     TemporarySettings settings;
 };
 
-TEST_F(ReplacedFileTest, HoldsTheTextAndLeavesNothingBeside) {
+TEST_F(AtomicFileTest, HoldsTheTextAndLeavesNoTemporaryFile) {
     {
-        ReplacedFile file(settings.path());
+        AtomicFile file(settings.path());
         EXPECT_TRUE(file.replace("one"));
         EXPECT_EQ(settings.text(), "one");
         EXPECT_TRUE(file.replace("two"));
@@ -62,27 +120,27 @@ TEST_F(ReplacedFileTest, HoldsTheTextAndLeavesNothingBeside) {
     EXPECT_EQ(names(), QStringList{u"orvelle.conf"_s});
 }
 
-TEST_F(ReplacedFileTest, DoesNotWaitForTheDisk) {
+TEST_F(AtomicFileTest, DoesNotWaitForTheDisk) {
     settings.writeInPlace("old");
     SlowDisk disk;
-    ReplacedFile file(settings.path(), disk.flush());
+    AtomicFile file(settings.path(), disk.flush());
     for (const char* text : {"one", "two", "three"}) {
         EXPECT_TRUE(file.replace(text));
         EXPECT_EQ(settings.text(), text);
-        EXPECT_EQ(textOf(beside(u".last"_s)), "old") << "what the disk has for certain is kept";
+        EXPECT_EQ(textOf(beside(u".last"_s)), "old") << "the text that the disk has is kept";
     }
     disk.finish();
     EXPECT_TRUE(waitUntil([&] { return names() == QStringList{u"orvelle.conf"_s}; }));
 }
 
-TEST_F(ReplacedFileTest, KeepsTheFileOfTheDiskUntilTheNewestIsThere) {
+TEST_F(AtomicFileTest, KeepsTheOldFileUntilTheNewestIsOnTheDisk) {
     settings.writeInPlace("old");
     int flushes = 0;
     QByteArray keptAtLast;
     {
-        ReplacedFile* replaced = nullptr;
-        ReplacedFile file(settings.path(), [&](int) {
-            if (++flushes == 1) { // the disk is busy with the one before
+        AtomicFile* replaced = nullptr;
+        AtomicFile file(settings.path(), [&](int) {
+            if (++flushes == 1) { // the disk is still writing this text
                 EXPECT_TRUE(replaced->replace("newer"));
             }
             keptAtLast = textOf(beside(u".last"_s));
@@ -95,10 +153,10 @@ TEST_F(ReplacedFileTest, KeepsTheFileOfTheDiskUntilTheNewestIsThere) {
     EXPECT_EQ(names(), QStringList{u"orvelle.conf"_s});
 }
 
-TEST_F(ReplacedFileTest, TakesTheLastOneBackThatAPowerCutLeft) {
+TEST_F(AtomicFileTest, RestoresTheOldFileAfterAPowerCut) {
     settings.writeInPlace("");
     writeBeside(u".last"_s, "old");
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     EXPECT_TRUE(file.isInterrupted());
     file.recover();
     EXPECT_EQ(settings.text(), "old");
@@ -106,38 +164,38 @@ TEST_F(ReplacedFileTest, TakesTheLastOneBackThatAPowerCutLeft) {
 
     ASSERT_TRUE(QFile::rename(settings.path(), beside(u".last"_s)));
     file.recover();
-    EXPECT_EQ(settings.text(), "old") << "where the new one has no name either";
+    EXPECT_EQ(settings.text(), "old") << "when the new file is missing";
 }
 
-TEST_F(ReplacedFileTest, KeepsANewOneThatSurvived) {
+TEST_F(AtomicFileTest, KeepsANewFileThatSurvivedThePowerCut) {
     settings.writeInPlace("new");
     writeBeside(u".last"_s, "old");
     writeBeside(u".next"_s, "half of the new");
     {
-        ReplacedFile file(settings.path());
+        AtomicFile file(settings.path());
         file.recover();
     }
     EXPECT_EQ(settings.text(), "new");
     EXPECT_EQ(names(), QStringList{u"orvelle.conf"_s});
 }
 
-TEST_F(ReplacedFileTest, AnEmptyFileWithoutALastOneStaysEmpty) {
+TEST_F(AtomicFileTest, KeepsAnEmptyFileThatWasNotCutShort) {
     settings.writeInPlace("");
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     EXPECT_FALSE(file.isInterrupted());
     file.recover();
     EXPECT_TRUE(QFile::exists(settings.path()));
 }
 
-TEST_F(ReplacedFileTest, ReplacesWhatAKilledProgramLeft) {
+TEST_F(AtomicFileTest, ReplacesTheTemporaryFileOfAKilledProgram) {
     settings.writeInPlace("old");
     writeBeside(u".next"_s, "half of the n");
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     EXPECT_TRUE(file.replace("new"));
     EXPECT_EQ(settings.text(), "new");
 }
 
-TEST_F(ReplacedFileTest, LeavesTheFilesOfOthersAlone) {
+TEST_F(AtomicFileTest, LeavesOtherFilesAlone) {
     const QStringList others{u"orvelle.conf.AbCdEf"_s, u"orvelle.conf.MyCopy"_s, u"orvelle.conf.next"_s,
                              u"orvelle.conf~"_s, u".orvelle.conf.last2"_s};
     for (const QString& name : others) {
@@ -147,7 +205,7 @@ TEST_F(ReplacedFileTest, LeavesTheFilesOfOthersAlone) {
             file.setFileTime(QDateTime::currentDateTimeUtc().addDays(-1), QFileDevice::FileModificationTime));
     }
     {
-        ReplacedFile file(settings.path());
+        AtomicFile file(settings.path());
         file.recover();
         EXPECT_TRUE(file.replace("one"));
         EXPECT_TRUE(file.replace("two"));
@@ -156,13 +214,13 @@ TEST_F(ReplacedFileTest, LeavesTheFilesOfOthersAlone) {
         EXPECT_TRUE(names().contains(name)) << name.toStdString();
 }
 
-TEST_F(ReplacedFileTest, ANewFileIsItsOwnersAndAReplacedOneKeepsItsPermissions) {
+TEST_F(AtomicFileTest, KeepsPermissionsAndMakesANewFilePrivate) {
     const auto mode = [&] {
         struct stat status{};
         EXPECT_EQ(::stat(QFile::encodeName(settings.path()).constData(), &status), 0);
         return status.st_mode & 0777U;
     };
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     EXPECT_TRUE(file.replace("one"));
     EXPECT_EQ(mode(), 0600U);
     chmodFile(0644);
@@ -170,18 +228,18 @@ TEST_F(ReplacedFileTest, ANewFileIsItsOwnersAndAReplacedOneKeepsItsPermissions) 
     EXPECT_EQ(mode(), 0644U);
 }
 
-TEST_F(ReplacedFileTest, WhatCannotBeReplacedStaysAsItWas) {
+TEST_F(AtomicFileTest, ReportsAFileThatCannotBeReplaced) {
     ASSERT_TRUE(QDir().mkpath(settings.path()));
-    ReplacedFile folder(settings.path());
+    AtomicFile folder(settings.path());
     EXPECT_FALSE(folder.replace("new"));
     EXPECT_EQ(names(), QStringList{u"orvelle.conf"_s});
-    ReplacedFile nowhere(settings.folderPath() + u"/missing/orvelle.conf"_s);
+    AtomicFile nowhere(settings.folderPath() + u"/missing/orvelle.conf"_s);
     EXPECT_FALSE(nowhere.replace("new"));
 }
 
-TEST_F(ReplacedFileTest, WhatDoesNotFitLeavesTheOldOne) {
+TEST_F(AtomicFileTest, KeepsTheOldFileWhenTheDiskIsFull) {
     settings.writeInPlace("old");
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit small{.rlim_cur = 2, .rlim_max = before.rlim_max};
@@ -194,11 +252,11 @@ TEST_F(ReplacedFileTest, WhatDoesNotFitLeavesTheOldOne) {
     EXPECT_EQ(names(), QStringList{u"orvelle.conf"_s});
 }
 
-TEST_F(ReplacedFileTest, ALinkInThePlaceOfTheNextIsNotFollowed) {
+TEST_F(AtomicFileTest, DoesNotFollowALinkInPlaceOfItsTemporaryFile) {
     settings.writeInPlace("old");
     const QString other = settings.folderPath() + u"/other"_s;
     ASSERT_TRUE(QFile::link(other, beside(u".next"_s)));
-    ReplacedFile file(settings.path());
+    AtomicFile file(settings.path());
     EXPECT_TRUE(file.replace("new"));
     EXPECT_FALSE(QFile::exists(other));
     EXPECT_EQ(settings.text(), "new");

@@ -1,6 +1,6 @@
-#include "settings/file_lock.h"
 #include "settings/ini_text.h"
-#include "settings/settings_file.h"
+#include "settings/settings_storage.h"
+#include "settings/shared_file.h"
 #include "support/temporary_settings.h"
 
 #include <QDateTime>
@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// As it is after a while in which nobody touched it.
+/// Sets the time of its last change to that many seconds ago.
 void age(QFile& file, int seconds) {
     ASSERT_TRUE(file.isOpen() || file.open(QIODevice::ReadWrite));
     ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-seconds),
@@ -40,20 +40,20 @@ protected:
     SettingsFile file{settings.path()};
 };
 
-TEST_F(SettingsFileTest, AMissingFileIsEmptyAndIsCreatedByTheFirstWrite) {
+TEST_F(SettingsFileTest, CreatesAMissingFileWithTheFirstWrite) {
     EXPECT_EQ(read(), StoredValues());
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "[General]\na=true\n");
 }
 
-TEST_F(SettingsFileTest, MissingFoldersAreCreatedByTheFirstWrite) {
+TEST_F(SettingsFileTest, CreatesMissingFoldersWithTheFirstWrite) {
     SettingsFile deepFile(settings.folderPath() + u"/x/y/orvelle.conf"_s);
     EXPECT_EQ(deepFile.read({u"a"_s}), StoredValues());
     EXPECT_EQ(deepFile.write({{u"a"_s, true}}), SaveResult::saved);
     EXPECT_EQ(deepFile.read({u"a"_s}), (StoredValues{{u"a"_s, u"true"_s}}));
 }
 
-TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
+TEST_F(SettingsFileTest, ReadsAFileOfTheMaximumSizeAndLeavesALargerOneAlone) {
     const QByteArray line = "a=1\n";
     settings.writeInPlace(line + QByteArray(IniText::maximumSize - line.size(), ';'));
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}}));
@@ -65,15 +65,15 @@ TEST_F(SettingsFileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsLeftAlone) {
     EXPECT_EQ(settings.text(), tooLarge);
 }
 
-TEST_F(SettingsFileTest, AFileIsNotWrittenPastTheLargestSize) {
+TEST_F(SettingsFileTest, DoesNotWritePastTheMaximumSize) {
     const QByteArray full(IniText::maximumSize, '#');
     settings.writeInPlace(full);
     EXPECT_FALSE(write());
     EXPECT_EQ(settings.text(), full);
 }
 
-TEST_F(SettingsFileTest, AnEditThatKeepsTheSizeIsReadAndKept) {
-    // What has the time and the size that it had is not read again; each edit is a second younger.
+TEST_F(SettingsFileTest, ReadsAndKeepsAnEditOfTheSameSize) {
+    // A reader must not rely on time and size; the edits are a second apart.
     int secondsAgo = 60;
     const auto edit = [&](const QByteArray& text) {
         settings.writeInPlace(text);
@@ -89,7 +89,7 @@ TEST_F(SettingsFileTest, AnEditThatKeepsTheSizeIsReadAndKept) {
     EXPECT_EQ(settings.text(), "a=true\nb=2\n");
 }
 
-TEST_F(SettingsFileTest, ProgramsThatWriteAtOnceKeepEachOthersValues) {
+TEST_F(SettingsFileTest, KeepsTheValuesOfAProgramThatWritesAtTheSameTime) {
     const auto writeKeys = [this](QChar name) {
         for (int number = 0; number < 20; ++number) {
             while (file.write({{name + QString::number(number), u"x"_s}}) != SaveResult::saved)
@@ -107,7 +107,7 @@ TEST_F(SettingsFileTest, ProgramsThatWriteAtOnceKeepEachOthersValues) {
     EXPECT_EQ(settings.text().count("=x\n"), 40) << settings.text().toStdString();
 }
 
-TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
+TEST_F(SettingsFileTest, DoesNotHangWhenTheLockIsNoFile) {
     settings.writeInPlace("a=1\n");
     const QString lockPath = settings.path() + u".lock"_s;
     ASSERT_TRUE(QDir().mkpath(lockPath));
@@ -119,19 +119,19 @@ TEST_F(SettingsFileTest, WhatCannotBeALockDoesNotHang) {
     ASSERT_TRUE(QFile::link(u"/nonexistent"_s, lockPath));
     EXPECT_FALSE(write());
     ASSERT_TRUE(QFile::remove(lockPath));
-    EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}})) << "what failed is forgotten";
+    EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"1"_s}})) << "the failed writes changed nothing";
     EXPECT_EQ(settings.text(), "a=1\n");
     EXPECT_TRUE(write());
 }
 
-TEST_F(SettingsFileTest, ALockThatAProgramLeftIsTakenOver) {
+TEST_F(SettingsFileTest, TakesOverALockFileThatNobodyHolds) {
     QFile lock(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     EXPECT_TRUE(write());
     EXPECT_FALSE(lock.exists());
 }
 
-TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
+TEST_F(SettingsFileTest, WritesNothingWhileAnotherProgramHoldsTheLock) {
     std::optional<FileLock> lock = FileLock::take(settings.path() + u".lock"_s);
     ASSERT_TRUE(lock);
     EXPECT_EQ(save(), SaveResult::locked);
@@ -141,7 +141,7 @@ TEST_F(SettingsFileTest, WhileAnotherProgramHoldsTheLockNothingIsWritten) {
     EXPECT_TRUE(write());
 }
 
-TEST_F(SettingsFileTest, WhatIsStoredAlreadyIsNotWrittenAgain) {
+TEST_F(SettingsFileTest, DoesNotRewriteStoredValues) {
     settings.writeInPlace("a = \"true\" ; mine\n");
     EXPECT_TRUE(write());
     EXPECT_EQ(settings.text(), "a = true ; mine\n");
@@ -152,7 +152,7 @@ TEST_F(SettingsFileTest, WhatIsStoredAlreadyIsNotWrittenAgain) {
     EXPECT_EQ(QFileInfo(settings.path()).lastModified(), before);
 }
 
-TEST_F(SettingsFileTest, WhatAPowerCutLeftIsReadAsItWasBefore) {
+TEST_F(SettingsFileTest, ReadsTheOldTextAfterAPowerCut) {
     settings.writeInPlace("");
     QFile last(settings.folderPath() + u"/.orvelle.conf.last"_s);
     ASSERT_TRUE(last.open(QIODevice::WriteOnly));
@@ -162,14 +162,14 @@ TEST_F(SettingsFileTest, WhatAPowerCutLeftIsReadAsItWasBefore) {
     EXPECT_EQ(settings.text(), "a=1\n");
 }
 
-TEST_F(SettingsFileTest, AFolderInTheFilesPlaceIsNeitherReadNorReplaced) {
+TEST_F(SettingsFileTest, NeitherReadsNorReplacesAFolder) {
     ASSERT_TRUE(QDir().mkpath(settings.path()));
     EXPECT_EQ(read(), std::nullopt);
     EXPECT_FALSE(write());
     EXPECT_TRUE(QFileInfo(settings.path()).isDir());
 }
 
-TEST_F(SettingsFileTest, APipeOrADeviceInTheFilesPlaceIsNotOpened) {
+TEST_F(SettingsFileTest, DoesNotOpenAPipeOrADevice) {
     ASSERT_EQ(::mkfifo(settings.path().toLocal8Bit().constData(), 0600), 0);
     EXPECT_EQ(read(), std::nullopt);
     EXPECT_FALSE(write());
@@ -180,7 +180,7 @@ TEST_F(SettingsFileTest, APipeOrADeviceInTheFilesPlaceIsNotOpened) {
     EXPECT_FALSE(write());
 }
 
-TEST_F(SettingsFileTest, ALinkStaysALinkAndItsTargetIsWritten) {
+TEST_F(SettingsFileTest, WritesTheTargetOfALink) {
     const QString target = settings.folderPath() + u"/target.conf"_s;
     ASSERT_TRUE(QFile::link(target, settings.path())); // broken until the first write
     EXPECT_EQ(read(), StoredValues());
@@ -190,7 +190,7 @@ TEST_F(SettingsFileTest, ALinkStaysALinkAndItsTargetIsWritten) {
     EXPECT_EQ(read(), (StoredValues{{u"a"_s, u"true"_s}}));
 }
 
-TEST_F(SettingsFileTest, ALinkIntoAMissingFolderOrToItselfIsEmptyAndDoesNotHang) {
+TEST_F(SettingsFileTest, ReadsABrokenLinkAsEmptyWithoutHanging) {
     ASSERT_TRUE(QFile::link(u"/nonexistent/folder/x.conf"_s, settings.path()));
     EXPECT_EQ(read(), StoredValues());
     EXPECT_FALSE(write());
@@ -200,7 +200,7 @@ TEST_F(SettingsFileTest, ALinkIntoAMissingFolderOrToItselfIsEmptyAndDoesNotHang)
     EXPECT_EQ(read(), StoredValues());
 }
 
-TEST_F(SettingsFileTest, WhereNoFolderCanBeMadeNothingIsWritten) {
+TEST_F(SettingsFileTest, ReportsAFolderThatCannotBeCreated) {
     SettingsFile unwritable(u"/proc/no-such-folder/orvelle.conf"_s);
     EXPECT_EQ(unwritable.read({u"a"_s}), StoredValues());
     EXPECT_EQ(unwritable.write({{u"a"_s, true}}), SaveResult::failed);
@@ -211,8 +211,7 @@ TEST_F(SettingsFileTest, WhereNoFolderCanBeMadeNothingIsWritten) {
     EXPECT_EQ(belowAFile.failureReason(), u"/proc/version is not a folder"_s);
 }
 
-/// Ends the process with 0 when `check` holds for a user whom file permissions stop, as they do not stop
-/// root.
+/// Exits with 0 if `check` holds for an ordinary user: file permissions do not apply to root.
 template <class Check>
 [[noreturn]] void exitAfterCheckAsOrdinaryUser(Check check) {
     constexpr uid_t nobody = 65534;
@@ -221,7 +220,7 @@ template <class Check>
     ::_exit(check() ? 0 : 1); // not exit(): the leak check cannot inspect a process that changed its user
 }
 
-TEST_F(SettingsFileTest, AFileThatMayNotBeReadIsNeitherReadNorReplaced) {
+TEST_F(SettingsFileTest, NeitherReadsNorReplacesAnUnreadableFile) {
     settings.writeInPlace("a=1\n");
     ASSERT_EQ(::chmod(settings.folderPath().toLocal8Bit().constData(), 0777), 0);
     ASSERT_EQ(::chmod(settings.path().toLocal8Bit().constData(), 0), 0);
@@ -229,7 +228,7 @@ TEST_F(SettingsFileTest, AFileThatMayNotBeReadIsNeitherReadNorReplaced) {
                 ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(SettingsFileTest, AReadOnlyFileIsReadButNotReplaced) {
+TEST_F(SettingsFileTest, ReadsAReadOnlyFileButDoesNotReplaceIt) {
     settings.writeInPlace("a=1\n");
     ASSERT_EQ(::chmod(settings.folderPath().toLocal8Bit().constData(), 0777), 0);
     ASSERT_EQ(::chmod(settings.path().toLocal8Bit().constData(), 0444), 0);
@@ -237,14 +236,14 @@ TEST_F(SettingsFileTest, AReadOnlyFileIsReadButNotReplaced) {
                 ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(SettingsFileTest, InAReadOnlyFolderNothingIsWritten) {
+TEST_F(SettingsFileTest, WritesNothingInAReadOnlyFolder) {
     settings.writeInPlace("a=1\n");
     ASSERT_EQ(::chmod(settings.folderPath().toLocal8Bit().constData(), 0555), 0);
     EXPECT_EXIT(exitAfterCheckAsOrdinaryUser([&] { return read().has_value() && !write(); }),
                 ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(SettingsFileTest, NoTemporaryFilesStayBehind) {
+TEST_F(SettingsFileTest, LeavesNoTemporaryFiles) {
     ASSERT_EQ(SettingsFile(settings.path()).write({{u"a"_s, true}}), SaveResult::saved);
     EXPECT_EQ(QDir(settings.folderPath()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
               QStringList{u"orvelle.conf"_s});

@@ -1,7 +1,7 @@
-#include "settings/settings_file.h"
+#include "settings/settings_storage.h"
 
-#include "settings/file_lock.h"
 #include "settings/ini_text.h"
+#include "settings/shared_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,12 +13,12 @@
 namespace orvelle {
 namespace {
 
-std::optional<FileLock> takeLockOf(const QString& filePath) {
+std::optional<FileLock> takeLock(const QString& filePath) {
     return FileLock::take(filePath + QStringLiteral(".lock"));
 }
 
-/// What is wrong with the folder that the file stands in; empty when nothing is.
-QString faultOfFolder(const QFileInfo& folder) {
+/// Why no file can be written in the folder; empty if one can.
+QString folderFault(const QFileInfo& folder) {
     if (!folder.exists())
         return QStringLiteral("the folder %1 does not exist").arg(folder.filePath());
     if (!folder.isDir())
@@ -28,8 +28,8 @@ QString faultOfFolder(const QFileInfo& folder) {
     return {};
 }
 
-/// What is wrong with what stands in the file's place; empty when nothing is, or nothing stands there.
-QString faultOfFile(const QFileInfo& file) {
+/// Why the file cannot be replaced; empty if it can, or if it is missing.
+QString fileFault(const QFileInfo& file) {
     if (file.isSymLink() && !file.exists() && !QFileInfo(QFileInfo(file.symLinkTarget()).path()).isWritable())
         return QStringLiteral("%1 is a link that leads nowhere").arg(file.filePath());
     if (!file.exists())
@@ -45,15 +45,15 @@ QString faultOfFile(const QFileInfo& file) {
     return {};
 }
 
-/// What keeps a file from being replaced, but for a lock; empty when nothing does.
-QString faultAt(const QString& filePath) {
+/// Why the path cannot be written, locks aside; empty if it can.
+QString pathFault(const QString& filePath) {
     const QFileInfo file(filePath);
-    const QString fault = faultOfFolder(QFileInfo(file.path()));
-    return fault.isEmpty() ? faultOfFile(file) : fault;
+    const QString fault = folderFault(QFileInfo(file.path()));
+    return fault.isEmpty() ? fileFault(file) : fault;
 }
 
-/// Where the path leads to, which is a file or may become one.
-QString targetOf(const QString& filePath) {
+/// The path of the file that a link leads to, which may be missing; the path itself if it is no link.
+QString resolveLinks(const QString& filePath) {
     const QFileInfo file(filePath);
     if (!file.isSymLink())
         return filePath;
@@ -62,14 +62,15 @@ QString targetOf(const QString& filePath) {
 
 } // namespace
 
-SettingsFile::SettingsFile(QString filePath, ReplacedFile::Flush flush)
-    : m_filePath(std::move(filePath))
-    , m_flush(std::move(flush)) {
-    if (ReplacedFile& file = target(); file.isInterrupted()) {
-        if (const std::optional<FileLock> lock = takeLockOf(m_filePath))
+SettingsFile::SettingsFile(QString filePath)
+    : m_filePath(std::move(filePath)) {
+    if (AtomicFile& file = target(); file.isInterrupted()) {
+        if (const std::optional<FileLock> lock = takeLock(m_filePath))
             file.recover();
     }
 }
+
+SettingsFile::~SettingsFile() = default;
 
 std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
     const std::optional<QByteArray> stored = text();
@@ -84,9 +85,9 @@ std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
 
 SaveResult SettingsFile::write(const StoredValues& values) {
     QDir().mkpath(QFileInfo(m_filePath).path());
-    if (!faultAt(m_filePath).isEmpty())
+    if (!pathFault(m_filePath).isEmpty())
         return SaveResult::failed;
-    const std::optional<FileLock> lock = takeLockOf(m_filePath);
+    const std::optional<FileLock> lock = takeLock(m_filePath);
     if (!lock)
         return SaveResult::locked;
     const std::optional<QByteArray> before = text();
@@ -102,19 +103,19 @@ SaveResult SettingsFile::write(const StoredValues& values) {
 }
 
 QString SettingsFile::failureReason() const {
-    if (const QString fault = faultAt(m_filePath); !fault.isEmpty())
+    if (const QString fault = pathFault(m_filePath); !fault.isEmpty())
         return fault;
     if (QStorageInfo(QFileInfo(m_filePath).path()).bytesAvailable() == 0)
         return QStringLiteral("the disk is full");
-    if (!takeLockOf(m_filePath))
+    if (!takeLock(m_filePath))
         return QStringLiteral("another program keeps %1 locked").arg(m_filePath);
     return QStringLiteral("%1 cannot be written").arg(m_filePath);
 }
 
-ReplacedFile& SettingsFile::target() {
-    // A link may lead elsewhere by now.
-    if (const QString path = targetOf(m_filePath); !m_target || path != m_targetPath) {
-        m_target = std::make_unique<ReplacedFile>(path, m_flush);
+AtomicFile& SettingsFile::target() {
+    // The link may have changed.
+    if (const QString path = resolveLinks(m_filePath); !m_target || path != m_targetPath) {
+        m_target = std::make_unique<AtomicFile>(path);
         m_targetPath = path;
     }
     return *m_target;
@@ -125,7 +126,7 @@ std::optional<QByteArray> SettingsFile::text() const {
     if (!info.exists())
         return QByteArray();
     QFile file(m_filePath);
-    // Opening a pipe or a device could wait for ever.
+    // Opening a pipe or a device could block forever.
     if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray text = file.read(IniText::maximumSize + 1);
