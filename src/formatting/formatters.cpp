@@ -1,25 +1,33 @@
 #include "formatting/formatters.h"
 
-#include "formatting/formatted.h"
-
 #include <array>
+#include <span>
 
 namespace orvelle {
 namespace {
 
-struct ScaledRate {
+using Units = std::span<const char* const>;
+
+struct ScaledBytes {
     double value = 0;
-    size_t divisions = 0; ///< how many times the rate was divided by 1024, at most three
+    const char* unit = "";
+    bool isWhole = true; ///< not divided: a number of bytes
 };
 
-ScaledRate scaleRate(double bytesPerSecond) {
-    constexpr double oneOver1024 = 0.0009765625;
-    ScaledRate rate{.value = bytesPerSecond};
-    while (rate.value >= 1024 && rate.divisions < 3) {
-        rate.value *= oneOver1024;
-        ++rate.divisions;
+/// Divides the bytes by 1024 until they are below that, or in the last unit.
+ScaledBytes scaleBytes(double bytes, Units units) {
+    size_t index = 0;
+    while (bytes >= 1024 && index + 1 < units.size()) {
+        bytes /= 1024;
+        ++index;
     }
-    return rate;
+    return {.value = bytes, .unit = units[index], .isWhole = index == 0};
+}
+
+/// "512 B", "1.5 KB".
+QString inFull(double bytes, Units units) {
+    const auto [value, unit, isWhole] = scaleBytes(bytes, units);
+    return isWhole ? formatted("{:.0f} {}", value, unit) : formatted("{:.1f} {}", value, unit);
 }
 
 } // namespace
@@ -31,22 +39,24 @@ QString formatPercent(double fraction) {
     return percent >= 10 ? formatted("{:.0f}%", percent) : formatted("{:.1f}%", percent);
 }
 
+QString formatTemperature(double celsius, bool useFahrenheit) {
+    return useFahrenheit ? formatted("{:.0f}°F", celsius * 9 / 5 + 32) : formatted("{:.0f}°C", celsius);
+}
+
 QString formatRateCompact(double bytesPerSecond) {
     constexpr std::array units = {"B", "K", "M", "G"};
-    const auto [value, divisions] = scaleRate(bytesPerSecond);
-    const char* unit = units.at(divisions);
+    const auto [value, unit, isWhole] = scaleBytes(bytesPerSecond, units);
     return value < 100 ? formatted("{:.1f}{}", value, unit) : formatted("{:.0f}{}", value, unit);
 }
 
 QString formatRate(double bytesPerSecond) {
     constexpr std::array units = {"B/s", "KB/s", "MB/s", "GB/s"};
-    const auto [value, divisions] = scaleRate(bytesPerSecond);
-    const char* unit = units.at(divisions);
-    return bytesPerSecond < 1024 ? formatted("{:.0f} {}", value, unit) : formatted("{:.1f} {}", value, unit);
+    return inFull(bytesPerSecond, units);
 }
 
-QString formatTemperature(double celsius, bool useFahrenheit) {
-    return useFahrenheit ? formatted("{:.0f}°F", celsius * 9 / 5 + 32) : formatted("{:.0f}°C", celsius);
+QString formatByteSize(quint64 bytes) {
+    constexpr std::array units = {"B", "KB", "MB", "GB", "TB"};
+    return inFull(static_cast<double>(bytes), units);
 }
 
 } // namespace orvelle

@@ -6,6 +6,7 @@
 #include <array>
 #include <clocale>
 #include <cstdio>
+#include <limits>
 #include <random>
 
 namespace orvelle {
@@ -24,7 +25,7 @@ QString printed(const char* format, double value) {
     return QString::fromUtf8(buffer.data());
 }
 
-TEST(FormatPercent, WritesOneHundredFromTheWholeOn) {
+TEST(FormatPercent, WritesOneHundredForOneAndAbove) {
     EXPECT_EQ(formatPercent(1.0), u"100%"_s);
     EXPECT_EQ(formatPercent(1.7), u"100%"_s);
     EXPECT_EQ(formatPercent(infinity), u"100%"_s);
@@ -39,7 +40,7 @@ TEST(FormatPercent, WritesADecimalBelowTenPercentOnly) {
     EXPECT_EQ(formatPercent(0.996), u"100%"_s);
 }
 
-TEST(FormatPercent, WritesWhatCannotBeWithoutStumbling) {
+TEST(FormatPercent, WritesNegativeAndNonFiniteFractionsAsTheyAre) {
     EXPECT_EQ(formatPercent(-0.5), u"-50.0%"_s);
     EXPECT_EQ(formatPercent(notANumber), u"nan%"_s);
     EXPECT_EQ(formatPercent(-infinity), u"-inf%"_s);
@@ -61,7 +62,7 @@ TEST(FormatRateCompact, HasNoUnitAboveG) {
     EXPECT_EQ(formatRateCompact(infinity), u"infG"_s);
 }
 
-TEST(FormatRateCompact, WritesWhatCannotBeWithoutStumbling) {
+TEST(FormatRateCompact, WritesNegativeAndNonFiniteRatesInBytes) {
     EXPECT_EQ(formatRateCompact(-5), u"-5.0B"_s);
     EXPECT_EQ(formatRateCompact(notANumber), u"nanB"_s);
 }
@@ -75,10 +76,24 @@ TEST(FormatRate, WritesWholeBytesAndOneDecimalAbove) {
     EXPECT_EQ(formatRate(3000.0 * 1024 * 1024 * 1024), u"3000.0 GB/s"_s);
 }
 
-TEST(FormatRate, WritesWhatCannotBeWithoutStumbling) {
+TEST(FormatRate, WritesNegativeAndNonFiniteRatesAsTheyAre) {
     EXPECT_EQ(formatRate(-5), u"-5 B/s"_s);
     EXPECT_EQ(formatRate(notANumber), u"nan B/s"_s);
     EXPECT_EQ(formatRate(infinity), u"inf GB/s"_s);
+}
+
+TEST(FormatByteSize, WritesWholeBytesBelow1024) {
+    EXPECT_EQ(formatByteSize(0), u"0 B"_s);
+    EXPECT_EQ(formatByteSize(1023), u"1023 B"_s);
+}
+
+TEST(FormatByteSize, DividesBy1024AtMostFourTimes) {
+    EXPECT_EQ(formatByteSize(1024), u"1.0 KB"_s);
+    EXPECT_EQ(formatByteSize(1536 * 1024), u"1.5 MB"_s);
+    EXPECT_EQ(formatByteSize(quint64{16} << 30), u"16.0 GB"_s);
+    EXPECT_EQ(formatByteSize(quint64{3} << 40), u"3.0 TB"_s);
+    EXPECT_EQ(formatByteSize(quint64{2048} << 40), u"2048.0 TB"_s);
+    EXPECT_EQ(formatByteSize(std::numeric_limits<quint64>::max()), u"16777216.0 TB"_s);
 }
 
 TEST(FormatTemperature, ConvertsToFahrenheitWhenAsked) {
@@ -113,6 +128,7 @@ TEST(Formatters, WriteAFullStopWhereTheLocaleWritesAComma) {
     EXPECT_EQ(formatPercent(0.051), u"5.1%"_s);
     EXPECT_EQ(formatRateCompact(1536), u"1.5K"_s);
     EXPECT_EQ(formatRate(1536), u"1.5 KB/s"_s);
+    EXPECT_EQ(formatByteSize(1536), u"1.5 KB"_s);
     std::setlocale(LC_ALL, before.c_str());
     EXPECT_EQ(germanPrintf, u"1,5"_s) << "the locale must have been in force";
 }

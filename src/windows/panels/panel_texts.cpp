@@ -1,7 +1,7 @@
 #include "windows/panels/panel_texts.h"
 
 #include "core/checked.h"
-#include "formatting/formatted.h"
+#include "formatting/formatters.h"
 
 #include <array>
 
