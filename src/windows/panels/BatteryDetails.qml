@@ -13,7 +13,7 @@ ColumnLayout {
     required property ThemeManager themeManager
     required property color moduleColor
     readonly property bool isFull: info.isFullyCharged && !info.isCharging
-    readonly property color healthColor: PanelRules.batteryHealthColor(info.health)
+    readonly property color healthColor: PanelGraphics.batteryHealthColor(info.health)
 
     Layout.fillWidth: true
     spacing: 10
@@ -41,7 +41,7 @@ ColumnLayout {
             PlainText {
                 objectName: "state"
                 visible: !details.info.isCharging // the mark says the same
-                text: PanelRules.powerStateText(details.info.isCharging, details.info.isFullyCharged)
+                text: PanelTexts.powerStateText(details.info.isCharging, details.info.isFullyCharged)
                 size: 12
                 color: Look.valueLabel
                 Layout.alignment: Qt.AlignBaseline
@@ -71,7 +71,7 @@ ColumnLayout {
             spacing: 4
             PlainText {
                 objectName: "time"
-                text: PanelRules.formatTimeRemaining(details.info.isCharging ? details.info.timeToFull
+                text: PanelTexts.formatTimeRemaining(details.info.isCharging ? details.info.timeToFull
                                                                              : details.info.timeToEmpty)
                 color: Look.valueLabel
                 Layout.fillWidth: true
@@ -83,7 +83,7 @@ ColumnLayout {
             }
             PlainText {
                 objectName: "power"
-                text: PanelRules.measureText(details.info.wattage, 1, "W")
+                text: PanelTexts.measureText(details.info.wattage, 1, "W")
                 monospaced: true
                 color: Look.valueLabel
                 Accessible.name: "Power " + text
@@ -109,15 +109,15 @@ ColumnLayout {
         spacing: 4
         DetailRow {
             label: "Temperature"
-            value: PanelRules.formatTemperature(details.info.temperature, false)
+            value: PanelTexts.formatTemperature(details.info.temperature, false)
         }
         DetailRow {
             label: "Voltage"
-            value: PanelRules.measureText(details.info.voltage, 2, "V")
+            value: PanelTexts.measureText(details.info.voltage, 2, "V")
         }
         DetailRow {
             label: "Amperage"
-            value: PanelRules.measureText(details.info.amperage, 0, "mA")
+            value: PanelTexts.measureText(details.info.amperage, 0, "mA")
         }
         DetailRow {
             label: "Cycle Count"
@@ -134,7 +134,7 @@ ColumnLayout {
             }
             PlainText {
                 objectName: "health"
-                text: PanelRules.formatPercent(details.info.health)
+                text: PanelTexts.formatPercent(details.info.health)
                 weight: Font.DemiBold
                 color: details.healthColor
                 Accessible.name: "Battery health " + text

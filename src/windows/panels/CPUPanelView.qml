@@ -18,7 +18,7 @@ PanelBody {
         moduleColor: panel.moduleColor
         PlainText {
             objectName: "totalUsage"
-            text: PanelRules.percentText(panel.cpu.totalUsage * 100)
+            text: PanelTexts.percentText(panel.cpu.totalUsage * 100)
             size: 18
             weight: Font.Bold
             color: panel.moduleColor
@@ -37,7 +37,7 @@ PanelBody {
             maxValue: 1
             barSpacing: 2
             baseColor: panel.moduleColor
-            showGlow: PanelRules.hasGlow(panel.settings.glowIntensity)
+            showGlow: PanelGraphics.hasGlow(panel.settings.glowIntensity)
             animateChanges: true
             barStyle: panel.settings.barChartStyle
             glowIntensity: panel.settings.glowIntensity
@@ -48,11 +48,11 @@ PanelBody {
         RowLayout {
             spacing: 12
             LegendItem {
-                text: "User: " + PanelRules.percentText(panel.cpu.userUsage * 100)
+                text: "User: " + PanelTexts.percentText(panel.cpu.userUsage * 100)
                 swatchColor: panel.moduleColor
             }
             LegendItem {
-                text: "System: " + PanelRules.percentText(panel.cpu.systemUsage * 100)
+                text: "System: " + PanelTexts.percentText(panel.cpu.systemUsage * 100)
                 swatchColor: Look.withOpacity(panel.moduleColor, 0.5)
             }
         }
@@ -77,7 +77,7 @@ PanelBody {
         spacing: 0
         StatisticColumn {
             label: "Load Average"
-            value: PanelRules.loadAveragesText(panel.cpu.loadAverage1, panel.cpu.loadAverage5,
+            value: PanelTexts.loadAveragesText(panel.cpu.loadAverage1, panel.cpu.loadAverage5,
                                                panel.cpu.loadAverage15)
         }
         Item {
@@ -86,7 +86,7 @@ PanelBody {
         }
         StatisticColumn {
             label: "Uptime"
-            value: PanelRules.formatUptime(panel.cpu.uptime)
+            value: PanelTexts.formatUptime(panel.cpu.uptime)
         }
         Item {
             Layout.fillWidth: true

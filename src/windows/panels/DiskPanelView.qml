@@ -69,13 +69,13 @@ PanelBody {
     Divider {}
     RowLayout {
         PlainText {
-            text: "Total Read: " + PanelRules.byteSizeText(panel.io.bytesRead)
+            text: "Total Read: " + PanelTexts.formatByteSize(panel.io.bytesRead)
             size: 9
             color: Look.secondaryLabel
             Layout.fillWidth: true
         }
         PlainText {
-            text: "Total Written: " + PanelRules.byteSizeText(panel.io.bytesWritten)
+            text: "Total Written: " + PanelTexts.formatByteSize(panel.io.bytesWritten)
             size: 9
             color: Look.secondaryLabel
         }

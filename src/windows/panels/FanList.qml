@@ -15,12 +15,12 @@ ColumnLayout {
 
     readonly property real stepSeconds: 0.05
     readonly property bool isTurning: visible && !AnimationClock.reduced
-                                      && Array.from(fans).some(fan => PanelRules.isFanTurning(fan.speed))
+                                      && Array.from(fans).some(fan => PanelGraphics.isFanTurning(fan.speed))
 
     function turn() {
         const angles = {};
         for (const fan of Array.from(fans)) {
-            const turnSeconds = PanelRules.fanTurnSeconds(fan.speed);
+            const turnSeconds = PanelGraphics.fanTurnSeconds(fan.speed);
             const step = turnSeconds > 0 ? 360 * stepSeconds / turnSeconds : 0;
             angles[fan.index] = ((fanAngles[fan.index] ?? 0) + step) % 360;
         }

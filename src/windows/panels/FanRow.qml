@@ -22,7 +22,7 @@ RowLayout {
         name: "fan"
         fontSize: 10
         color: row.moduleColor
-        angle: PanelRules.displayedFanAngle(row.baseAngle, row.fan.speed)
+        angle: PanelGraphics.displayedFanAngle(row.baseAngle, row.fan.speed)
     }
     PlainText {
         id: name

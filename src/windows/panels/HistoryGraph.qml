@@ -15,7 +15,7 @@ AnimatedLineGraph {
     maxValue: 1
     lineWidth: 1.5
     fillGradient: true
-    showGlow: PanelRules.hasGlow(graph.settings.glowIntensity)
+    showGlow: PanelGraphics.hasGlow(graph.settings.glowIntensity)
     lineStyle: graph.settings.graphLineStyle
     fillStyle: graph.settings.graphFillStyle
     glowIntensity: graph.settings.glowIntensity

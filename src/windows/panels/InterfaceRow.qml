@@ -29,7 +29,7 @@ RowLayout {
             objectName: "symbol"
             x: Look.centred(parent.width, width)
             y: Look.centred(parent.height, height)
-            name: PanelRules.interfaceSymbol(row.info)
+            name: PanelGraphics.interfaceSymbol(row.info)
             fontSize: 9
             color: Look.withOpacity(row.moduleColor, 0.7)
         }
@@ -53,7 +53,7 @@ RowLayout {
     }
     PlainText {
         id: download
-        text: "\u2193 " + PanelRules.formatRate(row.info.downloadSpeed)
+        text: "\u2193 " + PanelTexts.formatRate(row.info.downloadSpeed)
         size: 9
         monospaced: true
         color: Look.secondaryLabel
@@ -62,7 +62,7 @@ RowLayout {
     }
     PlainText {
         id: upload
-        text: "\u2191 " + PanelRules.formatRate(row.info.uploadSpeed)
+        text: "\u2191 " + PanelTexts.formatRate(row.info.uploadSpeed)
         size: 9
         monospaced: true
         color: Look.secondaryLabel

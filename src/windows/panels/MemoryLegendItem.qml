@@ -30,7 +30,7 @@ RowLayout {
         Layout.preferredWidth: item.nameWidth
     }
     PlainText {
-        text: PanelRules.byteSizeText(item.bytes)
+        text: PanelTexts.formatByteSize(item.bytes)
         size: 10
         color: Look.valueLabel
         Accessible.name: item.name + " " + text

@@ -10,7 +10,7 @@ PanelBody {
     required property MemoryMonitor memory
     required property ProcessMonitor process
     readonly property var info: memory.info
-    readonly property real pressure: PanelRules.pressureFraction(info)
+    readonly property real pressure: PanelGraphics.pressureFraction(info)
     readonly property color moduleColor: colors.memory
 
     PanelHeader {
@@ -19,7 +19,7 @@ PanelBody {
         moduleColor: panel.moduleColor
         PlainText {
             objectName: "usedOfTotal"
-            text: PanelRules.byteSizeText(panel.info.used) + " / " + PanelRules.byteSizeText(panel.info.total)
+            text: PanelTexts.formatByteSize(panel.info.used) + " / " + PanelTexts.formatByteSize(panel.info.total)
             size: 12
             weight: Font.Medium
             monospaced: true
@@ -92,10 +92,10 @@ PanelBody {
                     objectName: "pressureBadge"
                     x: Look.centred(parent.width, width)
                     y: Look.centred(parent.height, height)
-                    text: PanelRules.pressureBadgeText(panel.pressure)
+                    text: PanelTexts.pressureBadgeText(panel.pressure)
                     size: 9
                     weight: Font.Bold
-                    color: PanelRules.pressureBadgeColor(panel.pressure)
+                    color: PanelGraphics.pressureBadgeColor(panel.pressure)
                     Accessible.name: "Memory pressure " + text
                 }
             }
@@ -106,7 +106,7 @@ PanelBody {
             settings: panel.settings
             themeManager: panel.themeManager
             data: panel.memory.pressureHistory
-            lineColor: PanelRules.pressureGraphColor(panel.pressure, panel.moduleColor)
+            lineColor: PanelGraphics.pressureGraphColor(panel.pressure, panel.moduleColor)
             Accessible.name: "Memory pressure history"
         }
     }
@@ -120,7 +120,7 @@ PanelBody {
         }
         PlainText {
             objectName: "swapUsed"
-            text: PanelRules.byteSizeText(panel.info.swapUsed)
+            text: PanelTexts.formatByteSize(panel.info.swapUsed)
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel
@@ -131,7 +131,7 @@ PanelBody {
             color: Look.secondaryLabel
         }
         PlainText {
-            text: PanelRules.byteSizeText(panel.info.swapTotal)
+            text: PanelTexts.formatByteSize(panel.info.swapTotal)
             weight: Font.Medium
             monospaced: true
             color: Look.valueLabel

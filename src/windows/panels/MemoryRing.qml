@@ -10,14 +10,14 @@ Item {
     required property SettingsStore settings
     required property var info
     required property color moduleColor
-    readonly property real used: PanelRules.usedFraction(info)
-    readonly property bool showsParts: PanelRules.showsParts(settings.ringChartStyle)
+    readonly property real used: PanelGraphics.usedFraction(info)
+    readonly property bool showsParts: PanelGraphics.showsParts(settings.ringChartStyle)
 
     implicitWidth: 90
     implicitHeight: 90
 
     Accessible.role: Accessible.Chart
-    Accessible.name: "Memory " + PanelRules.formatPercent(used) + " used"
+    Accessible.name: "Memory " + PanelTexts.formatPercent(used) + " used"
 
     MultiSegmentRing {
         objectName: "parts"
@@ -38,7 +38,7 @@ Item {
             y: Look.centred(parent.height, height)
             PlainText {
                 x: Look.centred(parent.width, width)
-                text: PanelRules.formatPercent(ring.used)
+                text: PanelTexts.formatPercent(ring.used)
                 size: 16
                 weight: Font.Bold
             }
@@ -59,10 +59,10 @@ Item {
         size: 90
         baseColor: ring.moduleColor
         trackColor: Look.track
-        showGlow: PanelRules.hasGlow(ring.settings.glowIntensity)
+        showGlow: PanelGraphics.hasGlow(ring.settings.glowIntensity)
         pulseCritical: true
         criticalThreshold: 0.9
-        label: PanelRules.formatPercent(ring.used)
+        label: PanelTexts.formatPercent(ring.used)
         sublabel: "Used"
         ringStyle: ring.settings.ringChartStyle
         glowIntensity: ring.settings.glowIntensity

@@ -91,12 +91,12 @@ PanelBody {
         DetailRow {
             label: "Total Downloaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(totals.network.totalBytesIn)
+            value: PanelTexts.formatByteSize(totals.network.totalBytesIn)
         }
         DetailRow {
             label: "Total Uploaded"
             labelSize: 10
-            value: PanelRules.byteSizeText(totals.network.totalBytesOut)
+            value: PanelTexts.formatByteSize(totals.network.totalBytesOut)
         }
     }
 }

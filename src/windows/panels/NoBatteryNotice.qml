@@ -18,7 +18,7 @@ Column {
     }
     PlainText {
         x: Look.centred(parent.width, width)
-        text: PanelRules.mainsPowerNotice()
+        text: PanelTexts.mainsPowerNotice()
         size: 10
         color: Look.secondaryLabel
     }

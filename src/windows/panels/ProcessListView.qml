@@ -13,7 +13,7 @@ ColumnLayout {
     required property var processes
     required property int mode
     required property color accentColor
-    readonly property real maxValue: PanelRules.processBarScale(processes, mode)
+    readonly property real maxValue: PanelGraphics.processBarScale(processes, mode)
 
     Layout.fillWidth: true
     spacing: 2

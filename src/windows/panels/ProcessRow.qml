@@ -12,7 +12,7 @@ RowLayout {
     required property int mode
     required property color accentColor
     required property real maxValue
-    readonly property real fraction: PanelRules.processBarFraction(process, mode, maxValue)
+    readonly property real fraction: PanelGraphics.processBarFraction(process, mode, maxValue)
 
     Layout.fillWidth: true
     Layout.preferredHeight: 18
@@ -45,7 +45,7 @@ RowLayout {
     PlainText {
         id: value
         readonly property real room: Math.max(50, Math.ceil(widestValue.advanceWidth), implicitWidth)
-        text: PanelRules.processValueText(row.process, row.mode)
+        text: PanelTexts.processValueText(row.process, row.mode)
         size: 10
         weight: Font.Medium
         monospaced: true

@@ -18,7 +18,7 @@ ColumnLayout {
     required property color secondColor
     required property real graphHeight
 
-    readonly property real sharedScale: PanelRules.sharedGraphScale(firstData, secondData)
+    readonly property real sharedScale: PanelGraphics.sharedGraphScale(firstData, secondData)
 
     Layout.fillWidth: true
     spacing: 6

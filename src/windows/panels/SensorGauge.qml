@@ -19,10 +19,10 @@ TemperatureGauge {
     maxTemp: 110
     useFahrenheit: settings.useFahrenheit
     glowIntensity: settings.glowIntensity
-    showGlow: PanelRules.hasGlow(settings.glowIntensity)
+    showGlow: PanelGraphics.hasGlow(settings.glowIntensity)
 
     Accessible.role: Accessible.Chart
-    Accessible.name: PanelRules.isTemperatureKnown(celsius)
-                     ? title + " " + PanelRules.formatTemperature(celsius, settings.useFahrenheit)
+    Accessible.name: PanelGraphics.isTemperatureKnown(celsius)
+                     ? title + " " + PanelTexts.formatTemperature(celsius, settings.useFahrenheit)
                      : title + ": no temperature"
 }

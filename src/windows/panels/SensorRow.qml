@@ -25,10 +25,10 @@ RowLayout {
     PlainText {
         id: value
         objectName: "value"
-        text: PanelRules.formatTemperature(row.sensor.value, row.useFahrenheit)
+        text: PanelTexts.formatTemperature(row.sensor.value, row.useFahrenheit)
         size: 10
         weight: Font.Medium
         monospaced: true
-        color: PanelRules.temperatureBandColor(row.sensor.value)
+        color: PanelGraphics.temperatureBandColor(row.sensor.value)
     }
 }

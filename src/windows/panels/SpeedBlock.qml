@@ -31,7 +31,7 @@ ColumnLayout {
         }
     }
     PlainText {
-        text: PanelRules.formatRate(block.speed)
+        text: PanelTexts.formatRate(block.speed)
         size: block.speedSize
         weight: Font.DemiBold
         monospaced: true

@@ -9,8 +9,8 @@ Rectangle {
 
     required property var volume
     required property color moduleColor
-    readonly property real used: PanelRules.volumeUsedFraction(volume)
-    readonly property color usageColor: PanelRules.volumeUsageColor(used, moduleColor)
+    readonly property real used: PanelGraphics.volumeUsedFraction(volume)
+    readonly property color usageColor: PanelGraphics.volumeUsageColor(used, moduleColor)
 
     Layout.fillWidth: true
     implicitHeight: rows.implicitHeight + 2 * 8
@@ -18,7 +18,7 @@ Rectangle {
     color: Look.card
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: volume.name + " " + PanelRules.formatPercent(used)
+    Accessible.name: volume.name + " " + PanelTexts.formatPercent(used)
 
     ColumnLayout {
         id: rows
@@ -31,7 +31,7 @@ Rectangle {
             spacing: 6
             Symbol {
                 objectName: "symbol"
-                name: PanelRules.volumeSymbol(card.volume.id)
+                name: PanelGraphics.volumeSymbol(card.volume.id)
                 fontSize: 11
                 color: Look.secondaryLabel
             }
@@ -41,7 +41,7 @@ Rectangle {
             }
             PlainText {
                 objectName: "percent"
-                text: PanelRules.formatPercent(card.used)
+                text: PanelTexts.formatPercent(card.used)
                 weight: Font.DemiBold
                 monospaced: true
                 color: card.usageColor
@@ -60,19 +60,19 @@ Rectangle {
             spacing: freeWidth < 2 * leastSpacing ? leastSpacing : freeWidth / 2
             PlainText {
                 id: usedSize
-                text: PanelRules.byteSizeText(PanelRules.volumeUsedBytes(card.volume)) + " used"
+                text: PanelTexts.volumeUsedText(card.volume)
                 size: 9
                 color: Look.secondaryLabel
             }
             PlainText {
                 id: freeSize
-                text: PanelRules.byteSizeText(card.volume.freeSpace) + " free"
+                text: PanelTexts.formatByteSize(card.volume.freeSpace) + " free"
                 size: 9
                 color: Look.secondaryLabel
             }
             PlainText {
                 id: totalSize
-                text: PanelRules.byteSizeText(card.volume.totalSpace) + " total"
+                text: PanelTexts.formatByteSize(card.volume.totalSpace) + " total"
                 size: 9
                 color: Look.secondaryLabel
             }

@@ -2,12 +2,27 @@
 
 #include "core/checked.h"
 #include "formatting/formatters.h"
-
-#include <array>
+#include "windows/panels/panel_graphics.h"
 
 namespace orvelle {
 
-QString formatUptime(double seconds) {
+QString PanelTexts::formatPercent(double fraction) {
+    return orvelle::formatPercent(fraction);
+}
+
+QString PanelTexts::formatRate(double bytesPerSecond) {
+    return orvelle::formatRate(bytesPerSecond);
+}
+
+QString PanelTexts::formatByteSize(quint64 bytes) {
+    return orvelle::formatByteSize(bytes);
+}
+
+QString PanelTexts::formatTemperature(double celsius, bool useFahrenheit) {
+    return orvelle::formatTemperature(celsius, useFahrenheit);
+}
+
+QString PanelTexts::formatUptime(double seconds) {
     constexpr std::int64_t minute = 60;
     constexpr std::int64_t hour = 60 * minute;
     constexpr std::int64_t day = 24 * hour;
@@ -19,46 +34,54 @@ QString formatUptime(double seconds) {
     return whole < hour ? formatted("{}m", minutes) : formatted("{}h {}m", hours, minutes);
 }
 
-QString formatTimeRemaining(qint64 minutes) {
+QString PanelTexts::formatTimeRemaining(qint64 minutes) {
     if (minutes < 0)
         return QStringLiteral("Calculating...");
     return minutes >= 60 ? formatted("{}:{:02} remaining", minutes / 60, minutes % 60)
                          : formatted("{} min remaining", minutes);
 }
 
-QString byteSizeText(quint64 bytes) {
-    constexpr std::array units = {"B", "KB", "MB", "GB", "TB"};
-    if (bytes < 1024)
-        return formatted("{} {}", bytes, units.front());
-    double value = static_cast<double>(bytes);
-    size_t divisions = 0;
-    while (value >= 1024 && divisions + 1 < units.size()) {
-        value /= 1024;
-        ++divisions;
-    }
-    return formatted("{:.1f} {}", value, units.at(divisions));
-}
-
-QString percentText(double percent) {
+QString PanelTexts::percentText(double percent) {
     return formatted("{:.1f}%", percent);
 }
 
-QString loadAveragesText(double oneMinute, double fiveMinutes, double fifteenMinutes) {
-    return formatted("{:.2f}  {:.2f}  {:.2f}", oneMinute, fiveMinutes, fifteenMinutes);
-}
-
-QString measureText(double value, int decimals, const QString& unit) {
+QString PanelTexts::measureText(double value, int decimals, const QString& unit) {
     return formatted("{:.{}f} ", value, decimals) + unit;
 }
 
-QString mainsPowerNotice(const QString& machineWord) {
-    return QStringLiteral("This %1 is running on AC power").arg(machineWord);
+QString PanelTexts::loadAveragesText(double oneMinute, double fiveMinutes, double fifteenMinutes) {
+    return formatted("{:.2f}  {:.2f}  {:.2f}", oneMinute, fiveMinutes, fifteenMinutes);
 }
 
-QString powerStateText(bool isCharging, bool isFullyCharged) {
+QString PanelTexts::processValueText(const ProcessInfo& process, int mode) {
+    return mode == static_cast<int>(ProcessDisplayMode::cpu) ? percentText(process.cpuUsage)
+                                                             : formatByteSize(process.memoryBytes);
+}
+
+QString PanelTexts::pressureBadgeText(double pressure) {
+    switch (pressureLevel(pressure)) {
+    case PressureLevel::critical:
+        return QStringLiteral("Critical");
+    case PressureLevel::warning:
+        return QStringLiteral("Warning");
+    case PressureLevel::normal:
+        break;
+    }
+    return QStringLiteral("Normal");
+}
+
+QString PanelTexts::volumeUsedText(const DiskVolumeInfo& volume) {
+    return formatByteSize(usedBytes(volume)) + QStringLiteral(" used");
+}
+
+QString PanelTexts::powerStateText(bool isCharging, bool isFullyCharged) {
     if (isCharging)
         return QStringLiteral("Charging");
     return isFullyCharged ? QStringLiteral("Full") : QStringLiteral("On Battery");
+}
+
+QString PanelTexts::mainsPowerNotice() {
+    return QStringLiteral("This " ORVELLE_MACHINE_WORD " is running on AC power");
 }
 
 } // namespace orvelle

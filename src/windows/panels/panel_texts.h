@@ -1,35 +1,60 @@
 #pragma once
 
-#include <QString>
+#include "core/disk_monitor.h"
+#include "core/process_monitor.h"
 
-/// Numbers and states as the panels write them, beside those that the menu bar writes too. The texts are the
-/// same under every locale.
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
 namespace orvelle {
 
-/// How long the machine runs: "1d 2h 3m", "1h 0m", "0m". Parts of a minute are dropped. A number of seconds
-/// that is not finite, or larger than a signed 64-bit integer, stops the process.
-[[nodiscard]] QString formatUptime(double seconds);
+/// Numbers and states as the panels write them. The texts are the same under every locale.
+class PanelTexts : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
 
-/// "2:05 remaining" from an hour on, "59 min remaining" below, and "Calculating..." for a negative number,
-/// which stands for a time that is not known.
-[[nodiscard]] QString formatTimeRemaining(qint64 minutes);
+public:
+    // As in the menu bar: see formatting/formatters.h.
 
-/// A count of bytes, in powers of 1024 up to terabytes: "1023 B", "1.0 KB", "15.9 GB".
-[[nodiscard]] QString byteSizeText(quint64 bytes);
+    Q_INVOKABLE [[nodiscard]] static QString formatPercent(double fraction);
+    Q_INVOKABLE [[nodiscard]] static QString formatRate(double bytesPerSecond);
+    Q_INVOKABLE [[nodiscard]] static QString formatByteSize(quint64 bytes);
+    Q_INVOKABLE [[nodiscard]] static QString formatTemperature(double celsius, bool useFahrenheit);
 
-/// A percentage with one decimal: "12.3%".
-[[nodiscard]] QString percentText(double percent);
+    /// How long the machine runs: "1d 2h 3m", "1h 0m", "0m". Parts of a minute are dropped. A number of
+    /// seconds that is not finite, or larger than a signed 64-bit integer, stops the process.
+    Q_INVOKABLE [[nodiscard]] static QString formatUptime(double seconds);
 
-/// The three load averages: "1.50  1.25  1.00".
-[[nodiscard]] QString loadAveragesText(double oneMinute, double fiveMinutes, double fifteenMinutes);
+    /// "2:05 remaining" from an hour on, "59 min remaining" below. A negative number is an unknown time:
+    /// "Calculating...".
+    Q_INVOKABLE [[nodiscard]] static QString formatTimeRemaining(qint64 minutes);
 
-/// A number with `decimals` decimals, a space and its unit: "12.50 V".
-[[nodiscard]] QString measureText(double value, int decimals, const QString& unit);
+    /// A percentage with one decimal: "12.3%".
+    Q_INVOKABLE [[nodiscard]] static QString percentText(double percent);
 
-/// What stands in place of a battery: "This computer is running on AC power", with this word for the machine.
-[[nodiscard]] QString mainsPowerNotice(const QString& machineWord);
+    /// A number with `decimals` decimals, a space and its unit: "12.50 V".
+    Q_INVOKABLE [[nodiscard]] static QString measureText(double value, int decimals, const QString& unit);
 
-/// "Charging", "Full" or "On Battery".
-[[nodiscard]] QString powerStateText(bool isCharging, bool isFullyCharged);
+    /// The three load averages: "1.50  1.25  1.00".
+    Q_INVOKABLE [[nodiscard]] static QString loadAveragesText(double oneMinute, double fiveMinutes,
+                                                              double fifteenMinutes);
+
+    /// The percentage of processor time, or the bytes of memory. `mode` is a ProcessDisplayMode.
+    Q_INVOKABLE [[nodiscard]] static QString processValueText(const orvelle::ProcessInfo& process, int mode);
+
+    /// "Normal", "Warning" or "Critical".
+    Q_INVOKABLE [[nodiscard]] static QString pressureBadgeText(double pressure);
+
+    /// The bytes of the volume that are taken: "700 B used".
+    Q_INVOKABLE [[nodiscard]] static QString volumeUsedText(const orvelle::DiskVolumeInfo& volume);
+
+    /// "Charging", "Full" or "On Battery".
+    Q_INVOKABLE [[nodiscard]] static QString powerStateText(bool isCharging, bool isFullyCharged);
+
+    /// Stands in place of a battery: "This computer is running on AC power". The build says what people call
+    /// a machine under this operating system.
+    Q_INVOKABLE [[nodiscard]] static QString mainsPowerNotice();
+};
 
 } // namespace orvelle

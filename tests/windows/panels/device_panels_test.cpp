@@ -1,6 +1,5 @@
 #include "animation/animation_clock.h"
 #include "support/quick_timers.h"
-#include "windows/panels/machine_word.h"
 #include "windows/panels/panel_fixture.h"
 #include "windows/panels/panel_texts.h"
 
@@ -102,10 +101,10 @@ TEST_F(DiskPanel, ShowsFortyVolumesAboveItsFooter) {
 }
 
 TEST_F(BatteryPanel, ShowsANoticeWithoutABattery) {
-    const QString expected = mainsPowerNotice(machineWord());
     sample();
     ASSERT_NE(show(u"battery"), nullptr);
-    EXPECT_EQ(shownTexts(), (QStringList{QStringLiteral("No Battery Detected"), expected}));
+    EXPECT_EQ(shownTexts(),
+              (QStringList{QStringLiteral("No Battery Detected"), PanelTexts::mainsPowerNotice()}));
 }
 
 TEST_F(BatteryPanel, ShowsADischargingBatteryInCelsius) {

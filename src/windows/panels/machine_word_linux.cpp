@@ -1,9 +1,0 @@
-#include "windows/panels/machine_word.h"
-
-namespace orvelle {
-
-QString machineWord() {
-    return QStringLiteral("computer");
-}
-
-} // namespace orvelle
