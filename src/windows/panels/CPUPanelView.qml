@@ -10,22 +10,19 @@ PanelBody {
     required property CPUMonitor cpu
     required property ProcessMonitor process
     readonly property var coreUsages: cpu.coreUsages
-    readonly property color moduleColor: colors.cpu
 
-    PanelHeader {
-        symbol: "cpu"
-        title: "CPU"
-        moduleColor: panel.moduleColor
-        PlainText {
-            objectName: "totalUsage"
-            text: PanelTexts.percentText(panel.cpu.totalUsage * 100)
-            size: 18
-            weight: Font.Bold
-            color: panel.moduleColor
-            Accessible.name: "Total usage " + text
-        }
+    symbol: "cpu"
+    title: "CPU"
+    moduleColor: colors.cpu
+    headerItems: PlainText {
+        objectName: "totalUsage"
+        text: PanelTexts.percentText(panel.cpu.totalUsage * 100)
+        size: 18
+        weight: Font.Bold
+        color: panel.moduleColor
+        Accessible.name: "Total usage " + text
     }
-    Divider {}
+
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "PER CORE" }
@@ -104,5 +101,32 @@ PanelBody {
         processes: panel.process.topCPUProcesses
         mode: ProcessListView.DisplayMode.CPU
         accentColor: panel.moduleColor
+    }
+
+    /// A label above its value.
+    component StatisticColumn: ColumnLayout {
+        id: column
+
+        required property string label
+        required property string value
+
+        spacing: 2
+        Layout.fillWidth: true
+        Layout.maximumWidth: implicitWidth
+
+        PlainText {
+            text: column.label
+            color: Look.secondaryLabel
+        }
+        PlainText {
+            text: column.value
+            monospaced: true
+            color: Look.valueLabel
+            elide: Text.ElideNone
+            fontSizeMode: Text.HorizontalFit // three long values side by side grow smaller
+            minimumPixelSize: 8
+            Layout.fillWidth: true
+            Accessible.name: column.label + " " + text
+        }
     }
 }

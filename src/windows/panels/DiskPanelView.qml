@@ -9,14 +9,11 @@ PanelBody {
     required property DiskMonitor disk
     readonly property var volumes: disk.volumes
     readonly property var io: disk.diskIO
-    readonly property color moduleColor: colors.disk
 
-    PanelHeader {
-        symbol: "internaldrive"
-        title: "Disk"
-        moduleColor: panel.moduleColor
-    }
-    Divider {}
+    symbol: "internaldrive"
+    title: "Disk"
+    moduleColor: colors.disk
+
     ColumnLayout {
         spacing: 6
         SectionTitle { text: "VOLUMES" }
@@ -35,36 +32,21 @@ PanelBody {
         }
     }
     Divider {}
-    RowLayout {
-        spacing: 12
-        SpeedBlock {
-            symbol: "arrow.down.circle.fill"
-            label: "Read"
-            directionColor: panel.themeManager.currentTheme.diskReadColor
-            speed: panel.io.readSpeed
-            speedSize: 14
-        }
-        SpeedBlock {
-            symbol: "arrow.up.circle.fill"
-            label: "Write"
-            directionColor: panel.themeManager.currentTheme.diskWriteColor
-            speed: panel.io.writeSpeed
-            speedSize: 14
-        }
-    }
-    Divider {}
-    RateGraphs {
-        objectName: "graphs"
+    TransferRates {
         settings: panel.settings
         themeManager: panel.themeManager
-        title: "I/O ACTIVITY"
+        spacing: panel.spacing
+        valueSize: 14
+        historyTitle: "I/O ACTIVITY"
+        historyHeight: 50
         firstName: "Read"
-        firstData: panel.disk.readHistory
         firstColor: panel.themeManager.currentTheme.diskReadColor
+        firstRate: panel.io.readSpeed
+        firstData: panel.disk.readHistory
         secondName: "Write"
-        secondData: panel.disk.writeHistory
         secondColor: panel.themeManager.currentTheme.diskWriteColor
-        graphHeight: 50
+        secondRate: panel.io.writeSpeed
+        secondData: panel.disk.writeHistory
     }
     Divider {}
     RowLayout {
@@ -78,6 +60,83 @@ PanelBody {
             text: "Total Written: " + PanelTexts.formatByteSize(panel.io.bytesWritten)
             size: 9
             color: Look.secondaryLabel
+        }
+    }
+
+    /// A mounted volume: its name, how full it is, and its sizes.
+    component VolumeCard: Rectangle {
+        id: card
+
+        required property var volume
+        required property color moduleColor
+        readonly property real used: PanelGraphics.volumeUsedFraction(volume)
+        readonly property color usageColor: PanelGraphics.volumeUsageColor(used, moduleColor)
+
+        Layout.fillWidth: true
+        implicitHeight: rows.implicitHeight + 2 * 8
+        radius: 6
+        color: Look.card
+
+        Accessible.role: Accessible.ListItem
+        Accessible.name: volume.name + " " + PanelTexts.formatPercent(used)
+
+        ColumnLayout {
+            id: rows
+            x: 8
+            y: 8
+            width: card.width - 2 * 8
+            spacing: 6
+
+            RowLayout {
+                spacing: 6
+                Symbol {
+                    objectName: "symbol"
+                    name: PanelGraphics.volumeSymbol(card.volume.id)
+                    fontSize: 11
+                    color: Look.secondaryLabel
+                }
+                PlainText {
+                    text: card.volume.name
+                    Layout.fillWidth: true
+                }
+                PlainText {
+                    objectName: "percent"
+                    text: PanelTexts.formatPercent(card.used)
+                    weight: Font.DemiBold
+                    monospaced: true
+                    color: card.usageColor
+                }
+            }
+            UsageBar {
+                fraction: card.used
+                fillColor: card.usageColor
+            }
+            // In a wide font the last size stands below the others.
+            Flow {
+                id: sizes
+                readonly property real leastSpacing: 6
+                readonly property real freeWidth: width - usedSize.width - freeSize.width - totalSize.width
+                Layout.fillWidth: true
+                spacing: freeWidth < 2 * leastSpacing ? leastSpacing : freeWidth / 2
+                PlainText {
+                    id: usedSize
+                    text: PanelTexts.volumeUsedText(card.volume)
+                    size: 9
+                    color: Look.secondaryLabel
+                }
+                PlainText {
+                    id: freeSize
+                    text: PanelTexts.formatByteSize(card.volume.freeSpace) + " free"
+                    size: 9
+                    color: Look.secondaryLabel
+                }
+                PlainText {
+                    id: totalSize
+                    text: PanelTexts.formatByteSize(card.volume.totalSpace) + " total"
+                    size: 9
+                    color: Look.secondaryLabel
+                }
+            }
         }
     }
 }

@@ -8,44 +8,27 @@ PanelBody {
 
     required property NetworkMonitor network
     readonly property var interfaces: network.interfaces
-    readonly property color moduleColor: colors.network
 
+    symbol: "network"
+    title: "Network"
+    moduleColor: colors.network
     spacing: 12
 
-    PanelHeader {
-        symbol: "network"
-        title: "Network"
-        moduleColor: panel.moduleColor
-    }
-    Divider {}
-    RowLayout {
-        spacing: 12
-        SpeedBlock {
-            symbol: "arrow.down.circle.fill"
-            label: "Download"
-            directionColor: panel.themeManager.currentTheme.networkDownloadColor
-            speed: panel.network.totalDownloadSpeed
-        }
-        SpeedBlock {
-            symbol: "arrow.up.circle.fill"
-            label: "Upload"
-            directionColor: panel.themeManager.currentTheme.networkUploadColor
-            speed: panel.network.totalUploadSpeed
-        }
-    }
-    Divider {}
-    RateGraphs {
-        objectName: "graphs"
+    TransferRates {
         settings: panel.settings
         themeManager: panel.themeManager
-        title: "BANDWIDTH"
+        spacing: panel.spacing
+        valueSize: 16
+        historyTitle: "BANDWIDTH"
+        historyHeight: 60
         firstName: "Download"
-        firstData: panel.network.downloadHistory
         firstColor: panel.themeManager.currentTheme.networkDownloadColor
+        firstRate: panel.network.totalDownloadSpeed
+        firstData: panel.network.downloadHistory
         secondName: "Upload"
-        secondData: panel.network.uploadHistory
         secondColor: panel.themeManager.currentTheme.networkUploadColor
-        graphHeight: 60
+        secondRate: panel.network.totalUploadSpeed
+        secondData: panel.network.uploadHistory
     }
     Divider {}
     ColumnLayout {
@@ -97,6 +80,124 @@ PanelBody {
             label: "Total Uploaded"
             labelSize: 10
             value: PanelTexts.formatByteSize(totals.network.totalBytesOut)
+        }
+    }
+
+    /// A label and an address that can be selected and copied.
+    component AddressRow: RowLayout {
+        id: row
+
+        required property string label
+        required property string address
+        required property color selectionColor
+        property real addressSize: 11
+
+        Layout.fillWidth: true
+        spacing: 8
+
+        PlainText {
+            text: row.label
+            color: Look.secondaryLabel
+        }
+        Item {
+            implicitHeight: input.implicitHeight
+            Layout.fillWidth: true
+
+            TextInput {
+                id: input
+                anchors.fill: parent
+                text: row.address
+                font: Look.fonts.system(row.addressSize, Font.Normal)
+                color: Look.valueLabel
+                selectedTextColor: Look.primaryLabel
+                selectionColor: Look.withOpacity(row.selectionColor, 0.4)
+                readOnly: true
+                selectByMouse: true
+                activeFocusOnTab: true
+                clip: true
+                horizontalAlignment: TextInput.AlignRight
+                wrapMode: TextInput.WrapAnywhere
+                Accessible.role: Accessible.EditableText
+                Accessible.readOnly: true
+                Accessible.name: row.label
+            }
+            // A read-only text shows no cursor; a selection shows the focus by itself.
+            FocusRing {
+                objectName: "focusRing" + row.label
+                control: input
+                visible: input.activeFocus && input.selectedText === ""
+                anchors.margins: -2
+                anchors.leftMargin: Math.max(0, input.width - input.contentWidth) - 4
+                anchors.rightMargin: -4
+                radius: 4
+                border.color: row.selectionColor
+            }
+        }
+    }
+
+    component RateText: PlainText {
+        size: 9
+        monospaced: true
+        color: Look.secondaryLabel
+        horizontalAlignment: Text.AlignRight
+        Layout.preferredWidth: Math.max(68, implicitWidth) // the rates of all rows form columns
+    }
+
+    /// A network interface and its present rates.
+    component InterfaceRow: RowLayout {
+        id: interfaceRow
+
+        required property var info
+        required property color moduleColor
+        /// The system's name, empty where it is shown already.
+        readonly property string systemName: info.displayName === info.name ? "" : info.name
+
+        Layout.fillWidth: true
+        spacing: 6
+        z: hover.hovered ? 1 : 0 // its tooltip stands above the rows beside it
+
+        Accessible.role: Accessible.ListItem
+        Accessible.name: info.displayName + " " + download.text + " " + upload.text
+        Accessible.description: systemName
+
+        HoverHandler { id: hover }
+        Item {
+            implicitWidth: 14
+            implicitHeight: symbol.implicitHeight
+            Symbol {
+                id: symbol
+                objectName: "symbol"
+                x: Look.centred(parent.width, width)
+                y: Look.centred(parent.height, height)
+                name: PanelGraphics.interfaceSymbol(interfaceRow.info)
+                fontSize: 9
+                color: Look.withOpacity(interfaceRow.moduleColor, 0.7)
+            }
+            Loader {
+                objectName: "nameTooltip"
+                active: hover.hovered && interfaceRow.systemName !== ""
+                anchors.left: parent.left
+                anchors.bottom: parent.top
+                // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+                sourceComponent: Tooltip {
+                    text: interfaceRow.systemName // qmllint disable unqualified
+                    isWanted: true
+                }
+            }
+        }
+        PlainText {
+            text: interfaceRow.info.displayName
+            size: 10
+            color: Look.valueLabel
+            Layout.fillWidth: true
+        }
+        RateText {
+            id: download
+            text: "\u2193 " + PanelTexts.formatRate(interfaceRow.info.downloadSpeed)
+        }
+        RateText {
+            id: upload
+            text: "\u2191 " + PanelTexts.formatRate(interfaceRow.info.uploadSpeed)
         }
     }
 }

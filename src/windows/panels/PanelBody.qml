@@ -3,16 +3,21 @@ import QtQuick.Layouts
 import Orvelle.Common
 import Orvelle.Panels
 
-/// What the panels have in common: sections below each other.
+/// The body of a panel: a header with the module's symbol and name, and sections below it.
 Item {
     id: body
 
     required property SettingsStore settings
     required property ThemeManager themeManager
+    required property string symbol
+    required property string title
+    required property color moduleColor
     readonly property ModuleColors colors: ModuleColors {
         settings: body.settings
         themeManager: body.themeManager
     }
+    property alias hasHeader: header.visible
+    property alias headerItems: header.data ///< at the end of the header
     property alias spacing: sections.spacing
     default property alias sections: sections.data
 
@@ -27,5 +32,26 @@ Item {
         y: body.padding
         width: body.width - 2 * body.padding
         spacing: 10
+
+        RowLayout {
+            id: header
+            Layout.fillWidth: true
+            spacing: 6
+
+            Symbol {
+                name: body.symbol
+                fontSize: 14
+                weight: Font.DemiBold
+                color: body.moduleColor
+            }
+            PlainText {
+                text: body.title
+                size: 14
+                weight: Font.Bold
+                Layout.fillWidth: true
+                Accessible.role: Accessible.Heading
+            }
+        }
+        Divider { visible: header.visible }
     }
 }

@@ -56,14 +56,56 @@ FocusScope {
         height: button.height + 2 * 8
         anchors.bottom: parent.bottom
 
-        SettingsButton {
+        Item {
             id: button
             objectName: "settingsButton"
             anchors.right: parent.right
             anchors.rightMargin: 12
             y: Look.centred(parent.height, height)
-            focusColor: container.themeManager.currentTheme.accentColor
-            onPressed: container.openSettings()
+            implicitWidth: 26
+            implicitHeight: 26
+            activeFocusOnTab: true
+
+            Accessible.role: Accessible.Button
+            Accessible.name: tooltip.text
+            Accessible.focusable: true
+            Accessible.onPressAction: container.openSettings()
+            Keys.onSpacePressed: container.openSettings()
+            Keys.onReturnPressed: container.openSettings()
+            Keys.onEnterPressed: container.openSettings()
+
+            Rectangle {
+                anchors.fill: parent
+                radius: 6
+                color: tap.pressed ? Look.pressed : hover.hovered ? Look.hovered : Look.clear
+            }
+            FocusRing {
+                control: button
+                radius: 6
+                border.color: container.themeManager.currentTheme.accentColor
+            }
+            Symbol {
+                x: Look.centred(parent.width, width)
+                y: Look.centred(parent.height, height)
+                name: "gearshape"
+                fontSize: 13
+                weight: Font.DemiBold
+                color: hover.hovered ? Look.primaryLabel : Look.secondaryLabel
+            }
+            HoverHandler { id: hover }
+            TapHandler {
+                id: tap
+                onTapped: container.openSettings()
+            }
+            Tooltip {
+                id: tooltip
+                text: "Open Orvelle Settings"
+                objectName: "tooltip"
+                isWanted: (hover.hovered || button.activeFocus) && !tap.pressed
+                anchors.right: parent.right
+                anchors.bottom: parent.top
+                anchors.bottomMargin: 4
+            }
         }
     }
 }
