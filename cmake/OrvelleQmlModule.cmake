@@ -3,16 +3,15 @@
 # Where the tools for QML find all modules, each in the folder of its name.
 set(ORVELLE_QML_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
-# orvelle_qml_module(TARGET URI [DEPENDENCIES...] [IMPORTS...] [SINGLETONS...] [QML_FILES...]): makes the library, which was declared
+# orvelle_qml_module(TARGET URI [DEPENDENCIES...] [IMPORTS...] [QML_FILES...]): makes the library, which was declared
 # before, the QML module of that name. Its files are compiled ahead of time. A static library does not register its
-# types by itself: it needs a function of its own for that, such as `registerLookTypes`. DEPENDENCIES are modules
+# types by itself: it needs a function of its own for that, such as `registerPanelTypes`. DEPENDENCIES are modules
 # whose types the properties of this one have; IMPORTS come with every import of this one.
 function(orvelle_qml_module target uri)
-  cmake_parse_arguments(ARG "" "" "DEPENDENCIES;IMPORTS;SINGLETONS;QML_FILES" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "DEPENDENCIES;IMPORTS;QML_FILES" ${ARGN})
   find_package(Qt6 6.4 REQUIRED COMPONENTS Quick)
   string(REPLACE "." "/" folder ${uri})
   target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}) # for the registration
-  set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
   qt_add_qml_module(${target}
     URI ${uri}
     VERSION 1.0
@@ -21,7 +20,7 @@ function(orvelle_qml_module target uri)
     NO_PLUGIN
     DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
     IMPORTS ${ARG_IMPORTS}
-    QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
+    QML_FILES ${ARG_QML_FILES})
 
   set_property(GLOBAL APPEND PROPERTY ORVELLE_QML_MODULES ${target}) # for tests that hold for all modules
 

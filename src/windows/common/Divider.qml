@@ -7,7 +7,7 @@ Rectangle {
     implicitHeight: 1
     color: Look.separator
     opacity: 0.3
-    // Whole device pixels: at a scale of 1.5 some of the lines would look twice as thick as others.
+    // Whole device pixels: at a scale of 1.5 some lines would look twice as thick as others.
     transform: Scale {
         yScale: Math.max(1, Math.floor(Screen.devicePixelRatio)) / Screen.devicePixelRatio
     }

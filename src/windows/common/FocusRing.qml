@@ -1,7 +1,7 @@
 import QtQuick
 import Orvelle.Common
 
-/// Shows on which control the keys act: around the control that it fills.
+/// Outlines its control while that has the keyboard focus.
 Rectangle {
     required property Item control
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orvelle.Common
 
-/// Shows an item that may be higher than there is room, with a mark of where one is. Keys move it too.
+/// Scrolls an item that may be taller than itself, and marks the position. Keys scroll too.
 Flickable {
     id: scroller
 
@@ -12,7 +12,7 @@ Flickable {
     function scrollTo(position) {
         contentY = Math.max(0, Math.min(position, contentHeight - height));
     }
-    /// Brings `item`, which is inside the content, into view, with what is around it: the mark of the focus.
+    /// Brings an item of the content into view, with a margin for the focus ring around it.
     function reveal(item) {
         const top = item.mapToItem(contentItem, 0, 0).y - revealMargin;
         const bottom = top + item.height + 2 * revealMargin;
@@ -21,7 +21,7 @@ Flickable {
         else if (bottom > contentY + height)
             scrollTo(bottom - height);
     }
-    /// Stands at the top with the keys in no item of the content, as when it was new.
+    /// Goes back to the top, with the focus in no item of the content.
     function reset() {
         cancelFlick();
         contentY = 0;

@@ -1,8 +1,8 @@
 import QtQuick
 import Orvelle.Common
 
-/// A short help text beside what the pointer rests on, or what has the focus. It goes when it has been there
-/// for long enough to be read.
+/// A short text about the control under the pointer or with the focus. It appears after a rest, and disappears
+/// when there was time to read it.
 Rectangle {
     id: tooltip
 

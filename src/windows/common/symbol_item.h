@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Shows a symbol by its name, as tall as a line of text of its size. It is a picture beside a text that says
-/// the same, so assistive programs do not see it.
+/// A symbol by its name, as tall as a line of text of its size. It stands beside a text of the same meaning,
+/// so assistive programs do not see it.
 class SymbolItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(Symbol)
@@ -15,8 +15,8 @@ class SymbolItem : public QQuickPaintedItem {
     Q_PROPERTY(double fontSize MEMBER m_fontSize NOTIFY changed REQUIRED)
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed REQUIRED)
-    /// Degrees by which the symbol is turned clockwise about its centre. The scene graph would turn the
-    /// pixels of the finished picture, which leaves jagged edges.
+    /// Clockwise rotation about the centre, in degrees. The scene graph would rotate the pixels of the
+    /// finished picture, which leaves jagged edges.
     Q_PROPERTY(double angle MEMBER m_angle NOTIFY changed)
 
 public:

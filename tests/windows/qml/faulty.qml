@@ -1,7 +1,7 @@
 import QtQuick
 import Orvelle.Common
 
-// What the lint must notice: the role that a label asks for does not exist.
+// The lint must notice that the role which the label asks for does not exist.
 PlainText {
     text: "Faulty"
     color: Look.missingRole

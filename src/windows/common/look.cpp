@@ -1,4 +1,4 @@
-#include "windows/common/look_fonts.h"
+#include "windows/common/look.h"
 
 #include "theme/fonts.h"
 
@@ -10,6 +10,11 @@ QFont LookFonts::system(double size, int weight) {
 
 QFont LookFonts::monospaced(double size, int weight) {
     return monospacedSystemFont(size, static_cast<QFont::Weight>(weight));
+}
+
+Look::Look(QObject* parent)
+    : QObject(parent) {
+    connect(&FontChanges::shared(), &FontChanges::changed, this, &Look::fontsChanged);
 }
 
 } // namespace orvelle

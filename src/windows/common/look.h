@@ -1,8 +1,8 @@
 #pragma once
 
 #include "theme/colors.h"
-#include "windows/common/look_fonts.h"
 
+#include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -10,8 +10,20 @@
 
 namespace orvelle {
 
-/// The desktop's colours and fonts by role, to QML. No other place of the windows names a colour, apart from
-/// the modules' and the theme's.
+/// The fonts of `Look`. A size is in points; a weight is one of QML's `Font` weights.
+class LookFonts : public QObject {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    using QObject::QObject;
+
+    Q_INVOKABLE [[nodiscard]] static QFont system(double size, int weight);
+    Q_INVOKABLE [[nodiscard]] static QFont monospaced(double size, int weight);
+};
+
+/// The colours and fonts of the windows by role, to QML. Every colour of a window is one of these, of a
+/// module or of the theme.
 class Look : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -60,54 +72,54 @@ public:
     [[nodiscard]] static QColor clear() { return Qt::transparent; }
     [[nodiscard]] static QColor primaryLabel() { return LabelColors::primary; }
     [[nodiscard]] static QColor secondaryLabel() { return LabelColors::secondary; }
-    /// Names that lead a row.
+    /// The name at the start of a row.
     [[nodiscard]] static QColor nameLabel() { return whiteAt(0.9); }
-    /// Values of the second rank.
+    /// Secondary values.
     [[nodiscard]] static QColor valueLabel() { return whiteAt(0.8); }
     /// Names in a long list, where the values matter more.
     [[nodiscard]] static QColor itemLabel() { return whiteAt(0.7); }
 
     /// The empty part of a bar or a ring.
     [[nodiscard]] static QColor track() { return whiteAt(0.08); }
-    /// The same of the many bars of a list.
+    /// The track of the bars in a list.
     [[nodiscard]] static QColor listTrack() { return whiteAt(0.06); }
-    /// The same of a ring whose parts fill it, one of which stands for what is empty.
+    /// The track of a ring that its segments fill: one of them is the empty part.
     [[nodiscard]] static QColor partsTrack() { return whiteAt(0.05); }
-    /// The ground of a card on the window's own.
+    /// The background of a card.
     [[nodiscard]] static QColor card() { return whiteAt(0.03); }
-    /// The ground of a control under the pointer, and of one that is held down.
+    /// The background of a control under the pointer, and of a pressed one.
     [[nodiscard]] static QColor hovered() { return whiteAt(0.08); }
     [[nodiscard]] static QColor pressed() { return whiteAt(0.16); }
-    /// The ground of what is chosen among its neighbours.
+    /// The background of the chosen one of several choices.
     [[nodiscard]] static QColor chosen() { return whiteAt(0.22); }
-    /// The edge of what could be chosen, and of what is under the pointer.
+    /// The outline of a choice, and of the one under the pointer.
     [[nodiscard]] static QColor faintOutline() { return whiteAt(0.1); }
     [[nodiscard]] static QColor hoverOutline() { return whiteAt(0.3); }
-    /// Shows where one is in what scrolls.
+    /// The mark of the scroll position.
     [[nodiscard]] static QColor scrollMark() { return whiteAt(0.25); }
     /// The lines between sections.
     [[nodiscard]] static QColor separator() { return whiteAt(0.35); }
 
-    /// The ground of a help text: dark under every theme.
+    /// The background of a tooltip: dark under every theme.
     [[nodiscard]] static QColor tooltip() { return SystemColors::grey.darker(300); }
 
-    /// The ground of a window that no theme colours.
+    /// The background of a window that no theme colours.
     [[nodiscard]] static QColor window() { return QColor::fromRgbF(0.1F, 0.1F, 0.1F); }
-    /// The ground of what opens over such a window.
+    /// The background of a popup over such a window.
     [[nodiscard]] static QColor popup() { return QColor::fromRgbF(0.16F, 0.16F, 0.17F); }
 
     Q_INVOKABLE [[nodiscard]] static QColor withOpacity(const QColor& color, double opacity) {
         return orvelle::withOpacity(color, opacity);
     }
 
-    /// Where something of this extent begins that stands in the middle of a room: at a whole point, so that
-    /// it is as crisp as its neighbours. Anchors round in another way in each release of Qt.
-    Q_INVOKABLE [[nodiscard]] static double centred(double room, double extent) {
-        return std::round((room - extent) / 2);
+    /// The position of an item of this extent in the middle of its parent: a whole point, so that it is as
+    /// crisp as its neighbours. Anchors round differently in each release of Qt.
+    Q_INVOKABLE [[nodiscard]] static double centred(double parentExtent, double extent) {
+        return std::round((parentExtent - extent) / 2);
     }
 
-    /// Stays the same; it answers with other fonts after `fontsChanged`, so that a binding that reads it is
-    /// evaluated anew.
+    /// Always the same object. Its fonts differ after `fontsChanged`, which evaluates bindings that read it
+    /// again.
     [[nodiscard]] LookFonts* fonts() { return &m_fonts; }
 
 Q_SIGNALS:
