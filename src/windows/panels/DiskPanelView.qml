@@ -23,7 +23,7 @@ PanelBody {
                 key: "id"
                 records: panel.volumes
             }
-            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+            // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
             delegate: VolumeCard {
                 required property var record
                 volume: record

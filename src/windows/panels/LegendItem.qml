@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Orvelle.Common
 import Orvelle.Panels
 
-/// A colour and what it stands for: a dot beside areas, a stroke beside lines.
+/// A colour and its meaning: a dot for areas, a stroke for lines.
 RowLayout {
     id: item
 

@@ -55,7 +55,7 @@ PanelBody {
                 key: "name"
                 records: panel.interfaces
             }
-            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+            // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
             delegate: InterfaceRow {
                 required property var record
                 info: record
@@ -67,7 +67,7 @@ PanelBody {
     ColumnLayout {
         id: totals
 
-        /// Without its type: whether the QML compiler knows that of the totals depends on its release.
+        /// Untyped: not every release of the QML compiler knows the type of the totals.
         readonly property var network: panel.network
 
         spacing: 4
@@ -178,7 +178,7 @@ PanelBody {
                 active: hover.hovered && interfaceRow.systemName !== ""
                 anchors.left: parent.left
                 anchors.bottom: parent.top
-                // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+                // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
                 sourceComponent: Tooltip {
                     text: interfaceRow.systemName // qmllint disable unqualified
                     isWanted: true

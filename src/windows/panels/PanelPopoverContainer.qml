@@ -2,8 +2,7 @@ import QtQuick
 import Orvelle.Common
 import Orvelle.Panels
 
-/// The frame of every panel: the content, which scrolls where it is high, above a footer with the button that
-/// opens the settings.
+/// The frame of every panel: content that scrolls where it is too tall, above a footer with the settings button.
 FocusScope {
     id: container
 

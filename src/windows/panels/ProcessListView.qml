@@ -4,7 +4,7 @@ import Orvelle.Charts
 import Orvelle.Common
 import Orvelle.Panels
 
-/// The heaviest processes, in the order in which they are given.
+/// The processes that use most, in the given order.
 ColumnLayout {
     id: view
 
@@ -32,7 +32,7 @@ ColumnLayout {
             key: "pid"
             records: view.processes
         }
-        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+        // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
         delegate: ProcessRow {
             required property var record
             process: record
@@ -42,7 +42,7 @@ ColumnLayout {
         }
     }
 
-    /// A process: its name, a bar that compares it with the heaviest, and its value.
+    /// A process: its name, its value, and a bar that compares the value with the largest.
     component ProcessRow: RowLayout {
         id: row
 

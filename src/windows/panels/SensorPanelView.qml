@@ -108,7 +108,7 @@ PanelBody {
                 key: "key"
                 records: panel.sensors
             }
-            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+            // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
             delegate: SensorRow {
                 required property var record
                 sensor: record
@@ -156,7 +156,7 @@ PanelBody {
                 key: "index"
                 records: fanList.fans
             }
-            // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+            // Before Qt 6.5 a file cannot declare that a component uses an outer id (ComponentBehavior).
             delegate: FanRow {
                 required property var record
                 fan: record

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Orvelle.Common
 import Orvelle.Panels
 
-/// Two rates of bytes per second: what they are now, and their histories on one scale.
+/// Two rates in bytes per second: their present values, and their histories on one scale.
 ColumnLayout {
     id: rates
 

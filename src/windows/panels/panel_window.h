@@ -15,10 +15,10 @@ public:
         : QQuickView(&engine, nullptr)
         , m_openSettings(std::move(openSettings)) {}
 
-    /// Lets what is behind the window be seen where nothing is painted, as in its corners. Before it is
-    /// shown.
+    /// Where nothing is painted, as in rounded corners, the window shows what is behind it. Call this before
+    /// the window is shown.
     void makeTranslucent();
-    /// Shows `panel` in the frame that every panel has. The properties are those of the frame.
+    /// Puts `panel` into the frame of every panel, which gets these properties.
     void setPanel(QQuickItem& panel, QVariantMap frameProperties);
 
 private Q_SLOTS:

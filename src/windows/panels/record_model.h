@@ -6,9 +6,8 @@
 
 namespace orvelle {
 
-/// A published list of records as rows that keep their identity: when the list changes, a row follows its
-/// record to another place and is told of another value, instead of being made anew. Of records with the same
-/// key each is a row of its own.
+/// A list of records as rows that keep their identity: when the list changes, a row moves with its record and
+/// takes the new value instead of being made again. Each of several records with the same key has a row.
 class RecordModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -37,7 +36,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QVariant keyOf(const QVariant& record) const;
     void removeMissing(const QVariantList& records);
-    /// Brings the row of `record` to `row`, as a new one where there is none yet.
+    /// Moves the row of `record` to `row`, or inserts it there.
     void place(int row, const QVariant& record);
     void removeAfter(qsizetype count);
 

@@ -34,27 +34,27 @@ protected:
         sample(2);
     }
 
-    /// What an assistive program is told of one thing in the panel.
-    struct Told {
+    /// An item as assistive programs see it.
+    struct AccessibleItem {
         QAccessible::Role role;
         QString name;
         QString value;
     };
 
-    [[nodiscard]] QList<Told> everythingTold() const {
-        QList<Told> told;
-        collect(QAccessible::queryAccessibleInterface(panel.get()), told);
-        return told;
+    [[nodiscard]] QList<AccessibleItem> accessibleItems() const {
+        QList<AccessibleItem> items;
+        collect(QAccessible::queryAccessibleInterface(panel.get()), items);
+        return items;
     }
     [[nodiscard]] QStringList namesOf(QAccessible::Role role) const {
         QStringList names;
-        for (const Told& thing : everythingTold()) {
-            if (thing.role == role)
-                names.append(thing.name);
+        for (const AccessibleItem& each : accessibleItems()) {
+            if (each.role == role)
+                names.append(each.name);
         }
         return names;
     }
-    [[nodiscard]] bool tells(QAccessible::Role role, const char16_t* name) const {
+    [[nodiscard]] bool hasItem(QAccessible::Role role, const char16_t* name) const {
         return namesOf(role).contains(QString::fromUtf16(name));
     }
     [[nodiscard]] static QAccessibleInterface* find(QAccessibleInterface* root, QAccessible::Role role) {
@@ -76,53 +76,53 @@ protected:
     }
 
 private:
-    static void collect(QAccessibleInterface* thing, QList<Told>& told) {
-        if (thing == nullptr || thing->state().invisible)
+    static void collect(QAccessibleInterface* item, QList<AccessibleItem>& items) {
+        if (item == nullptr || item->state().invisible)
             return;
-        told.append({thing->role(), thing->text(QAccessible::Name), thing->text(QAccessible::Value)});
-        for (int index = 0; index < thing->childCount(); ++index)
-            collect(thing->child(index), told);
+        items.append({item->role(), item->text(QAccessible::Name), item->text(QAccessible::Value)});
+        for (int index = 0; index < item->childCount(); ++index)
+            collect(item->child(index), items);
     }
 };
 
 TEST_F(PanelAccessibility, NamesEverythingThatIsShown) {
     for (const char16_t* key : {u"cpu", u"memory", u"network", u"disk", u"battery", u"sensor"}) {
         ASSERT_NE(show(key), nullptr);
-        const QList<Told> told = everythingTold();
-        EXPECT_GT(told.size(), 10);
+        const QList<AccessibleItem> items = accessibleItems();
+        EXPECT_GT(items.size(), 10);
         QStringList names;
-        for (const Told& thing : told.mid(1)) { // the first is the window
-            EXPECT_NE(thing.role, QAccessible::NoRole);
-            EXPECT_FALSE(thing.name.isEmpty())
-                << QString::fromUtf16(key).toStdString() << ", role " << thing.role;
-            names << thing.name << thing.value;
+        for (const AccessibleItem& each : items.mid(1)) { // the first is the window
+            EXPECT_NE(each.role, QAccessible::NoRole);
+            EXPECT_FALSE(each.name.isEmpty())
+                << QString::fromUtf16(key).toStdString() << ", role " << each.role;
+            names << each.name << each.value;
         }
         for (const QString& text : shownTexts())
             EXPECT_FALSE(names.filter(text, Qt::CaseInsensitive).isEmpty())
-                << "not told: " << text.toStdString();
+                << "without a name: " << text.toStdString();
     }
 }
 
-TEST_F(PanelAccessibility, SaysWhatAValueIsTheValueOf) {
+TEST_F(PanelAccessibility, NamesEachValueByItsLabel) {
     ASSERT_NE(show(u"cpu"), nullptr);
-    EXPECT_TRUE(tells(QAccessible::StaticText, u"Uptime 1d 1h 1m"));
-    EXPECT_TRUE(tells(QAccessible::StaticText, u"Total usage 0.0%"));
+    EXPECT_TRUE(hasItem(QAccessible::StaticText, u"Uptime 1d 1h 1m"));
+    EXPECT_TRUE(hasItem(QAccessible::StaticText, u"Total usage 0.0%"));
     ASSERT_NE(show(u"battery"), nullptr);
-    EXPECT_TRUE(tells(QAccessible::StaticText, u"Cycle Count 312"));
-    EXPECT_TRUE(tells(QAccessible::StaticText, u"Charge 64%"));
+    EXPECT_TRUE(hasItem(QAccessible::StaticText, u"Cycle Count 312"));
+    EXPECT_TRUE(hasItem(QAccessible::StaticText, u"Charge 64%"));
     EXPECT_FALSE(namesOf(QAccessible::StaticText).filter(QStringLiteral("Battery health ")).isEmpty());
     ASSERT_NE(show(u"network"), nullptr);
-    EXPECT_TRUE(tells(QAccessible::StaticText, u"Total Downloaded 1 B"));
+    EXPECT_TRUE(hasItem(QAccessible::StaticText, u"Total Downloaded 1 B"));
     ASSERT_NE(show(u"disk"), nullptr);
-    EXPECT_TRUE(tells(QAccessible::ListItem, u"Root 70%"));
+    EXPECT_TRUE(hasItem(QAccessible::ListItem, u"Root 70%"));
     ASSERT_NE(show(u"sensor"), nullptr);
-    EXPECT_TRUE(tells(QAccessible::ListItem, u"Board 50°C"));
-    EXPECT_TRUE(tells(QAccessible::ListItem, u"Fan 0 0 RPM"));
-    EXPECT_TRUE(tells(QAccessible::Chart, u"CPU 58°C"));
-    EXPECT_TRUE(tells(QAccessible::Chart, u"GPU: no temperature")) << "its dial shows none";
+    EXPECT_TRUE(hasItem(QAccessible::ListItem, u"Board 50°C"));
+    EXPECT_TRUE(hasItem(QAccessible::ListItem, u"Fan 0 0 RPM"));
+    EXPECT_TRUE(hasItem(QAccessible::Chart, u"CPU 58°C"));
+    EXPECT_TRUE(hasItem(QAccessible::Chart, u"GPU: no temperature")) << "its dial shows none";
 }
 
-TEST_F(PanelAccessibility, MakesSectionsHeadings) {
+TEST_F(PanelAccessibility, MarksSectionTitlesAsHeadings) {
     ASSERT_NE(show(u"sensor"), nullptr);
     EXPECT_EQ(namesOf(QAccessible::Heading),
               (QStringList{QStringLiteral("Sensors"), QStringLiteral("TEMPERATURE HISTORY"),
@@ -141,7 +141,7 @@ TEST_F(PanelAccessibility, PressesTheSettingsButton) {
     EXPECT_EQ(settingsOpened, 1);
 }
 
-TEST_F(PanelAccessibility, GoesFromAddressToAddressToTheButtonByTab) {
+TEST_F(PanelAccessibility, MovesTheFocusThroughTheAddressesToTheButtonByTab) {
     ASSERT_NE(show(u"network"), nullptr);
     press(Qt::Key_Tab);
     EXPECT_EQ(focusedText(), QStringLiteral("192.168.1.20"));
@@ -185,7 +185,7 @@ TEST_F(PanelAccessibility, CopiesAnAddressThatIsSelectedByTheKeyboardOrTheMouse)
     EXPECT_EQ(clipboard->text(), QStringLiteral("2001:db8::20"));
 }
 
-TEST_F(PanelAccessibility, ScrollsByTheKeyboardFromWhereverTheFocusIs) {
+TEST_F(PanelAccessibility, ScrollsByTheKeyboardWhateverHasTheFocus) {
     for (int index = 1; index < 40; ++index)
         machine.network->entries->push_back(
             {.name = "en" + std::to_string(index), .isUp = true, .bytesIn = 1});
@@ -207,7 +207,7 @@ TEST_F(PanelAccessibility, ScrollsByTheKeyboardFromWhereverTheFocusIs) {
     EXPECT_LT(position(), page) << "what has the focus is brought into view";
 }
 
-TEST_F(PanelAccessibility, ExplainsTheButtonUnderThePointerAndUnderTheFocus) {
+TEST_F(PanelAccessibility, ShowsTheTooltipOfAButtonUnderThePointerOrWithTheFocus) {
     ASSERT_NE(show(u"cpu"), nullptr);
     QQuickItem* button = item("settingsButton");
     QQuickItem* tooltip = item("tooltip");
@@ -223,7 +223,7 @@ TEST_F(PanelAccessibility, ExplainsTheButtonUnderThePointerAndUnderTheFocus) {
     EXPECT_TRUE(waitUntil([&] { return tooltip->isVisible(); }));
 }
 
-TEST_F(PanelAccessibility, TellsTheSystemsNameOfAnInterfaceThatIsShownByAnother) {
+TEST_F(PanelAccessibility, GivesTheSystemNameOfAnInterfaceInADescriptionAndATooltip) {
     machine.network->entries = {
         {.name = "wlp3s0", .isUp = true, .ipv4Address = "192.0.2.2", .kind = InterfaceKind::wifi}};
     sample();
@@ -252,7 +252,7 @@ TEST_F(PanelAccessibility, TellsTheSystemsNameOfAnInterfaceThatIsShownByAnother)
     EXPECT_EQ(tooltip(), nullptr);
 }
 
-TEST_F(PanelAccessibility, ExplainsTheButtonForAsLongAsOneReads) {
+TEST_F(PanelAccessibility, HidesATooltipAfterTheTimeToReadIt) {
     ASSERT_NE(show(u"cpu"), nullptr);
     QQuickItem* tooltip = item("tooltip");
     int appearances = 0;
@@ -265,7 +265,7 @@ TEST_F(PanelAccessibility, ExplainsTheButtonForAsLongAsOneReads) {
     EXPECT_FALSE(hasRunningTimer(*tooltip)) << "it does not come back by itself";
 }
 
-TEST_F(PanelAccessibility, StartsAnewWhenThePanelOpensAgain) {
+TEST_F(PanelAccessibility, OpensAgainAtTheTopWithNothingFocused) {
     for (int index = 1; index < 40; ++index)
         machine.network->entries->push_back(
             {.name = "en" + std::to_string(index), .isUp = true, .bytesIn = 1});

@@ -198,7 +198,7 @@ TEST_F(SensorPanel, StretchesEachGaugeToHalfOfTheRow) {
     EXPECT_EQ(placeOf("gpuGauge").right(), 320 - 16);
 }
 
-TEST_F(SensorPanel, PutsTheKeysOfItsHistoryFourPointsApart) {
+TEST_F(SensorPanel, PutsTheLegendsOfItsHistoryFourPointsApart) {
     sample();
     ASSERT_NE(show(u"sensor"), nullptr);
     const QQuickItem* first = item("cpuKey");
@@ -206,7 +206,7 @@ TEST_F(SensorPanel, PutsTheKeysOfItsHistoryFourPointsApart) {
     EXPECT_EQ(second->x() - first->x() - first->width(), 4);
 }
 
-TEST_F(SensorPanel, JudgesFahrenheitByTheCelsiusValue) {
+TEST_F(SensorPanel, ColoursAFahrenheitReadingByItsCelsiusValue) {
     settings.setUseFahrenheit(true);
     machine.sensor->cpuTemperature = 72;
     machine.sensor->sensors = {{.key = "a", .name = "Board", .value = 50}};

@@ -4,10 +4,10 @@
 namespace orvelle {
 namespace {
 
-/// Which value each part of a panel shows, and in which colour.
+/// The values that the panels show, and their colours.
 class PanelData : public PanelFixture {
 protected:
-    /// The colours of the visible marks of this size, in the order of the panel.
+    /// The colours of the visible rectangles of this size, in the order of the panel.
     [[nodiscard]] QList<QColor> marksOfSize(double width, double height) const {
         QList<QColor> colors;
         for (const QQuickItem* mark : shownItems("QQuickRectangle")) {
@@ -26,7 +26,7 @@ protected:
     [[nodiscard]] QList<double> seriesOf(const char* graph) const {
         return item(graph)->property("data").value<QList<double>>();
     }
-    /// Memory of 1000 pages of a byte, of which these are wired and none is cached.
+    /// Samples a memory of 1000 pages of one byte, of which `wiredPages` are wired and none is cached.
     void hold(std::uint64_t wiredPages) {
         machine.memory->reading = {
             .pageSize = 1, .physicalMemory = 1000, .freePages = 1000 - wiredPages, .wiredPages = wiredPages};
@@ -38,7 +38,7 @@ protected:
         machine.disk->counters = std::vector<DiskCounters>{{.bytesRead = in, .bytesWritten = out}};
         sample();
     }
-    /// Steps of the fans' icons between two ticks of their timer, degrees.
+    /// Degrees by which each fan's icon turns at a tick of the timer.
     [[nodiscard]] QList<double> stepsOfTheFans(QObject& timer) const {
         const QList<const QQuickItem*> icons = symbolsCalled(u"fan");
         QList<double> steps;
@@ -131,7 +131,7 @@ TEST_F(PanelData, TheBadgeOfThePressureChangesExactlyAtItsLevels) {
     expectBadge(0, u"Normal", green, moduleColor);
 }
 
-TEST_F(PanelData, TheLegendOfTheProcessorTellsUserFromSystem) {
+TEST_F(PanelData, TheLegendOfTheProcessorDistinguishesUserFromSystem) {
     ASSERT_NE(show(u"cpu"), nullptr);
     const QColor color = asShown(themes.cpuColor(settings));
     EXPECT_EQ(marksOfSize(6, 6), (QList<QColor>{color, faded(color, 0.5)}));
@@ -232,19 +232,19 @@ TEST_F(PanelData, TheFansTurnAtEveryTickByTheirSpeedUpToTwoTurnsASecond) {
     for (int tick = 0; tick < 30; ++tick) {
         const QList<double> steps = stepsOfTheFans(*timer);
         ASSERT_EQ(steps.size(), 4);
-        // A turn in 2, 1, 0.5 and again 0.5 seconds, of which a tick is a twentieth.
+        // One turn takes 2, 1, 0.5 and 0.5 seconds. A tick is a twentieth of a second.
         for (qsizetype fan = 0; fan < 4; ++fan)
             EXPECT_NEAR(steps[fan], (QList<double>{9, 18, 36, 36})[fan], 1e-6)
                 << "fan " << fan << ", " << tick;
     }
 }
 
-/// Under a theme whose modules have translucent colours.
+/// A theme with translucent module colours is selected.
 class TranslucentColors : public PanelFixture {
 protected:
     void SetUp() override { themes.selectTheme(QStringLiteral("minimal")); }
 
-    /// White at an opacity, as pixels have it.
+    /// White at an opacity, with eight bits for each channel.
     static QColor whiteAt(double opacity) {
         return asShown(QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity)));
     }

@@ -19,13 +19,13 @@
 
 namespace orvelle {
 
-/// A machine by script, and its panels. A warning of Qt or QML while a panel lives fails the test.
+/// A scripted machine and its panels. A warning of Qt or QML fails the test.
 class PanelFixture : public ::testing::Test {
 protected:
     PanelFixture() { s_previousHandler = qInstallMessageHandler(&PanelFixture::failOnMessage); }
     ~PanelFixture() override { qInstallMessageHandler(s_previousHandler); }
 
-    /// Samples the machine, which was set up before, some times.
+    /// Samples the machine, and lets three seconds pass after each sample.
     void sample(int times = 1) {
         for (int count = 0; count < times; ++count) {
             monitor.updateCycle();
@@ -51,10 +51,10 @@ protected:
         settle();
         return panel.get();
     }
-    /// Has everything laid out and painted that changed.
+    /// Lays out and paints every change.
     void settle() { ASSERT_TRUE(orvelle::settle(*panel)) << "it is repainted again and again"; }
 
-    /// The item inside the panel with this object name; a failure when there is none.
+    /// The item of the panel with this object name. Fails the test when there is none.
     [[nodiscard]] QQuickItem* item(const char* name) const {
         QQuickItem* found = find(panel->contentItem(), QString::fromLatin1(name));
         if (found == nullptr)
@@ -65,20 +65,20 @@ protected:
         const QQuickItem* found = item(name);
         return found != nullptr ? found->property("text").toString() : QString();
     }
-    /// A colour as pixels have it: eight bits each.
+    /// The colour with eight bits for each channel.
     [[nodiscard]] static QColor asShown(const QColor& color) { return QColor::fromRgba(color.rgba()); }
     [[nodiscard]] QColor colorOf(const char* name, const char* property = "color") const {
         const QQuickItem* found = item(name);
         return found != nullptr ? asShown(found->property(property).value<QColor>()) : QColor();
     }
-    /// Every text that can be seen, from top to bottom as the items stand in the tree.
+    /// Every visible text, in the order of the tree.
     [[nodiscard]] QStringList shownTexts() const {
         QStringList texts;
         for (const QQuickItem* found : shownItems("QQuickText", "QQuickTextInput"))
             texts.append(found->property("text").toString());
         return texts;
     }
-    /// The items of these classes that can be seen, in the order of the tree.
+    /// The visible items of these classes, in the order of the tree.
     [[nodiscard]] QList<const QQuickItem*> shownItems(const char* className,
                                                       const char* otherClassName = nullptr) const {
         QList<const QQuickItem*> found;
@@ -89,7 +89,7 @@ protected:
         return shownTexts().contains(QString::fromUtf16(text));
     }
 
-    /// Nothing reaches out of the panel's width, and what the panel holds ends above the footer.
+    /// Every item is inside the panel's width, and the content ends above the footer.
     void expectNothingIsCutOff() const {
         const QQuickItem* scroller = item("scroller");
         const QQuickItem* footer = item("footer");
@@ -143,7 +143,7 @@ private:
         return item->metaObject()->className() + (": " + item->property("text").toString().toStdString());
     }
     static void expectInside(const QQuickItem* root, double width) {
-        // A turned symbol and the canvas of a glowing chart may reach beyond their room, and nothing else.
+        // Only a rotated symbol and the canvas of a glowing chart may exceed their room.
         if (!root->isVisible() || root->rotation() != 0 || root->inherits("QQuickPaintedItem"))
             return;
         const QRectF place = root->mapRectToScene({0, 0, root->width(), root->height()});

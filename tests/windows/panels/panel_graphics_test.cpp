@@ -75,7 +75,7 @@ TEST(ProcessBars, AreScaledToTheLargestOfTheList) {
     EXPECT_EQ(barScale({processOf(250, 7), processOf(0, 3)}, byMemory), 7);
 }
 
-// Before Qt 6.5 a QML property of type `var` hands over such a list.
+// Before Qt 6.5 a QML property of type `var` passes such a list.
 TEST(ProcessBars, AreScaledToTheLargestOfAListOfVariants) {
     const QVariantList processes{QVariant::fromValue(processOf(12)), QVariant::fromValue(processOf(250))};
     EXPECT_EQ(PanelGraphics::processBarScale(processes, byCPU), 250);

@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-/// How the settings reach the charts of the panels.
+/// The charts of the panels follow the settings.
 class PanelStyles : public PanelFixture {
 protected:
     [[nodiscard]] QVariant valueOf(const char* chart, const char* property) const {
@@ -16,7 +16,7 @@ protected:
         return value;
     }
 
-    /// The chart's property of the same name has each value that the setting is given.
+    /// The property of the chart takes each value of the setting.
     void expectFollows(const char* chart, const char* setting, const char* property) {
         const QMetaObject& type = SettingsStore::staticMetaObject;
         const QMetaProperty chosen = type.property(type.indexOfProperty(setting));
@@ -36,7 +36,7 @@ protected:
             EXPECT_EQ(valueOf(chart, "showGlow").toBool(), intensity != GlowIntensity::none) << chart;
         }
     }
-    /// A line graph of a panel, `maxValue` of which reaches to its top.
+    /// The line graph follows the settings and has this scale and height.
     void expectGraph(const char* chart, double maxValue, double height) {
         expectFollows(chart, "graphLineStyle", "lineStyle");
         expectFollows(chart, "graphFillStyle", "fillStyle");

@@ -23,7 +23,7 @@ TEST(Uptime, ShowsHoursAndDaysFromTheFirstOn) {
     EXPECT_EQ(PanelTexts::formatUptime(93780), QStringLiteral("1d 2h 3m"));
 }
 
-TEST(UptimeDeathTest, StopsAtANumberThatIsNoTime) {
+TEST(UptimeDeathTest, StopsTheProcessAtANumberThatIsNotATime) {
     EXPECT_DEATH(static_cast<void>(PanelTexts::formatUptime(std::numeric_limits<double>::infinity())),
                  "truncation");
     EXPECT_DEATH(static_cast<void>(PanelTexts::formatUptime(1e19)), "truncation");
@@ -60,7 +60,7 @@ TEST(PowerState, IsChargingBeforeItIsFull) {
     EXPECT_EQ(PanelTexts::powerStateText(false, false), QStringLiteral("On Battery"));
 }
 
-TEST(MainsPower, IsReportedOfWhatPeopleCallTheMachineUnderThisSystem) {
+TEST(MainsPower, NamesTheMachineAsPeopleDoUnderThisSystem) {
     EXPECT_EQ(PanelTexts::mainsPowerNotice(),
               QStringLiteral("This " ORVELLE_EXPECTED_MACHINE_WORD " is running on AC power"));
 }

@@ -1,3 +1,5 @@
+#include "animation/animation_clock.h"
+#include "support/quick_timers.h"
 #include "theme/fonts.h"
 #include "windows/panels/panel_fixture.h"
 
@@ -75,6 +77,30 @@ TEST_F(AnyPanel, FollowsAFontThatTheDesktopChanges) {
     EXPECT_EQ(families(), before);
     EXPECT_EQ(item("cpuGauge")->height(), gaugeHeight);
     EXPECT_EQ(panel->grabWindow(), picture);
+}
+
+TEST_F(AnyPanel, PaintsNothingBetweenTwoSamples) {
+    machine.processor->ticks = std::vector<CoreTicks>(8);
+    machine.process->processes = {{.pid = 1, .name = "first"}};
+    machine.sensor->fanSpeeds = {0};
+    std::vector<std::unique_ptr<QQuickView>> panels;
+    QStringList painted;
+    sample(2);
+    for (const char16_t* key : {u"cpu", u"memory", u"network", u"disk", u"battery", u"sensor"}) {
+        ASSERT_NE(show(key), nullptr);
+        QObject::connect(panel.get(), &QQuickWindow::afterRendering, panel.get(),
+                         [&painted, key] { painted.append(QString::fromUtf16(key)); });
+        panels.push_back(std::move(panel));
+    }
+    sample();
+    EXPECT_TRUE(waitUntil([] { return !AnimationClock::shared().isRunning(); }));
+    for (const auto& each : panels) {
+        EXPECT_TRUE(orvelle::settle(*each));
+        EXPECT_FALSE(hasRunningTimer(*each->contentItem())) << each->title().toStdString();
+    }
+    painted.clear();
+    passAMoment();
+    EXPECT_EQ(painted, QStringList());
 }
 
 TEST_F(CPUPanel, ShowsUsageLoadUptimeAndCores) {

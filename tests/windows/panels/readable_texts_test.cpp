@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::uint64_t oneGibibyte = std::uint64_t{1} << 30;
 
-// ctest runs these with a wider and with a narrower font too.
+// ctest also runs these with wider and narrower fonts.
 class ReadableTexts : public PanelFixture {
 protected:
     ReadableTexts() {
@@ -45,7 +45,7 @@ protected:
         machine.sensor->sensors = {{.key = "a", .name = "Package id 0", .value = 104}};
         machine.sensor->fanSpeeds = {12'000, 800};
         settings.setUseFahrenheit(true);
-        for (int cycle = 0; cycle < 7; ++cycle) { // processes are sampled in every third
+        for (int cycle = 0; cycle < 7; ++cycle) { // every third cycle samples processes
             work();
             sample();
         }
@@ -66,7 +66,7 @@ protected:
                                                                .amperage = 10'000};
     }
 
-    /// Everything counts on, as much as it can.
+    /// Raises every counter by the most that the panels have room for.
     void work() {
         for (CoreTicks& core : *machine.processor->ticks)
             core.user += 300;
@@ -87,7 +87,7 @@ protected:
         for (const QQuickItem* text : shownTextsIn(*panel->contentItem()))
             EXPECT_EQ(shownSizeOf(*text), text->property("font").value<QFont>().pixelSize())
                 << wordsOf(*text);
-        spreadLetters(*panel->contentItem(), 115); // a font that is wider still
+        spreadLetters(*panel->contentItem(), 115); // as in a still wider font
         settle();
         expectReadableTexts(*panel->contentItem(), {QStringLiteral("plasmashell")});
         for (const QQuickItem* text : shownTextsIn(*panel->contentItem()))
@@ -99,12 +99,12 @@ TEST_F(ReadableTexts, AreWrittenInTheFontOfThisRun) {
     expectTheFontsOfThisRun();
 }
 
-TEST_F(ReadableTexts, StandInEveryPanelWholeAndApart) {
+TEST_F(ReadableTexts, AreNeitherCutNorCoveredInAnyPanel) {
     for (const char16_t* key : {u"cpu", u"memory", u"network", u"disk", u"battery", u"sensor"})
         expectReadable(key);
 }
 
-TEST_F(ReadableTexts, AreThoseOfAMachineThatIsBusy) {
+TEST_F(ReadableTexts, IncludeTheWidestValuesOfABusyMachine) {
     ASSERT_NE(show(u"cpu"), nullptr);
     EXPECT_TRUE(shows(u"100.0%") && shows(u"800.0%"));
     ASSERT_NE(show(u"network"), nullptr);
@@ -115,7 +115,7 @@ TEST_F(ReadableTexts, AreThoseOfAMachineThatIsBusy) {
     EXPECT_TRUE(shows(u"1000.0 MB"));
 }
 
-TEST_F(ReadableTexts, StandInThePanelsOfAMachineThatHasLittle) {
+TEST_F(ReadableTexts, AreNeitherCutNorCoveredWithoutBatteryAndSensors) {
     machine.battery->powerSources.emplace();
     machine.sensor->sensors.clear();
     machine.sensor->fanSpeeds.clear();
@@ -124,7 +124,7 @@ TEST_F(ReadableTexts, StandInThePanelsOfAMachineThatHasLittle) {
     expectReadable(u"sensor");
 }
 
-TEST_F(ReadableTexts, TellOfABatteryThatIsFull) {
+TEST_F(ReadableTexts, SayThatTheBatteryIsFull) {
     describeBattery(true);
     sample();
     expectReadable(u"battery");

@@ -28,14 +28,14 @@ protected:
     QSignalSpy inserted{&model, &RecordModel::rowsInserted};
     QSignalSpy removed{&model, &RecordModel::rowsRemoved};
     QSignalSpy moved{&model, &RecordModel::rowsMoved};
-    QSignalSpy told{&model, &RecordModel::dataChanged};
+    QSignalSpy changed{&model, &RecordModel::dataChanged};
 };
 
-TEST_F(Records, OfTheSameKeyKeepTheirRow) {
+TEST_F(Records, KeepTheirRowWhileTheirKeyStays) {
     set({{1, 5}, {2, 4}});
     inserted.clear();
     set({{1, 6}, {2, 4}});
-    EXPECT_EQ(told.size(), 1);
+    EXPECT_EQ(changed.size(), 1);
     EXPECT_TRUE(inserted.isEmpty() && removed.isEmpty() && moved.isEmpty());
 }
 
@@ -44,10 +44,10 @@ TEST_F(Records, MoveTheirRowToTheirNewPlace) {
     inserted.clear();
     set({{3, 3}, {1, 5}, {2, 4}});
     EXPECT_EQ(moved.size(), 1);
-    EXPECT_TRUE(inserted.isEmpty() && removed.isEmpty() && told.isEmpty());
+    EXPECT_TRUE(inserted.isEmpty() && removed.isEmpty() && changed.isEmpty());
 }
 
-TEST_F(Records, ComeAndGoOneByOne) {
+TEST_F(Records, AreInsertedAndRemovedOneByOne) {
     set({{1, 5}, {2, 4}, {3, 3}});
     inserted.clear();
     set({{4, 9}, {1, 5}, {3, 3}});
@@ -57,7 +57,7 @@ TEST_F(Records, ComeAndGoOneByOne) {
     set({{1, 5}});
 }
 
-TEST_F(Records, OfOneKeyAreRowsOfTheirOwn) {
+TEST_F(Records, WithTheSameKeyGetARowEach) {
     set({{1, 5}, {1, 6}});
     set({{1, 5}, {1, 6}, {1, 7}});
     set({{1, 8}});
