@@ -5,7 +5,8 @@
 build_packages=(
   g++ cmake ninja-build pkg-config
   qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
-  "qt6-svg-dev|libqt6svg6-dev" libfmt-dev libxcb1-dev bootstrap-icons
+  "qt6-svg-dev|libqt6svg6-dev" libfmt-dev bootstrap-icons
+  libxcb1-dev libxcb-ewmh-dev libxcb-xinput-dev
 )
 # What the program needs to draw text and to meet a display, where the desktop does not bring it already.
 desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/painted/bar_window.h"
-#include "shell/x11/input_focus.h"
+#include "shell/x11/x11_input.h"
 
 #include <optional>
 

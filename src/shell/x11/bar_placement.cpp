@@ -1,7 +1,5 @@
 #include "shell/x11/bar_placement.h"
 
-#include "shell/x11/x11_connection.h"
-
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
@@ -40,11 +38,6 @@ BarPlacement::BarPlacement(QWindow& bar)
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &BarPlacement::updateSoon);
     for (QScreen* screen : QGuiApplication::screens())
         watchScreen(screen);
-    qGuiApp->installNativeEventFilter(this);
-}
-
-BarPlacement::~BarPlacement() {
-    qGuiApp->removeNativeEventFilter(this);
 }
 
 void BarPlacement::watchScreen(QScreen* screen) {
@@ -53,11 +46,9 @@ void BarPlacement::watchScreen(QScreen* screen) {
     updateSoon();
 }
 
-bool BarPlacement::nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) {
-    if (m_desktop && eventType == "xcb_generic_event_t" &&
-        m_desktop->isLayoutChange(*static_cast<xcb_generic_event_t*>(message)))
+void BarPlacement::handleEvent(const xcb_generic_event_t& event) {
+    if (m_hints != nullptr && m_hints->isLayoutChange(event))
         updateSoon();
-    return false;
 }
 
 void BarPlacement::setShown(bool shown) {
@@ -88,28 +79,25 @@ void BarPlacement::update() {
 
 void BarPlacement::declareDock() {
     m_bar.create();
-    xcb_connection_t* connection = xcbConnection();
-    if (connection == nullptr)
+    if (m_hints == nullptr)
         return;
     const auto window = static_cast<xcb_window_t>(m_bar.winId());
-    if (!m_desktop)
-        m_desktop.emplace(connection, window);
-    m_desktop->declareDock(window);
+    m_hints->declareDock(window);
     m_strut.reset();
-    m_desktop->setStrut(window, m_strut);
+    m_hints->setStrut(window, m_strut);
 }
 
 void BarPlacement::place(const QScreen& screen) {
     const QRect geometry = screen.geometry();
     const double pixelsPerPoint = screen.devicePixelRatio();
-    if (!m_desktop) {
+    if (m_hints == nullptr) {
         m_bar.setGeometry(barGeometry(geometry, pixelsPerPoint, 0));
         return;
     }
     const auto window = static_cast<xcb_window_t>(m_bar.winId());
     const QRect pixels = screenPixels(geometry, pixelsPerPoint);
     const int height = static_cast<int>(std::ceil(barHeightPoints * pixelsPerPoint));
-    const int offset = freeOffset(pixels, height, m_desktop->otherTopDocks(window));
+    const int offset = freeOffset(pixels, height, m_hints->otherTopDocks(window));
     const QRect target = barGeometry(geometry, pixelsPerPoint, offset);
     // At a scale of 1.5 Qt asks for steps of 2 pixels, and the window manager cuts 33 pixels to 32. Steps
     // count from the base size.
@@ -118,10 +106,10 @@ void BarPlacement::place(const QScreen& screen) {
 
     const std::optional<TopStrut> strut =
         strutFor(windowPixels(target, geometry, pixelsPerPoint), pixels,
-                 m_desktop->rootSize().value_or(pixels.size()), pixelsOfScreensOtherThan(screen));
+                 m_hints->rootSize().value_or(pixels.size()), pixelsOfScreensOtherThan(screen));
     // The window manager answers every strut, changed or not, with an announcement that leads back here.
     if (strut != m_strut) {
-        m_desktop->setStrut(window, strut);
+        m_hints->setStrut(window, strut);
         m_strut = strut;
     }
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shell/x11/ewmh_hints.h"
+#include "shell/x11/x11_connection.h"
 
-#include <QAbstractNativeEventFilter>
 #include <QObject>
 #include <QTimer>
 
@@ -14,19 +14,18 @@ namespace orvelle {
 /// Keeps the bar where it belongs while it is shown: at the top of the primary screen, below the docks of
 /// other programs, with its space reserved. It follows changes of the screens, of the docks and of the window
 /// manager. Without a window manager, or with one that reserves no space, the bar stands in the same place.
-class BarPlacement : public QObject, private QAbstractNativeEventFilter {
+class BarPlacement : public QObject, private X11EventFilter {
     Q_OBJECT
 
 public:
     explicit BarPlacement(QWindow& bar);
-    ~BarPlacement() override;
 
     /// Takes effect in the next turn of the event loop, so that a bar that is emptied and filled again at
     /// once does not flicker.
     void setShown(bool shown);
 
 private:
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+    void handleEvent(const xcb_generic_event_t& event) override;
     void watchScreen(QScreen* screen);
     void updateSoon();
     void update();
@@ -36,8 +35,8 @@ private:
     QWindow& m_bar;
     bool m_isShown = false;
     QTimer m_timer;
-    std::optional<EwmhHints> m_desktop; ///< nothing before the first showing, and off X11
-    std::optional<TopStrut> m_strut;    ///< what the shown window reserves
+    const EwmhHints* m_hints = EwmhHints::shared(); ///< null off X11
+    std::optional<TopStrut> m_strut;                ///< what the shown window reserves
 };
 
 } // namespace orvelle

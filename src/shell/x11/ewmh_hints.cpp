@@ -2,14 +2,12 @@
 
 #include "shell/x11/x11_connection.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
-#include <string_view>
 
 namespace orvelle {
 namespace {
-
-/// No property that is read here is longer; one word is 32 bits.
-constexpr std::uint32_t maximumPropertyWords = 4096;
 
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
 
@@ -18,134 +16,166 @@ int pixelCount(std::uint32_t value) {
     return static_cast<int>(std::min<std::uint32_t>(value, std::numeric_limits<std::uint16_t>::max()));
 }
 
-/// `_NET_WM_STRUT_PARTIAL` has 12 numbers and goes before the older `_NET_WM_STRUT`, which has 4 and takes
-/// the whole width.
-TopStrut topStrut(const std::vector<std::uint32_t>& partial, const std::vector<std::uint32_t>& whole) {
-    if (partial.size() >= 10)
-        return {pixelCount(partial[2]), pixelCount(partial[8]), pixelCount(partial[9])};
-    if (whole.size() >= 4)
-        return {pixelCount(whole[2]), 0, std::numeric_limits<std::uint16_t>::max()};
-    return {};
-}
+/// What is asked about a window, all at once. Each answer must be taken.
+class DockQuestion {
+public:
+    DockQuestion(xcb_ewmh_connection_t* ewmh, xcb_window_t window, xcb_window_t root)
+        : m_ewmh(ewmh)
+        , m_partial(xcb_ewmh_get_wm_strut_partial(ewmh, window))
+        , m_whole(xcb_ewmh_get_wm_strut(ewmh, window))
+        , m_size(xcb_get_geometry(ewmh->connection, window))
+        , m_position(xcb_translate_coordinates(ewmh->connection, window, root, 0, 0)) {}
+
+    /// Nothing when the window has gone or reserves no space at the top.
+    [[nodiscard]] std::optional<TopDock> takeAnswer() const {
+        const TopStrut reserved = takeStrut();
+        const auto size = takeReply(xcb_get_geometry_reply(m_ewmh->connection, m_size, nullptr));
+        const auto position =
+            takeReply(xcb_translate_coordinates_reply(m_ewmh->connection, m_position, nullptr));
+        if (reserved.height <= 0 || !size || !position)
+            return std::nullopt;
+        return TopDock{QRect(position->dst_x, position->dst_y, size->width, size->height), reserved};
+    }
+
+private:
+    /// `_NET_WM_STRUT_PARTIAL` goes before the older `_NET_WM_STRUT`, which takes the whole width.
+    [[nodiscard]] TopStrut takeStrut() const {
+        xcb_ewmh_wm_strut_partial_t partial{};
+        xcb_ewmh_get_extents_reply_t whole{};
+        const bool hasPartial =
+            xcb_ewmh_get_wm_strut_partial_reply(m_ewmh, m_partial, &partial, nullptr) != 0;
+        const bool hasWhole = xcb_ewmh_get_wm_strut_reply(m_ewmh, m_whole, &whole, nullptr) != 0;
+        if (hasPartial)
+            return {pixelCount(partial.top), pixelCount(partial.top_start_x), pixelCount(partial.top_end_x)};
+        if (hasWhole)
+            return {pixelCount(whole.top), 0, std::numeric_limits<std::uint16_t>::max()};
+        return {};
+    }
+
+    xcb_ewmh_connection_t* m_ewmh;
+    xcb_get_property_cookie_t m_partial;
+    xcb_get_property_cookie_t m_whole;
+    xcb_get_geometry_cookie_t m_size;
+    xcb_translate_coordinates_cookie_t m_position;
+};
 
 } // namespace
 
-EwmhHints::EwmhHints(xcb_connection_t* connection, xcb_window_t window)
-    : m_connection(connection) {
-    constexpr std::array<std::string_view, atomCount> names{
-        "_NET_WM_WINDOW_TYPE",
-        "_NET_WM_WINDOW_TYPE_DOCK",
-        "_NET_WM_STATE",
-        "_NET_WM_STATE_STICKY",
-        "_NET_WM_STATE_SKIP_TASKBAR",
-        "_NET_WM_STATE_SKIP_PAGER",
-        "_NET_WM_DESKTOP",
-        "_NET_WM_STRUT",
-        "_NET_WM_STRUT_PARTIAL",
-        "_NET_CLIENT_LIST",
-        "_NET_WORKAREA",
-        "_NET_SUPPORTING_WM_CHECK",
-    };
-    // All questions go out before the first answer is awaited: one round trip in all.
-    const xcb_get_geometry_cookie_t geometry = xcb_get_geometry(connection, window);
-    std::array<xcb_intern_atom_cookie_t, atomCount> cookies{};
-    for (std::size_t index = 0; index < atomCount; ++index)
-        cookies[index] = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(names[index].size()),
-                                         names[index].data());
-    if (const auto reply = takeReply(xcb_get_geometry_reply(connection, geometry, nullptr)))
-        m_root = reply->root;
-    for (std::size_t index = 0; index < atomCount; ++index) {
-        if (const auto reply = takeReply(xcb_intern_atom_reply(connection, cookies[index], nullptr)))
-            m_atoms[index] = reply->atom;
-    }
+void EwmhHints::Deleter::operator()(xcb_ewmh_connection_t* connection) const {
+    xcb_ewmh_connection_wipe(connection);
+    delete connection;
 }
 
-void EwmhHints::set(xcb_window_t window, Atom property, xcb_atom_t type,
-                    const std::vector<std::uint32_t>& values) const {
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, window, m_atoms[property], type, 32,
-                        static_cast<std::uint32_t>(values.size()), values.data());
+const EwmhHints* EwmhHints::shared() {
+    static std::unique_ptr<EwmhHints> hints;
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return nullptr;
+    if (hints == nullptr) {
+        if (Connection made = connect(connection))
+            hints.reset(new EwmhHints(std::move(made)));
+    }
+    return hints.get();
 }
+
+EwmhHints::Connection EwmhHints::connect(xcb_connection_t* connection) {
+    Connection made(new xcb_ewmh_connection_t{});
+    // All names go out before the first number is awaited: one round trip in all.
+    xcb_intern_atom_cookie_t* cookies = xcb_ewmh_init_atoms(connection, made.get());
+    if (cookies != nullptr && xcb_ewmh_init_atoms_replies(made.get(), cookies, nullptr) != 0)
+        return made;
+    *made = {}; // the library has freed what it allocated
+    return nullptr;
+}
+
+EwmhHints::EwmhHints(Connection connection)
+    : m_ewmh(std::move(connection))
+    , m_screen(screenNumber(m_ewmh->connection))
+    , m_root(rootWindow(m_ewmh->connection)) {}
 
 void EwmhHints::declareDock(xcb_window_t window) const {
-    set(window, windowType, XCB_ATOM_ATOM, {m_atoms[windowTypeDock]});
-    set(window, state, XCB_ATOM_ATOM,
-        {m_atoms[stateSticky], m_atoms[stateSkipTaskbar], m_atoms[stateSkipPager]});
-    set(window, desktop, XCB_ATOM_CARDINAL, {allDesktops});
+    std::array states{m_ewmh->_NET_WM_STATE_STICKY, m_ewmh->_NET_WM_STATE_SKIP_TASKBAR,
+                      m_ewmh->_NET_WM_STATE_SKIP_PAGER};
+    xcb_ewmh_set_wm_window_type(m_ewmh.get(), window, 1, &m_ewmh->_NET_WM_WINDOW_TYPE_DOCK);
+    xcb_ewmh_set_wm_state(m_ewmh.get(), window, states.size(), states.data());
+    xcb_ewmh_set_wm_desktop(m_ewmh.get(), window, allDesktops);
 }
 
-void EwmhHints::setStrut(xcb_window_t window, const std::optional<TopStrut>& reserved) const {
-    if (!reserved) {
-        xcb_delete_property(m_connection, window, m_atoms[strutPartial]);
-        xcb_delete_property(m_connection, window, m_atoms[strut]);
+void EwmhHints::setStrut(xcb_window_t window, const std::optional<TopStrut>& strut) const {
+    if (!strut) {
+        xcb_delete_property(m_ewmh->connection, window, m_ewmh->_NET_WM_STRUT_PARTIAL);
+        xcb_delete_property(m_ewmh->connection, window, m_ewmh->_NET_WM_STRUT);
     } else {
-        const auto height = static_cast<std::uint32_t>(reserved->height);
-        const auto startX = static_cast<std::uint32_t>(reserved->startX);
-        const auto endX = static_cast<std::uint32_t>(reserved->endX);
-        // left, right, top, bottom; then the first and last row or column of each
-        set(window, strutPartial, XCB_ATOM_CARDINAL, {0, 0, height, 0, 0, 0, 0, 0, startX, endX, 0, 0});
-        set(window, strut, XCB_ATOM_CARDINAL, {0, 0, height, 0});
+        xcb_ewmh_wm_strut_partial_t partial{};
+        partial.top = static_cast<std::uint32_t>(strut->height);
+        partial.top_start_x = static_cast<std::uint32_t>(strut->startX);
+        partial.top_end_x = static_cast<std::uint32_t>(strut->endX);
+        xcb_ewmh_set_wm_strut_partial(m_ewmh.get(), window, partial);
+        xcb_ewmh_set_wm_strut(m_ewmh.get(), window, 0, 0, partial.top, 0);
     }
-    xcb_flush(m_connection);
+    xcb_flush(m_ewmh->connection);
 }
 
 std::optional<QSize> EwmhHints::rootSize() const {
-    const auto reply =
-        takeReply(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, m_root), nullptr));
+    const auto reply = takeReply(
+        xcb_get_geometry_reply(m_ewmh->connection, xcb_get_geometry(m_ewmh->connection, m_root), nullptr));
     if (!reply)
         return std::nullopt;
     return QSize(reply->width, reply->height);
 }
 
-xcb_get_property_cookie_t EwmhHints::ask(xcb_window_t window, Atom property, xcb_atom_t type) const {
-    return xcb_get_property(m_connection, 0, window, m_atoms[property], type, 0, maximumPropertyWords);
-}
-
-std::vector<std::uint32_t> EwmhHints::answer(xcb_get_property_cookie_t cookie) const {
-    const auto reply = takeReply(xcb_get_property_reply(m_connection, cookie, nullptr));
-    if (!reply || reply->format != 32)
+std::vector<xcb_window_t> EwmhHints::clients() const {
+    xcb_ewmh_get_windows_reply_t reply{};
+    const xcb_get_property_cookie_t cookie = xcb_ewmh_get_client_list(m_ewmh.get(), m_screen);
+    if (xcb_ewmh_get_client_list_reply(m_ewmh.get(), cookie, &reply, nullptr) == 0)
         return {};
-    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return {values, values + reply->value_len};
+    const std::vector<xcb_window_t> windows(reply.windows, reply.windows + reply.windows_len);
+    xcb_ewmh_get_windows_reply_wipe(&reply);
+    return windows;
 }
 
 std::vector<TopDock> EwmhHints::otherTopDocks(xcb_window_t own) const {
-    struct Question {
-        xcb_window_t window;
-        xcb_get_property_cookie_t partial;
-        xcb_get_property_cookie_t whole;
-        xcb_get_geometry_cookie_t size;
-        xcb_translate_coordinates_cookie_t position;
-    };
-    std::vector<Question> questions;
-    for (const xcb_window_t window : answer(ask(m_root, clientList, XCB_ATOM_WINDOW))) {
+    std::vector<DockQuestion> questions;
+    for (const xcb_window_t window : clients()) {
         if (window != own)
-            questions.push_back({.window = window,
-                                 .partial = ask(window, strutPartial, XCB_ATOM_CARDINAL),
-                                 .whole = ask(window, strut, XCB_ATOM_CARDINAL),
-                                 .size = xcb_get_geometry(m_connection, window),
-                                 .position = xcb_translate_coordinates(m_connection, window, m_root, 0, 0)});
+            questions.emplace_back(m_ewmh.get(), window, m_root);
     }
-
     std::vector<TopDock> docks;
-    for (const Question& question : questions) {
-        const TopStrut reserved = topStrut(answer(question.partial), answer(question.whole));
-        const auto size = takeReply(xcb_get_geometry_reply(m_connection, question.size, nullptr));
-        const auto position =
-            takeReply(xcb_translate_coordinates_reply(m_connection, question.position, nullptr));
-        if (reserved.height > 0 && size && position)
-            docks.push_back({QRect(position->dst_x, position->dst_y, size->width, size->height), reserved});
+    for (const DockQuestion& question : questions) {
+        if (const std::optional<TopDock> dock = question.takeAnswer())
+            docks.push_back(*dock);
     }
     return docks;
 }
 
 bool EwmhHints::isLayoutChange(const xcb_generic_event_t& event) const {
-    constexpr std::uint8_t sentByClient = 0x80;
-    if ((event.response_type & ~sentByClient) != XCB_PROPERTY_NOTIFY)
-        return false;
-    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-    return change.window == m_root &&
-           (change.atom == m_atoms[clientList] || change.atom == m_atoms[workArea] ||
-            change.atom == m_atoms[supportingWindowManager]);
+    const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
+    return change != nullptr && change->window == m_root &&
+           (change->atom == m_ewmh->_NET_CLIENT_LIST || change->atom == m_ewmh->_NET_WORKAREA ||
+            change->atom == m_ewmh->_NET_SUPPORTING_WM_CHECK);
+}
+
+void EwmhHints::moveToPresentDesktop(xcb_window_t window) const {
+    const xcb_get_property_cookie_t presentCookie = xcb_ewmh_get_current_desktop(m_ewmh.get(), m_screen);
+    const xcb_get_property_cookie_t ownCookie = xcb_ewmh_get_wm_desktop(m_ewmh.get(), window);
+    std::uint32_t present = 0;
+    std::uint32_t own = 0;
+    const bool hasPresent =
+        xcb_ewmh_get_current_desktop_reply(m_ewmh.get(), presentCookie, &present, nullptr) != 0;
+    const bool hasOwn = xcb_ewmh_get_wm_desktop_reply(m_ewmh.get(), ownCookie, &own, nullptr) != 0;
+    if (!hasPresent || !hasOwn || own == present || own == allDesktops)
+        return;
+    // As a pager asks: the window manager may refuse what a program wants by itself.
+    xcb_ewmh_request_change_wm_desktop(m_ewmh.get(), m_screen, window, present,
+                                       XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
+    xcb_flush(m_ewmh->connection);
+}
+
+bool EwmhHints::isComposing() const {
+    xcb_window_t owner = XCB_WINDOW_NONE;
+    const xcb_get_selection_owner_cookie_t cookie = xcb_ewmh_get_wm_cm_owner(m_ewmh.get(), m_screen);
+    return xcb_ewmh_get_wm_cm_owner_reply(m_ewmh.get(), cookie, &owner, nullptr) != 0 &&
+           owner != XCB_WINDOW_NONE;
 }
 
 } // namespace orvelle

@@ -2,18 +2,19 @@
 
 #include "shell/painted/bar_geometry.h"
 
-#include <xcb/xcb.h>
+#include <xcb/xcb_ewmh.h>
 
-#include <array>
+#include <memory>
 
 namespace orvelle {
 
-/// What the bar tells the window manager and what it asks of it, by the Extended Window Manager Hints.
-/// Borrows Qt's connection to the X server. Main thread only.
+/// What the program tells the window manager and asks of it, by the Extended Window Manager Hints. Borrows
+/// Qt's connection to the X server. Main thread only.
 class EwmhHints {
 public:
-    /// Asks the server for the root window that `window` belongs to and for the atoms.
-    EwmhHints(xcb_connection_t* connection, xcb_window_t window);
+    /// One for the whole program; null off X11 and when the server does not answer. Needs the application
+    /// object.
+    [[nodiscard]] static const EwmhHints* shared();
 
     /// Declares the window a dock that is present on every desktop and in no task list. To be called while
     /// the window is not shown, each time before it is: the window manager drops these properties when a
@@ -29,35 +30,31 @@ public:
     /// The docks other than `own` that reserve space at the top, as far as a window manager lists them.
     [[nodiscard]] std::vector<TopDock> otherTopDocks(xcb_window_t own) const;
 
-    /// Whether the event tells that windows came or went, that reserved space changed, or that another window
+    /// Whether the event says that windows came or went, that reserved space changed, or that another window
     /// manager has taken over.
     [[nodiscard]] bool isLayoutChange(const xcb_generic_event_t& event) const;
 
+    /// Asks the window manager to move a shown window to the desktop that the user is on. Nothing happens
+    /// where it has no desktops.
+    void moveToPresentDesktop(xcb_window_t window) const;
+
+    /// Whether a program composes the windows, so that they can be translucent.
+    [[nodiscard]] bool isComposing() const;
+
 private:
-    enum Atom : std::size_t {
-        windowType,
-        windowTypeDock,
-        state,
-        stateSticky,
-        stateSkipTaskbar,
-        stateSkipPager,
-        desktop,
-        strut,
-        strutPartial,
-        clientList,
-        workArea,
-        supportingWindowManager,
-        atomCount
+    struct Deleter {
+        void operator()(xcb_ewmh_connection_t* connection) const;
     };
+    using Connection = std::unique_ptr<xcb_ewmh_connection_t, Deleter>;
 
-    [[nodiscard]] xcb_get_property_cookie_t ask(xcb_window_t window, Atom property, xcb_atom_t type) const;
-    [[nodiscard]] std::vector<std::uint32_t> answer(xcb_get_property_cookie_t cookie) const;
-    void set(xcb_window_t window, Atom property, xcb_atom_t type,
-             const std::vector<std::uint32_t>& values) const;
+    explicit EwmhHints(Connection connection);
+    /// Null when the server does not answer.
+    [[nodiscard]] static Connection connect(xcb_connection_t* connection);
+    [[nodiscard]] std::vector<xcb_window_t> clients() const;
 
-    xcb_connection_t* m_connection;
-    xcb_window_t m_root = XCB_WINDOW_NONE;
-    std::array<xcb_atom_t, atomCount> m_atoms{};
+    Connection m_ewmh;
+    int m_screen;
+    xcb_window_t m_root;
 };
 
 } // namespace orvelle

@@ -1,9 +1,8 @@
 #include "shell/x11/popup_window.h"
 
 #include "shell/painted/popup_geometry.h"
-#include "shell/x11/input_focus.h"
-#include "shell/x11/pointer_presses.h"
-#include "shell/x11/x11_connection.h"
+#include "shell/x11/ewmh_hints.h"
+#include "shell/x11/x11_input.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -11,20 +10,14 @@
 #include <QScreen>
 #include <QWindow>
 
-#include <string>
 #include <utility>
 
 namespace orvelle {
 namespace {
 
 bool desktopComposesWindows() {
-    xcb_connection_t* connection = xcbConnection();
-    if (connection == nullptr)
-        return false;
-    const xcb_atom_t compositor = internAtom(connection, "_NET_WM_CM_S" + std::to_string(screenNumber()));
-    const auto owner = takeReply(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr));
-    return owner && owner->owner != XCB_WINDOW_NONE;
+    const EwmhHints* hints = EwmhHints::shared();
+    return hints != nullptr && hints->isComposing();
 }
 
 } // namespace
@@ -59,7 +52,8 @@ void PopupWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spa
     // step is 2 pixels.
     m_window.setBaseSize(geometry.size());
     m_window.setGeometry(geometry);
-    m_window.setMask(paintsItsCorners() ? QRegion() : roundedRegion(geometry.size(), popupCornerRadiusPoints));
+    m_window.setMask(paintsItsCorners() ? QRegion()
+                                        : roundedRegion(geometry.size(), popupCornerRadiusPoints));
     m_wasActive = false;
     m_presses = std::make_unique<PointerPresses>();
     connect(m_presses.get(), &PointerPresses::pressed, this, &PopupWindow::pressed);

@@ -1,15 +1,10 @@
-#include "shell/single_instance.h"
-
 #include "shell/desktop.h"
 #include "shell/x11/x11_connection.h"
-
-#include <QAbstractNativeEventFilter>
-#include <QCoreApplication>
 
 namespace orvelle {
 namespace {
 
-/// A window that is never shown: what owns a selection must be a window, and what is told something too.
+/// A window that is never shown: only a window owns a selection or receives a message.
 xcb_window_t createHiddenWindow(xcb_connection_t* connection) {
     const xcb_window_t window = xcb_generate_id(connection);
     xcb_create_window(connection, 0, window, rootWindow(connection), -1, -1, 1, 1, 0,
@@ -17,32 +12,25 @@ xcb_window_t createHiddenWindow(xcb_connection_t* connection) {
     return window;
 }
 
-/// Owns the selection by a hidden window and is told of later starts by messages to it.
-class SelectionOwner final : public SingleInstance, private QAbstractNativeEventFilter {
+/// Owns the selection by a hidden window, to which later starts send a message.
+class SelectionOwner final : public SingleInstance, private X11EventFilter {
 public:
     SelectionOwner(xcb_connection_t* connection, xcb_atom_t instance)
         : m_connection(connection)
         , m_instance(instance)
         , m_window(createHiddenWindow(connection)) {
         xcb_set_selection_owner(m_connection, m_window, m_instance, XCB_CURRENT_TIME);
-        QCoreApplication::instance()->installNativeEventFilter(this);
     }
     ~SelectionOwner() override {
-        QCoreApplication::instance()->removeNativeEventFilter(this);
         xcb_destroy_window(m_connection, m_window); // gives the selection up
         xcb_flush(m_connection);
     }
 
 private:
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
-        constexpr std::uint8_t sentByClient = 0x80;
-        if (eventType != "xcb_generic_event_t")
-            return false;
-        const auto& event = *static_cast<const xcb_client_message_event_t*>(message);
-        if ((event.response_type & ~sentByClient) == XCB_CLIENT_MESSAGE && event.window == m_window &&
-            event.type == m_instance)
+    void handleEvent(const xcb_generic_event_t& event) override {
+        const auto* message = eventAs<xcb_client_message_event_t>(event, XCB_CLIENT_MESSAGE);
+        if (message != nullptr && message->window == m_window && message->type == m_instance)
             Q_EMIT startedAgain();
-        return false;
     }
 
     xcb_connection_t* m_connection;
@@ -50,7 +38,7 @@ private:
     xcb_window_t m_window;
 };
 
-void tellOfAnotherStart(xcb_connection_t* connection, xcb_window_t owner, xcb_atom_t instance) {
+void announceAnotherStart(xcb_connection_t* connection, xcb_window_t owner, xcb_atom_t instance) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
@@ -73,11 +61,10 @@ std::unique_ptr<SingleInstance> becomeSingleInstance() {
         return std::make_unique<SingleInstance>(); // nobody can be asked
     // Nobody else may ask between the question and the claim.
     xcb_grab_server(connection);
-    const auto owner = takeReply(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, instance), nullptr));
+    const xcb_window_t owner = selectionOwner(connection, instance);
     std::unique_ptr<SingleInstance> only;
-    if (owner && owner->owner != XCB_WINDOW_NONE)
-        tellOfAnotherStart(connection, owner->owner, instance);
+    if (owner != XCB_WINDOW_NONE)
+        announceAnotherStart(connection, owner, instance);
     else
         only = std::make_unique<SelectionOwner>(connection, instance);
     xcb_ungrab_server(connection);

@@ -4,8 +4,7 @@
 #include "shell/open_log.h"
 #include "shell/painted/state_file.h"
 #include "shell/painted/window_frame.h"
-#include "shell/x11/present_desktop.h"
-#include "shell/x11/x11_connection.h"
+#include "shell/x11/ewmh_hints.h"
 #include "theme/symbols.h"
 
 #include <QEvent>
@@ -113,10 +112,8 @@ void X11SettingsWindow::remember() {
 }
 
 void X11SettingsWindow::bringToThisDesktop() const {
-    xcb_connection_t* connection = xcbConnection();
-    if (connection == nullptr || m_content->handle() == nullptr)
-        return;
-    moveToPresentDesktop(connection, static_cast<xcb_window_t>(m_content->winId()));
+    if (const EwmhHints* hints = EwmhHints::shared())
+        hints->moveToPresentDesktop(static_cast<xcb_window_t>(m_content->winId()));
 }
 
 std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content) {
