@@ -39,7 +39,7 @@ public:
         m_bar.setGeometry(0, 0, 1280, 22);
         for (const ModuleInfo& module : moduleTable)
             m_presenters.push_back(std::make_unique<ItemPresenter>(
-                m_bar.addItem(QString(module.key), module.width), AnimationClock::shared()));
+                m_bar.bar().addItem(QString(module.key), module.width), AnimationClock::shared()));
         showItems();
         QObject::connect(&m_settings, &SettingsStore::changed, &m_bar, [this] { showItems(); });
         QObject::connect(&m_bar, &BarWindow::painted, &m_bar, [this] { seen(&m_bar); });

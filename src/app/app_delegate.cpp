@@ -3,7 +3,6 @@
 #include "app/throttle.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
-#include "shell/open_log.h"
 #include "theme/fonts.h"
 #include "theme/theme_manager.h"
 

@@ -2,8 +2,7 @@
 
 #include "menu_bar/item_presenter.h"
 #include "menu_bar/modules.h"
-#include "shell/settings_window.h"
-#include "shell/status_bar.h"
+#include "shell/desktop.h"
 #include "windows/window_factory.h"
 
 #include <QMap>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/login_item.h"
+#include "shell/desktop.h"
 
 #include <QObject>
 #include <QString>

@@ -2,7 +2,6 @@
 
 #include "animation/animation_clock.h"
 #include "platform/host.h"
-#include "shell/desktop.h"
 #include "theme/fonts.h"
 
 #include <QLoggingCategory>

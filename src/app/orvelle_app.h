@@ -5,7 +5,7 @@
 #include "app/termination_signals.h"
 #include "core/system_monitor.h"
 #include "settings/settings_store.h"
-#include "shell/single_instance.h"
+#include "shell/desktop.h"
 #include "theme/theme_manager.h"
 
 #include <QElapsedTimer>

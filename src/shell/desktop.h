@@ -1,18 +1,54 @@
 #pragma once
 
-#include "shell/login_item.h"
-#include "shell/settings_window.h"
-#include "shell/single_instance.h"
 #include "shell/status_bar.h"
 
-#include <QWindow>
+#include <QLoggingCategory>
 
 #include <optional>
 
-/// What each desktop's folder defines once; the build decides which one is linked.
+/// What the program asks of its desktop. The functions at the end are defined once in the folder of each
+/// desktop; the build decides which one is linked.
 namespace orvelle {
 
 class AnimationClock;
+
+/// Says when a window was asked for and when its first frame was shown. Off by default;
+/// QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
+Q_DECLARE_LOGGING_CATEGORY(openLog)
+
+/// The settings in a window with a title bar, which remembers where it stood. Closed, it is only hidden. Main
+/// thread only.
+class SettingsWindow {
+public:
+    virtual ~SettingsWindow() = default;
+
+    /// Opens the window, or brings it before the others, with the keyboard in it.
+    virtual void bringForward() = 0;
+};
+
+/// Whether the desktop starts the program when the user logs in. Main thread only.
+class LoginItem {
+public:
+    virtual ~LoginItem() = default;
+
+    /// What the desktop will really do at the next login.
+    [[nodiscard]] virtual bool isEnabled() const = 0;
+    /// Returns whether the desktop has taken it. Switched on where it is on, it is made to start the program
+    /// from where it is now.
+    [[nodiscard]] virtual bool setEnabled(bool enabled) = 0;
+    /// Where it is on but would start a program that is gone, it is made to start this one.
+    virtual void repair() = 0;
+};
+
+/// Held by the only process of the program on its desktop; others cannot hold one until it is destroyed or
+/// the process ends. Main thread only.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+Q_SIGNALS:
+    /// The user started the program once more; that process has ended again.
+    void startedAgain();
+};
 
 /// Chooses how the program talks to its desktop. Called once, before the application object exists, because
 /// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
@@ -28,8 +64,8 @@ class AnimationClock;
 /// The settings window, not shown yet, around a content that has not been shown.
 [[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content);
 
-/// Keeps `motion` as much reduced as the user wants it on this desktop, now and whenever that changes, as
-/// long as the result lives. Null where the desktop cannot say. Needs the application object.
+/// Keeps the clock's motion as much reduced as the user wants it on this desktop, now and whenever that
+/// changes, as long as the result lives. Null where the desktop cannot say. Needs the application object.
 [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock);
 
 /// Keeps the fonts of theme/fonts.h those that the desktop announces, now and whenever that changes, as long

@@ -1,17 +1,52 @@
 #pragma once
 
-#include "shell/context_menu.h"
-#include "shell/popover.h"
+#include "shell/status_item.h"
 
 #include <QObject>
 #include <QWindow>
 
 #include <memory>
+#include <vector>
 
 namespace orvelle {
 
-/// Makes what a popover shows, 320 x 500 points, with its corners rounded by so many points; null when it
-/// cannot be made.
+/// One line of a menu; without a title it is a separator.
+struct MenuEntry {
+    QString title;
+    /// The key that chooses the entry together with the desktop's key for commands, as a small letter or a
+    /// sign; empty for none.
+    QString keyEquivalent;
+    std::function<void()> action;
+};
+
+/// The menu that opens under a status item. It closes by itself when an entry is chosen, with Escape, and
+/// when the user clicks elsewhere, but not by a press on the item that it belongs to: what that click does is
+/// for the item's handler to say. Main thread only.
+class ContextMenu {
+public:
+    virtual ~ContextMenu() = default;
+
+    /// Opens with these entries under an item of the bar that made the menu, in place of what it shows. Where
+    /// it is shown under that item already it closes instead.
+    virtual void show(const StatusItem& item, std::vector<MenuEntry> entries) = 0;
+    virtual void close() = 0;
+};
+
+/// A window that opens under a status item, with the keyboard in it. It closes by itself with Escape and when
+/// the user clicks elsewhere, but not by a press on the item that it belongs to: what that click does is for
+/// the item's handler to say. Main thread only.
+class Popover {
+public:
+    virtual ~Popover() = default;
+
+    [[nodiscard]] virtual bool isShown() const = 0;
+    /// Opens under an item of the bar that made the popover. Its content is made the first time.
+    virtual void show(const StatusItem& item) = 0;
+    virtual void close() = 0;
+};
+
+/// Makes the content of a popover, 320 x 500 points, with its corners rounded by this radius in points; null
+/// when it cannot be made.
 using PopoverContent = std::function<std::unique_ptr<QWindow>(double cornerRadius)>;
 
 /// The strip of the desktop that holds the status items, flush right. Main thread only.

@@ -1,5 +1,4 @@
-#include "shell/painted/autostart_entry.h"
-#include "shell/painted/autostart_login_item.h"
+#include "shell/painted/autostart.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "announcements.h"
-#include "shell/painted/bar_geometry.h"
+#include "shell/painted/bar_popups.h"
 #include "shell/painted/bar_window.h"
-#include "shell/x11/x11_popover.h"
+#include "shell/x11/popup_window.h"
 
 #include <QGuiApplication>
 #include <QRasterWindow>
@@ -13,7 +13,7 @@ namespace {
 
 class BarAccessibilityTest : public ::testing::Test {
 protected:
-    BarAccessibilityTest() { bar.setGeometry(100, 50, 400, barHeightPoints); }
+    BarAccessibilityTest() { window.setGeometry(100, 50, 400, barHeightPoints); }
 
     BarItem& addItem(const QString& name, const QString& text) {
         BarItem& item = bar.addItem(name.toLower(), 60);
@@ -24,12 +24,13 @@ protected:
     BarItem& addCPU() { return addItem(QStringLiteral("CPU"), QStringLiteral("CPU 12%")); }
     BarItem& addMemory() { return addItem(QStringLiteral("Memory"), QStringLiteral("Memory 45%")); }
 
-    QAccessibleInterface* toolBar() { return QAccessible::queryAccessibleInterface(&bar); }
+    QAccessibleInterface* toolBar() { return QAccessible::queryAccessibleInterface(&window); }
     static QAccessibleActionInterface& actions(QAccessibleInterface& interface) {
         return *interface.actionInterface();
     }
 
-    BarWindow bar;
+    BarWindow window;
+    Bar& bar = window.bar();
     QList<ClickButton> clicks;
 };
 
@@ -39,7 +40,7 @@ TEST_F(BarAccessibilityTest, TheBarIsAToolBarOfTheApplication) {
     EXPECT_EQ(toolBar()->role(), QAccessible::ToolBar);
     EXPECT_EQ(toolBar()->text(QAccessible::Name), QStringLiteral("Orvelle"));
     EXPECT_EQ(toolBar()->rect(), QRect(100, 50, 400, barHeightPoints));
-    EXPECT_EQ(toolBar()->window(), &bar);
+    EXPECT_EQ(toolBar()->window(), &window);
     QAccessibleInterface* application = QAccessible::queryAccessibleInterface(qGuiApp);
     EXPECT_EQ(toolBar()->parent(), application);
     EXPECT_GE(application->indexOfChild(toolBar()), 0);
@@ -49,7 +50,7 @@ TEST_F(BarAccessibilityTest, TheBarIsInvisibleWhileItIsHidden) {
     EXPECT_TRUE(toolBar()->state().invisible);
     addCPU();
     EXPECT_TRUE(toolBar()->child(0)->state().invisible);
-    bar.show();
+    window.show();
     EXPECT_FALSE(toolBar()->state().invisible);
     EXPECT_FALSE(toolBar()->child(0)->state().invisible);
 }
@@ -112,9 +113,9 @@ TEST_F(BarAccessibilityTest, AnItemIsPressedWhileTheMouseHoldsItDown) {
     addCPU();
     const QPoint middle(400 - 8 - 30, 11);
     EXPECT_FALSE(toolBar()->child(0)->state().pressed);
-    QTest::mousePress(&bar, Qt::LeftButton, {}, middle);
+    QTest::mousePress(&window, Qt::LeftButton, {}, middle);
     EXPECT_TRUE(toolBar()->child(0)->state().pressed);
-    QTest::mouseRelease(&bar, Qt::LeftButton, {}, middle);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, middle);
     EXPECT_FALSE(toolBar()->child(0)->state().pressed);
 }
 
@@ -122,7 +123,8 @@ TEST_F(BarAccessibilityTest, AnItemIsExpandedWhileItsPopoverIsShown) {
     const BarItem& cpu = addCPU();
     const BarItem& memory = addMemory();
     KeptPopovers kept;
-    X11Popover popover(bar, kept, [](double) {
+    const auto makePopup = [](QWindow& content) { return std::make_unique<PopupWindow>(content); };
+    BarPopover popover(bar, kept, makePopup, [](double) {
         auto content = std::make_unique<QRasterWindow>();
         content->resize(320, 500);
         return content;
@@ -161,7 +163,7 @@ TEST_F(BarAccessibilityTest, AnInterfaceOutlivesItsItemOnlyToSayThatItIsGone) {
 
 TEST_F(BarAccessibilityTest, AnInterfaceOutlivesTheBarOnlyToSayThatItIsGone) {
     auto other = std::make_unique<BarWindow>();
-    other->addItem(QStringLiteral("cpu"), 60);
+    other->bar().addItem(QStringLiteral("cpu"), 60);
     QAccessibleInterface* kept = QAccessible::queryAccessibleInterface(other.get())->child(0);
     other.reset();
     EXPECT_FALSE(kept->isValid());

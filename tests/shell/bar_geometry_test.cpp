@@ -1,4 +1,5 @@
-#include "shell/painted/bar_geometry.h"
+#include "shell/painted/bar.h"
+#include "shell/x11/bar_geometry.h"
 
 #include <gtest/gtest.h>
 
@@ -113,51 +114,6 @@ TEST(StrutFor, IsNothingBelowAnotherScreen) {
 
 TEST(StrutFor, IsKeptWhenTwoScreensShowTheSame) {
     EXPECT_EQ(strutFor(QRect(0, 0, 1920, 22), fullHd, fullHd.size(), {fullHd}), (TopStrut{22, 0, 1919}));
-}
-
-TEST(ItemBounds, StandSideBySideFlushRight) {
-    const QList<QRectF> bounds = itemBounds({60, 70, 90}, 1000, 1);
-    ASSERT_EQ(bounds.size(), 3);
-    EXPECT_EQ(bounds[2], QRectF(1000 - barRightMarginPoints - 90, 0, 90, 22));
-    EXPECT_EQ(bounds[1].right(), bounds[2].left());
-    EXPECT_EQ(bounds[0].right(), bounds[1].left());
-    EXPECT_EQ(bounds[0].width(), 60);
-}
-
-TEST(ItemBounds, MeetOnWholePixelsAtFractionalScales) {
-    for (const double pixelsPerPoint : {1.25, 1.5, 1.75}) {
-        const QList<QRectF> bounds = itemBounds({60, 45, 65, 50}, 853, pixelsPerPoint);
-        for (qsizetype index = 0; index < bounds.size(); ++index) {
-            const double leftPixels = bounds[index].left() * pixelsPerPoint;
-            EXPECT_NEAR(leftPixels, std::round(leftPixels), 1e-9);
-            if (index > 0) {
-                EXPECT_DOUBLE_EQ(bounds[index].left(), bounds[index - 1].right());
-            }
-        }
-        EXPECT_NEAR(bounds.last().right(), 853 - barRightMarginPoints, 0.51 / pixelsPerPoint);
-    }
-}
-
-TEST(ItemBounds, KeepTheWidthOfAnItemWhereverItStands) {
-    for (const double pixelsPerPoint : {1.0, 1.25, 1.5, 1.75, 2.0}) {
-        for (const QList<double>& lengths : {QList<double>{45}, {45, 45, 45, 45}, {45, 70, 45, 65, 45, 35}}) {
-            const QList<QRectF> bounds = itemBounds(lengths, 853, pixelsPerPoint);
-            for (qsizetype index = 0; index < bounds.size(); ++index)
-                EXPECT_NEAR(bounds[index].width() * pixelsPerPoint,
-                            std::round(lengths[index] * pixelsPerPoint), 1e-9)
-                    << "item " << index << " at scale " << pixelsPerPoint;
-        }
-    }
-}
-
-TEST(ItemBounds, AreNoneWithoutItems) {
-    EXPECT_TRUE(itemBounds({}, 1000, 1).isEmpty());
-}
-
-TEST(ItemBounds, KeepTheLastItemVisibleInABarThatIsTooNarrow) {
-    const QList<QRectF> bounds = itemBounds({60, 70}, 100, 1);
-    EXPECT_EQ(bounds[1].right(), 100 - barRightMarginPoints);
-    EXPECT_LT(bounds[0].left(), 0);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "announcements.h"
-#include "shell/painted/bar_geometry.h"
-#include "shell/x11/bar_keyboard.h"
+#include "shell/x11/bar_focus.h"
 #include "support/waiting.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +10,11 @@ namespace {
 class BarKeyboardTest : public ::testing::Test {
 protected:
     BarKeyboardTest() {
-        bar.setGeometry(0, 0, 400, barHeightPoints);
+        window.setGeometry(0, 0, 400, barHeightPoints);
         for (const char* name : {"cpu", "memory", "disk"})
             add(QString::fromLatin1(name));
-        bar.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&bar));
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
     BarItem& add(const QString& name) {
         BarItem& item = bar.addItem(name, 60);
@@ -29,21 +28,24 @@ protected:
     void focusIn() { send(QEvent::FocusIn); }
     void focusOut() { send(QEvent::FocusOut); }
     void take() {
-        keyboard.take();
+        focus.take();
         focusIn();
     }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&bar, key, modifiers); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&window, key, modifiers);
+    }
     /// The item that shows that it has the keyboard.
     [[nodiscard]] QString focused() const { return bar.focusedItem(); }
 
-    BarWindow bar;
-    BarKeyboard keyboard{bar};
+    BarWindow window;
+    Bar& bar = window.bar();
+    BarFocus focus{window};
     QStringList clicks;
 
 private:
     void send(QEvent::Type type) {
         QFocusEvent event(type);
-        QCoreApplication::sendEvent(&bar, &event);
+        QCoreApplication::sendEvent(&window, &event);
     }
 };
 
@@ -116,11 +118,11 @@ TEST_F(BarKeyboardTest, ReturnsWhenEscapeClosesWhatAKeyOpened) {
     press(Qt::Key_Right);
     press(Qt::Key_Return);
     focusOut(); // the panel has the keyboard
-    keyboard.resume();
+    focus.resume();
     focusIn();
     EXPECT_EQ(focused(), QStringLiteral("memory"));
     focusOut();
-    keyboard.resume();
+    focus.resume();
     focusIn();
     EXPECT_EQ(focused(), QString()) << "no key has opened anything since";
 }
@@ -129,8 +131,8 @@ TEST_F(BarKeyboardTest, DoesNotReturnWhenTheMouseOpenedWhatEscapeCloses) {
     take();
     press(Qt::Key_Return);
     focusOut();
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.items()[1]->bounds().center().toPoint());
-    keyboard.resume();
+    QTest::mouseClick(&window, Qt::LeftButton, {}, bar.items()[1]->bounds().center().toPoint());
+    focus.resume();
     focusIn();
     EXPECT_EQ(focused(), QString());
 }
@@ -177,7 +179,7 @@ TEST_F(BarKeyboardTest, SurvivesAHandlerThatRemovesEveryItem) {
 
 TEST_F(BarKeyboardTest, TellsAssistivePrograms) {
     const Announcements announcements;
-    QAccessibleInterface* toolBar = bar.accessibleRoot();
+    QAccessibleInterface* toolBar = window.accessibleRoot();
     EXPECT_TRUE(toolBar->child(1)->state().focusable);
     take();
     press(Qt::Key_Right);
@@ -189,7 +191,7 @@ TEST_F(BarKeyboardTest, TellsAssistivePrograms) {
 TEST_F(BarKeyboardTest, PaintsARingAroundTheItem) {
     const auto cornerless = [this](std::size_t index) {
         const QRectF bounds = bar.items()[index]->bounds();
-        const QImage picture = bar.screen()->grabWindow(bar.winId()).toImage();
+        const QImage picture = window.screen()->grabWindow(window.winId()).toImage();
         return picture.pixelColor(static_cast<int>(bounds.center().x()), 1);
     };
     const QColor plain = cornerless(0);

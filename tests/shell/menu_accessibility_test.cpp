@@ -1,5 +1,4 @@
 #include "announcements.h"
-#include "shell/painted/menu_rules.h"
 #include "shell/painted/menu_window.h"
 #include "three_entries.h"
 

@@ -1,4 +1,3 @@
-#include "shell/painted/menu_rules.h"
 #include "shell/painted/menu_window.h"
 #include "three_entries.h"
 

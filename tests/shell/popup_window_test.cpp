@@ -1,4 +1,3 @@
-#include "shell/painted/popup_geometry.h"
 #include "shell/x11/popup_window.h"
 
 #include <QGuiApplication>
@@ -39,29 +38,29 @@ TEST(RoundedRegion, LacksItsCornersAlone) {
 class PopupWindowTest : public ::testing::Test {
 protected:
     PopupWindowTest() {
-        QObject::connect(&transient, &PopupWindow::closed, &window, [this] { ++closedCount; });
+        QObject::connect(&popup, &PopupWindow::closed, &window, [this] { ++closedCount; });
     }
     void show() {
-        transient.show(*window.screen(), QRect(100, 30, 200, 100));
+        popup.show(*window.screen(), QRect(100, 30, 200, 100), {});
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
     QRasterWindow window;
-    PopupWindow transient{window};
+    PopupWindow popup{window};
     int closedCount = 0;
 };
 
 TEST_F(PopupWindowTest, OpensWhereItIsTold) {
     show();
-    EXPECT_TRUE(transient.isShown());
+    EXPECT_TRUE(popup.isShown());
     EXPECT_EQ(window.geometry(), QRect(100, 30, 200, 100));
 }
 
 TEST_F(PopupWindowTest, ClosesWithEscape) {
     show();
     QTest::keyClick(&window, Qt::Key_A);
-    EXPECT_TRUE(transient.isShown());
+    EXPECT_TRUE(popup.isShown());
     QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(transient.isShown());
+    EXPECT_FALSE(popup.isShown());
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(closedCount, 1);
 }
@@ -71,7 +70,7 @@ TEST_F(PopupWindowTest, ClosesWhenAnotherWindowGetsTheKeyboard) {
     QRasterWindow other;
     other.show();
     other.requestActivate();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !transient.isShown(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !popup.isShown(); }));
     EXPECT_EQ(closedCount, 1);
 }
 
@@ -79,7 +78,7 @@ TEST_F(PopupWindowTest, ClosesWhenItsScreenGetsAnotherSize) {
     show();
     QScreen* shownOn = window.screen();
     Q_EMIT shownOn->geometryChanged(shownOn->geometry());
-    EXPECT_FALSE(transient.isShown());
+    EXPECT_FALSE(popup.isShown());
     EXPECT_EQ(closedCount, 1);
     Q_EMIT shownOn->geometryChanged(shownOn->geometry());
     EXPECT_EQ(closedCount, 1);
@@ -88,22 +87,22 @@ TEST_F(PopupWindowTest, ClosesWhenItsScreenGetsAnotherSize) {
 TEST_F(PopupWindowTest, ClosesWhenAnotherScreenBecomesThePrimaryOne) {
     show();
     Q_EMIT qGuiApp->primaryScreenChanged(window.screen());
-    EXPECT_FALSE(transient.isShown());
+    EXPECT_FALSE(popup.isShown());
 }
 
 TEST_F(PopupWindowTest, ClosesOnceWhenItsWindowIsClosed) {
     show();
     window.close();
-    EXPECT_FALSE(transient.isShown());
+    EXPECT_FALSE(popup.isShown());
     EXPECT_EQ(closedCount, 1);
-    transient.close();
+    popup.close();
     EXPECT_EQ(closedCount, 1);
 }
 
 TEST_F(PopupWindowTest, OpensAgain) {
     for (int round = 1; round <= 3; ++round) {
         show();
-        transient.close();
+        popup.close();
         EXPECT_EQ(closedCount, round);
     }
 }

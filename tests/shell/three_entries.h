@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/context_menu.h"
+#include "shell/status_bar.h"
 
 #include <QString>
 

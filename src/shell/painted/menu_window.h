@@ -1,16 +1,39 @@
 #pragma once
 
-#include "shell/context_menu.h"
 #include "shell/painted/painted_accessibility.h"
+#include "shell/status_bar.h"
 
+#include <QKeySequence>
+#include <QList>
 #include <QRasterWindow>
 
 #include <optional>
 
+/// The menu on desktops on which the program paints it. All lengths are in points.
 namespace orvelle {
 
+// Its layout and its keys, without a window.
+
+inline constexpr int menuPaddingPoints = 5;
+inline constexpr int menuRowPoints = 24;
+inline constexpr int menuSeparatorPoints = 11;
+
+[[nodiscard]] bool isSeparator(const MenuEntry& entry);
+
+/// The entries' rows from top to bottom in a menu of that width.
+[[nodiscard]] QList<QRect> menuRows(const std::vector<MenuEntry>& entries, int width);
+
+/// The entry that the arrow keys go to: the next one in direction `step`, +1 or -1, that is no separator,
+/// round the ends. Without a current one it is the first or the last. Nothing when there is none to choose.
+[[nodiscard]] std::optional<std::size_t> nextEntry(const std::vector<MenuEntry>& entries,
+                                                   std::optional<std::size_t> current, int step);
+
+/// The keys that choose the entry; empty when it has no key equivalent.
+[[nodiscard]] QKeySequence menuKeys(const MenuEntry& entry);
+
 /// A menu's picture, and what the mouse and the keys choose in it. Where it stands and when it closes is the
-/// work of `PopupWindow`.
+/// work of a `Popup`. Assistive programs see a menu with an item for each entry, of which the current one has
+/// the focus.
 class MenuWindow : public QRasterWindow {
     Q_OBJECT
 

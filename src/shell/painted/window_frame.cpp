@@ -1,5 +1,8 @@
 #include "shell/painted/window_frame.h"
 
+#include "settings/settings_file.h"
+
+#include <QDir>
 #include <QStringList>
 
 #include <algorithm>
@@ -60,6 +63,13 @@ QRect centredFrame(const QSize& size, const QRect& screen) {
     QRect frame({0, 0}, size.boundedTo(screen.size()));
     frame.moveCenter(screen.center());
     return frame;
+}
+
+std::unique_ptr<SettingsStorage> openStateFile() {
+    QString folder = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(folder))
+        folder = QDir::homePath() + QStringLiteral("/.local/state");
+    return std::make_unique<SettingsFile>(folder + QStringLiteral("/orvelle/state.conf"));
 }
 
 } // namespace orvelle

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "settings/settings_storage.h"
+
 #include <QList>
 #include <QRect>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 /// Where a window stood, as it is remembered and restored. Rectangles are in points of the desktop: the
@@ -26,5 +29,9 @@ inline constexpr QSize decorationRoom{8, 40};
 
 /// A window of `size` in the middle of a screen, no larger than the screen.
 [[nodiscard]] QRect centredFrame(const QSize& size, const QRect& screen);
+
+/// What the program remembers of itself between runs: `$XDG_STATE_HOME/orvelle/state.conf`, below
+/// `~/.local/state` when the variable is not set to an absolute path.
+[[nodiscard]] std::unique_ptr<SettingsStorage> openStateFile();
 
 } // namespace orvelle

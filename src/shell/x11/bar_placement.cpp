@@ -1,5 +1,7 @@
 #include "shell/x11/bar_placement.h"
 
+#include "shell/painted/bar.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/painted/bar_geometry.h"
+#include "shell/x11/bar_geometry.h"
 
 #include <xcb/xcb_ewmh.h>
 

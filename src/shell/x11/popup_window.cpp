@@ -1,8 +1,6 @@
 #include "shell/x11/popup_window.h"
 
-#include "shell/painted/popup_geometry.h"
 #include "shell/x11/ewmh_hints.h"
-#include "shell/x11/x11_input.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -36,8 +34,6 @@ PopupWindow::PopupWindow(QWindow& window)
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PopupWindow::close);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PopupWindow::close);
 }
-
-PopupWindow::~PopupWindow() = default;
 
 bool PopupWindow::paintsItsCorners() const {
     return m_window.requestedFormat().hasAlpha() && desktopComposesWindows();
@@ -76,8 +72,8 @@ void PopupWindow::pressed() {
 }
 
 void PopupWindow::activeChanged() {
-    // Qt tells of a lost keyboard late: it may have come back since, as when a window manager gave it first
-    // to a window that was about to close.
+    // Qt reports a lost keyboard late: it may have come back since, as when a window manager gave it first to
+    // a window that was about to close.
     if (m_window.isActive())
         m_wasActive = true;
     else if (m_wasActive && !InputFocus::isIn(m_window.winId()))

@@ -1,10 +1,6 @@
-#include "shell/x11/x11_settings_window.h"
+#include "shell/painted/painted_settings_window.h"
 
-#include "shell/desktop.h"
-#include "shell/open_log.h"
-#include "shell/painted/state_file.h"
 #include "shell/painted/window_frame.h"
-#include "shell/x11/ewmh_hints.h"
 #include "theme/symbols.h"
 
 #include <QEvent>
@@ -32,10 +28,12 @@ QList<QRect> usableScreens() {
 
 } // namespace
 
-X11SettingsWindow::X11SettingsWindow(std::unique_ptr<QWindow> content,
-                                     std::unique_ptr<SettingsStorage> storage)
+PaintedSettingsWindow::PaintedSettingsWindow(std::unique_ptr<QWindow> content,
+                                             std::unique_ptr<SettingsStorage> storage,
+                                             std::function<void(QWindow&)> bringToUser)
     : m_content(std::move(content))
-    , m_storage(std::move(storage)) {
+    , m_storage(std::move(storage))
+    , m_bringToUser(std::move(bringToUser)) {
     m_content->setTitle(QStringLiteral("Orvelle Settings"));
     m_content->setIcon(programIcon());
     m_content->setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -43,29 +41,29 @@ X11SettingsWindow::X11SettingsWindow(std::unique_ptr<QWindow> content,
     m_content->installEventFilter(this);
     m_restDelay.setSingleShot(true);
     m_restDelay.setInterval(restTime);
-    connect(&m_restDelay, &QTimer::timeout, this, &X11SettingsWindow::remember);
+    connect(&m_restDelay, &QTimer::timeout, this, &PaintedSettingsWindow::remember);
     place();
 }
 
-X11SettingsWindow::~X11SettingsWindow() {
+PaintedSettingsWindow::~PaintedSettingsWindow() {
     m_content->removeEventFilter(this);
     remember();
 }
 
-void X11SettingsWindow::bringForward() {
+void PaintedSettingsWindow::bringForward() {
     if (!m_content->isVisible()) {
         place();
         m_isPainted = false;
         m_content->show();
     } else {
         m_content->setWindowStates(m_content->windowStates() & ~Qt::WindowMinimized);
-        bringToThisDesktop();
+        m_bringToUser(*m_content);
     }
     m_content->raise();
     m_content->requestActivate();
 }
 
-bool X11SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
+bool PaintedSettingsWindow::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
@@ -89,7 +87,7 @@ bool X11SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// Before it is shown: where it stood the last time, or in the middle of the first screen.
-void X11SettingsWindow::place() {
+void PaintedSettingsWindow::place() {
     const StoredValues stored = m_storage->read({frameKey()}).value_or(StoredValues());
     const std::optional<QRect> frame = parseFrame(stored.value(frameKey()).toString());
     const QList<QRect> screens = usableScreens();
@@ -102,22 +100,13 @@ void X11SettingsWindow::place() {
     m_remembered = frame.value_or(QRect());
 }
 
-void X11SettingsWindow::remember() {
+void PaintedSettingsWindow::remember() {
     // A window that is minimized, or as large as the screen, does not stand where the user put it.
     if (!m_content->isVisible() || m_content->windowStates() != Qt::WindowNoState)
         return;
     const QRect frame(m_content->framePosition(), m_content->size());
     if (frame != m_remembered && m_storage->write({{frameKey(), frameText(frame)}}) == SaveResult::saved)
         m_remembered = frame;
-}
-
-void X11SettingsWindow::bringToThisDesktop() const {
-    if (const EwmhHints* hints = EwmhHints::shared())
-        hints->moveToPresentDesktop(static_cast<xcb_window_t>(m_content->winId()));
-}
-
-std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content) {
-    return std::make_unique<X11SettingsWindow>(std::move(content), openStateFile());
 }
 
 } // namespace orvelle

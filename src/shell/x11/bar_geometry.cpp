@@ -1,4 +1,6 @@
-#include "shell/painted/bar_geometry.h"
+#include "shell/x11/bar_geometry.h"
+
+#include "shell/painted/bar.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,23 +69,6 @@ std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QS
     return TopStrut{.height = bar.top() + bar.height(),
                     .startX = std::max(bar.left(), 0),
                     .endX = std::min(bar.right(), rootSize.width() - 1)};
-}
-
-QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint) {
-    const auto pixels = [pixelsPerPoint](double points) { return std::round(points * pixelsPerPoint); };
-    // Each length is rounded by itself: were the edges, an item would change its width with its place.
-    double left = pixels(barWidth - barRightMarginPoints);
-    for (const double length : lengths)
-        left -= pixels(length);
-    QList<QRectF> bounds;
-    bounds.reserve(lengths.size());
-    for (const double length : lengths) {
-        const double right = left + pixels(length);
-        bounds.append(
-            QRectF(QPointF(left / pixelsPerPoint, 0), QPointF(right / pixelsPerPoint, barHeightPoints)));
-        left = right;
-    }
-    return bounds;
 }
 
 } // namespace orvelle

@@ -1,22 +1,29 @@
 #pragma once
 
 #include "settings/settings_storage.h"
-#include "shell/settings_window.h"
+#include "shell/desktop.h"
 
+#include <QObject>
 #include <QRect>
 #include <QTimer>
 #include <QWindow>
+
+#include <functional>
+#include <memory>
 
 namespace orvelle {
 
 /// A window of its own under the desktop's window manager, which gives it its title bar. Where it stood is
 /// kept in `storage` under the key `OrvelleSettings`, also when the program ends unexpectedly.
-class X11SettingsWindow final : public QObject, public SettingsWindow {
+class PaintedSettingsWindow final : public QObject, public SettingsWindow {
     Q_OBJECT
 
 public:
-    X11SettingsWindow(std::unique_ptr<QWindow> content, std::unique_ptr<SettingsStorage> storage);
-    ~X11SettingsWindow() override;
+    /// `bringToUser` brings the window, which is shown, to the one of the window manager's desktops that the
+    /// user is on.
+    PaintedSettingsWindow(std::unique_ptr<QWindow> content, std::unique_ptr<SettingsStorage> storage,
+                          std::function<void(QWindow&)> bringToUser);
+    ~PaintedSettingsWindow() override;
 
     void bringForward() override;
 
@@ -24,11 +31,10 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void place();
     void remember();
-    /// Takes a window that is on another of the window manager's desktops to the present one.
-    void bringToThisDesktop() const;
 
     std::unique_ptr<QWindow> m_content;
     std::unique_ptr<SettingsStorage> m_storage;
+    std::function<void(QWindow&)> m_bringToUser;
     QTimer m_restDelay; ///< runs while the window is being moved
     QRect m_remembered;
     bool m_isPainted = false; ///< since it was last opened

@@ -1,10 +1,14 @@
-#include "shell/painted/popup_geometry.h"
+#include "shell/painted/popup.h"
+
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
 
 namespace orvelle {
 namespace {
+
+constexpr std::chrono::milliseconds fadeStepTime{16};
 
 /// The left edge nearest to `wanted` at which `width` points stay on the screen; its margin where they are
 /// too many.
@@ -39,6 +43,46 @@ QRegion roundedRegion(const QSize& size, int radius) {
         region += QRect(inset, size.height() - 1 - row, size.width() - 2 * inset, 1);
     }
     return region;
+}
+
+WindowFade::WindowFade(QWindow& window, AnimationClock& clock)
+    : m_window(window)
+    , m_clock(clock)
+    , m_animation(clock, [this](double seconds) { step(seconds); }) {}
+
+void WindowFade::show(bool softly) {
+    if (!m_window.isVisible())
+        m_opacity.jump(0);
+    fadeTo(1, softly ? inTime : std::chrono::milliseconds(0));
+    m_window.show();
+}
+
+void WindowFade::hide(bool softly) {
+    fadeTo(0, softly ? outTime : std::chrono::milliseconds(0));
+    if (!m_animation.isMoving())
+        m_window.hide();
+}
+
+void WindowFade::fadeTo(double opacity, std::chrono::milliseconds time) {
+    static const QEasingCurve curve(QEasingCurve::OutQuad);
+    if (time.count() == 0 || m_clock.isReduced()) {
+        m_opacity.jump(opacity);
+        m_animation.stop();
+    } else {
+        m_opacity.retarget(opacity, std::chrono::duration<double>(time).count(), curve);
+        m_animation.start(fadeStepTime);
+    }
+    m_window.setOpacity(m_opacity.shown());
+}
+
+void WindowFade::step(double seconds) {
+    m_opacity.advance(seconds);
+    m_window.setOpacity(m_opacity.shown());
+    if (!m_opacity.isSettled())
+        return;
+    m_animation.stop();
+    if (m_opacity.target() == 0)
+        m_window.hide();
 }
 
 } // namespace orvelle

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "shell/desktop.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
 
-/// The text of a file in an autostart folder: a desktop entry as freedesktop.org describes it.
+/// The login item of desktops that read the XDG autostart folders.
 namespace orvelle {
 
-/// What of an entry decides whether a desktop starts it.
+// The text of a file there: a desktop entry as freedesktop.org describes it.
+
+/// The keys of an entry that decide whether a desktop starts it.
 struct AutostartEntry {
     QString program;             ///< what `Exec` starts, without its arguments; empty when there is none
     QString tryProgram;          ///< `TryExec`: the entry counts only while this can be started; may be empty
@@ -38,5 +42,36 @@ struct AutostartEntry {
 
 /// Whether a desktop with these names (`$XDG_CURRENT_DESKTOP`) would start the entry, its program aside.
 [[nodiscard]] bool isStartedBy(const AutostartEntry& entry, const QStringList& desktopNames);
+
+/// Where the autostart entries of a desktop are, and what is started.
+struct AutostartPlaces {
+    QString userFolder;        ///< `$XDG_CONFIG_HOME/autostart`
+    QStringList systemFolders; ///< `autostart` in each of `$XDG_CONFIG_DIRS`, the most important first
+    QStringList desktopNames;  ///< `$XDG_CURRENT_DESKTOP`
+    QString programPath;       ///< of this program, absolute
+
+    /// Those of the present user and this program. Needs the application object.
+    [[nodiscard]] static AutostartPlaces present();
+};
+
+/// The entry `orvelle.desktop` of the XDG autostart folders. The user's own entry stands for all others of
+/// that name.
+class AutostartLoginItem final : public LoginItem {
+public:
+    explicit AutostartLoginItem(AutostartPlaces places);
+
+    [[nodiscard]] bool isEnabled() const override;
+    [[nodiscard]] bool setEnabled(bool enabled) override;
+    void repair() override;
+
+private:
+    [[nodiscard]] QString userFile() const;
+    /// The file that counts; empty when there is none.
+    [[nodiscard]] QString effectiveFile() const;
+    [[nodiscard]] bool isEnabledForAll() const;
+    [[nodiscard]] bool writeUserFile(const QByteArray& text) const;
+
+    AutostartPlaces m_places;
+};
 
 } // namespace orvelle

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "shell/painted/bar_window.h"
+#include "shell/painted/bar.h"
+#include "shell/painted/menu_window.h"
+#include "shell/painted/popup.h"
 #include "shell/status_bar.h"
-#include "shell/x11/popup_window.h"
 
 #include <QElapsedTimer>
 
@@ -11,23 +12,23 @@
 
 namespace orvelle {
 
-class X11Popover;
+class BarPopover;
 
 /// The popovers of one bar whose windows are kept, the one that opened last at the end. Only a few are: each
 /// costs 2 MB, and opens again in a quarter of the time that it takes to make it.
-using KeptPopovers = std::vector<X11Popover*>;
+using KeptPopovers = std::vector<BarPopover*>;
 
 /// The popover of an item in the program's own bar. It opens when the clicks that have arrived are handled,
 /// so that many clicks at once end in one change.
-class X11Popover final : public QObject, public Popover {
+class BarPopover final : public QObject, public Popover {
     Q_OBJECT
 
 public:
     /// `kept` must outlive the object. `dismissed` is called when Escape is about to close the popover.
-    X11Popover(
-        BarWindow& bar, KeptPopovers& kept, PopoverContent makeContent,
+    BarPopover(
+        Bar& bar, KeptPopovers& kept, MakePopup makePopup, PopoverContent makeContent,
         std::function<void()> dismissed = [] {});
-    ~X11Popover() override;
+    ~BarPopover() override;
 
     [[nodiscard]] bool isShown() const override { return m_item != nullptr; }
     void show(const StatusItem& item) override;
@@ -36,22 +37,43 @@ public:
 private:
     void open();
     void setItem(const StatusItem* item);
-    /// The window, made when there is none yet; null when it cannot be made.
-    [[nodiscard]] PopupWindow* popupWindow();
+    /// The window's popup, made when there is none yet; null when it cannot be made.
+    [[nodiscard]] Popup* popup();
     void releaseWindow();
     /// Keeps the window of this popover at the expense of the one that has been closed for the longest time.
     void keepWindow();
     void logPainted();
 
-    BarWindow& m_bar;
+    Bar& m_bar;
     KeptPopovers& m_kept;
     const StatusItem* m_item = nullptr; ///< under which the popover is shown, or is about to be
     QElapsedTimer m_sinceShow;
+    MakePopup m_makePopup;
     PopoverContent m_makeContent;
     std::function<void()> m_dismissed;
     std::unique_ptr<QWindow> m_window; ///< null while it is not kept
     QSize m_size;                      ///< wanted by the content
-    std::optional<PopupWindow> m_popup;
+    std::unique_ptr<Popup> m_popup;    ///< null without a window
+};
+
+/// The menu of an item in the program's own bar.
+class BarContextMenu final : public QObject, public ContextMenu {
+    Q_OBJECT
+
+public:
+    /// `dismissed` is called when Escape is about to close the menu.
+    BarContextMenu(const Bar& bar, const MakePopup& makePopup, std::function<void()> dismissed);
+
+    void show(const StatusItem& item, std::vector<MenuEntry> entries) override;
+    void close() override { m_popup->close(); }
+
+private:
+    void choose(std::size_t index);
+
+    const Bar& m_bar;
+    const StatusItem* m_item = nullptr; ///< under which the menu is shown
+    MenuWindow m_window;
+    std::unique_ptr<Popup> m_popup;
 };
 
 } // namespace orvelle

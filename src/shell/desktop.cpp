@@ -1,4 +1,4 @@
-#include "shell/open_log.h"
+#include "shell/desktop.h"
 
 namespace orvelle {
 

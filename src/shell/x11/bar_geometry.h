@@ -1,22 +1,15 @@
 #pragma once
 
-#include <QList>
 #include <QRect>
 
 #include <optional>
 #include <vector>
 
-/// Where the bar and its items belong, as rules without a window.
+/// Where the bar stands on an X11 desktop.
 ///
 /// Two units meet here. Qt speaks of points, `pixelsPerPoint` device pixels each, and gives a screen's origin
 /// in device pixels but its size in points. The X server and the window manager know device pixels only.
 namespace orvelle {
-
-/// Height of the bar and of every item in it, in points.
-inline constexpr int barHeightPoints = 22;
-
-/// Left free between the last item and the edge of the screen, in points.
-inline constexpr double barRightMarginPoints = 8;
 
 /// The top strip of the screen that a dock reserves: `height` pixels from the root window's upper edge, in
 /// the columns from `startX` to `endX`, both included.
@@ -51,11 +44,5 @@ struct TopDock {
 /// strut counts from the root window's edge, so it would take the same columns of the screen above.
 [[nodiscard]] std::optional<TopStrut> strutFor(const QRect& bar, const QRect& screen, const QSize& rootSize,
                                                const std::vector<QRect>& otherScreens);
-
-/// The items' rectangles in a bar of `barWidth` points, in the order of `lengths`, side by side and flush
-/// right. Their edges stand on whole device pixels, so that no item loses part of a pixel to its neighbour,
-/// and an item is as wide wherever it stands: its length in pixels, rounded.
-/// When they do not fit, the first ones leave the bar at its left edge.
-[[nodiscard]] QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint);
 
 } // namespace orvelle

@@ -1,0 +1,85 @@
+#include "shell/desktop.h"
+#include "shell/painted/bar_popups.h"
+#include "shell/painted/bar_window.h"
+#include "shell/painted/painted_settings_window.h"
+#include "shell/painted/window_frame.h"
+#include "shell/x11/bar_focus.h"
+#include "shell/x11/bar_placement.h"
+#include "shell/x11/popup_window.h"
+
+namespace orvelle {
+namespace {
+
+std::unique_ptr<Popup> makePopup(QWindow& window) {
+    return std::make_unique<PopupWindow>(window);
+}
+
+/// A status bar of the program's own, since X11 desktops have none that holds items of any width.
+class X11StatusBar final : public StatusBar {
+public:
+    X11StatusBar() {
+        connect(&m_bar, &Bar::emptyChanged, this, [this] { m_placement.setShown(!m_bar.isEmpty()); });
+        connect(&m_window, &BarWindow::painted, this, &StatusBar::firstPainted, Qt::SingleShotConnection);
+    }
+
+    [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
+        return m_bar.addItem(identifier, length);
+    }
+    void removeItem(StatusItem& item) override { m_bar.removeItem(item); }
+    [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override {
+        return std::make_unique<BarPopover>(m_bar, m_keptPopovers, makePopup, std::move(makeContent),
+                                            [this] { m_focus.resume(); });
+    }
+    [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override {
+        return std::make_unique<BarContextMenu>(m_bar, makePopup, [this] { m_focus.resume(); });
+    }
+    void takeKeyboard() override { m_focus.take(); }
+
+private:
+    BarWindow m_window;
+    Bar& m_bar = m_window.bar();
+    KeptPopovers m_keptPopovers;
+    BarPlacement m_placement{m_window};
+    BarFocus m_focus{m_window};
+};
+
+} // namespace
+
+std::unique_ptr<StatusBar> makeStatusBar() {
+    return std::make_unique<X11StatusBar>();
+}
+
+std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content) {
+    return std::make_unique<PaintedSettingsWindow>(std::move(content), openStateFile(), [](QWindow& window) {
+        if (const EwmhHints* hints = EwmhHints::shared())
+            hints->moveToPresentDesktop(static_cast<xcb_window_t>(window.winId()));
+    });
+}
+
+std::optional<QString> prepareDesktop() {
+    // A platform that was named on purpose is kept; off-screen, for one, needs no display.
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    // A session may ask all its programs for Wayland; its XWayland serves the bar.
+    const bool wantsX11 = platform.isEmpty() || platform.contains("xcb") || platform.startsWith("wayland");
+    if (!wantsX11)
+        return std::nullopt;
+    // Only X11 lets a program place a bar; Wayland sessions offer it through XWayland.
+    const QString display = qEnvironmentVariable("DISPLAY");
+    if (display.isEmpty())
+        return QStringLiteral("Orvelle needs an X display, and DISPLAY names none.");
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool failed = xcb_connection_has_error(connection) != 0;
+    xcb_disconnect(connection);
+    if (failed)
+        return QStringLiteral("Orvelle cannot reach the X display \"%1\".").arg(display);
+    if (!platform.startsWith("xcb"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    // With shared pictures Qt asks the server before each repaint whether it has read the last one, which
+    // wakes two threads. Few pixels change here, so sending them is cheaper: one wake-up per sample instead
+    // of three.
+    if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
+        qputenv("QT_XCB_NO_MITSHM", "1");
+    return std::nullopt;
+}
+
+} // namespace orvelle
