@@ -1,9 +1,14 @@
 #pragma once
 
 #include <AppKit/AppKit.h>
+#include <CoreGraphics/CoreGraphics.h>
 
+#include <QImage>
 #include <QPainter>
 #include <QRectF>
+
+#include <memory>
+#include <type_traits>
 
 namespace orvelle {
 
@@ -15,12 +20,18 @@ class PaintedPicture {
     virtual void paint(QPainter& painter, const QRectF& bounds) = 0;
 };
 
-} // namespace orvelle
-
-namespace orvelle {
-
 /// Pixels a point on the screen that the view is on; 0 while it is on none, and for null.
 [[nodiscard]] CGFloat backingScale(NSView* view);
+
+struct CGImageReleaser {
+    void operator()(CGImageRef image) const { CGImageRelease(image); }
+};
+/// Owns one reference to an image of Core Graphics.
+using OwnedCGImage = std::unique_ptr<std::remove_pointer_t<CGImageRef>, CGImageReleaser>;
+
+/// The same pixels for Core Graphics; they are shared, not copied. The image is premultiplied, 32 bits a
+/// pixel. Null when it has no pixels or the system cannot make one.
+[[nodiscard]] OwnedCGImage makeCGImage(QImage image);
 
 } // namespace orvelle
 

@@ -1,11 +1,17 @@
 #pragma once
 
-#include "shell/macos/native_view.h"
-#include "shell/macos/retained.h"
+#include "shell/macos/foundation.h"
 
+#include <QWindow>
+
+#include <AppKit/AppKit.h>
 #include <memory>
 
 namespace orvelle {
+
+/// The view in which Qt draws the window; the window owns it and creates it now if it has to. In a file of
+/// its own, because the tests stand in for it.
+[[nodiscard]] NSView* nativeView(QWindow& window);
 
 /// A window of Qt as the content of a window of the system.
 class HostedWindow {

@@ -1,8 +1,31 @@
 #pragma once
 
+#include "shell/macos/foundation.h"
 #include "shell/status_bar.h"
-#include "shell/macos/menu_target.h"
-#include "shell/macos/retained.h"
+
+#include <AppKit/AppKit.h>
+
+namespace orvelle {
+
+/// Hears what was chosen from a menu.
+class MenuListener {
+  public:
+    virtual ~MenuListener() = default;
+    /// The entry at this place in the list.
+    virtual void chosen(NSInteger index) = 0;
+};
+
+} // namespace orvelle
+
+/// The target of a menu's entries. Each has its place in the list as its tag.
+@interface MenuTarget : NSObject {
+  @private
+    orvelle::MenuListener* m_listener;
+}
+/// The listener must live as long as entries send choices.
+- (instancetype)initWithMenuListener:(orvelle::MenuListener*)listener;
+- (void)choose:(NSMenuItem*)sender;
+@end
 
 namespace orvelle {
 

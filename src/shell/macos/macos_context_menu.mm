@@ -1,11 +1,10 @@
 #include "shell/macos/macos_context_menu.h"
 
 #include "shell/macos/macos_status_item.h"
-#include "shell/macos/text.h"
 
 namespace orvelle {
 
-MacosContextMenu::MacosContextMenu() : m_target([[MenuTarget alloc] initWithListener:this]) {}
+MacosContextMenu::MacosContextMenu() : m_target([[MenuTarget alloc] initWithMenuListener:this]) {}
 
 MacosContextMenu::~MacosContextMenu() { [m_menu.get() cancelTracking]; }
 
@@ -51,3 +50,18 @@ void MacosContextMenu::chosen(NSInteger index) {
 }
 
 } // namespace orvelle
+
+@implementation MenuTarget
+
+- (instancetype)initWithMenuListener:(orvelle::MenuListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (void)choose:(NSMenuItem*)sender {
+    m_listener->chosen([sender tag]);
+}
+
+@end

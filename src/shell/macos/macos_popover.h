@@ -1,16 +1,40 @@
 #pragma once
 
 #include "shell/macos/hosted_window.h"
-#include "shell/macos/popover_observer.h"
 #include "shell/status_bar.h"
 
 #include <optional>
 
 namespace orvelle {
 
+/// Hears what becomes of a popover that is shown.
+class PopoverListener {
+  public:
+    virtual ~PopoverListener() = default;
+    /// Whether it may close by itself now.
+    [[nodiscard]] virtual bool mayClose() const = 0;
+    /// It begins to close, for any reason.
+    virtual void willClose() = 0;
+    /// It cannot be seen any more.
+    virtual void didClose() = 0;
+};
+
+} // namespace orvelle
+
+/// Passes on what the system says about a popover.
+@interface PopoverObserver : NSObject <NSPopoverDelegate> {
+  @private
+    orvelle::PopoverListener* m_listener;
+}
+/// The listener must live as long as this is the delegate of a popover.
+- (instancetype)initWithPopoverListener:(orvelle::PopoverListener*)listener;
+@end
+
+namespace orvelle {
+
 /// A popover of the system's own under an item of its menu bar.
 class MacosPopover final : public Popover, private PopoverListener {
-public:
+  public:
     explicit MacosPopover(PopoverContent makeContent);
     ~MacosPopover() override;
     MacosPopover(const MacosPopover&) = delete;
@@ -22,7 +46,7 @@ public:
     void show(const StatusItem& item) override;
     void close() override;
 
-private:
+  private:
     /// Not by a press on the item that it stands under.
     [[nodiscard]] bool mayClose() const override;
     void willClose() override;

@@ -19,7 +19,7 @@ NSTimeInterval uptime() { return [[NSProcessInfo processInfo] systemUptime]; }
 } // namespace
 
 MacosPopover::MacosPopover(PopoverContent makeContent)
-    : m_makeContent(std::move(makeContent)), m_observer([[PopoverObserver alloc] initWithListener:this]),
+    : m_makeContent(std::move(makeContent)), m_observer([[PopoverObserver alloc] initWithPopoverListener:this]),
       m_popover([[NSPopover alloc] init]) {
     [m_popover.get() setContentSize:NSMakeSize(width, height)];
     [m_popover.get() setBehavior:NSPopoverBehaviorTransient];
@@ -91,3 +91,29 @@ void MacosPopover::didClose() {
 }
 
 } // namespace orvelle
+
+@implementation PopoverObserver
+
+- (instancetype)initWithPopoverListener:(orvelle::PopoverListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (BOOL)popoverShouldClose:(NSPopover*)popover {
+    static_cast<void>(popover);
+    return m_listener->mayClose() ? YES : NO;
+}
+
+- (void)popoverWillClose:(NSNotification*)notification {
+    static_cast<void>(notification);
+    m_listener->willClose();
+}
+
+- (void)popoverDidClose:(NSNotification*)notification {
+    static_cast<void>(notification);
+    m_listener->didClose();
+}
+
+@end

@@ -1,15 +1,69 @@
-#include "shell/macos/macos_status_bar.h"
-
 #include "shell/desktop.h"
 #include "shell/macos/macos_context_menu.h"
 #include "shell/macos/macos_popover.h"
+#include "shell/macos/macos_status_item.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace orvelle {
+namespace {
 
-MacosStatusBar::MacosStatusBar() : m_target([[StatusItemTarget alloc] initWithListener:this]) {}
+/// Hears which item was clicked.
+class ClickListener {
+  public:
+    virtual ~ClickListener() = default;
+    /// A button with this identifier was clicked. It need not belong to an item.
+    virtual void clicked(const QString& identifier, ClickButton button) = 0;
+};
+
+} // namespace
+} // namespace orvelle
+
+/// The target of the items' buttons.
+@interface StatusItemTarget : NSObject {
+  @private
+    orvelle::ClickListener* m_listener;
+}
+/// The listener must live as long as the buttons send clicks.
+- (instancetype)initWithClickListener:(orvelle::ClickListener*)listener;
+/// The current event decides which button of the mouse it was. Without one nothing happens.
+- (void)statusItemClicked:(NSStatusBarButton*)sender;
+@end
+
+namespace orvelle {
+namespace {
+
+/// The program's part of the system's menu bar.
+class MacosStatusBar final : public StatusBar, private ClickListener {
+  public:
+    MacosStatusBar();
+    ~MacosStatusBar() override;
+
+    /// Asks the system for one item more. Where it stands among the others is for the system, and for the
+    /// user, who may move it.
+    [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override;
+    void removeItem(StatusItem& item) override;
+    [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
+    [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
+
+  private:
+    void clicked(const QString& identifier, ClickButton button) override;
+    void itemPainted();
+
+    Retained<StatusItemTarget*> m_target;
+    std::vector<std::unique_ptr<MacosStatusItem>> m_items; ///< in the order in which they were added
+    bool m_hasBeenPainted = false;
+};
+
+/// Holding Control makes a right click of a left one, as everywhere on this desktop.
+ClickButton clickButton(NSEvent* event) {
+    const bool isRight =
+        [event type] == NSEventTypeRightMouseUp || ([event modifierFlags] & NSEventModifierFlagControl) != 0;
+    return isRight ? ClickButton::right : ClickButton::left;
+}
+
+MacosStatusBar::MacosStatusBar() : m_target([[StatusItemTarget alloc] initWithClickListener:this]) {}
 
 MacosStatusBar::~MacosStatusBar() {
     const ReleasePool pool;
@@ -50,6 +104,8 @@ void MacosStatusBar::itemPainted() {
         Q_EMIT firstPainted();
 }
 
+} // namespace
+
 std::unique_ptr<StatusBar> makeStatusBar() { return std::make_unique<MacosStatusBar>(); }
 
 std::optional<QString> prepareDesktop() {
@@ -57,3 +113,21 @@ std::optional<QString> prepareDesktop() {
 }
 
 } // namespace orvelle
+
+@implementation StatusItemTarget
+
+- (instancetype)initWithClickListener:(orvelle::ClickListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (void)statusItemClicked:(NSStatusBarButton*)sender {
+    NSEvent* const event = [NSApp currentEvent];
+    NSString* const identifier = [sender identifier];
+    if (event != nil && identifier != nil)
+        m_listener->clicked(orvelle::qtText(identifier), orvelle::clickButton(event));
+}
+
+@end

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/macos/click_through_hosting_view.h"
-#include "shell/macos/retained.h"
+#include "shell/macos/foundation.h"
 #include "shell/status_item.h"
 
 namespace orvelle {

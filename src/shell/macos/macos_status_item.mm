@@ -1,7 +1,5 @@
 #include "shell/macos/macos_status_item.h"
 
-#include "shell/macos/text.h"
-
 namespace orvelle {
 namespace {
 

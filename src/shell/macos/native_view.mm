@@ -1,4 +1,4 @@
-#include "shell/macos/native_view.h"
+#include "shell/macos/hosted_window.h"
 
 namespace orvelle {
 

@@ -1,6 +1,4 @@
-#include "shell/macos/native_view.h"
-
-#include "shell/macos/retained.h"
+#include "shell/macos/hosted_window.h"
 
 #include <unordered_map>
 

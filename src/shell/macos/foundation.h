@@ -2,9 +2,12 @@
 
 #include <Foundation/Foundation.h>
 
+#include <QString>
+
 #include <utility>
 
-/// Owners for code that counts references by hand, as everything in this folder does.
+/// The border to the system's objects: who owns them, in code that counts references by hand as everything in
+/// this folder does, and texts from one side to the other.
 namespace orvelle {
 
 /// Owns one reference to an object and gives it back exactly once. `Object` is a pointer to its class, for
@@ -14,7 +17,7 @@ template <class Object> class Retained {
     Retained() = default;
     /// Takes over the reference that `alloc` gave.
     explicit Retained(Object object) : m_object(object) {}
-    /// Adds a reference to an object that somebody else owns.
+    /// Adds a reference to an object of another owner.
     [[nodiscard]] static Retained adding(Object object) {
         const id added = object;
         return Retained(static_cast<Object>([added retain]));
@@ -47,5 +50,11 @@ class ReleasePool {
   private:
     NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
 };
+
+/// The text for the system, lent until the pool ends.
+[[nodiscard]] NSString* systemText(const QString& text);
+
+/// The text of the system; null when there is none.
+[[nodiscard]] QString qtText(NSString* text);
 
 } // namespace orvelle

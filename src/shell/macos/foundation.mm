@@ -1,4 +1,4 @@
-#include "shell/macos/text.h"
+#include "shell/macos/foundation.h"
 
 namespace orvelle {
 

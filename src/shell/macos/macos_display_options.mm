@@ -1,0 +1,99 @@
+#include "animation/animation_clock.h"
+#include "shell/desktop.h"
+#include "shell/macos/foundation.h"
+
+#include <QObject>
+
+#include <AppKit/AppKit.h>
+
+namespace orvelle {
+namespace {
+
+/// Hears how the user wants things to be shown.
+class DisplayOptionsListener {
+  public:
+    virtual ~DisplayOptionsListener() = default;
+    /// Any of the options for people who see less well, or differently, may have changed.
+    virtual void displayOptionsChanged() = 0;
+};
+
+} // namespace
+} // namespace orvelle
+
+/// Hears of changes to the system's options for display.
+@interface DisplayOptionsObserver : NSObject {
+  @private
+    orvelle::DisplayOptionsListener* m_listener;
+}
+/// The listener must live until the observer is told to stop.
+- (instancetype)initWithListener:(orvelle::DisplayOptionsListener*)listener;
+- (void)start;
+- (void)stop;
+@end
+
+@implementation DisplayOptionsObserver
+
+- (instancetype)initWithListener:(orvelle::DisplayOptionsListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (void)start {
+    [[[NSWorkspace sharedWorkspace] notificationCenter]
+        addObserver:self
+           selector:@selector(displayOptionsChanged:)
+               name:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
+             object:nil];
+}
+
+- (void)stop {
+    [[[NSWorkspace sharedWorkspace] notificationCenter] removeObserver:self];
+}
+
+- (void)displayOptionsChanged:(NSNotification*)notification {
+    static_cast<void>(notification);
+    m_listener->displayOptionsChanged();
+}
+
+@end
+
+namespace orvelle {
+namespace {
+
+class ReducedMotionFollower final : public QObject, private DisplayOptionsListener {
+  public:
+    explicit ReducedMotionFollower(AnimationClock& clock)
+        : m_clock(clock), m_observer([[DisplayOptionsObserver alloc] initWithListener:this]) {
+        [m_observer.get() start];
+        displayOptionsChanged();
+    }
+    ~ReducedMotionFollower() override {
+        const ReleasePool pool;
+        [m_observer.get() stop];
+    }
+    ReducedMotionFollower(const ReducedMotionFollower&) = delete;
+    ReducedMotionFollower& operator=(const ReducedMotionFollower&) = delete;
+
+  private:
+    void displayOptionsChanged() override {
+        m_clock.setReduced([[NSWorkspace sharedWorkspace] accessibilityDisplayShouldReduceMotion]);
+    }
+
+    AnimationClock& m_clock;
+    Retained<DisplayOptionsObserver*> m_observer;
+};
+
+} // namespace
+
+std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) {
+    const ReleasePool pool;
+    return std::make_unique<ReducedMotionFollower>(clock);
+}
+
+std::unique_ptr<QObject> followDesktopFonts() {
+    return nullptr; // the system has one font, which Qt knows
+}
+
+} // namespace orvelle

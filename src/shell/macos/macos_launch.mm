@@ -1,0 +1,155 @@
+#include "shell/desktop.h"
+#include "shell/macos/foundation.h"
+
+#include <QTimer>
+
+#include <AppKit/AppKit.h>
+#include <CoreServices/CoreServices.h>
+#include <ServiceManagement/ServiceManagement.h>
+
+// How the system starts the program: once more while it runs, and when the user logs in.
+
+namespace orvelle {
+namespace {
+
+/// Hears that the program was opened again.
+class ReopenListener {
+  public:
+    virtual ~ReopenListener() = default;
+    virtual void reopened() = 0;
+};
+
+} // namespace
+} // namespace orvelle
+
+/// Hears that the user has opened the program once more while it runs, by a double click for instance.
+@interface ReopenObserver : NSObject {
+  @private
+    orvelle::ReopenListener* m_listener;
+}
+/// The listener must live until the observer is told to stop.
+- (instancetype)initWithListener:(orvelle::ReopenListener*)listener;
+- (void)start;
+- (void)stop;
+@end
+
+@implementation ReopenObserver
+
+- (instancetype)initWithListener:(orvelle::ReopenListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (void)start {
+    [[NSAppleEventManager sharedAppleEventManager] setEventHandler:self
+                                                       andSelector:@selector(handleReopen:withReplyEvent:)
+                                                     forEventClass:kCoreEventClass
+                                                        andEventID:kAEReopenApplication];
+}
+
+- (void)stop {
+    [[NSAppleEventManager sharedAppleEventManager] removeEventHandlerForEventClass:kCoreEventClass
+                                                                        andEventID:kAEReopenApplication];
+}
+
+- (void)handleReopen:(NSAppleEventDescriptor*)event withReplyEvent:(NSAppleEventDescriptor*)reply {
+    static_cast<void>(event);
+    static_cast<void>(reply);
+    m_listener->reopened();
+}
+
+@end
+
+namespace orvelle {
+namespace {
+
+/// Told by the system of later starts: it does not start a program a second time from the Finder or the Dock,
+/// but sends the running one an event.
+class LaunchedInstance final : public SingleInstance, private ReopenListener {
+  public:
+    LaunchedInstance() : m_observer([[ReopenObserver alloc] initWithListener:this]) {
+        // The application object takes the event for itself when its loop begins; this comes after it.
+        QTimer::singleShot(0, this, [this] {
+            const ReleasePool pool;
+            [m_observer.get() start];
+        });
+    }
+    ~LaunchedInstance() override {
+        const ReleasePool pool;
+        [m_observer.get() stop];
+    }
+    LaunchedInstance(const LaunchedInstance&) = delete;
+    LaunchedInstance& operator=(const LaunchedInstance&) = delete;
+
+  private:
+    void reopened() override { Q_EMIT startedAgain(); }
+
+    Retained<ReopenObserver*> m_observer;
+};
+
+/// Another process of this program; null when there is none. A program outside a bundle has no name by which
+/// the system could find it.
+NSRunningApplication* otherInstance() {
+    NSString* const identifier = [[NSBundle mainBundle] bundleIdentifier];
+    if (identifier == nil)
+        return nil;
+    NSArray* const instances = [NSRunningApplication runningApplicationsWithBundleIdentifier:identifier];
+    const pid_t own = [[NSProcessInfo processInfo] processIdentifier];
+    for (NSUInteger index = 0; index < [instances count]; ++index) {
+        NSRunningApplication* const instance = [instances objectAtIndex:index];
+        if ([instance processIdentifier] != own && ![instance isTerminated])
+            return instance;
+    }
+    return nil;
+}
+
+/// Null before macOS 13, which has no such service. Asked for by name, so that the program starts there.
+SMAppService* mainAppService() { return [NSClassFromString(@"SMAppService") mainAppService]; }
+
+/// The program's own entry among the login items in the system's settings. The user may forbid it there, and
+/// then it stays off.
+class MacosLoginItem final : public LoginItem {
+  public:
+    [[nodiscard]] bool isEnabled() const override {
+        const ReleasePool pool;
+        SMAppService* const service = mainAppService();
+        return service != nil && [service status] == SMAppServiceStatusEnabled;
+    }
+
+    [[nodiscard]] bool setEnabled(bool enabled) override {
+        const ReleasePool pool;
+        SMAppService* const service = mainAppService();
+        if (service == nil)
+            return false;
+        // Both fail where nothing is to be done; what counts is how it stands afterwards.
+        if (enabled)
+            static_cast<void>([service registerAndReturnError:nullptr]);
+        else
+            static_cast<void>([service unregisterAndReturnError:nullptr]);
+        return isEnabled() == enabled;
+    }
+
+    /// The system itself finds a program that has moved.
+    void repair() override {}
+};
+
+} // namespace
+
+std::unique_ptr<SingleInstance> becomeSingleInstance() {
+    const ReleasePool pool;
+    NSRunningApplication* const other = otherInstance();
+    if (other == nil)
+        return std::make_unique<LaunchedInstance>();
+    // Started as a bare file, past the system, which now tells the other one as if it had been asked to
+    // start.
+    NSURL* const bundle = [other bundleURL];
+    if (bundle != nil)
+        static_cast<void>([[NSWorkspace sharedWorkspace] openURL:bundle]);
+    return nullptr;
+}
+
+std::unique_ptr<LoginItem> makeLoginItem() { return std::make_unique<MacosLoginItem>(); }
+
+} // namespace orvelle
