@@ -59,7 +59,7 @@ void WindowFade::show(bool softly) {
 
 void WindowFade::hide(bool softly) {
     fadeTo(0, softly ? outTime : std::chrono::milliseconds(0));
-    if (!m_animation.isMoving())
+    if (!m_animation.isRunning())
         m_window.hide();
 }
 

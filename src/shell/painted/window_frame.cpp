@@ -1,6 +1,6 @@
 #include "shell/painted/window_frame.h"
 
-#include "settings/settings_file.h"
+#include "settings/settings_storage.h"
 
 #include <QDir>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "windows/panels/panel_graphics.h"
 
-#include "charts/temperature_rules.h"
+#include "charts/temperature_gauge.h"
 #include "theme/colors.h"
 
 #include <algorithm>
