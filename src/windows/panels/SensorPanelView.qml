@@ -22,14 +22,12 @@ PanelBody {
             title: "CPU"
             celsius: panel.sensor.cpuTemperature
             settings: panel.settings
-            baseColor: panel.moduleColor
         }
         SensorGauge {
             objectName: "gpuGauge"
             title: "GPU"
             celsius: panel.sensor.gpuTemperature
             settings: panel.settings
-            baseColor: Look.orange
         }
     }
     Divider {}
