@@ -7,7 +7,7 @@
 
 namespace orvelle {
 
-/// What the monitors publish after the update cycles of `plan`.
+/// Every value that the monitors publish, by its exact name, after the update cycles of `plan`.
 [[nodiscard]] std::variant<QJsonObject, UnreadableRoot> probe(const SamplingPlan& plan);
 
 /// A line for each module from left to right, its fields between tabs: key, width of its status item in
