@@ -3,7 +3,7 @@
 #include "app/app_delegate.h"
 #include "app/recording_status_bar.h"
 #include "core/system_monitor.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "settings/settings_store.h"
 #include "support/shown_modules.h"
 #include "support/temporary_settings.h"

@@ -3,7 +3,7 @@
 #include "app/app_delegate.h"
 #include "appkit/simulated/desktop.h"
 #include "core/system_monitor.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "settings/settings_store.h"
 #include "shell/desktop.h"
 #include "theme/theme_manager.h"

@@ -1,5 +1,5 @@
 #include "core/system_monitor.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "settings/settings_store.h"
 
 #include <QTemporaryDir>

@@ -4,7 +4,7 @@
 #include "platform/linux/hwmon.h"
 #include "platform/linux/linux_sensor_source.h"
 #include "platform/linux/text.h"
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 #include "require.h"
 
 #include <algorithm>
@@ -47,13 +47,13 @@ void checkPacks(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
 } // namespace
 
 void requireShowable(std::string_view name) {
-    require(sanitizedName(name) == name, "a name fit to be shown stays as it is");
+    require(readableName(name) == name, "a name fit to be shown stays as it is");
     require(std::ranges::none_of(name, [](char byte) { return byte == '\n' || byte == '\x1b' || byte == 0; }),
             "a name holds no control characters");
 }
 
 void fuzzNames(std::string_view text) {
-    const std::string name = sanitizedName(text);
+    const std::string name = readableName(text);
     require(name.size() <= 3 * text.size(), "a byte becomes three at most");
     requireShowable(name);
 }

@@ -4,7 +4,7 @@
 #include "menu_bar/cpu_menu_bar_item.h"
 #include "menu_bar/memory_menu_bar_item.h"
 #include "menu_bar/sensor_menu_bar_item.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "theme/colors.h"
 
 #include <cstdlib>

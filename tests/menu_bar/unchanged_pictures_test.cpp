@@ -1,7 +1,7 @@
 #include "core/system_monitor.h"
 #include "item_fixture.h"
 #include "menu_bar/modules.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -6,7 +6,7 @@
 #include "menu_bar/memory_menu_bar_item.h"
 #include "menu_bar/network_menu_bar_item.h"
 #include "menu_bar/sensor_menu_bar_item.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "support/written_texts.h"
 
 namespace orvelle {

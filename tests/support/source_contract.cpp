@@ -1,6 +1,6 @@
 #include "support/source_contract.h"
 
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 /// Whether `text` can be shown as it is: valid UTF-8 on one line.
 bool isFitToBeShown(const std::string& text) {
-    return sanitizedName(text) == text;
+    return readableName(text) == text;
 }
 
 /// Whether the sum of `field` over `records` fits into 64 bits.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/example_character.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 
 namespace orvelle {
 

@@ -1,7 +1,6 @@
 #include "platform/darwin/darwin_battery_source.h"
 
-#include "platform/darwin/properties.h"
-#include "platform/darwin/registry.h"
+#include "platform/darwin/system_objects.h"
 
 #include <IOKit/ps/IOPSKeys.h>
 #include <IOKit/ps/IOPowerSources.h>

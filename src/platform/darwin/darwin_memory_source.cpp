@@ -1,6 +1,6 @@
 #include "platform/darwin/darwin_memory_source.h"
 
-#include "platform/darwin/sysctl_value.h"
+#include "platform/darwin/kernel_answers.h"
 
 #include <algorithm>
 #include <cstddef>

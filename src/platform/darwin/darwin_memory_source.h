@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/sources/memory_source.h"
-#include "platform/darwin/references.h"
+#include "platform/darwin/system_objects.h"
 
 namespace orvelle::darwin_platform {
 

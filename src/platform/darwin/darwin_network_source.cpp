@@ -1,7 +1,7 @@
 #include "platform/darwin/darwin_network_source.h"
 
-#include "platform/darwin/stop.h"
-#include "platform/names/sanitize.h"
+#include "platform/darwin/kernel_answers.h"
+#include "platform/readable_name.h"
 
 #include <array>
 #include <cstddef>
@@ -43,7 +43,7 @@ InterfaceEntry interfaceEntry(const ifaddrs& source) {
     if (source.ifa_name == nullptr || source.ifa_addr == nullptr)
         stopForContradiction("an entry of the interface list has no name or no address");
     InterfaceEntry entry;
-    entry.name = sanitizedName(source.ifa_name);
+    entry.name = readableName(source.ifa_name);
     entry.isUp = (source.ifa_flags & IFF_UP) != 0;
     entry.isLoopback = (source.ifa_flags & IFF_LOOPBACK) != 0;
     if (!entry.isUp || entry.isLoopback)

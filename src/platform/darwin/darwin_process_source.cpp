@@ -1,7 +1,7 @@
 #include "platform/darwin/darwin_process_source.h"
 
-#include "platform/darwin/sysctl_value.h"
-#include "platform/names/sanitize.h"
+#include "platform/darwin/kernel_answers.h"
+#include "platform/readable_name.h"
 
 #include <algorithm>
 #include <array>
@@ -23,11 +23,11 @@ void takeName(ProcessRecord& record) {
     std::array<char, PROC_PIDPATHINFO_MAXSIZE> path; // left as it is: 4096 zeros a process are not for free
     const std::string_view executable = textIn(path, proc_pidpath(record.pid, path.data(), path.size()));
     if (!executable.empty() && executable != "/") {
-        assignSanitized(record.name, lastPathComponent(executable));
+        assignReadableName(record.name, lastPathComponent(executable));
         return;
     }
     std::array<char, 256> name;
-    assignSanitized(record.name, textIn(name, proc_name(record.pid, name.data(), name.size())));
+    assignReadableName(record.name, textIn(name, proc_name(record.pid, name.data(), name.size())));
 }
 
 void inspect(ProcessRecord& record, std::int32_t pid) {

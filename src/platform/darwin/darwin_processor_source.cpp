@@ -1,7 +1,6 @@
 #include "platform/darwin/darwin_processor_source.h"
 
-#include "platform/darwin/stop.h"
-#include "platform/darwin/sysctl_value.h"
+#include "platform/darwin/kernel_answers.h"
 
 #include <algorithm>
 #include <cmath>

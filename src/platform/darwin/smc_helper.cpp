@@ -1,6 +1,6 @@
 #include "platform/darwin/smc_helper.h"
 
-#include "platform/darwin/stop.h"
+#include "platform/darwin/kernel_answers.h"
 
 #include <array>
 

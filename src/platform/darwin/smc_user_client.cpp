@@ -1,6 +1,6 @@
 #include "platform/darwin/smc_user_client.h"
 
-#include "platform/darwin/registry.h"
+#include "platform/darwin/system_objects.h"
 
 namespace orvelle::darwin_platform {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/linux/files.h"
 #include "platform/linux/text.h"
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <algorithm>
 #include <array>
@@ -169,7 +169,7 @@ std::vector<HwmonChannel> channelsOf(const fs::path& folder, const std::vector<s
         const std::string channel = channelIn(file, kind);
         if (!channel.empty())
             channels.push_back(
-                {.file = channel, .label = sanitizedName(readAttribute(folder / (channel + "_label")))});
+                {.file = channel, .label = readableName(readAttribute(folder / (channel + "_label")))});
     }
     std::ranges::sort(channels, comesBefore, &HwmonChannel::file);
     return channels;
@@ -178,18 +178,18 @@ std::vector<HwmonChannel> channelsOf(const fs::path& folder, const std::vector<s
 HwmonChip readChip(const fs::path& root, const fs::path& hwmonFolder) {
     HwmonChip chip;
     chip.folder = hwmonFolder;
-    chip.name = sanitizedName(readAttribute(hwmonFolder / "name"));
+    chip.name = readableName(readAttribute(hwmonFolder / "name"));
     if (chip.name.empty()) {
         // Drivers that register the old way keep the attributes with the device itself.
         chip.folder = hwmonFolder / "device";
-        chip.name = sanitizedName(readAttribute(chip.folder / "name"));
+        chip.name = readableName(readAttribute(chip.folder / "name"));
     }
     const std::vector<std::string> files = namesIn(chip.folder);
     chip.temperatures = channelsOf(chip.folder, files, "temp");
     chip.fans = channelsOf(chip.folder, files, "fan");
     chip.device = findHwmonDevice(root, hwmonFolder);
-    chip.device.place = sanitizedName(chip.device.place);
-    chip.device.model = sanitizedName(chip.device.model);
+    chip.device.place = readableName(chip.device.place);
+    chip.device.model = readableName(chip.device.model);
     return chip;
 }
 

@@ -2,7 +2,7 @@
 
 #include "platform/linux/files.h"
 #include "platform/linux/interface_attributes.h"
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <algorithm>
 
@@ -55,7 +55,7 @@ void LinuxNetworkSource::addEntries(const InterfaceCounters& counters,
                                     std::vector<InterfaceEntry>& entries) const {
     const KnownInterface& known = m_known.find(counters.name)->second;
     InterfaceEntry entry;
-    entry.name = sanitizedName(counters.name);
+    entry.name = readableName(counters.name);
     if (known.state.isPort || entry.name.empty())
         return;
     entry.isUp = known.state.isUp;

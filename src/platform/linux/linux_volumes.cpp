@@ -3,7 +3,7 @@
 #include "platform/linux/files.h"
 #include "platform/linux/mounts.h"
 #include "platform/linux/text.h"
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <algorithm>
 #include <array>
@@ -91,7 +91,7 @@ std::optional<std::string> VolumeLabels::labelOf(const Mount& mount) const {
         const auto position = m_labelsByDevice.find(device);
         if (position == m_labelsByDevice.end())
             continue;
-        std::string label = sanitizedName(position->second);
+        std::string label = readableName(position->second);
         return label.empty() ? std::nullopt : std::optional(std::move(label));
     }
     return std::nullopt;
@@ -143,7 +143,7 @@ bool LinuxVolumes::choose() {
         mounts.insert(mounts.begin(), Mount{.root = "/", .path = "/", .fileSystem = {}, .source = {}});
     for (const Mount& mount : mounts) {
         Volume volume = asKnownBefore(mount);
-        volume.published.path = sanitizedName(mount.path);
+        volume.published.path = readableName(mount.path);
         volume.published.name = labels.labelOf(mount);
         volume.published.isLocal = true;
         volumes.push_back(std::move(volume));

@@ -1,7 +1,7 @@
 #include "platform/linux/process_files.h"
 
 #include "platform/linux/text.h"
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <algorithm>
 #include <array>
@@ -110,9 +110,9 @@ std::string processName(std::string_view executablePath, std::string_view comm) 
     if (executablePath.ends_with(removedMark))
         executablePath.remove_suffix(removedMark.size());
     // Without any slash npos + 1 is 0, and the whole text is the name.
-    std::string name = sanitizedName(executablePath.substr(executablePath.rfind('/') + 1));
+    std::string name = readableName(executablePath.substr(executablePath.rfind('/') + 1));
     if (name.empty())
-        name = sanitizedName(comm);
+        name = readableName(comm);
     // A process without a name is not listed, and none may hide behind characters that show nothing.
     return name.empty() && !comm.empty() ? std::string(unshowableName) : name;
 }

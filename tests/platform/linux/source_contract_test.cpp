@@ -73,7 +73,7 @@ TEST_P(RecordedMachineContract, BothMomentsKeepItAndSoDoesTheirReplay) {
 }
 
 TEST_P(RecordedMachineContract, ItKeepsItWithTheLargestNumbersAndWithEveryFileDamaged) {
-    constexpr int rounds = 3;
+    constexpr int rounds = 2;
     const TemporaryTree tree;
     layOver(tree.root(), GetParam() / "1");
     const MachineSources machine = makeTreeSources(tree.root(), clock.reader());

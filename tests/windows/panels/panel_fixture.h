@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/system_monitor.h"
-#include "platform/replay/fake_machine.h"
+#include "platform/replay/fake_sources.h"
 #include "settings/settings_store.h"
 #include "support/frames.h"
 #include "support/temporary_settings.h"

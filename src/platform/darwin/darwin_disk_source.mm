@@ -1,6 +1,7 @@
-#include "platform/darwin/mounted_volumes.h"
+#include "platform/darwin/darwin_disk_source.h"
 
-#include "platform/names/sanitize.h"
+#include "platform/darwin/system_objects.h"
+#include "platform/readable_name.h"
 
 #include <Foundation/Foundation.h>
 
@@ -32,7 +33,7 @@ NSNumber* numberIn(NSDictionary* values, NSString* key) {
 std::optional<std::string> stringIn(NSDictionary* values, NSString* key) {
     const id value = [values objectForKey:key];
     const char* const text = [value isKindOfClass:[NSString class]] ? [value UTF8String] : nullptr;
-    return text != nullptr ? std::optional<std::string>(sanitizedName(text)) : std::nullopt;
+    return text != nullptr ? std::optional<std::string>(readableName(text)) : std::nullopt;
 }
 
 std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
@@ -42,7 +43,7 @@ std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
         return std::nullopt;
     // What is absent answers 0 and false, as every message to nil does.
     MountedVolume volume;
-    volume.path = sanitizedName(path);
+    volume.path = readableName(path);
     volume.name = stringIn(values, NSURLVolumeNameKey);
     volume.isLocal = [numberIn(values, NSURLVolumeIsLocalKey) boolValue];
     volume.totalBytes = [numberIn(values, NSURLVolumeTotalCapacityKey) longLongValue];
@@ -53,9 +54,24 @@ std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
     return volume;
 }
 
+std::uint64_t counterIn(CFDictionaryRef statistics, CFStringRef key) {
+    const std::optional<std::int64_t> count = integerIn(statistics, key);
+    return count && *count >= 0 ? static_cast<std::uint64_t>(*count) : 0;
+}
+
+std::optional<DiskCounters> countersOf(const OwnedIOObject& driver) {
+    const CFOwned<CFDictionaryRef> properties = copyProperties(driver);
+    const CFDictionaryRef statistics =
+        properties ? dictionaryIn(properties.get(), CFSTR("Statistics")) : nullptr;
+    if (statistics == nullptr)
+        return std::nullopt;
+    return DiskCounters{.bytesRead = counterIn(statistics, CFSTR("Bytes (Read)")),
+                        .bytesWritten = counterIn(statistics, CFSTR("Bytes (Write)"))};
+}
+
 } // namespace
 
-std::optional<std::vector<MountedVolume>> readMountedVolumes() {
+std::optional<std::vector<MountedVolume>> DarwinDiskSource::readVolumes() {
     const ReleasePool pool;
     const std::array<id, 5> keyList{NSURLVolumeNameKey, NSURLVolumeTotalCapacityKey,
                                     NSURLVolumeAvailableCapacityForImportantUsageKey, NSURLVolumeIsLocalKey,
@@ -72,6 +88,18 @@ std::optional<std::vector<MountedVolume>> readMountedVolumes() {
             volumes.push_back(*std::move(volume));
     }
     return volumes;
+}
+
+std::optional<std::vector<DiskCounters>> DarwinDiskSource::readCounters() {
+    const std::optional<OwnedIOObject> drivers = findServices("IOBlockStorageDriver");
+    if (!drivers)
+        return std::nullopt;
+    std::vector<DiskCounters> disks;
+    while (const OwnedIOObject driver{IOIteratorNext(drivers->get())}) {
+        if (const std::optional<DiskCounters> counters = countersOf(driver))
+            disks.push_back(*counters);
+    }
+    return disks;
 }
 
 } // namespace orvelle::darwin_platform

@@ -1,4 +1,4 @@
-#include "platform/darwin/stop.h"
+#include "platform/darwin/kernel_answers.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -3,13 +3,17 @@
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOKitLib.h>
 #include <cstddef>
+#include <cstdint>
 #include <mach/mach.h>
 #include <memory>
+#include <optional>
+#include <string>
 #include <type_traits>
 #include <utility>
 
-/// Owners of what the system lends: each gives its reference back exactly once, whatever happens in between.
 namespace orvelle::darwin_platform {
+
+// Owners of what the system lends: each gives its reference back exactly once, whatever happens in between.
 
 /// Owns one port name and gives it back with `release`. The null name stands for nothing and is not released.
 template <auto release>
@@ -73,5 +77,31 @@ struct CFReleaser {
 /// returns. `Reference` is the object's reference type, for example `CFArrayRef`.
 template <class Reference>
 using CFOwned = std::unique_ptr<std::remove_pointer_t<Reference>, CFReleaser>;
+
+/// The first service of a class, such as "AppleSMC"; the null object when the machine has none.
+[[nodiscard]] OwnedIOObject findService(const char* className);
+
+/// An iterator over all services of a class, the null object where the system gives none for no services;
+/// nothing when they cannot be looked up.
+[[nodiscard]] std::optional<OwnedIOObject> findServices(const char* className);
+
+/// The properties of a registry entry; null when they cannot be read.
+[[nodiscard]] CFOwned<CFDictionaryRef> copyProperties(const OwnedIOObject& entry);
+
+// Look-ups in a property dictionary of the system. A key that is missing, or whose value is of another type
+// than the one asked for, is nothing.
+
+/// A number that a signed 64-bit integer holds exactly.
+[[nodiscard]] std::optional<std::int64_t> integerIn(CFDictionaryRef properties, CFStringRef key);
+
+/// Any number, cut toward zero; one that a signed 64-bit integer cannot hold is nothing.
+[[nodiscard]] std::optional<std::int64_t> truncatedNumberIn(CFDictionaryRef properties, CFStringRef key);
+
+[[nodiscard]] std::optional<bool> booleanIn(CFDictionaryRef properties, CFStringRef key);
+
+[[nodiscard]] std::optional<std::string> stringIn(CFDictionaryRef properties, CFStringRef key);
+
+/// The dictionary belongs to `properties`; null when there is none.
+[[nodiscard]] CFDictionaryRef dictionaryIn(CFDictionaryRef properties, CFStringRef key);
 
 } // namespace orvelle::darwin_platform

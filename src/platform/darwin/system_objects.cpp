@@ -1,4 +1,4 @@
-#include "platform/darwin/properties.h"
+#include "platform/darwin/system_objects.h"
 
 #include <cstring>
 
@@ -32,6 +32,36 @@ std::optional<std::int64_t> truncatedInteger(CFNumberRef number) {
 }
 
 } // namespace
+
+OwnedIOObject findService(const char* className) {
+    const CFMutableDictionaryRef matching = IOServiceMatching(className);
+    if (matching == nullptr)
+        return {};
+    // The look-up takes over the reference to the matching dictionary, whatever it finds.
+    return OwnedIOObject(IOServiceGetMatchingService(kIOMainPortDefault, matching));
+}
+
+std::optional<OwnedIOObject> findServices(const char* className) {
+    const CFMutableDictionaryRef matching = IOServiceMatching(className);
+    if (matching == nullptr)
+        return std::nullopt;
+    // Here too the reference is taken over, whether the look-up succeeds or not.
+    io_iterator_t iterator = IO_OBJECT_NULL;
+    if (IOServiceGetMatchingServices(kIOMainPortDefault, matching, &iterator) != KERN_SUCCESS)
+        return std::nullopt;
+    return OwnedIOObject(iterator);
+}
+
+CFOwned<CFDictionaryRef> copyProperties(const OwnedIOObject& entry) {
+    CFMutableDictionaryRef copied = nullptr;
+    if (IORegistryEntryCreateCFProperties(entry.get(), &copied, kCFAllocatorDefault, kNilOptions) !=
+        KERN_SUCCESS)
+        return nullptr;
+    CFOwned<CFDictionaryRef> properties(copied);
+    if (properties && CFGetTypeID(properties.get()) != CFDictionaryGetTypeID())
+        return nullptr;
+    return properties;
+}
 
 std::optional<std::int64_t> integerIn(CFDictionaryRef properties, CFStringRef key) {
     const CFNumberRef number = numberIn(properties, key);

@@ -1,4 +1,4 @@
-#include "platform/names/sanitize.h"
+#include "platform/readable_name.h"
 
 #include <optional>
 
@@ -65,7 +65,7 @@ bool changesDirection(char32_t code) {
 
 } // namespace
 
-void assignSanitized(std::string& target, std::string_view name) {
+void assignReadableName(std::string& target, std::string_view name) {
     target.clear();
     target.reserve(name.size());
     while (!name.empty()) {
@@ -80,10 +80,10 @@ void assignSanitized(std::string& target, std::string_view name) {
     }
 }
 
-std::string sanitizedName(std::string_view name) {
-    std::string sanitized;
-    assignSanitized(sanitized, name);
-    return sanitized;
+std::string readableName(std::string_view name) {
+    std::string readable;
+    assignReadableName(readable, name);
+    return readable;
 }
 
 } // namespace orvelle
