@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/metric_history.h"
+#include "core/published.h"
 #include "core/sources/clock.h"
 #include "core/sources/disk_source.h"
 

@@ -77,7 +77,20 @@ quint64 primaryRank(const NetworkInterfaceInfo& info) {
     return info.defaultRouteMetric ? *info.defaultRouteMetric : withoutRoute;
 }
 
+/// The value of a property that may be absent: the text itself, or null.
+QVariant valueOrNull(const std::optional<QString>& text) {
+    return text ? QVariant(*text) : QVariant::fromValue(nullptr);
+}
+
 } // namespace
+
+QVariant NetworkInterfaceInfo::ipv4AddressValue() const {
+    return valueOrNull(ipv4Address);
+}
+
+QVariant NetworkInterfaceInfo::ipv6AddressValue() const {
+    return valueOrNull(ipv6Address);
+}
 
 QString interfaceDisplayName(const QString& name, InterfaceKind kind) {
     switch (kind) {

@@ -1,14 +1,16 @@
 #pragma once
 
-#include "core/metric_history.h"
-#include "core/optional_value.h"
+#include "core/published.h"
 #include "core/sources/clock.h"
 #include "core/sources/network_source.h"
 
 #include <QList>
 #include <QObject>
+#include <QString>
+#include <QVariant>
 
 #include <map>
+#include <optional>
 
 namespace orvelle {
 
@@ -38,8 +40,8 @@ public:
     /// Metric of the IPv4 default route that leads here; nothing where none does or the system does not tell.
     std::optional<quint32> defaultRouteMetric;
 
-    [[nodiscard]] QVariant ipv4AddressValue() const { return valueOrNull(ipv4Address); }
-    [[nodiscard]] QVariant ipv6AddressValue() const { return valueOrNull(ipv6Address); }
+    [[nodiscard]] QVariant ipv4AddressValue() const;
+    [[nodiscard]] QVariant ipv6AddressValue() const;
 
     bool operator==(const NetworkInterfaceInfo&) const = default;
 };

@@ -1,8 +1,8 @@
 #include "core/process_monitor.h"
 
 #include "core/checked.h"
+#include "core/process_ranking.h"
 #include "core/published.h"
-#include "core/top_n.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/process_times.h"
+#include "core/process_ranking.h"
 #include "core/sources/clock.h"
 #include "core/sources/process_source.h"
 

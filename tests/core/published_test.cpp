@@ -1,4 +1,4 @@
-#include "core/metric_history.h"
+#include "core/published.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/process_times.h"
+#include "core/process_ranking.h"
 
 #include <algorithm>
 

@@ -2,7 +2,12 @@
 
 #include "core/sources/clock.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace orvelle {
@@ -41,6 +46,36 @@ private:
     std::size_t m_sortedCount = 0;
     std::size_t m_hint = 0; ///< where the next process is when they come in the order of the sample before
     std::uint32_t m_sample = 0;
+};
+
+/// Keeps the few items of greatest weight out of many that are offered one by one: what a stable sort by
+/// descending weight would put first, without keeping or moving the others.
+template <class Item, class Weight, std::size_t maximumCount>
+class TopN {
+public:
+    struct Ranked {
+        Item item{};
+        Weight weight{};
+    };
+
+    /// Takes `item` in when it is heavier than the lightest one kept. Of equal weights the first offered
+    /// comes first.
+    void offer(const Item& item, const Weight& weight) {
+        if (m_count == maximumCount && !(weight > m_ranked[maximumCount - 1].weight))
+            return;
+        m_count = std::min(m_count + 1, maximumCount);
+        std::size_t place = m_count - 1;
+        for (; place > 0 && weight > m_ranked[place - 1].weight; --place)
+            m_ranked[place] = std::move(m_ranked[place - 1]);
+        m_ranked[place] = {.item = item, .weight = weight};
+    }
+
+    /// The items kept, heaviest first.
+    [[nodiscard]] std::span<const Ranked> ranked() const { return std::span(m_ranked).first(m_count); }
+
+private:
+    std::array<Ranked, maximumCount> m_ranked{};
+    std::size_t m_count = 0;
 };
 
 } // namespace orvelle
