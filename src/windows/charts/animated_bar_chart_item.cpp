@@ -51,7 +51,7 @@ void AnimatedBarChartItem::followBar(std::size_t index, const BarLook& look) {
         return;
     }
     BarLook& target = m_targets[static_cast<qsizetype>(index)];
-    // Only another length moves; another base colour alone shows at once.
+    // Only a change of length is animated; another base colour shows at once.
     if (!spring() || (look.ratio == target.ratio && look != target))
         m_bars[index].jump(look);
     else if (look != target)
@@ -75,7 +75,7 @@ void AnimatedBarChartItem::settle() {
         m_bars[index].jump(m_targets[static_cast<qsizetype>(index)]);
 }
 
-bool AnimatedBarChartItem::isMoving() const {
+bool AnimatedBarChartItem::isAnimating() const {
     return std::ranges::any_of(m_bars, [](const BarAnimation& bar) { return !bar.isSettled(); });
 }
 

@@ -7,8 +7,8 @@
 
 namespace orvelle {
 
-/// Shows an `AnimatedBarChart`. The height and the colour of a bar follow its value by a spring; bars that
-/// are new stand at their value from the start.
+/// Shows an `AnimatedBarChart`. The height and the colour of a bar follow its value by a spring; new bars
+/// show their value at once.
 class AnimatedBarChartItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedBarChart)
@@ -36,17 +36,17 @@ protected:
     void follow() override;
     void advance(double seconds) override;
     void settle() override;
-    [[nodiscard]] bool isMoving() const override;
+    [[nodiscard]] bool isAnimating() const override;
 
 private:
     [[nodiscard]] AnimatedBarChart* chart() { return &m_chart; }
-    /// How the bars move; nothing when changes show at once.
+    /// The spring of the bars; nothing when changes show at once.
     [[nodiscard]] std::optional<SpringParameters> spring() const;
     void followBar(std::size_t index, const BarLook& look);
 
-    AnimatedBarChart m_chart; ///< its height is the one that the item asks for
+    AnimatedBarChart m_chart; ///< its height is the implicit height of the item
     std::vector<BarAnimation> m_bars;
-    QList<BarLook> m_targets; ///< one per motion
+    QList<BarLook> m_targets; ///< of `m_bars`
     PictureCache<BarPicture> m_pictures;
 };
 

@@ -6,7 +6,7 @@
 
 namespace orvelle {
 
-/// Shows an `AnimatedLineGraph`. The line eases from the series that it showed to a new one.
+/// Shows an `AnimatedLineGraph`. The line eases from the shown series to a new one.
 class AnimatedLineGraphItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(AnimatedLineGraph)
@@ -21,7 +21,7 @@ class AnimatedLineGraphItem : public orvelle::ChartItem {
     Q_PRIVATE_PROPERTY(chart(), orvelle::GlowIntensity glowIntensity MEMBER glowIntensity NOTIFY changed)
     Q_PRIVATE_PROPERTY(chart(), QColor gridColor MEMBER gridColor NOTIFY changed)
     /// The series that is drawn now; empty until the graph is first shown.
-    Q_PROPERTY(QList<double> animatedData READ animatedData NOTIFY moved)
+    Q_PROPERTY(QList<double> animatedData READ animatedData NOTIFY animated)
 
 public:
     explicit AnimatedLineGraphItem(AnimationClock& clock = AnimationClock::shared())
@@ -36,13 +36,13 @@ protected:
     void open() override { m_series.jump(m_chart.data); }
     void advance(double seconds) override { m_series.advance(seconds); }
     void settle() override { m_series.settle(); }
-    [[nodiscard]] bool isMoving() const override { return !m_series.isSettled(); }
+    [[nodiscard]] bool isAnimating() const override { return !m_series.isSettled(); }
     [[nodiscard]] std::chrono::milliseconds frameInterval() const override;
 
 private:
     [[nodiscard]] AnimatedLineGraph* chart() { return &m_chart; }
 
-    AnimatedLineGraph m_chart; ///< its height is the one that the item asks for
+    AnimatedLineGraph m_chart; ///< its height is the implicit height of the item
     Transition<QList<double>> m_series;
     PictureCache<AnimatedLineGraph> m_picture;
 };

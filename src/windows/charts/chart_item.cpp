@@ -8,8 +8,8 @@
 
 namespace orvelle {
 
-/// What a chart item is painted on. It is larger than the item by the overhang, because an item's own picture
-/// ends at its edges.
+/// The surface of a chart item. It is larger than the item by the overhang, because an item paints nothing
+/// beyond its own edges.
 class ChartCanvas final : public QQuickPaintedItem {
 public:
     explicit ChartCanvas(ChartItem& host)
@@ -27,7 +27,7 @@ private:
 
 ChartItem::ChartItem(AnimationClock& clock)
     : m_clock(clock)
-    , m_part(clock, [this](double seconds) { step(seconds); })
+    , m_animation(clock, [this](double seconds) { step(seconds); })
     , m_canvas(new ChartCanvas(*this)) {
     connect(this, &ChartItem::changed, this, &ChartItem::followChange);
     connect(&clock, &AnimationClock::reducedChanged, this, &ChartItem::refresh);
@@ -85,20 +85,20 @@ void ChartItem::followChange() {
 void ChartItem::step(double seconds) {
     advance(seconds);
     refresh();
-    Q_EMIT moved();
+    Q_EMIT animated();
 }
 
 void ChartItem::refresh() {
-    if (!mayMove())
+    if (!mayAnimate())
         settle();
     const QSizeF natural = naturalSize();
     setImplicitSize(natural.width(), natural.height());
     fitCanvas();
     m_canvas->update();
-    if (mayMove() && isMoving())
-        m_part.start(frameInterval());
+    if (mayAnimate() && isAnimating())
+        m_animation.start(frameInterval());
     else
-        m_part.stop();
+        m_animation.stop();
 }
 
 void ChartItem::fitCanvas() {

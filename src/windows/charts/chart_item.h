@@ -11,17 +11,16 @@ namespace orvelle {
 
 class ChartCanvas;
 
-/// What the items that show charts have in common: they repaint when the chart has changed, and move while
-/// there is something to move. An item that is hidden, or in a hidden window, never moves: when it comes
-/// back it shows the newest values.
+/// The base of the items that show charts: repaints when the chart has changed, and animates changes. An item
+/// that is hidden, or in a hidden window, never animates: when it comes back it shows the newest values.
 ///
-/// Each item has the fields of its chart as properties. moc reads and writes them in place: that is what
-/// `Q_PRIVATE_PROPERTY` stands for. The styles and this base are written with their namespace, because moc
-/// and the tools of QML do not look names up. The fields `width` and `height` are those of the item.
+/// Each item has the fields of its chart as properties. `Q_PRIVATE_PROPERTY` lets moc read and write them in
+/// place. The styles and this base are written with their namespace, because moc and the tools of QML do not
+/// look names up. The fields `width` and `height` are those of the item.
 class ChartItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
-    // Some charts have a property of their own with the name of the usual default property.
+    // A line graph has a property with the name of the usual default property, `data`.
     Q_CLASSINFO("DefaultProperty", "resources")
 
 public:
@@ -29,35 +28,35 @@ public:
     ~ChartItem() override;
 
 Q_SIGNALS:
-    /// A field of the chart has been given another value.
+    /// A field of the chart has a new value.
     void changed();
-    /// The chart has moved.
-    void moved();
+    /// The animation has taken a step.
+    void animated();
 
 protected:
-    /// Paints the chart as it looks now. What reaches beyond `bounds` by no more than the overhang is shown.
+    /// Paints the chart as it is shown now, within `bounds` and up to the overhang around it.
     virtual void paintChart(QPainter& painter, const QRectF& bounds) = 0;
     /// How far the chart reaches beyond the item on every side, points.
     [[nodiscard]] virtual double overhang() const { return 0; }
-    /// The size that the item asks for, points.
+    /// The implicit size of the item, points.
     [[nodiscard]] virtual QSizeF naturalSize() const { return {}; }
 
-    /// A field has changed: starts the motion that follows, or shows the change at once where none does.
+    /// A field has changed: starts an animation, or shows the change at once where it is not animated.
     virtual void follow() {}
     /// The item is shown for the first time.
     virtual void open() {}
-    /// Lets `seconds` of the motion pass.
-    virtual void advance(double /*seconds*/) {}
-    /// Ends the motion at once where it would end.
-    virtual void settle() {}
-    [[nodiscard]] virtual bool isMoving() const { return false; }
-    /// How often a moving chart is repainted.
+    /// Lets `seconds` of the animation pass.
+    virtual void advance(double seconds) = 0;
+    /// Ends the animation at its target.
+    virtual void settle() = 0;
+    [[nodiscard]] virtual bool isAnimating() const = 0;
+    /// Time between two steps of the animation.
     [[nodiscard]] virtual std::chrono::milliseconds frameInterval() const;
 
     /// Whether `open` has been called.
     [[nodiscard]] bool hasOpened() const { return m_hasOpened; }
-    /// Whether changes move at all: the item can be seen, and the user does not want it calm.
-    [[nodiscard]] bool mayMove() const { return m_isShown && !m_clock.isReduced(); }
+    /// Whether changes are animated: the item can be seen, and the user has not reduced motion.
+    [[nodiscard]] bool mayAnimate() const { return m_isShown && !m_clock.isReduced(); }
     /// The present moment, seconds.
     [[nodiscard]] double now() const { return m_clock.now(); }
 
@@ -71,12 +70,12 @@ private:
     void step(double seconds);
     void watchWindow(QQuickWindow* window);
     void updateShown();
-    /// Repaints, and goes on moving or stops.
+    /// Repaints, and continues or stops the animation.
     void refresh();
     void fitCanvas();
 
     AnimationClock& m_clock;
-    Animation m_part;
+    Animation m_animation;
     ChartCanvas* m_canvas; ///< a child of the item
     QMetaObject::Connection m_windowShown;
     bool m_isShown = false;

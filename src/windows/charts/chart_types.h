@@ -6,11 +6,11 @@
 
 namespace orvelle {
 
-/// Makes the charts known to QML as the module `Orvelle.Charts`. A static library does not register its types
-/// by itself. Called again it does nothing.
+/// Registers the module `Orvelle.Charts`, because a static library does not register its types by itself.
+/// Further calls do nothing.
 void registerChartTypes();
 
-/// The switch and the clock of all motion, to QML.
+/// `AnimationClock::shared` for QML.
 struct AnimationClockSingleton {
     Q_GADGET
     QML_FOREIGN(orvelle::AnimationClock)

@@ -1,12 +1,12 @@
 #include "quick_fixture.h"
 #include "windows/charts/animated_bar_chart_item.h"
-#include "windows/charts/animated_ring_chart_item.h"
 #include "windows/charts/chart_item.h"
+#include "windows/charts/ring_items.h"
 
 namespace orvelle {
 namespace {
 
-/// Chosen before the first window of any test, because the choice cannot change afterwards.
+/// Chosen before the first window, because it cannot change afterwards.
 class SoftwareSceneGraph : public ::testing::Environment {
     void SetUp() override { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
 };
@@ -38,7 +38,7 @@ TEST_F(ChartItemTest, RepaintsWhenAFieldChangesAndNotWhenItIsSetToTheSame) {
     EXPECT_EQ(framesWhenLeftAlone(), 0);
 }
 
-TEST_F(ChartItemTest, RepaintsWhileItMovesAndNeverAfterwards) {
+TEST_F(ChartItemTest, RepaintsOnlyWhileItAnimates) {
     showWindow();
     setValue(0.9);
     waitForFrame();
@@ -51,13 +51,13 @@ TEST_F(ChartItemTest, RepaintsWhileItMovesAndNeverAfterwards) {
     EXPECT_EQ(framesWhenLeftAlone(), 0);
 }
 
-TEST_F(ChartItemTest, DoesNotMoveBeforeItIsShown) {
+TEST_F(ChartItemTest, DoesNotAnimateBeforeItIsShown) {
     setValue(0.9);
     EXPECT_EQ(ratio(), 0.9);
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, DoesNotMoveWhileItIsHidden) {
+TEST_F(ChartItemTest, DoesNotAnimateWhileItIsHidden) {
     showWindow();
     setValue(0.9);
     EXPECT_TRUE(clock.isRunning());
@@ -72,7 +72,7 @@ TEST_F(ChartItemTest, DoesNotMoveWhileItIsHidden) {
     EXPECT_TRUE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, DoesNotMoveInAHiddenPartOfTheWindowOrAHiddenWindow) {
+TEST_F(ChartItemTest, DoesNotAnimateInAHiddenParentOrAHiddenWindow) {
     QQuickItem part(window.contentItem());
     chart->setParentItem(&part);
     showWindow();
@@ -89,7 +89,7 @@ TEST_F(ChartItemTest, DoesNotMoveInAHiddenPartOfTheWindowOrAHiddenWindow) {
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, DoesNotMoveOutsideAnyWindow) {
+TEST_F(ChartItemTest, DoesNotAnimateOutsideAnyWindow) {
     showWindow();
     chart->setParentItem(nullptr);
     setValue(0.9);
@@ -97,7 +97,7 @@ TEST_F(ChartItemTest, DoesNotMoveOutsideAnyWindow) {
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, LeavesTheClockWhenItIsDestroyed) {
+TEST_F(ChartItemTest, StopsTheClockWhenItIsDestroyed) {
     showWindow();
     setValue(0.9);
     EXPECT_TRUE(clock.isRunning());
@@ -105,7 +105,7 @@ TEST_F(ChartItemTest, LeavesTheClockWhenItIsDestroyed) {
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, JumpsWhileTheUserWantsNoMotion) {
+TEST_F(ChartItemTest, ShowsChangesAtOnceUnderReducedMotion) {
     showWindow();
     setValue(0.9);
     pass(0.05);
@@ -120,7 +120,7 @@ TEST_F(ChartItemTest, JumpsWhileTheUserWantsNoMotion) {
     EXPECT_TRUE(clock.isRunning());
 }
 
-TEST_F(ChartItemTest, NeitherOpensNorPulsesWhileTheUserWantsNoMotion) {
+TEST_F(ChartItemTest, NeitherOpensNorPulsesUnderReducedMotion) {
     clock.setReduced(true);
     const auto ring = placed<AnimatedRingChartItem>();
     ring->setProperty("pulseCritical", true);
@@ -155,7 +155,7 @@ TEST_F(ChartItemTest, FollowsItsSize) {
     EXPECT_GT(colorAt(160, 88).red(), 100) << "its own height is the chart's";
 }
 
-TEST_F(ChartItemTest, AsksForTheHeightOfItsChart) {
+TEST_F(ChartItemTest, HasTheImplicitHeightOfItsChart) {
     EXPECT_EQ(chart->implicitHeight(), AnimatedBarChart{}.height);
 }
 

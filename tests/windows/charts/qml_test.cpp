@@ -1,8 +1,7 @@
 #include "windows/charts/animated_bar_chart_item.h"
 #include "windows/charts/animated_line_graph_item.h"
-#include "windows/charts/animated_ring_chart_item.h"
 #include "windows/charts/chart_types.h"
-#include "windows/charts/multi_segment_ring_item.h"
+#include "windows/charts/ring_items.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -13,7 +12,7 @@
 namespace orvelle {
 namespace {
 
-/// What QML can say to the charts.
+/// The charts as QML sees them.
 class ChartsInQml : public ::testing::Test {
 protected:
     static void SetUpTestSuite() { registerChartTypes(); }
@@ -32,7 +31,7 @@ protected:
     QQmlEngine engine;
 };
 
-TEST_F(ChartsInQml, EveryChartHasItsName) {
+TEST_F(ChartsInQml, EveryItemHasItsName) {
     for (const char* name : {"AnimatedBarChart", "AnimatedLineGraph", "AnimatedRingChart", "MultiSegmentRing",
                              "TemperatureGauge", "GradientBar", "ContinuousRectangle"})
         expectItCanBeCreated(QByteArray(name) + " {}");
@@ -87,11 +86,11 @@ TEST_F(ChartsInQml, SegmentsAreObjects) {
     EXPECT_EQ(segment.value(QStringLiteral("value")), QVariant(3));
 }
 
-TEST_F(ChartsInQml, OneSwitchEndsAllMotion) {
-    const auto object = created("GradientBar { property bool calm: AnimationClock.reduced }");
-    EXPECT_FALSE(object->property("calm").toBool());
+TEST_F(ChartsInQml, ReducedMotionIsVisible) {
+    const auto object = created("GradientBar { property bool isReduced: AnimationClock.reduced }");
+    EXPECT_FALSE(object->property("isReduced").toBool());
     AnimationClock::shared().setReduced(true);
-    EXPECT_TRUE(object->property("calm").toBool());
+    EXPECT_TRUE(object->property("isReduced").toBool());
     AnimationClock::shared().setReduced(false);
 }
 

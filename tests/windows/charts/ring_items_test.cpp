@@ -1,7 +1,6 @@
 #include "animation/animation_timing.h"
 #include "quick_fixture.h"
-#include "windows/charts/animated_ring_chart_item.h"
-#include "windows/charts/multi_segment_ring_item.h"
+#include "windows/charts/ring_items.h"
 
 namespace orvelle {
 namespace {
@@ -69,7 +68,7 @@ TEST_F(RingItem, ShowsItsValueAtOnceAtSpeedInstant) {
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(RingItem, GoesOnFromWhereItStandsWhenTheValueChangesInTheMiddle) {
+TEST_F(RingItem, StartsFromTheShownValueWhenTheValueChangesDuringATransition) {
     showWindow();
     pass(1);
     ring->setProperty("value", 0.9);
@@ -88,7 +87,7 @@ TEST_F(RingItem, StopsRepaintingOnceItHasSettled) {
     EXPECT_EQ(framesWhenLeftAlone(), 0);
 }
 
-TEST_F(RingItem, PulsesForAsLongAsTheValueIsCritical) {
+TEST_F(RingItem, PulsesWhileTheValueIsCritical) {
     makeCritical();
     showWindow();
     pass(0.8);
@@ -99,7 +98,7 @@ TEST_F(RingItem, PulsesForAsLongAsTheValueIsCritical) {
     EXPECT_TRUE(clock.isRunning());
 }
 
-TEST_F(RingItem, CostsNothingOnceTheValueIsNoLongerCritical) {
+TEST_F(RingItem, StopsTheClockWhenTheValueIsNoLongerCritical) {
     makeCritical();
     showWindow();
     pass(2);
@@ -110,7 +109,7 @@ TEST_F(RingItem, CostsNothingOnceTheValueIsNoLongerCritical) {
     EXPECT_EQ(framesWhenLeftAlone(), 0);
 }
 
-TEST_F(RingItem, TakesThePulseUpAgainWhereItWouldBeByNow) {
+TEST_F(RingItem, ResumesThePulseAtItsPresentPhase) {
     makeCritical();
     showWindow();
     pass(0.8);
@@ -198,6 +197,65 @@ TEST_F(SegmentRingItem, ShowsOtherSegmentsAtOnce) {
     waitForFrame();
     EXPECT_EQ(colorAt(90 + 20, 55), QColor(Qt::green));
     EXPECT_EQ(colorAt(90 - 20, 55), QColor(Qt::green));
+}
+
+class GaugeItem : public QuickFixture {
+protected:
+    GaugeItem() {
+        gauge->setProperty("maxTemp", 100);
+        gauge->setProperty("temperature", 40);
+    }
+    std::unique_ptr<TemperatureGaugeItem> gauge = placed<TemperatureGaugeItem>();
+};
+
+TEST_F(GaugeItem, ShowsItsTemperatureAtOnceWhenItIsFirstShown) {
+    showWindow();
+    EXPECT_EQ(gauge->shownFraction(), 0.4);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, EasesItsDialInHalfASecond) {
+    showWindow();
+    gauge->setProperty("temperature", 80);
+    pass(0.2);
+    EXPECT_NEAR(gauge->shownFraction(), 0.4 + 0.4 * easeInOut().valueForProgress(0.4), 1e-6);
+    pass(0.3);
+    EXPECT_EQ(gauge->shownFraction(), 0.8);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, EasesItsGlowTogetherWithItsDial) {
+    gauge->setProperty("glowIntensity", QVariant::fromValue(GlowIntensity::intense));
+    showWindow();
+    // Beside the filled part of the dial, whose centre is (90, 65) and whose stroke ends 38 points from it.
+    const auto halo = [this] { return colorAt(90 - 40, 65 - 8); };
+    const auto redPerGreen = [&] {
+        const QColor color = halo();
+        EXPECT_GT(color.value(), 30);
+        return static_cast<double>(color.red()) / color.green();
+    };
+    EXPECT_LT(redPerGreen(), 0.5) << "green while it is cool";
+    gauge->setProperty("temperature", 95);
+    waitForFrame();
+    EXPECT_LT(redPerGreen(), 0.5) << "the dial has not moved yet either";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 0.8);
+    EXPECT_LT(redPerGreen(), 2) << "half way between green and red";
+    pass(0.25);
+    waitForFrame();
+    EXPECT_GT(redPerGreen(), 3);
+}
+
+TEST_F(GaugeItem, ShowsAnotherStrengthOfGlowAtOnce) {
+    showWindow();
+    gauge->setProperty("showGlow", false);
+    EXPECT_FALSE(clock.isRunning());
+}
+
+TEST_F(GaugeItem, HasTheImplicitSizeOfDialAndCaption) {
+    EXPECT_EQ(gauge->implicitWidth(), 70);
+    EXPECT_EQ(gauge->implicitHeight(), TemperatureGauge{}.height());
 }
 
 } // namespace

@@ -1,7 +1,8 @@
-#include "animation/animation_timing.h"
 #include "animation/spring.h"
+#include "charts/at_scale.h"
+#include "charts/continuous_rounded_rect.h"
 #include "quick_fixture.h"
-#include "windows/charts/gradient_bar_item.h"
+#include "windows/charts/shape_items.h"
 
 namespace orvelle {
 namespace {
@@ -16,7 +17,7 @@ protected:
     std::unique_ptr<GradientBarItem> bar = placed<GradientBarItem>();
 };
 
-TEST_F(GradientBarHosting, StandsAtItsFractionWhenItIsFirstShown) {
+TEST_F(GradientBarHosting, ShowsItsFractionAtOnceWhenItIsFirstShown) {
     showWindow();
     EXPECT_EQ(bar->shownFraction(), 0.2);
     EXPECT_FALSE(clock.isRunning());
@@ -38,10 +39,10 @@ TEST_F(GradientBarHosting, FollowsAChangeByASpringThatOvershootsOnce) {
     // e^(-pi d / sqrt(1 - d^2)) of the way beyond the target, for a damping fraction d of 0.7.
     EXPECT_NEAR(largest, 0.6 + 0.4 * 0.046, 0.002);
     EXPECT_EQ(bar->shownFraction(), 0.6);
-    EXPECT_FALSE(clock.isRunning()) << "nothing is left to do once it stands still";
+    EXPECT_FALSE(clock.isRunning()) << "the animation has ended";
 }
 
-TEST_F(GradientBarHosting, ShowsTheNewFractionAtOnceWhereNothingMayMove) {
+TEST_F(GradientBarHosting, ShowsTheNewFractionAtOnceUnderReducedMotionAndWhileHidden) {
     clock.setReduced(true);
     showWindow();
     bar->setProperty("fraction", 0.9);
@@ -64,12 +65,52 @@ TEST_F(GradientBarHosting, IsNotCutOffWhileItOvershoots) {
     EXPECT_EQ(colorAt(40 + 100 + 6, 30 + 25).red(), 0);
 }
 
-TEST_F(GradientBarHosting, RestsForAnotherColor) {
+TEST_F(GradientBarHosting, ShowsAnotherColorWithoutAnimation) {
     showWindow();
     bar->setProperty("color", QColor(Qt::green));
     EXPECT_FALSE(clock.isRunning());
     waitForFrame();
     EXPECT_GT(colorAt(42, 50).green(), 100);
+}
+
+class ContinuousRectangleHosting : public QuickFixture {
+protected:
+    ContinuousRectangleHosting() {
+        plate.setParentItem(window.contentItem());
+        plate.setSize({100, 50});
+        plate.setProperty("color", QColor(Qt::red));
+        plate.setProperty("radius", 20);
+    }
+
+    /// The expected picture: the path filled with this colour on the window's black.
+    [[nodiscard]] static QImage filled(const QPainterPath& path, const QColor& color) {
+        return paintedImage({100, 50}, 1, [&](QPainter& painter) {
+            painter.fillRect(QRect(0, 0, 100, 50), Qt::black);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.fillPath(path, color);
+        });
+    }
+    [[nodiscard]] QImage shown() { return window.grabWindow().copy(0, 0, 100, 50); }
+
+    ContinuousRectangleItem plate;
+};
+
+TEST_F(ContinuousRectangleHosting, HasCornersThatBendGradually) {
+    showWindow();
+    const QRectF place(0, 0, 100, 50);
+    EXPECT_LE(largestDifference(shown(), filled(continuousRoundedRect(place, 20), Qt::red)), 2);
+    QPainterPath circular;
+    circular.addRoundedRect(place, 20, 20);
+    EXPECT_GT(largestDifference(shown(), filled(circular, Qt::red)), 40);
+}
+
+TEST_F(ContinuousRectangleHosting, FollowsItsColorAndRadius) {
+    showWindow();
+    plate.setProperty("color", QColor(Qt::green));
+    plate.setProperty("radius", 5);
+    waitForFrame();
+    EXPECT_LE(largestDifference(shown(), filled(continuousRoundedRect(QRectF(0, 0, 100, 50), 5), Qt::green)),
+              2);
 }
 
 } // namespace

@@ -4,10 +4,13 @@
 #include "charts/plain_bars.h"
 #include "windows/charts/chart_item.h"
 
+#include <QColor>
+#include <QQuickPaintedItem>
+
+/// The plain shapes for QML.
 namespace orvelle {
 
-/// Shows a `GradientBar`, whose fill follows its fraction by a spring. A bar that is new stands at its
-/// fraction from the start.
+/// Shows a `GradientBar`, whose fill follows its fraction by a spring. The first fraction shows at once.
 class GradientBarItem : public orvelle::ChartItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(GradientBar)
@@ -19,7 +22,7 @@ public:
     explicit GradientBarItem(AnimationClock& clock = AnimationClock::shared())
         : ChartItem(clock) {}
 
-    /// How much is filled now; passes the ends while the spring overshoots.
+    /// The fraction that is drawn now; passes the ends while the spring overshoots.
     [[nodiscard]] double shownFraction() const { return m_fraction.position(); }
 
 protected:
@@ -28,13 +31,33 @@ protected:
     void follow() override { m_fraction.retarget(m_chart.fraction); }
     void advance(double seconds) override;
     void settle() override { m_fraction.jump(m_chart.fraction); }
-    [[nodiscard]] bool isMoving() const override;
+    [[nodiscard]] bool isAnimating() const override { return !m_fraction.isSettled(0); }
 
 private:
     [[nodiscard]] GradientBar* chart() { return &m_chart; }
 
     GradientBar m_chart;
     Spring m_fraction{0};
+};
+
+/// A rectangle of one colour in the shape of `continuousRoundedRect`.
+class ContinuousRectangleItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ContinuousRectangle)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)
+
+public:
+    explicit ContinuousRectangleItem(QQuickItem* parent = nullptr);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    QColor m_color = Qt::transparent;
+    double m_radius = 0;
 };
 
 } // namespace orvelle
