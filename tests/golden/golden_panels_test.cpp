@@ -1,7 +1,7 @@
 #include "common/example_machines.h"
 #include "core/system_monitor.h"
 #include "golden_picture.h"
-#include "snapshot/sheet_file.h"
+#include "snapshot/sheet.h"
 #include "snapshot/sheets.h"
 #include "snapshot/window_pictures.h"
 

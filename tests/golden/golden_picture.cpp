@@ -1,7 +1,7 @@
 #include "golden_picture.h"
 
 #include "picture_comparison.h"
-#include "snapshot/sheet_file.h"
+#include "snapshot/sheet.h"
 
 #include <QDir>
 #include <gtest/gtest.h>

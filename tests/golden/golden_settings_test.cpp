@@ -1,5 +1,5 @@
 #include "golden_picture.h"
-#include "snapshot/sheet_file.h"
+#include "snapshot/sheet.h"
 #include "snapshot/sheets.h"
 #include "snapshot/window_pictures.h"
 

@@ -1,5 +1,4 @@
 #include "snapshot/sheet.h"
-#include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
 #include "support/pixels.h"
 

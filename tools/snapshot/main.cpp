@@ -3,7 +3,6 @@
 #include "common/example_machines.h"
 #include "common/sampling.h"
 #include "core/system_monitor.h"
-#include "snapshot/sheet_file.h"
 #include "snapshot/sheets.h"
 #include "snapshot/snapshot_arguments.h"
 #include "snapshot/window_pictures.h"
@@ -23,15 +22,14 @@ int fail(const QString& message, int status) {
     return status;
 }
 
-/// Nothing is shown on a display, also not the windows, which take their scale from the
-/// platform.
+/// Windows are painted without a display. They take their scale from the platform.
 void choosePlatform(double scale) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 }
 
-/// Of this machine a few moments are taken in quick succession, so that its histories show something.
+/// This machine is sampled a few times in quick succession, so that its histories are not empty.
 SamplingPlan planFor(const QStringList& roots) {
     if (roots.isEmpty())
         return {.roots = {}, .stepSeconds = 0.25, .cycles = 9};

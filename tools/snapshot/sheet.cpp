@@ -2,7 +2,9 @@
 
 #include "theme/fonts.h"
 
+#include <QDir>
 #include <QFontMetricsF>
+#include <QImageWriter>
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +39,7 @@ double lineHeight(const QFont& font) {
     return std::ceil(QFontMetricsF(font).height()) + 2;
 }
 
-/// Width that a cell takes: that of its view, or of its caption where that is wider.
+/// Width of the view or of its caption, whichever is wider.
 double columnWidth(const SheetCell& cell) {
     return std::ceil(
         std::max(cell.size.width(), QFontMetricsF(captionFont()).horizontalAdvance(cell.caption)));
@@ -131,6 +133,30 @@ QImage sheetImage(const Sheet& sheet, double scale) {
     }
     painter.end();
     return image.convertToFormat(QImage::Format_RGB32);
+}
+
+QString sheetFileName(const QString& sheetName, double scale) {
+    return QStringLiteral("%1@%2.png").arg(sheetName, QString::number(scale));
+}
+
+std::optional<QString> writePicture(const QImage& picture, const QString& fileName,
+                                    const QString& directory) {
+    if (!QDir().mkpath(directory))
+        return QStringLiteral("Cannot make the directory \"%1\"").arg(directory);
+    const QString path = QDir(directory).filePath(fileName);
+    QImageWriter writer(path, "png");
+    writer.setQuality(0); // the most compression; nothing is lost
+    if (!writer.write(picture))
+        return QStringLiteral("Cannot write \"%1\": %2").arg(path, writer.errorString());
+    return std::nullopt;
+}
+
+std::optional<QString> writeSheets(const QList<Sheet>& sheets, const QString& directory, double scale) {
+    for (const Sheet& sheet : sheets) {
+        if (auto error = writePicture(sheetImage(sheet, scale), sheetFileName(sheet.name, scale), directory))
+            return error;
+    }
+    return std::nullopt;
 }
 
 } // namespace orvelle

@@ -1,22 +1,35 @@
 #pragma once
 
+#include "settings/setting_value.h" // caseName
 #include "settings/settings_store.h"
 #include "snapshot/sheet.h"
 #include "theme/theme_manager.h"
 
+#include <QList>
+#include <QMetaEnum>
 #include <QTemporaryDir>
 
-/// The sheets that there are.
+/// All sheets.
 namespace orvelle {
 
 class SystemMonitor;
 
-/// The settings of a user who has changed nothing, kept apart from those of the real user.
+/// Default settings, kept apart from those of the real user.
 struct FreshSettings {
     QTemporaryDir folder;
     SettingsStore store{folder.filePath(QStringLiteral("orvelle.conf"))};
     ThemeManager themes{store};
 };
+
+/// Every case of a style in the order of its declaration, so that a new case appears on the sheets.
+template <typename Style>
+[[nodiscard]] QList<Style> everyCase() {
+    const QMetaEnum type = QMetaEnum::fromType<Style>();
+    QList<Style> cases;
+    for (int index = 0; index < type.keyCount(); ++index)
+        cases.append(static_cast<Style>(type.value(index)));
+    return cases;
+}
 
 [[nodiscard]] Sheet barChartSheet();
 [[nodiscard]] Sheet miniBarSheet();
@@ -29,12 +42,12 @@ struct FreshSettings {
 /// Every chart in all its styles, with values of its own.
 [[nodiscard]] QList<Sheet> chartSheets();
 
-/// All menu-bar items in every style, each in its place in the bar. Painting the sheet changes the style in
-/// `settings`, which must outlive it as `monitor` must.
+/// All menu-bar items in every style. Painting the sheet changes the style in `settings`, which must outlive
+/// the sheet as `monitor` must.
 [[nodiscard]] Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings);
 
 /// The bar with all modules above the CPU panel, in each theme. Painting the sheet changes the theme in
-/// `settings`, which must outlive it as `monitor` must.
+/// `settings`, which must outlive the sheet as `monitor` must.
 [[nodiscard]] Sheet themeSheet(SystemMonitor& monitor, FreshSettings& settings);
 
 } // namespace orvelle

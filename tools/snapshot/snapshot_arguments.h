@@ -8,12 +8,12 @@
 
 namespace orvelle {
 
-/// What the snapshot tool was asked for.
+/// The arguments of the snapshot tool.
 struct SnapshotArguments {
-    QString directory;      ///< that the pictures are written into
+    QString directory;      ///< for the pictures
     QStringList roots;      ///< one directory per update cycle; empty: sample this machine
     bool ofExample = false; ///< show the example laptop instead, see `ExampleMachine`
-    QString theme;          ///< id of the theme that everything is painted in
+    QString theme;          ///< id of the theme of all pictures
     double scale = 1;       ///< pixels per point
 };
 

@@ -17,13 +17,13 @@
 namespace orvelle {
 namespace {
 
-/// An engine under which everything stands where it would come to rest.
+/// An engine without animations.
 std::unique_ptr<QQmlEngine> makeStillEngine() {
     AnimationClock::shared().setReduced(true);
     return makeEngine();
 }
 
-/// Gives the window the height of everything that could be scrolled to.
+/// Gives the window the height of its content, so that nothing scrolls.
 void growToContent(QQuickView& window, const QQuickItem& scroller) {
     window.resize(window.width(), static_cast<int>(std::ceil(scroller.property("contentHeight").toDouble())));
     QCoreApplication::processEvents();
@@ -34,7 +34,7 @@ void growToContent(QQuickView& window, const QQuickItem& scroller) {
 QImage pictureOf(QQuickView& window) {
     QCoreApplication::processEvents();
     QImage image = window.grabWindow();
-    image.setDevicePixelRatio(window.effectiveDevicePixelRatio()); // which the software renderer leaves out
+    image.setDevicePixelRatio(window.effectiveDevicePixelRatio()); // the software renderer leaves it out
     return image;
 }
 
@@ -48,7 +48,7 @@ QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settin
         const std::unique_ptr<QQuickView> panel = factory.makePanel(module.id);
         if (panel == nullptr)
             continue;
-        panel->show(); // what was never shown has not been filled yet
+        panel->show(); // a panel is filled when it is first shown
         pictures.append({QStringLiteral("panel-") + module.key, pictureOf(*panel)});
     }
     return pictures;
@@ -72,7 +72,7 @@ WindowPicture settingsPicture(FreshSettings& settings, const SettingsPose& pose)
     window->show();
     if (auto* overrides = window->findChild<QQuickItem*>(QStringLiteral("overrides")))
         overrides->setProperty("showCustomColors", pose.isUnfolded);
-    (void)pictureOf(*window); // everything takes its place before the height is known
+    (void)pictureOf(*window); // lays out the content, whose height is needed
     const auto* scroller = window->findChild<QQuickItem*>(QStringLiteral("scroller"));
     if (scroller != nullptr && pose.isWhole)
         growToContent(*window, *scroller);

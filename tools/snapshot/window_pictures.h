@@ -11,31 +11,31 @@ namespace orvelle {
 class SystemMonitor;
 struct FreshSettings;
 
-/// What a window shows, without its frame.
+/// The content of a window, without its frame.
 struct WindowPicture {
     QString name; ///< of the file, without scale and ending
     QImage image;
 };
 
-/// What this window shows now. It must have been shown; its scale is that of the application's screen.
+/// The present content of a window, which must have been shown. Its scale is that of the application's
+/// screen.
 [[nodiscard]] QImage pictureOf(QQuickView& window);
 
-/// The panels of all modules with what `monitor` holds now. Their windows are shown while they are painted.
+/// The panels of all modules with the present values of `monitor`. Their windows are shown meanwhile.
 [[nodiscard]] QList<WindowPicture> panelPictures(SystemMonitor& monitor, FreshSettings& settings);
 
-/// How the settings window stands in a picture.
+/// A size and state of the settings window.
 struct SettingsPose {
     QString name;            ///< of the picture
     QSize size;              ///< points
-    bool isUnfolded = false; ///< what can be unfolded
-    bool isWhole = false;    ///< as high as everything that could be scrolled to
+    bool isUnfolded = false; ///< the foldable groups
+    bool isWhole = false;    ///< as high as its content, so that nothing scrolls
 };
 
-/// All of it, unfolded and folded; as it stands at its smallest; and all of it unfolded at its smallest
-/// width.
+/// The whole window unfolded and folded, at its smallest size, and whole and unfolded at its smallest width.
 [[nodiscard]] QList<SettingsPose> settingsPoses();
 
-/// The window is shown while it is painted.
+/// The window is shown meanwhile.
 [[nodiscard]] WindowPicture settingsPicture(FreshSettings& settings, const SettingsPose& pose);
 
 } // namespace orvelle
