@@ -20,15 +20,15 @@ constexpr double panelGap = 6;   ///< between the bar and a panel
 constexpr int themesPerRow = 4;
 constexpr QColor barBackground(255, 255, 255, 15); ///< a little lighter than the sheet
 
-SheetCell itemCell(const Module& module, MenuBarDisplayStyle style, SystemMonitor& monitor,
+SheetCell itemCell(const ModuleInfo& module, MenuBarDisplayStyle style, SystemMonitor& monitor,
                    FreshSettings& settings) {
     const auto paint = [&module, style, &monitor, &settings](QPainter& painter, const QRectF& frame) {
         painter.fillRect(frame, barBackground); // shows whether the content is centred and fits
         settings.store.setMenuBarDisplayStyle(style);
         const ModuleContext context{monitor, settings.store, settings.themes};
-        paintScene(painter, frame, module.makeScene(context).body);
+        paintScene(painter, frame, makeScene(module.id, context).body);
     };
-    return {.caption = module.key, .size = {module.length, barHeight}, .paint = paint};
+    return {.caption = module.key, .size = {module.width, barHeight}, .paint = paint};
 }
 
 double barWidth() {
@@ -67,7 +67,7 @@ Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings) {
     Sheet sheet{.name = QStringLiteral("menu-bar-items"), .rows = {}, .backgrounds = {SheetBackground::dark}};
     for (const MenuBarDisplayStyle style : everyCase<MenuBarDisplayStyle>()) {
         SheetRow row{.title = caseName(style), .cells = {}};
-        for (const Module& module : modules())
+        for (const ModuleInfo& module : moduleTable)
             row.cells.append(itemCell(module, style, monitor, settings));
         sheet.rows.append(row);
     }
