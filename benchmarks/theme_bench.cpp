@@ -7,7 +7,7 @@
 #include "theme/theme_manager.h"
 #include "windows/common/quick_engine.h"
 #include "windows/panels/panel_factory.h"
-#include "windows/settings/settings_factory.h"
+#include "windows/settings/settings_window.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

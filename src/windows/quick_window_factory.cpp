@@ -1,6 +1,6 @@
 #include "windows/common/quick_engine.h"
 #include "windows/panels/panel_factory.h"
-#include "windows/settings/settings_factory.h"
+#include "windows/settings/settings_window.h"
 #include "windows/window_factory.h"
 
 #include <QQmlEngine>

@@ -1,7 +1,7 @@
 #include "animation/animation_clock.h"
 #include "snapshot/sheets.h"
 #include "snapshot/window_pictures.h"
-#include "windows/settings/settings_factory.h"
+#include "windows/settings/settings_window.h"
 
 #include <gtest/gtest.h>
 

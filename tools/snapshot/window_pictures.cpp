@@ -6,7 +6,7 @@
 #include "snapshot/sheets.h"
 #include "windows/common/quick_engine.h"
 #include "windows/panels/panel_factory.h"
-#include "windows/settings/settings_factory.h"
+#include "windows/settings/settings_window.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvelle.Settings
 
-/// One of the buttons of a group.
+/// A button of a `ChoiceGroup`.
 T.RadioButton {
     id: button
 

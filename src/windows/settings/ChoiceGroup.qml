@@ -1,11 +1,11 @@
 import QtQuick
 
-/// Buttons of which one is chosen. They are one stop for the Tab key; the arrows choose.
+/// Buttons of which one is chosen. The Tab key stops at the chosen one, and the arrow keys choose.
 Item {
     id: group
 
     required property string name
-    /// -1 when none is chosen.
+    /// -1 if none is chosen.
     required property int chosenIndex
     property alias choices: repeater.model
     property alias delegate: repeater.delegate
@@ -15,12 +15,12 @@ Item {
     readonly property int tabIndex: Math.max(0, chosenIndex)
     signal chosen(int index)
 
-    /// How wide each button would like to be.
+    /// The implicit width of each button.
     function neededWidths() {
         return Array.from({length: repeater.count},
                           (nothing, index) => repeater.itemAt(index)?.implicitWidth ?? 0);
     }
-    /// The index of the button that has the keys; -1 when none does.
+    /// The index of the button with the keyboard focus, or -1.
     function focusedIndex() {
         for (let index = 0; index < repeater.count; ++index) {
             if (repeater.itemAt(index).activeFocus)
@@ -28,7 +28,7 @@ Item {
         }
         return -1;
     }
-    /// Chooses a button for good, and takes the keys along where the group has them.
+    /// Chooses a button, and moves the keyboard focus to it if the group has the focus.
     function choose(index) {
         if (focusedIndex() >= 0)
             repeater.itemAt(index).forceActiveFocus(Qt.TabFocusReason);

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orvelle.Common
 import Orvelle.Settings
 
-/// Shows a colour; a press opens what chooses another.
-T.AbstractButton {
+/// Shows a colour; a press opens its picker.
+PushButton {
     id: well
 
     required property color color
@@ -15,8 +14,6 @@ T.AbstractButton {
 
     implicitWidth: 24
     implicitHeight: 18
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
     onClicked: {
         loader.active = true;
         if (isOpen)
@@ -27,16 +24,9 @@ T.AbstractButton {
     function open() {
         isOpenedByKeys = visualFocus;
         picker.open();
-        if (isOpenedByKeys)
-            picker.showKeys();
     }
     onVisibleChanged: if (!visible) loader.active = false
-
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
-    Accessible.name: text
-    Accessible.description: SettingsRules.hexFromColor(color)
-    Accessible.onPressAction: clicked()
+    Accessible.description: ColorConversion.hexFromColor(color)
 
     background: Rectangle {
         radius: 4
@@ -60,11 +50,12 @@ T.AbstractButton {
     Loader {
         id: loader
         active: false
-        // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+        // Only Qt 6.5 and later let a file declare that its components use outer ids (ComponentBehavior).
         sourceComponent: ColorPicker {
             parent: well // qmllint disable unqualified
             title: well.text // qmllint disable unqualified
             color: well.color // qmllint disable unqualified
+            isOpenedByKeys: well.isOpenedByKeys // qmllint disable unqualified
             onPicked: picked => well.picked(picked) // qmllint disable unqualified
             onClosed: {
                 // qmllint disable unqualified

@@ -2,8 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvelle.Common
 
-/// A help text near a control that the pointer rests on or that the keys brought the focus to; nothing where there
-/// is no text.
+/// The help text of a control under the pointer or with the keyboard focus, if it has one.
 Loader {
     id: help
 
@@ -11,14 +10,15 @@ Loader {
     required property string text
 
     active: text !== ""
-    // Only from Qt 6.5 on can a file say that a component may use an outer id (ComponentBehavior).
+    // Only Qt 6.5 and later let a file declare that its components use outer ids (ComponentBehavior).
     sourceComponent: Tooltip {
         readonly property Item control: help.control // qmllint disable unqualified
         readonly property real gap: 4
         readonly property real margin: 8
 
-        /// Above the control, or below it where there is no room; over whatever else scrolls with it.
-        function stand() {
+        /// Above the control, or below it without room above. The content that scrolls is the parent, so that no
+        /// sibling covers the text.
+        function moveToControl() {
             let scroller = control.parent;
             while (!(scroller instanceof Flickable))
                 scroller = scroller.parent;
@@ -33,6 +33,6 @@ Loader {
         z: 1
         text: help.text // qmllint disable unqualified
         isWanted: help.control.hovered || help.control.visualFocus // qmllint disable unqualified
-        onVisibleChanged: if (visible) stand()
+        onVisibleChanged: if (visible) moveToControl()
     }
 }

@@ -1,39 +1,64 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orvelle.Common
 import Orvelle.Settings
 
-/// A section's title that shows and hides what is under it.
-T.AbstractButton {
+/// A section's title that expands and collapses the content below it.
+PushButton {
     id: header
 
     required property string title
     required property bool isExpanded
 
     implicitHeight: Math.max(24, implicitContentHeight + 8)
-    // The ground reaches beyond the row, which stands in line with the other titles.
+    // The background extends beyond the row, which is aligned with the other titles.
     leftInset: -6
     rightInset: -6
     text: title
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
-
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
-    Accessible.name: text
+    hoveredColor: Look.card
     Accessible.description: isExpanded ? "Expanded" : "Collapsed"
-    Accessible.onPressAction: clicked()
 
-    background: Rectangle {
-        radius: 5
-        color: header.down ? Look.pressed : header.hovered ? Look.card : Look.clear
-        KeyRing {
-            control: header
-            radius: 5
-        }
-    }
     contentItem: DisclosureTitle {
         title: header.title
         isExpanded: header.isExpanded
+    }
+
+    /// The title, and at the end of the row a chevron.
+    component DisclosureTitle: Item {
+        id: row
+
+        required property string title
+        required property bool isExpanded
+
+        implicitHeight: caption.implicitHeight
+
+        SectionTitle {
+            id: caption
+            y: Look.centred(parent.height, height)
+            width: advanced.x - 8
+            text: row.title.toUpperCase()
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            Accessible.ignored: true
+        }
+        PlainText {
+            id: advanced
+            anchors.right: chevron.left
+            anchors.rightMargin: 6
+            y: Look.centred(parent.height, height)
+            text: "Advanced"
+            size: 10
+            color: Look.secondaryLabel
+            Accessible.ignored: true
+        }
+        Symbol {
+            id: chevron
+            objectName: "chevron"
+            anchors.right: parent.right
+            y: Look.centred(parent.height, height)
+            name: row.isExpanded ? "chevron.down" : "chevron.right"
+            fontSize: 9
+            weight: Font.DemiBold
+            color: Look.secondaryLabel
+        }
     }
 }

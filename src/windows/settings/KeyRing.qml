@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvelle.Common
 
-/// Shows on which control the keys act, around its parent, where the keys brought one there and not the mouse.
+/// Marks the control that has the keyboard focus, around its parent. It stays hidden when the mouse set the focus.
 Rectangle {
     required property T.Control control
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orvelle.Common
 
-/// Names a control below it or beside it, which has the same name for assistive programs.
+/// The visible name of a control beside or below it. Assistive programs read the control's own name.
 PlainText {
     size: 11
     weight: Font.Medium

@@ -2,7 +2,7 @@ import QtQuick
 import Orvelle.Common
 import Orvelle.Settings
 
-/// Chooses the value of a setting among a few.
+/// Offers the values of a setting.
 ChoiceGroup {
     id: group
 

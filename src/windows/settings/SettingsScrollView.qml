@@ -2,13 +2,13 @@ import QtQuick
 import Orvelle.Common
 import Orvelle.Settings
 
-/// The content of the settings window: the settings, which scroll, under what went wrong with them.
+/// The content of the settings window: notices of what went wrong, and below them the settings, which scroll.
 FocusScope {
     id: scrollView
 
     required property SettingsStore settings
     required property ThemeManager themeManager
-    /// Null, or with a text `error`.
+    /// Null, or an object with a text `error`.
     required property var launchAtLogin
     readonly property color color: Look.window
     signal quitApp()
@@ -68,5 +68,31 @@ FocusScope {
         width: parent.width
         content: view
         focus: true
+    }
+
+    /// Reports a failure. Without a text it is hidden and has no height.
+    component NoticeBanner: Rectangle {
+        id: banner
+
+        required property string text
+
+        visible: text !== ""
+        implicitHeight: text !== "" ? label.implicitHeight + 16 : 0
+        color: Look.withOpacity(Look.red, 0.25)
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+
+        PlainText {
+            id: label
+            // It sets no height, because the implicit height of an elided text depends on it.
+            x: 16
+            y: 8
+            width: banner.width - 2 * x
+            text: banner.text
+            weight: Font.Medium
+            wrapMode: Text.Wrap
+            maximumLineCount: 4
+            Accessible.ignored: true
+        }
     }
 }

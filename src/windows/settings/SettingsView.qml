@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Orvelle.Common
 import Orvelle.Settings
 
-/// Every setting, in titled sections below each other. Each control reads and writes the store.
+/// Every setting in titled sections. Each control reads and writes the store.
 Item {
     id: view
 
@@ -19,7 +19,7 @@ Item {
         themeManager: view.themeManager
     }
 
-    /// The window closes: it opens again without what was only unfolded.
+    /// Resets the state that does not outlast the window.
     function close() {
         showCustomColors = false;
     }
@@ -51,7 +51,6 @@ Item {
                 Accessible.role: Accessible.Heading
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "modules"
             title: "MENU BAR MODULES"
@@ -59,69 +58,66 @@ Item {
                 Layout.fillWidth: true
                 spacing: 2
                 Repeater {
-                    model: SettingsRules.modules
-                    // Here and below: only from Qt 6.5 on can a file say that a component may use an outer id
+                    model: Choices.modules
+                    // Only Qt 6.5 and later let a file declare that its components use outer ids
                     // (ComponentBehavior).
-                    delegate: ModuleToggle {
-                        settings: view.settings // qmllint disable unqualified
-                        colors: view.colors // qmllint disable unqualified
+                    delegate: SettingsToggle {
+                        required property var modelData
+                        objectName: modelData.shown
+                        Layout.fillWidth: true
+                        text: modelData.label
+                        symbol: modelData.icon
+                        symbolColor: view.colors[modelData.key] // qmllint disable unqualified
+                        checked: view.settings[modelData.shown] // qmllint disable unqualified
+                        onToggled: view.settings[modelData.shown] = checked // qmllint disable unqualified
                     }
                 }
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "display"
             title: "DISPLAY"
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 2
-                LabelledRow {
-                    text: "CPU Display"
-                    SegmentedPicker {
-                        name: "CPU Display"
-                        settings: view.settings
-                        setting: "cpuDisplayMode"
-                        choices: SettingsRules.cpuDisplayModes
-                    }
+                LabelledPicker {
+                    name: "CPU Display"
+                    settings: view.settings
+                    setting: "cpuDisplayMode"
+                    choices: Choices.cpuDisplayModes
                 }
-                SwitchRow {
+                SettingsToggle {
                     objectName: "useFahrenheit"
                     Layout.fillWidth: true
                     text: "Use Fahrenheit"
                     checked: view.settings.useFahrenheit
                     onToggled: view.settings.useFahrenheit = checked
                 }
-                SwitchRow {
+                SettingsToggle {
                     objectName: "compactMode"
                     Layout.fillWidth: true
                     text: "Compact Mode"
-                    help: SettingsRules.unchangedBarHelp
+                    help: Choices.unchangedBarHelp
                     checked: view.settings.compactMode
                     onToggled: view.settings.compactMode = checked
                 }
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "interval"
             title: "UPDATE INTERVAL"
-            LabelledRow {
-                text: "Every"
-                SegmentedPicker {
-                    name: "Every"
-                    settings: view.settings
-                    setting: "updateInterval"
-                    choices: SettingsRules.updateIntervals
-                }
+            LabelledPicker {
+                name: "Every"
+                settings: view.settings
+                setting: "updateInterval"
+                choices: Choices.updateIntervals
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "themes"
             title: "THEME"
             ThemeGrid {
-                // As wide as the window, unlike what is read in lines.
+                // Uses the whole window, while the rows of text stay short.
                 readonly property real fullWidth: Math.min(view.width - 2 * view.padding, largestWidth)
                 readonly property real overhang: Math.floor(Math.max(0, fullWidth - sections.width) / 2)
                 Layout.fillWidth: true
@@ -130,78 +126,47 @@ Item {
                 themeManager: view.themeManager
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "graphs"
             title: "GRAPH STYLE"
             SectionLabel { text: "Line Style" }
-            PreviewGroup {
-                id: lineGroup
+            StylePicker {
                 name: "Line Style"
                 settings: view.settings
                 setting: "graphLineStyle"
-                choices: SettingsRules.graphLineStyles
-                delegate: PreviewButton {
-                    id: lineButton
-                    group: lineGroup // qmllint disable unqualified
-                    contentItem: GraphLineStylePreview {
-                        style: lineButton.modelData.value
-                        isSelected: lineButton.checked
-                        color: view.colors.cpu // qmllint disable unqualified
-                    }
-                }
+                choices: Choices.graphLineStyles
+                color: view.colors.cpu
             }
             SectionLabel { text: "Fill Style" }
             SegmentedPicker {
                 name: "Fill Style"
                 settings: view.settings
                 setting: "graphFillStyle"
-                choices: SettingsRules.graphFillStyles
+                choices: Choices.graphFillStyles
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "bars"
             title: "BAR CHART STYLE"
-            PreviewGroup {
-                id: barGroup
+            StylePicker {
                 name: "Bar Chart Style"
                 settings: view.settings
                 setting: "barChartStyle"
-                choices: SettingsRules.barChartStyles
-                delegate: PreviewButton {
-                    id: barButton
-                    group: barGroup // qmllint disable unqualified
-                    contentItem: BarStylePreview {
-                        style: barButton.modelData.value
-                        isSelected: barButton.checked
-                        color: view.colors.cpu // qmllint disable unqualified
-                    }
-                }
+                choices: Choices.barChartStyles
+                color: view.colors.cpu
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "rings"
             title: "RING CHART STYLE"
-            PreviewGroup {
-                id: ringGroup
+            StylePicker {
                 name: "Ring Chart Style"
                 settings: view.settings
                 setting: "ringChartStyle"
-                choices: SettingsRules.ringChartStyles
-                delegate: PreviewButton {
-                    id: ringButton
-                    group: ringGroup // qmllint disable unqualified
-                    contentItem: RingStylePreview {
-                        style: ringButton.modelData.value
-                        isSelected: ringButton.checked
-                        color: view.colors.cpu // qmllint disable unqualified
-                    }
-                }
+                choices: Choices.ringChartStyles
+                color: view.colors.cpu
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "menuBar"
             title: "MENU BAR DISPLAY"
@@ -209,10 +174,9 @@ Item {
                 name: "Menu Bar Display"
                 settings: view.settings
                 setting: "menuBarDisplayStyle"
-                choices: SettingsRules.menuBarDisplayStyles
+                choices: Choices.menuBarDisplayStyles
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "animation"
             title: "ANIMATION SPEED"
@@ -220,10 +184,9 @@ Item {
                 name: "Animation Speed"
                 settings: view.settings
                 setting: "animationSpeed"
-                choices: SettingsRules.animationSpeeds
+                choices: Choices.animationSpeeds
             }
         }
-        Divider {}
         SettingsSection {
             objectName: "glow"
             title: "GLOW EFFECT"
@@ -231,7 +194,7 @@ Item {
                 name: "Glow Effect"
                 settings: view.settings
                 setting: "glowIntensity"
-                choices: SettingsRules.glowIntensities
+                choices: Choices.glowIntensities
             }
         }
         Divider {}
@@ -244,16 +207,62 @@ Item {
         Divider {}
         SettingsToggle {
             objectName: "launchAtLogin"
-            icon: "power"
-            label: "Launch at Login"
-            color: Look.green
-            isOn: view.settings.launchAtLogin
-            onToggled: isOn => view.settings.launchAtLogin = isOn
+            Layout.fillWidth: true
+            text: "Launch at Login"
+            symbol: "power"
+            symbolColor: Look.green
+            checked: view.settings.launchAtLogin
+            onToggled: view.settings.launchAtLogin = checked
         }
         Divider {}
-        SettingsFooter {
+        RowLayout {
             objectName: "footer"
-            onQuitApp: view.quitApp()
+            Layout.fillWidth: true
+
+            PlainText {
+                Layout.fillWidth: true
+                text: "Orvelle v1.0"
+                size: 9
+                color: Look.secondaryLabel
+                opacity: 0.5
+            }
+            QuitButton {
+                objectName: "quit"
+                Layout.rightMargin: -rightPadding // aligns its text with the switches
+                onClicked: view.quitApp()
+            }
+        }
+    }
+
+    /// Related settings under a line and a title.
+    component SettingsSection: ColumnLayout {
+        id: section
+
+        required property string title
+
+        Layout.fillWidth: true
+        spacing: 8
+
+        Divider { Layout.bottomMargin: 4 }
+        SectionTitle {
+            text: section.title.toUpperCase()
+            Layout.fillWidth: true
+        }
+    }
+
+    component QuitButton: PushButton {
+        id: button
+
+        text: "Quit"
+        padding: 4
+        leftPadding: 8
+        rightPadding: 8
+        contentItem: PlainText {
+            text: button.text
+            size: 10
+            weight: Font.Medium
+            color: Look.red
+            Accessible.ignored: true
         }
     }
 }

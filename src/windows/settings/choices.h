@@ -4,11 +4,11 @@
 #include <QObject>
 #include <QString>
 #include <QVariant>
+#include <QtQml/qqmlregistration.h>
 
-/// What the settings window offers, in the order in which it does. Each text and symbol stands here once.
 namespace orvelle {
 
-/// One of the values of a setting.
+/// One of the values that a setting offers.
 struct Choice {
     Q_GADGET
     Q_PROPERTY(QVariant value MEMBER value CONSTANT)
@@ -16,26 +16,13 @@ struct Choice {
     Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
     Q_PROPERTY(QString help MEMBER help CONSTANT)
 public:
-    QVariant value; ///< a number: that of an enumeration's case, or seconds
+    QVariant value; ///< an enumeration's case as a number, or seconds
     QString label;
-    QString symbol = {}; ///< empty where the label stands alone
-    QString help = {};   ///< empty where nothing is to be explained
+    QString symbol = {}; ///< empty for a label without a symbol
+    QString help = {};   ///< a tooltip, or empty
 
     bool operator==(const Choice&) const = default;
 };
-
-[[nodiscard]] const QList<Choice>& cpuDisplayModeChoices();
-[[nodiscard]] const QList<Choice>& updateIntervalChoices();
-[[nodiscard]] const QList<Choice>& graphLineStyleChoices();
-[[nodiscard]] const QList<Choice>& graphFillStyleChoices();
-[[nodiscard]] const QList<Choice>& barChartStyleChoices();
-[[nodiscard]] const QList<Choice>& ringChartStyleChoices();
-[[nodiscard]] const QList<Choice>& menuBarDisplayStyleChoices();
-[[nodiscard]] const QList<Choice>& animationSpeedChoices();
-[[nodiscard]] const QList<Choice>& glowIntensityChoices();
-
-/// Explains a setting that is kept, and does not alter the menu bar.
-[[nodiscard]] QString unchangedBarHelp();
 
 /// A module with the names of the properties that its rows in the window read and write.
 struct ModuleRow {
@@ -58,5 +45,41 @@ public:
 };
 
 [[nodiscard]] const QList<ModuleRow>& moduleRows();
+
+/// The choices of each setting in the order of the settings window: lists of `Choice`, and of `ModuleRow` and
+/// `AppTheme` for `modules` and `themes`.
+class Choices : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QVariantList cpuDisplayModes READ cpuDisplayModes CONSTANT)
+    Q_PROPERTY(QVariantList updateIntervals READ updateIntervals CONSTANT)
+    Q_PROPERTY(QVariantList graphLineStyles READ graphLineStyles CONSTANT)
+    Q_PROPERTY(QVariantList graphFillStyles READ graphFillStyles CONSTANT)
+    Q_PROPERTY(QVariantList barChartStyles READ barChartStyles CONSTANT)
+    Q_PROPERTY(QVariantList ringChartStyles READ ringChartStyles CONSTANT)
+    Q_PROPERTY(QVariantList menuBarDisplayStyles READ menuBarDisplayStyles CONSTANT)
+    Q_PROPERTY(QVariantList animationSpeeds READ animationSpeeds CONSTANT)
+    Q_PROPERTY(QVariantList glowIntensities READ glowIntensities CONSTANT)
+    Q_PROPERTY(QVariantList modules READ modules CONSTANT)
+    Q_PROPERTY(QVariantList themes READ themes CONSTANT)
+    Q_PROPERTY(QString unchangedBarHelp READ unchangedBarHelp CONSTANT)
+
+public:
+    [[nodiscard]] static QVariantList cpuDisplayModes();
+    [[nodiscard]] static QVariantList updateIntervals();
+    [[nodiscard]] static QVariantList graphLineStyles();
+    [[nodiscard]] static QVariantList graphFillStyles();
+    [[nodiscard]] static QVariantList barChartStyles();
+    [[nodiscard]] static QVariantList ringChartStyles();
+    [[nodiscard]] static QVariantList menuBarDisplayStyles();
+    [[nodiscard]] static QVariantList animationSpeeds();
+    [[nodiscard]] static QVariantList glowIntensities();
+    [[nodiscard]] static QVariantList modules();
+    [[nodiscard]] static QVariantList themes();
+
+    /// The help of a setting that is stored but does not affect the menu bar.
+    [[nodiscard]] static QString unchangedBarHelp();
+};
 
 } // namespace orvelle

@@ -2,7 +2,7 @@
 
 #include "charts/continuous_rounded_rect.h"
 #include "theme/colors.h"
-#include "windows/settings/preview_rules.h"
+#include "windows/settings/preview_geometry.h"
 
 #include <QPainter>
 
@@ -33,24 +33,36 @@ void Outline::paint(QPainter* painter) {
     painter->strokePath(continuousRoundedRect(edge, m_radius - inset), QPen(m_color, m_lineWidth));
 }
 
-void GraphLineDrawing::paint(QPainter* painter) {
-    painter->strokePath(previewLine(m_style, size()), previewLinePen(m_style, m_color));
+void StyleDrawing::paint(QPainter* painter) {
+    if (m_setting == QLatin1StringView("graphLineStyle"))
+        paintLine(*painter);
+    else if (m_setting == QLatin1StringView("barChartStyle"))
+        paintBars(*painter);
+    else if (m_setting == QLatin1StringView("ringChartStyle"))
+        paintRing(*painter);
 }
 
-void BarDrawing::paint(QPainter* painter) {
-    for (const QRectF& bar : previewBars(m_style, size()))
-        painter->fillPath(previewBarShape(m_style, bar), withOpacity(m_color, barOpacity));
+void StyleDrawing::paintLine(QPainter& painter) const {
+    const auto style = static_cast<GraphLineStyle>(m_style);
+    painter.strokePath(previewLine(style, size()), previewLinePen(style, m_color));
 }
 
-void RingDrawing::paint(QPainter* painter) {
-    const PreviewRing ring = previewRing(m_style, size());
+void StyleDrawing::paintBars(QPainter& painter) const {
+    const auto style = static_cast<BarChartStyle>(m_style);
+    const AnyShape shape = previewBarShape(style);
+    for (const QRectF& bar : previewBars(style, size()))
+        painter.fillPath(shape.path(bar), withOpacity(m_color, barOpacity));
+}
+
+void StyleDrawing::paintRing(QPainter& painter) const {
+    const PreviewRing ring = previewRing(static_cast<RingChartStyle>(m_style), size());
     const QColor track = withOpacity(SystemColors::white, trackOpacity);
     if (ring.isFilled) {
-        painter->fillPath(ring.track, track);
-        painter->fillPath(ring.progress, m_color);
+        painter.fillPath(ring.track, track);
+        painter.fillPath(ring.progress, m_color);
     } else {
-        painter->strokePath(ring.track, ringPen(track));
-        painter->strokePath(ring.progress, ringPen(m_color));
+        painter.strokePath(ring.track, ringPen(track));
+        painter.strokePath(ring.progress, ringPen(m_color));
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "settings/styles.h"
 #include "theme/app_theme.h"
 
 #include <QColor>
@@ -9,8 +8,8 @@
 
 namespace orvelle {
 
-/// A small picture that is painted anew when what it shows has changed. Assistive programs do not see it: it
-/// stands in a button that says the same.
+/// A small picture that is repainted when a property changes. Assistive programs ignore it: the button
+/// around it says the same.
 class PreviewItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ANONYMOUS
@@ -26,7 +25,7 @@ protected:
     QColor m_color;
 };
 
-/// The edge of a rounded rectangle, inside of it, in a colour and of a width that need not be whole.
+/// The border of a rounded rectangle, inside its edge. Its width may be fractional.
 class Outline : public orvelle::PreviewItem {
     Q_OBJECT
     QML_ELEMENT
@@ -42,46 +41,26 @@ private:
     double m_radius = 0;
 };
 
-/// The line of a `GraphLineStylePreview`.
-class GraphLineDrawing : public orvelle::PreviewItem {
+/// A sample chart in one of the styles that a setting offers.
+class StyleDrawing : public orvelle::PreviewItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orvelle::GraphLineStyle style MEMBER m_style NOTIFY changed)
+    /// "graphLineStyle", "barChartStyle" or "ringChartStyle", as in the store.
+    Q_PROPERTY(QString setting MEMBER m_setting NOTIFY changed)
+    /// A value of that setting.
+    Q_PROPERTY(int style MEMBER m_style NOTIFY changed)
 
 public:
     using PreviewItem::PreviewItem;
     void paint(QPainter* painter) override;
 
 private:
-    GraphLineStyle m_style = GraphLineStyle::smooth;
-};
+    void paintLine(QPainter& painter) const;
+    void paintBars(QPainter& painter) const;
+    void paintRing(QPainter& painter) const;
 
-/// The bars of a `BarStylePreview`.
-class BarDrawing : public orvelle::PreviewItem {
-    Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(orvelle::BarChartStyle style MEMBER m_style NOTIFY changed)
-
-public:
-    using PreviewItem::PreviewItem;
-    void paint(QPainter* painter) override;
-
-private:
-    BarChartStyle m_style = BarChartStyle::rounded;
-};
-
-/// The ring of a `RingStylePreview`.
-class RingDrawing : public orvelle::PreviewItem {
-    Q_OBJECT
-    QML_ELEMENT
-    Q_PROPERTY(orvelle::RingChartStyle style MEMBER m_style NOTIFY changed)
-
-public:
-    using PreviewItem::PreviewItem;
-    void paint(QPainter* painter) override;
-
-private:
-    RingChartStyle m_style = RingChartStyle::fullRing;
+    QString m_setting;
+    int m_style = 0;
 };
 
 /// The bars and dots of a `ThemePreviewCard`.

@@ -1,7 +1,7 @@
 #include "windows/charts/chart_types.h"
 #include "windows/common/quick_engine.h"
 #include "windows/panels/panel_types.h"
-#include "windows/settings/settings_types.h"
+#include "windows/settings/settings_window.h"
 
 #include <QDirIterator>
 #include <QLoggingCategory>

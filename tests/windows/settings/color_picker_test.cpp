@@ -8,7 +8,7 @@
 namespace orvelle {
 namespace {
 
-/// The picker of a module's own colour, open.
+/// The open picker of a module's own colour.
 class ColorPickers : public SettingsFixture {
 protected:
     void SetUp() override {
@@ -19,11 +19,11 @@ protected:
         settle();
     }
 
-    /// Any colour, the same ones in each run.
-    QString anyHex() { return QString::asprintf("#%06X", m_colors(m_random)); }
-    int anyPlaceOfADigit() { return m_places(m_random); }
+    /// A random colour, the same sequence in each run.
+    QString randomHex() { return QString::asprintf("#%06X", m_colors(m_random)); }
+    int randomDigitIndex() { return m_places(m_random); }
 
-    /// Chooses a colour as another program would.
+    /// Changes the colour from outside.
     void choose(const QString& hex) { settings.tune(QStringLiteral("customCPUColorHex"), hex); }
     [[nodiscard]] QString shownDigits() const { return item("hex")->property("text").toString(); }
 
@@ -33,7 +33,7 @@ private:
     std::uniform_int_distribution<int> m_places{1, 6};
 };
 
-/// Red, green and blue in order of their size.
+/// Red, green and blue in ascending order.
 std::array<int, 3> sortedComponents(const QString& hex) {
     const QColor color = hexToColor(hex).value_or(QColor());
     std::array components{color.red(), color.green(), color.blue()};
@@ -41,28 +41,28 @@ std::array<int, 3> sortedComponents(const QString& hex) {
     return components;
 }
 
-TEST_F(ColorPickers, ShowTheDigitsThatAreStored) {
+TEST_F(ColorPickers, ShowTheStoredDigits) {
     for (int count = 0; count < 2000; ++count) {
-        const QString hex = anyHex();
+        const QString hex = randomHex();
         choose(hex);
         ASSERT_EQ(shownDigits(), hex);
     }
 }
 
-TEST_F(ColorPickers, ShowTheDigitsOfTheThemesColourWhileNoneIsChosen) {
+TEST_F(ColorPickers, ShowTheThemesColorUntilOneIsChosen) {
     for (const AppTheme& theme : builtInThemes()) {
         themes.selectTheme(theme.id);
         EXPECT_EQ(shownDigits(), theme.cpuColor.name().toUpper()) << theme.id.toStdString();
     }
 }
 
-TEST_F(ColorPickers, StoreOneOtherDigitWhereOneIsReplaced) {
+TEST_F(ColorPickers, StoreASingleReplacedDigit) {
     QQuickItem* digits = item("hex");
     for (int count = 0; count < 100; ++count) {
-        QString hex = anyHex();
+        QString hex = randomHex();
         choose(hex);
         digits->forceActiveFocus();
-        const int place = anyPlaceOfADigit();
+        const int place = randomDigitIndex();
         const char digit = hex[place] == u'7' ? 'C' : '7';
         QMetaObject::invokeMethod(digits, "select", Q_ARG(int, place), Q_ARG(int, place + 1));
         QTest::keyClick(view.get(), digit);
@@ -73,9 +73,9 @@ TEST_F(ColorPickers, StoreOneOtherDigitWhereOneIsReplaced) {
     }
 }
 
-TEST_F(ColorPickers, KeepTheStrongestAndTheWeakestPartWhereTheHueIsMoved) {
+TEST_F(ColorPickers, KeepTheLargestAndTheSmallestComponentWhenTheHueMoves) {
     for (int count = 0; count < 100; ++count) {
-        const QString hex = anyHex();
+        const QString hex = randomHex();
         choose(hex);
         item("hue")->forceActiveFocus();
         press(count % 2 == 0 ? Qt::Key_Right : Qt::Key_Left);
@@ -87,9 +87,9 @@ TEST_F(ColorPickers, KeepTheStrongestAndTheWeakestPartWhereTheHueIsMoved) {
     }
 }
 
-TEST_F(ColorPickers, ComeBackToTheColourWhereASliderComesBack) {
+TEST_F(ColorPickers, RestoreTheColorWhenASliderReturns) {
     for (int count = 0; count < 50; ++count) {
-        const QString hex = anyHex();
+        const QString hex = randomHex();
         for (const char* slider : {"hue", "saturation", "brightness"}) {
             choose(hex);
             item(slider)->forceActiveFocus();

@@ -18,7 +18,7 @@ protected:
     }
 };
 
-TEST_F(SettingsFonts, AreThoseThatTheDesktopChangesTo) {
+TEST_F(SettingsFonts, FollowTheDesktop) {
     const QStringList before = families();
     const QString serif = QStringLiteral("DejaVu Serif");
     ASSERT_FALSE(before.isEmpty());

@@ -20,24 +20,31 @@ QVariant valueOf(const SettingsStore& settings, const char* setting) {
 struct PickedSetting {
     QStringView group;
     const char* setting;
-    const QList<Choice>& (*choices)();
+    QVariantList (*offered)();
+
+    [[nodiscard]] QList<Choice> choices() const {
+        QList<Choice> all;
+        for (const QVariant& choice : offered())
+            all.append(choice.value<Choice>());
+        return all;
+    }
 };
 
 const QList<PickedSetting>& pickedSettings() {
     static const QList<PickedSetting> pickers{
-        {u"CPU Display", "cpuDisplayMode", &cpuDisplayModeChoices},
-        {u"Every", "updateInterval", &updateIntervalChoices},
-        {u"Line Style", "graphLineStyle", &graphLineStyleChoices},
-        {u"Fill Style", "graphFillStyle", &graphFillStyleChoices},
-        {u"Bar Chart Style", "barChartStyle", &barChartStyleChoices},
-        {u"Ring Chart Style", "ringChartStyle", &ringChartStyleChoices},
-        {u"Menu Bar Display", "menuBarDisplayStyle", &menuBarDisplayStyleChoices},
-        {u"Animation Speed", "animationSpeed", &animationSpeedChoices},
-        {u"Glow Effect", "glowIntensity", &glowIntensityChoices}};
+        {u"CPU Display", "cpuDisplayMode", &Choices::cpuDisplayModes},
+        {u"Every", "updateInterval", &Choices::updateIntervals},
+        {u"Line Style", "graphLineStyle", &Choices::graphLineStyles},
+        {u"Fill Style", "graphFillStyle", &Choices::graphFillStyles},
+        {u"Bar Chart Style", "barChartStyle", &Choices::barChartStyles},
+        {u"Ring Chart Style", "ringChartStyle", &Choices::ringChartStyles},
+        {u"Menu Bar Display", "menuBarDisplayStyle", &Choices::menuBarDisplayStyles},
+        {u"Animation Speed", "animationSpeed", &Choices::animationSpeeds},
+        {u"Glow Effect", "glowIntensity", &Choices::glowIntensities}};
     return pickers;
 }
 
-TEST_F(SettingsControls, StandInFourteenSectionsFromTopToBottom) {
+TEST_F(SettingsControls, AreInFourteenSectionsFromTopToBottom) {
     const QStringList expected{
         QStringLiteral("titleBar"),      QStringLiteral("modules"), QStringLiteral("display"),
         QStringLiteral("interval"),      QStringLiteral("themes"),  QStringLiteral("graphs"),
@@ -95,7 +102,7 @@ TEST_F(SettingsControls, SwitchTheOtherSettingsOnAndOff) {
     }
 }
 
-TEST_F(SettingsControls, GoBackWithASettingThatDoes) {
+TEST_F(SettingsControls, FollowASettingThatRevertsAtOnce) {
     QObject::connect(&settings, &SettingsStore::launchAtLoginChanged, &settings,
                      [this] { settings.setLaunchAtLogin(false); });
     QQuickItem* toggle = control(u"Launch at Login");
@@ -106,7 +113,7 @@ TEST_F(SettingsControls, GoBackWithASettingThatDoes) {
 
 TEST_F(SettingsControls, StoreEveryChoiceOfEveryPicker) {
     for (const PickedSetting& picker : pickedSettings()) {
-        const QList<Choice>& choices = picker.choices();
+        const QList<Choice> choices = picker.choices();
         for (qsizetype index = choices.size() - 1; index >= 0; --index) {
             QQuickItem* button = control(choices[index].label, group(picker.group));
             ASSERT_NE(button, nullptr);
@@ -119,9 +126,9 @@ TEST_F(SettingsControls, StoreEveryChoiceOfEveryPicker) {
     }
 }
 
-TEST_F(SettingsControls, FollowASettingThatIsChangedElsewhere) {
+TEST_F(SettingsControls, FollowASettingThatChangesElsewhere) {
     for (const PickedSetting& picker : pickedSettings()) {
-        const QList<Choice>& choices = picker.choices();
+        const QList<Choice> choices = picker.choices();
         for (const Choice& choice : choices) {
             settings.setProperty(picker.setting, choice.value);
             QStringList chosen;
@@ -134,7 +141,7 @@ TEST_F(SettingsControls, FollowASettingThatIsChangedElsewhere) {
     }
 }
 
-TEST_F(SettingsControls, AreChosenByAssistivePrograms) {
+TEST_F(SettingsControls, CanBeChosenByAssistivePrograms) {
     for (const PickedSetting& picker : pickedSettings()) {
         for (const QString& action :
              {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::toggleAction()}) {
@@ -160,17 +167,17 @@ TEST_F(SettingsControls, StoreTheIntervalInSeconds) {
     EXPECT_TRUE(stored.readAll().contains("updateInterval=1\n"));
 }
 
-TEST_F(SettingsControls, ShowNoSegmentForAnIntervalThatIsNotOffered) {
+TEST_F(SettingsControls, SelectNoSegmentForAnIntervalThatIsNotOffered) {
     settings.setUpdateInterval(4.0);
     EXPECT_EQ(group(u"Every")->property("chosenIndex").toInt(), -1);
-    for (const Choice& choice : updateIntervalChoices())
-        EXPECT_FALSE(control(choice.label)->property("checked").toBool());
-    EXPECT_EQ(settings.updateInterval(), 4.0) << "looking at it changes nothing";
+    for (const QVariant& choice : Choices::updateIntervals())
+        EXPECT_FALSE(control(choice.value<Choice>().label)->property("checked").toBool());
+    EXPECT_EQ(settings.updateInterval(), 4.0) << "showing it does not change it";
     click(control(u"2s"));
     EXPECT_EQ(settings.updateInterval(), 2.0);
 }
 
-TEST_F(SettingsControls, PickAThemeForNowAndForTheNextStart) {
+TEST_F(SettingsControls, ApplyAndStoreAPickedTheme) {
     for (const AppTheme& theme : builtInThemes()) {
         click(control(theme.name));
         EXPECT_EQ(themes.currentTheme().id, theme.id);
@@ -183,14 +190,14 @@ TEST_F(SettingsControls, PickAThemeForNowAndForTheNextStart) {
     EXPECT_EQ(settings.selectedThemeId(), QStringLiteral("no such theme"));
 }
 
-TEST_F(SettingsControls, EndTheProgram) {
+TEST_F(SettingsControls, QuitTheProgram) {
     click(control(u"Quit"));
     EXPECT_EQ(quits, 1);
     doAction(control(u"Quit"), QAccessibleActionInterface::pressAction());
     EXPECT_EQ(quits, 2);
 }
 
-TEST_F(CustomColors, AreHiddenUntilTheyAreAskedForAndWhenTheWindowOpensAgain) {
+TEST_F(CustomColors, AreCollapsedWheneverTheWindowOpens) {
     EXPECT_FALSE(item("customColors")->property("active").toBool());
     EXPECT_EQ(item("chevron")->property("name").toString(), QStringLiteral("chevron.right"));
     openOverrides();
@@ -203,7 +210,7 @@ TEST_F(CustomColors, AreHiddenUntilTheyAreAskedForAndWhenTheWindowOpensAgain) {
     EXPECT_TRUE(item("customColors")->property("active").toBool());
 }
 
-TEST_F(CustomColors, ChangeNothingByBeingShownOrHidden) {
+TEST_F(CustomColors, DoNotChangeTheSettingsWhenExpanded) {
     settings.setCustomCPUColorHex(QStringLiteral("no colour"));
     settings.setUseCustomCPUColor(true);
     QFile stored(path);
@@ -217,7 +224,7 @@ TEST_F(CustomColors, ChangeNothingByBeingShownOrHidden) {
     EXPECT_EQ(again.readAll(), before);
 }
 
-TEST_F(CustomColors, SwitchEachModulesOwnColour) {
+TEST_F(CustomColors, SwitchEachModulesOwnColor) {
     openOverrides();
     for (const ModuleRow& row : moduleRows()) {
         QQuickItem* toggle = item("switch", overrideRow(row.label));
@@ -230,7 +237,7 @@ TEST_F(CustomColors, SwitchEachModulesOwnColour) {
     }
 }
 
-TEST_F(CustomColors, TintTheSymbolWithTheColourThatApplies) {
+TEST_F(CustomColors, TintTheSymbolWithTheEffectiveColor) {
     settings.setCustomDiskColorHex(QStringLiteral("#FF8000"));
     openOverrides();
     const QQuickItem* toggle = item("switch", overrideRow(u"Disk"));
@@ -241,7 +248,7 @@ TEST_F(CustomColors, TintTheSymbolWithTheColourThatApplies) {
     EXPECT_EQ(toggle->property("symbolColor").value<QColor>().rgb(), themes.currentTheme().diskColor.rgb());
 }
 
-TEST_F(CustomColors, KeepTheColourLastChosenWhileTheyAreOff) {
+TEST_F(CustomColors, KeepTheLastChosenColorWhileSwitchedOff) {
     openOverrides();
     QQuickItem* toggle = item("switch", overrideRow(u"CPU"));
     click(toggle);
@@ -283,8 +290,8 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     EXPECT_NEAR(hue->property("value").toDouble(), 150.0 / 360, 0.005);
     type("zz");
     press(Qt::Key_Tab);
-    EXPECT_EQ(digits->property("text").toString(), QStringLiteral("#00FF80")) << "put back";
-    EXPECT_EQ(focused(), hue) << "the keys stay in the picker";
+    EXPECT_EQ(digits->property("text").toString(), QStringLiteral("#00FF80")) << "reverted";
+    EXPECT_EQ(focused(), hue) << "the focus stays in the picker";
     press(Qt::Key_Backtab);
     EXPECT_EQ(focused(), digits);
 
@@ -297,7 +304,7 @@ TEST_F(CustomColors, AreChosenBySlidersAndByDigits) {
     EXPECT_EQ(focused(), well);
 }
 
-TEST_F(CustomColors, FollowADragAtOnceAndAreWrittenAFewTimes) {
+TEST_F(CustomColors, FollowADragAtOnceWithFewWrites) {
     settings.setUseCustomCPUColor(true);
     openOverrides();
     click(item("well", overrideRow(u"CPU")));
@@ -322,7 +329,7 @@ TEST_F(CustomColors, FollowADragAtOnceAndAreWrittenAFewTimes) {
     EXPECT_TRUE(waitUntil([&] { return settingsText().contains(settings.customCPUColorHex()); }));
 }
 
-TEST_F(CustomColors, KeepTheHueOfWhatIsMadeGrey) {
+TEST_F(CustomColors, KeepTheHueOfAColorThatTurnsGray) {
     settings.setUseCustomCPUColor(true);
     settings.setCustomCPUColorHex(QStringLiteral("#0000FF"));
     openOverrides();
@@ -338,7 +345,7 @@ TEST_F(CustomColors, KeepTheHueOfWhatIsMadeGrey) {
     EXPECT_EQ(settings.customCPUColorHex(), QStringLiteral("#0000FF"));
 }
 
-TEST_F(SettingsNotices, TellThatASettingCouldNotBeSaved) {
+TEST_F(SettingsNotices, ReportASettingThatCouldNotBeSaved) {
     QQuickItem* notice = item("saveNotice");
     EXPECT_FALSE(notice->isVisible());
     QFile::remove(path);
@@ -353,7 +360,7 @@ TEST_F(SettingsNotices, TellThatASettingCouldNotBeSaved) {
     EXPECT_FALSE(notice->isVisible());
 }
 
-TEST_F(SettingsNotices, TellThatTheProgramCannotStartAtLogin) {
+TEST_F(SettingsNotices, ReportThatLaunchingAtLoginFailed) {
     QQuickItem* notice = item("loginNotice");
     EXPECT_FALSE(notice->isVisible());
     login.error = QStringLiteral("It cannot be.");

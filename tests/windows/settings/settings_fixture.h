@@ -5,7 +5,7 @@
 #include "support/temporary_settings.h"
 #include "theme/theme_manager.h"
 #include "windows/common/quick_engine.h"
-#include "windows/settings/settings_factory.h"
+#include "windows/settings/settings_window.h"
 
 #include <QAccessible>
 #include <QFile>
@@ -15,7 +15,7 @@
 
 namespace orvelle {
 
-/// Stands for what starts the program at login.
+/// Reports errors of launching at login.
 class ScriptedLogin : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString error MEMBER error NOTIFY errorChanged)
@@ -25,11 +25,11 @@ Q_SIGNALS:
     void errorChanged();
 };
 
-/// The settings window over settings of its own. A warning of Qt or QML while it lives fails the test.
+/// The settings window over temporary settings. A warning of Qt or QML fails the test.
 class SettingsFixture : public ::testing::Test {
 protected:
     SettingsFixture() {
-        QAccessible::setActive(true); // as it is while an assistive program runs
+        QAccessible::setActive(true); // as while an assistive program runs
         s_previousHandler = qInstallMessageHandler(&SettingsFixture::failOnMessage);
     }
     ~SettingsFixture() override {
@@ -46,7 +46,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
         settle();
     }
-    /// Has everything laid out and painted that changed.
+    /// Waits until everything is laid out and painted.
     void settle() { ASSERT_TRUE(orvelle::settle(*view)) << "it is repainted again and again"; }
     void resizeTo(const QSize& size) {
         view->resize(size);
@@ -54,14 +54,14 @@ protected:
         ASSERT_EQ(view->rootObject()->size(), size.toSizeF());
     }
 
-    /// All items in the tree's order that `isWanted` picks.
+    /// The items that `isWanted` picks, in tree order.
     template <class Predicate>
     [[nodiscard]] QList<QQuickItem*> items(Predicate isWanted) const {
         QList<QQuickItem*> found;
         collect(view->contentItem(), isWanted, found);
         return found;
     }
-    /// The item with this object name; a failure when there is none.
+    /// The item with this object name. A missing one fails the test.
     [[nodiscard]] QQuickItem* item(const char* name, const QQuickItem* inside = nullptr) const {
         QList<QQuickItem*> found;
         collect(
@@ -125,7 +125,7 @@ protected:
         for (; *text != '\0'; ++text)
             QTest::keyClick(view.get(), *text);
     }
-    /// What the file holds in which the settings are stored.
+    /// The text of the settings file.
     [[nodiscard]] QString settingsText() const {
         QFile stored(path);
         return stored.open(QIODevice::ReadOnly) ? QString::fromUtf8(stored.readAll()) : QString();
@@ -136,7 +136,7 @@ protected:
         click(item("disclosure"));
         settle();
     }
-    /// The row in which a module's own colour is chosen.
+    /// The row that chooses a module's own colour.
     [[nodiscard]] QQuickItem* overrideRow(QStringView label) const {
         const QList<QQuickItem*> rows = items([&](const QQuickItem* each) {
             return each->property("colorHex").isValid() && each->property("label").toString() == label;

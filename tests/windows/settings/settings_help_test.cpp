@@ -12,7 +12,7 @@ protected:
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(control);
         return accessible != nullptr ? accessible->text(QAccessible::Description) : QString();
     }
-    /// The help texts that can be seen.
+    /// The visible help texts.
     [[nodiscard]] QList<QQuickItem*> shownHelp() const {
         return items([](const QQuickItem* each) {
             return each->objectName() == QLatin1String("help") && each->isVisible();
@@ -32,21 +32,21 @@ protected:
     }
 };
 
-TEST_F(SettingsHelp, TellsOfTheIntervalsThatAreTooShortHowTheyAct) {
+TEST_F(SettingsHelp, ExplainsIntervalsBelowTheMinimum) {
     for (const QStringView label : {u"1s", u"2s"})
         EXPECT_EQ(descriptionOf(control(label)), shortInterval);
     for (const QStringView label : {u"3s", u"5s", u"10s"})
         EXPECT_EQ(descriptionOf(control(label)), QString());
 }
 
-TEST_F(SettingsHelp, TellsWhatChangesNothingInTheMenuBar) {
+TEST_F(SettingsHelp, ExplainsSettingsWithoutEffectOnTheMenuBar) {
     for (const QStringView label : {u"Bar Chart", u"Percentage", u"Compact Mode"})
         EXPECT_EQ(descriptionOf(control(label)), unchangedBar);
     for (const QStringView label : {u"Use Fahrenheit", u"Launch at Login", u"Sparkline"})
         EXPECT_EQ(descriptionOf(control(label)), QString());
 }
 
-TEST_F(SettingsHelp, IsShownWhereThePointerRests) {
+TEST_F(SettingsHelp, AppearsWhereThePointerRests) {
     const QList<std::pair<QStringView, QString>> helped{
         {u"Percentage", unchangedBar}, {u"Compact Mode", unchangedBar}, {u"2s", shortInterval}};
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
@@ -64,7 +64,7 @@ TEST_F(SettingsHelp, IsShownWhereThePointerRests) {
     }
 }
 
-TEST_F(SettingsHelp, IsShownBelowWhereThereIsNoRoomAbove) {
+TEST_F(SettingsHelp, AppearsBelowTheControlWithoutRoomAbove) {
     QQuickItem* hovered = control(u"2s");
     const double top = hovered->mapToItem(item("interval")->parentItem(), {0, 0}).y();
     QMetaObject::invokeMethod(item("scroller"), "scrollTo", Q_ARG(QVariant, top));
@@ -74,14 +74,14 @@ TEST_F(SettingsHelp, IsShownBelowWhereThereIsNoRoomAbove) {
     EXPECT_GT(shownHelp().first()->mapToScene({0, 0}).y(), hovered->mapToScene({0, 0}).y());
 }
 
-TEST_F(SettingsHelp, IsShownWhereTheKeysAre) {
+TEST_F(SettingsHelp, AppearsAtTheFocusedControl) {
     QQuickItem* focused = control(u"Compact Mode");
     focused->forceActiveFocus(Qt::TabFocusReason);
     expectShown(*focused, unchangedBar);
     control(u"Use Fahrenheit")->forceActiveFocus(Qt::TabFocusReason);
     EXPECT_TRUE(shownHelp().isEmpty());
     press(Qt::Key_Escape);
-    EXPECT_FALSE(view->isVisible()) << "a help text takes no key";
+    EXPECT_FALSE(view->isVisible()) << "a help text handles no key";
 }
 
 } // namespace

@@ -5,7 +5,7 @@ namespace {
 
 using SettingsKeys = SettingsFixture;
 
-TEST_F(SettingsKeys, ReachEveryControlInTheOrderInWhichItStands) {
+TEST_F(SettingsKeys, ReachEveryControlFromTopToBottom) {
     openOverrides();
     settings.setUseCustomCPUColor(true);
     item("scroller")->forceActiveFocus();
@@ -26,13 +26,13 @@ TEST_F(SettingsKeys, ReachEveryControlInTheOrderInWhichItStands) {
                        "Own color for Sensors|Launch at Login|Quit"));
 }
 
-TEST_F(SettingsKeys, BringWhatTheyReachIntoView) {
+TEST_F(SettingsKeys, ScrollTheFocusedControlIntoView) {
     item("scroller")->forceActiveFocus();
     const QQuickItem* scroller = item("scroller");
     for (int count = 0; count < 22; ++count) {
         press(Qt::Key_Tab);
         const QRectF place = focused()->mapRectToScene({0, 0, focused()->width(), focused()->height()});
-        // With the mark of the focus, which is around it.
+        // Including the focus ring around it.
         EXPECT_GE(place.top(), 4) << nameOf(focused()).toStdString();
         EXPECT_LE(place.bottom(), scroller->height() - 4) << nameOf(focused()).toStdString();
     }
@@ -54,14 +54,14 @@ TEST_F(SettingsKeys, ChooseWithTheArrows) {
     EXPECT_EQ(settings.updateInterval(), 5);
     EXPECT_EQ(nameOf(focused()), QStringLiteral("5s"));
     press(Qt::Key_Right);
-    press(Qt::Key_Right); // there is none after the last
+    press(Qt::Key_Right); // the last segment stays chosen
     EXPECT_EQ(settings.updateInterval(), 10);
     for (int count = 0; count < 6; ++count)
         press(Qt::Key_Left);
     EXPECT_EQ(settings.updateInterval(), 1);
 }
 
-TEST_F(SettingsKeys, MoveOverTheThemesInRowsAndColumns) {
+TEST_F(SettingsKeys, MoveThroughTheThemesByRowAndColumn) {
     const int columns = group(u"Theme")->property("columns").toInt();
     EXPECT_EQ(columns, 4);
     control(u"Midnight")->forceActiveFocus();
@@ -73,14 +73,14 @@ TEST_F(SettingsKeys, MoveOverTheThemesInRowsAndColumns) {
     EXPECT_EQ(themes.currentTheme().id, builtInThemes()[1].id);
 }
 
-TEST_F(SettingsKeys, ChooseTheFirstOfAGroupWithoutAChoice) {
+TEST_F(SettingsKeys, ChooseTheFirstButtonOfAGroupWithoutAChoice) {
     settings.setUpdateInterval(4);
     control(u"1s")->forceActiveFocus();
     press(Qt::Key_Space);
     EXPECT_EQ(settings.updateInterval(), 1);
 }
 
-TEST_F(SettingsKeys, UnfoldTheOverrides) {
+TEST_F(SettingsKeys, ExpandTheOverrides) {
     item("disclosure")->forceActiveFocus();
     press(Qt::Key_Space);
     EXPECT_TRUE(item("customColors")->property("active").toBool());
@@ -105,7 +105,7 @@ TEST_F(SettingsKeys, CloseTheWindowFromAnyControl) {
     EXPECT_FALSE(view->isVisible());
 }
 
-TEST_F(SettingsKeys, ScrollWhereNoControlTakesThem) {
+TEST_F(SettingsKeys, ScrollWhenNoControlUsesThem) {
     QQuickItem* scroller = item("scroller");
     scroller->forceActiveFocus();
     press(Qt::Key_End);
@@ -115,7 +115,7 @@ TEST_F(SettingsKeys, ScrollWhereNoControlTakesThem) {
     EXPECT_EQ(scroller->property("contentY").toDouble(), 0);
 }
 
-TEST_F(SettingsKeys, AreShownWhereTheyAct) {
+TEST_F(SettingsKeys, MarkTheFocusedControl) {
     openOverrides();
     settings.setUseCustomCPUColor(true);
     for (QQuickItem* each : items([](QQuickItem* candidate) {
@@ -128,7 +128,7 @@ TEST_F(SettingsKeys, AreShownWhereTheyAct) {
     }
 }
 
-TEST_F(SettingsKeys, AreNotShownToWhoUsesTheMouse) {
+TEST_F(SettingsKeys, MarkNoControlThatTheMouseFocused) {
     openOverrides();
     settings.setUseCustomCPUColor(true);
     QQuickItem* well = item("well", overrideRow(u"CPU"));
@@ -150,7 +150,7 @@ TEST_F(SettingsKeys, AreNotShownToWhoUsesTheMouse) {
     }
 }
 
-TEST_F(SettingsKeys, StartAnewWhenTheWindowOpensAgain) {
+TEST_F(SettingsKeys, StartAtTheTopWheneverTheWindowOpens) {
     control(u"Quit")->forceActiveFocus(Qt::TabFocusReason);
     EXPECT_GT(item("scroller")->property("contentY").toDouble(), 100);
     view->close();
@@ -161,7 +161,7 @@ TEST_F(SettingsKeys, StartAnewWhenTheWindowOpensAgain) {
     EXPECT_EQ(nameOf(focused()), QStringLiteral("CPU"));
 }
 
-TEST_F(SettingsKeys, FindNamesAndRolesOnEverything) {
+TEST_F(SettingsKeys, ReachControlsThatAllHaveANameAndARole) {
     openOverrides();
     settings.setUseCustomCPUColor(true);
     int count = 0;
@@ -175,7 +175,7 @@ TEST_F(SettingsKeys, FindNamesAndRolesOnEverything) {
         ++count;
     }
     // 6 modules, 2 + 2 + 5 displays and intervals, 12 themes, 8 graphs, 4 bars, 4 rings, 5 + 4 + 4 choices,
-    // the overrides with 6 switches and a colour, the login and the end.
+    // the overrides with 6 switches and a color well, launch at login, quit.
     EXPECT_EQ(count, 6 + 9 + 12 + 8 + 4 + 4 + 13 + 8 + 2);
 }
 

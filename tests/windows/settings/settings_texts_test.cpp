@@ -4,7 +4,7 @@
 namespace orvelle {
 namespace {
 
-// ctest runs these with a wider and with a narrower font too.
+// ctest also runs these in a wider and in a narrower font.
 class SettingsTexts : public SettingsFixture {
 protected:
     void expectReadable() {
@@ -12,7 +12,7 @@ protected:
         expectReadableTexts(*view->contentItem());
     }
 
-    /// Chooses the same place of every group: what is chosen is written in bolder letters.
+    /// Chooses the same index in every group, because a chosen label is bolder.
     void chooseEverywhere(int index) {
         const QList<QQuickItem*> groups =
             items([](const QQuickItem* each) { return each->property("chosenIndex").isValid(); });
@@ -25,11 +25,11 @@ protected:
     }
 };
 
-TEST_F(SettingsTexts, AreWrittenInTheFontOfThisRun) {
+TEST_F(SettingsTexts, UseTheFontOfThisRun) {
     expectTheFontsOfThisRun();
 }
 
-TEST_F(SettingsTexts, CanBeReadAtTheUsualAndTheSmallestSizeWhateverIsChosen) {
+TEST_F(SettingsTexts, AreReadableAtBothSizesForEveryChoice) {
     openOverrides();
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
         view->resize(size);
@@ -40,17 +40,18 @@ TEST_F(SettingsTexts, CanBeReadAtTheUsualAndTheSmallestSizeWhateverIsChosen) {
     }
 }
 
-TEST_F(SettingsTexts, CanBeReadInAFontThatIsHalfAsWideAgain) {
+TEST_F(SettingsTexts, AreReadableInAFontHalfAsWideAgain) {
     openOverrides();
     spreadLetters(*view->contentItem(), 150);
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
         view->resize(size);
         expectReadable();
-        EXPECT_EQ(group(u"CPU Display")->property("columns").toInt(), 2) << "it takes the room that there is";
+        EXPECT_EQ(group(u"CPU Display")->property("columns").toInt(), 2)
+            << "the segments use the available width";
     }
 }
 
-TEST_F(SettingsTexts, CanBeReadWhenSomethingWentWrong) {
+TEST_F(SettingsTexts, AreReadableBelowANotice) {
     login.error = QStringLiteral("Orvelle could not be kept from starting at login.");
     Q_EMIT login.errorChanged();
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
@@ -60,7 +61,7 @@ TEST_F(SettingsTexts, CanBeReadWhenSomethingWentWrong) {
     }
 }
 
-TEST_F(SettingsTexts, CanBeReadWhileAColourIsChosen) {
+TEST_F(SettingsTexts, AreReadableInTheColorPicker) {
     settings.setUseCustomCPUColor(true);
     openOverrides();
     view->resize(smallestSettingsSize);

@@ -3,18 +3,16 @@ import QtQuick.Templates as T
 import Orvelle.Common
 import Orvelle.Settings
 
+/// A button that the pointer, Space, Return and assistive programs press.
 T.AbstractButton {
     id: button
 
-    text: "Quit"
-    padding: 4
-    leftPadding: 8
-    rightPadding: 8
+    property color hoveredColor: Look.hovered
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
@@ -22,17 +20,10 @@ T.AbstractButton {
 
     background: Rectangle {
         radius: 5
-        color: button.down ? Look.pressed : button.hovered ? Look.hovered : Look.clear
+        color: button.down ? Look.pressed : button.hovered ? button.hoveredColor : Look.clear
         KeyRing {
             control: button
             radius: 5
         }
-    }
-    contentItem: PlainText {
-        text: button.text
-        size: 10
-        weight: Font.Medium
-        color: Look.red
-        Accessible.ignored: true
     }
 }

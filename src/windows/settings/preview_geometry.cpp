@@ -1,11 +1,10 @@
-#include "windows/settings/preview_rules.h"
+#include "windows/settings/preview_geometry.h"
 
 #include "charts/canvas.h"
 #include "charts/continuous_rounded_rect.h"
 #include "charts/line_geometry.h"
 #include "charts/ring_geometry.h"
 #include "charts/sparkline_view.h"
-#include "windows/settings/shared_widths.h"
 
 #include <algorithm>
 #include <array>
@@ -30,9 +29,6 @@ constexpr double cardDotGap = 4;
 constexpr double cardBarGap = 3;
 constexpr double cardInset = 4;
 
-constexpr double smallestColumn = 80;
-constexpr double largestColumn = 120;
-
 } // namespace
 
 QPainterPath previewLine(GraphLineStyle style, const QSizeF& canvas) {
@@ -45,7 +41,7 @@ QPen previewLinePen(GraphLineStyle style, const QColor& color) {
     QPen pen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::SvgMiterJoin);
     pen.setMiterLimit(miterLimit);
     if (style == GraphLineStyle::dotted)
-        pen.setDashPattern({dashLength / lineWidth, gapLength / lineWidth}); // in widths of the pen
+        pen.setDashPattern({dashLength / lineWidth, gapLength / lineWidth}); // in units of the pen's width
     return pen;
 }
 
@@ -88,7 +84,7 @@ PreviewRing previewRing(RingChartStyle style, const QSizeF& frame) {
     const QRectF circle = inMiddle(previewRingSide - previewRingStroke);
     const double rotation = ringRotation(style);
     const QPainterPath track = trimmedCircle(circle, ringTrack(style), rotation);
-    // The stroke with its round ends reaches out of the path equally on all sides.
+    // The stroke and its round caps extend the path equally on all sides.
     const double drop = frame.height() / 2 - track.boundingRect().center().y();
     return {track.translated(0, drop),
             trimmedCircle(circle, ringProgress(style, previewRingFraction), rotation).translated(0, drop),
@@ -113,18 +109,6 @@ ThemeCardLayout themeCardLayout(const QRectF& content) {
         x += width + cardBarGap;
     }
     return layout;
-}
-
-QList<double> themeGridColumns(double availableWidth, int cardCount) {
-    const double fitting = (availableWidth + themeGridSpacing) / (smallestColumn + themeGridSpacing);
-    const int count = fitting > 1 ? static_cast<int>(std::min<double>(fitting, cardCount)) : 1;
-    const double columnsWidth = availableWidth - (count - 1) * themeGridSpacing;
-    return sharedWidths(QList<double>(count, 0),
-                        std::clamp(columnsWidth, count * smallestColumn, count * largestColumn));
-}
-
-double largestThemeGridWidth(int cardCount) {
-    return cardCount * (largestColumn + themeGridSpacing) - themeGridSpacing;
 }
 
 } // namespace orvelle

@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-using SettingsLook = SettingsFixture;
+using SettingsAppearance = SettingsFixture;
 using ThemeCards = SettingsFixture;
 using StylePreviews = SettingsFixture;
 
@@ -31,7 +31,7 @@ QRectF placeOf(const QQuickItem* item) {
 TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
     ManualAnimations animations;
     const auto passTime = [&](qint64 milliseconds) {
-        settle(); // what begins to move begins with the next event
+        settle(); // an animation starts with the next event
         animations.pass(milliseconds);
     };
     QQuickItem* card = control(u"Midnight");
@@ -43,7 +43,7 @@ TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
     QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(card)));
     QTest::mouseMove(view.get(), card->mapToScene({card->width() / 2, card->height() / 2}).toPoint());
     passTime(75);
-    EXPECT_NEAR(card->scale(), 1.025, 1e-6) << "it takes its time";
+    EXPECT_NEAR(card->scale(), 1.025, 1e-6) << "half way";
     passTime(75);
     EXPECT_EQ(card->scale(), 1.05);
     EXPECT_EQ(colorOf(selected), SystemColors::blue);
@@ -59,7 +59,7 @@ TEST_F(ThemeCards, GrowUnderThePointerAndShowBothOutlines) {
     EXPECT_EQ(colorOf(hovered).alpha(), 0);
 }
 
-TEST_F(ThemeCards, GrowAtOnceWhereTheUserWantsNoMotion) {
+TEST_F(ThemeCards, GrowAtOnceWithReducedMotion) {
     AnimationClock::shared().setReduced(true);
     QQuickItem* card = control(u"Midnight");
     card->setProperty("isHovered", true);
@@ -67,7 +67,7 @@ TEST_F(ThemeCards, GrowAtOnceWhereTheUserWantsNoMotion) {
     AnimationClock::shared().setReduced(false);
 }
 
-TEST_F(ThemeCards, ShowTheThemesNameBelowAFaceInItsColours) {
+TEST_F(ThemeCards, ShowTheThemesNameBelowItsColors) {
     const QQuickItem* nord = control(u"Nord");
     const QQuickItem* name = item("name", nord);
     EXPECT_EQ(fontOf(name).weight(), QFont::Medium);
@@ -79,7 +79,7 @@ TEST_F(ThemeCards, ShowTheThemesNameBelowAFaceInItsColours) {
     EXPECT_EQ(colorOf(name), SystemColors::white);
 }
 
-TEST_F(StylePreviews, OutlineWhatIsChosenInBlueAndTheOthersFaintly) {
+TEST_F(StylePreviews, OutlineTheChosenStyleInBlueAndTheOthersFaintly) {
     for (const auto& [chosen, other] : {std::pair(u"Smooth", u"Dotted"), std::pair(u"Rounded", u"Thin Lines"),
                                         std::pair(u"Full Ring", u"Pie Chart")}) {
         const QQuickItem* outline = item("outline", control(chosen));
@@ -107,7 +107,7 @@ QImage pictureOf(const QQuickView& view, const QQuickItem& item) {
         item.mapRectToScene({0, 0, item.width(), item.height()}).toAlignedRect());
 }
 
-TEST_F(StylePreviews, AreDrawnInTheModulesColour) {
+TEST_F(StylePreviews, UseTheModulesColor) {
     QQuickItem* button = control(u"Square");
     QMetaObject::invokeMethod(item("scroller"), "reveal", Q_ARG(QVariant, QVariant::fromValue(button)));
     settings.setCustomCPUColorHex(QStringLiteral("#00FF00"));
@@ -115,7 +115,7 @@ TEST_F(StylePreviews, AreDrawnInTheModulesColour) {
     settings.setUseCustomCPUColor(true);
     const QImage after = pictureOf(*view, *button);
     EXPECT_NE(before, after);
-    // The second bar, 14 points high, stands 14 points from the left edge of the 50 x 24 frame.
+    // The second bar, 14 points high, is 14 points from the left edge of the 50 x 24 frame.
     const QPointF corner = button->mapFromItem(item("outline", button), {0, 0});
     const QColor bar = after.pixelColor((corner + QPointF(17, 20)).toPoint());
     EXPECT_GT(bar.green(), 190);
@@ -132,7 +132,7 @@ void expectTextsInside(const QList<QQuickItem*>& texts, double width) {
     }
 }
 
-TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
+TEST_F(SettingsAppearance, FitsEverythingIntoASmallAndALargeWindow) {
     openOverrides();
     for (const QSize& size : {settingsSize, smallestSettingsSize, QSize(1400, 900)}) {
         resizeTo(size);
@@ -146,7 +146,7 @@ TEST_F(SettingsLook, KeepsEverythingInsideASmallAndALargeWindow) {
     }
 }
 
-TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualAndItsSmallestSize) {
+TEST_F(SettingsAppearance, CutsNoTextAtTheUsualAndTheSmallestSize) {
     openOverrides();
     for (const QSize& size : {settingsSize, smallestSettingsSize}) {
         resizeTo(size);
@@ -157,7 +157,7 @@ TEST_F(SettingsLook, ShowsEveryTextWholeAtItsUsualAndItsSmallestSize) {
     }
 }
 
-TEST_F(SettingsLook, StandsInLineWithTheTitlesAndTheLinesBetweenThem) {
+TEST_F(SettingsAppearance, AlignsControlsWithTitlesAndDividers) {
     openOverrides();
     const auto place = [](const QQuickItem* each) {
         return each->mapRectToScene({0, 0, each->width(), each->height()});
@@ -169,7 +169,7 @@ TEST_F(SettingsLook, StandsInLineWithTheTitlesAndTheLinesBetweenThem) {
     EXPECT_EQ(place(control(u"Midnight")).left(), 16);
     EXPECT_EQ(place(control(u"Dracula")).right(), 444);
     EXPECT_EQ(place(control(u"Striped")).right(), 444);
-    // What shows the focus and the pointer leaves room around the row.
+    // The background for focus and hover extends beyond the row.
     for (const QQuickItem* row : {control(u"Use Fahrenheit"), item("disclosure")}) {
         const QRectF ground = place(row->property("background").value<QQuickItem*>());
         EXPECT_EQ(ground.left(), 10);
@@ -177,7 +177,7 @@ TEST_F(SettingsLook, StandsInLineWithTheTitlesAndTheLinesBetweenThem) {
     }
 }
 
-TEST_F(SettingsLook, OutlinesAPreviewOverItsDrawing) {
+TEST_F(SettingsAppearance, PaintsThePreviewsOutlineOverItsDrawing) {
     for (const QQuickItem* outline :
          items([](const QQuickItem* each) { return each->objectName() == QLatin1String("outline"); })) {
         for (const QQuickItem* sibling : outline->parentItem()->childItems())
@@ -185,7 +185,7 @@ TEST_F(SettingsLook, OutlinesAPreviewOverItsDrawing) {
     }
 }
 
-TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
+TEST_F(SettingsAppearance, ShowsAsManyThemesSideBySideAsFit) {
     resizeTo(smallestSettingsSize);
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 3);
     resizeTo({600, 640});
@@ -194,7 +194,7 @@ TEST_F(SettingsLook, FitsAsManyThemesSideBySideAsTheWindowHolds) {
     EXPECT_EQ(group(u"Theme")->property("columns").toInt(), 9);
 }
 
-TEST_F(SettingsLook, KeepsTheThemesInTheMiddleOfALargeWindow) {
+TEST_F(SettingsAppearance, CentersTheThemesInALargeWindow) {
     for (const int width : {700, 701, 1000, 1400, 2500}) {
         resizeTo({width, 640});
         const QRectF first = placeOf(control(u"Midnight"));
@@ -206,15 +206,15 @@ TEST_F(SettingsLook, KeepsTheThemesInTheMiddleOfALargeWindow) {
         EXPECT_EQ(first.left(), std::round(first.left())) << "crisp";
         if (width >= 1400) {
             EXPECT_EQ(last.top(), first.top()) << "one row";
-            EXPECT_EQ(last.right(), grid.right()) << "no column stays empty";
+            EXPECT_EQ(last.right(), grid.right()) << "no column is empty";
         }
         const QRectF lines = placeOf(item("display"));
-        EXPECT_EQ(lines.width(), 588) << "lines that are read stay short";
-        EXPECT_EQ(placeOf(item("themes")).left(), lines.left()) << "the titles stand in line";
+        EXPECT_EQ(lines.width(), 588) << "rows of text stay short";
+        EXPECT_EQ(placeOf(item("themes")).left(), lines.left()) << "titles are aligned";
     }
 }
 
-TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
+TEST_F(SettingsAppearance, ExplainsTheColorWellWithATooltip) {
     openOverrides();
     settings.setUseCustomCPUColor(true);
     QQuickItem* well = item("well", overrideRow(u"CPU"));
@@ -232,7 +232,7 @@ TEST_F(SettingsLook, ExplainsTheColourWellThatStandsWithoutAText) {
     }));
 }
 
-TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
+TEST_F(SettingsAppearance, OpensTheColorPickerWithoutCoveringItsWell) {
     settings.setUseCustomCPUColor(true);
     settings.setUseCustomSensorColor(true);
     openOverrides();
@@ -242,7 +242,7 @@ TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
     for (const QStringView module : {u"CPU", u"Sensors"}) {
         QQuickItem* well = item("well", overrideRow(module));
         QQuickItem* scroller = item("scroller");
-        // The well stands at the window's bottom edge, and then at its top edge.
+        // The well is at the bottom edge of the window, then at its top edge.
         for (const double offset : {scroller->height() - 30, 30.0}) {
             const double top = well->mapToItem(item("overrides")->parentItem(), {0, 0}).y();
             QMetaObject::invokeMethod(scroller, "scrollTo", Q_ARG(QVariant, top - offset));
@@ -259,13 +259,13 @@ TEST_F(SettingsLook, OpensTheColourPickerBesideTheWellThatItBelongsTo) {
     }
 }
 
-TEST_F(SettingsLook, IsTitledAndHasTheUsualSize) {
+TEST_F(SettingsAppearance, HasATitleAndTheUsualSize) {
     EXPECT_EQ(view->title(), QStringLiteral("Orvelle Settings"));
     EXPECT_EQ(view->size(), QSize(460, 640));
     EXPECT_EQ(view->color(), QColor::fromRgbF(0.1F, 0.1F, 0.1F));
 }
 
-TEST_F(SettingsLook, RestsWhileNothingChanges) {
+TEST_F(SettingsAppearance, PaintsNothingWhileNothingChanges) {
     int frames = 0;
     QObject::connect(view.get(), &QQuickWindow::afterRendering, view.get(), [&] { ++frames; });
     passAMoment();
@@ -276,7 +276,7 @@ TEST_F(SettingsLook, RestsWhileNothingChanges) {
     settings.setShowDisk(true);
     settings.setSelectedThemeId(QStringLiteral("nord"));
     settle();
-    EXPECT_EQ(frames, 0) << "nobody can see it";
+    EXPECT_EQ(frames, 0) << "the window is closed";
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "charts/sparkline_view.h"
-#include "windows/settings/preview_rules.h"
+#include "windows/settings/preview_geometry.h"
 
 #include <QLineF>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ void expectNear(const QPointF& point, double x, double y) {
     EXPECT_NEAR(point.y(), y, 1e-9);
 }
 
-TEST(PreviewLineTest, JoinsSevenSamplesStraight) {
+TEST(PreviewLineTest, JoinsSevenSamplesByStraightLines) {
     const std::array samples{0.3, 0.6, 0.4, 0.8, 0.5, 0.7, 0.3};
     for (const GraphLineStyle style : {GraphLineStyle::sharp, GraphLineStyle::dotted}) {
         const QPainterPath line = previewLine(style, frame);
@@ -32,7 +32,7 @@ TEST(PreviewLineTest, JoinsSevenSamplesStraight) {
     }
 }
 
-TEST(PreviewLineTest, IsLevelAtItsPointsWhereItIsSmooth) {
+TEST(PreviewLineTest, IsHorizontalAtEachSampleWhenSmooth) {
     const QPainterPath line = previewLine(GraphLineStyle::smooth, frame);
     ASSERT_EQ(line.elementCount(), 1 + 6 * 3);
     const double middle = 50.0 / 12;
@@ -42,14 +42,14 @@ TEST(PreviewLineTest, IsLevelAtItsPointsWhereItIsSmooth) {
     expectNear(elementAt(line, 3), 50.0 / 6, 24 - 24 * 0.6);
 }
 
-TEST(PreviewLineTest, GoesAcrossAndThenUpOrDownInSteps) {
+TEST(PreviewLineTest, MovesHorizontallyAndThenVerticallyWhenStepped) {
     const QPainterPath line = previewLine(GraphLineStyle::stepped, frame);
     ASSERT_EQ(line.elementCount(), 1 + 6 * 2);
     expectNear(elementAt(line, 1), 50.0 / 6, 24 - 24 * 0.3);
     expectNear(elementAt(line, 2), 50.0 / 6, 24 - 24 * 0.6);
 }
 
-TEST(PreviewLineTest, IsDashedOnlyWhereItIsDotted) {
+TEST(PreviewLineTest, IsDashedOnlyWhenDotted) {
     for (const GraphLineStyle style :
          {GraphLineStyle::smooth, GraphLineStyle::sharp, GraphLineStyle::stepped, GraphLineStyle::dotted}) {
         const QPen pen = previewLinePen(style, Qt::red);
@@ -65,7 +65,7 @@ TEST(PreviewLineTest, IsDashedOnlyWhereItIsDotted) {
     EXPECT_DOUBLE_EQ(dashes[1] * 1.5, 3);
 }
 
-TEST(PreviewBarsTest, StandOnTheBottomTwoPointsApartAndAsHighAsTheirSamples) {
+TEST(PreviewBarsTest, StandOnTheBottomTwoPointsApartInTheHeightOfTheirSamples) {
     const std::array heights{8.0, 14.0, 10.0, 18.0, 6.0};
     for (const BarChartStyle style :
          {BarChartStyle::rounded, BarChartStyle::square, BarChartStyle::pill, BarChartStyle::thinLine}) {
@@ -83,7 +83,7 @@ TEST(PreviewBarsTest, StandOnTheBottomTwoPointsApartAndAsHighAsTheirSamples) {
     }
 }
 
-TEST(PreviewBarsTest, AreShapedByTheirStyle) {
+TEST(PreviewBarsTest, HaveTheShapeOfTheirStyle) {
     const QRectF bar(0, 0, 6, 18);
     const auto corner = [&](BarChartStyle style, double offset) {
         return previewBarShape(style, bar).contains(QPointF(offset, offset));
@@ -99,12 +99,12 @@ TEST(PreviewBarsTest, AreShapedByTheirStyle) {
         EXPECT_EQ(previewBarShape(style, bar).boundingRect(), bar);
 }
 
-/// The direction from the middle of a ring to a point, degrees clockwise from three o'clock.
+/// The angle of a point around a ring's center, in degrees clockwise from three o'clock.
 double angleOf(const QPointF& point, double middle = 12) {
     return -QLineF({25, middle}, point).angle() + 360;
 }
 
-/// What a line covers: the stroke lies half outside of its path.
+/// The bounds of the stroke, half of which lies outside of its path.
 QRectF inkedBounds(const QPainterPath& line) {
     QPainterPathStroker stroker;
     stroker.setWidth(previewRingStroke);
@@ -112,7 +112,7 @@ QRectF inkedBounds(const QPainterPath& line) {
     return stroker.createStroke(line).boundingRect();
 }
 
-TEST(PreviewRingTest, FillsSevenTenthsOfATrackThatIsShapedByTheStyle) {
+TEST(PreviewRingTest, FillsSevenTenthsOfTheStylesTrack) {
     const PreviewRing ring = previewRing(RingChartStyle::fullRing, frame);
     EXPECT_FALSE(ring.isFilled);
     expectNear(ring.progress.pointAtPercent(0), 25, 12 - 9.5);
@@ -130,7 +130,7 @@ TEST(PreviewRingTest, FillsSevenTenthsOfATrackThatIsShapedByTheStyle) {
     EXPECT_NEAR(angleOf(arc.progress.currentPosition(), arcMiddle), 135 + 0.7 * 270, 0.1);
 }
 
-TEST(PreviewRingTest, StandsInTheMiddleOfTheFrameWithAllThatIsPainted) {
+TEST(PreviewRingTest, CentersItsVisiblePartInTheFrame) {
     for (const RingChartStyle style :
          {RingChartStyle::fullRing, RingChartStyle::halfGauge, RingChartStyle::arcGauge}) {
         const QRectF inked = inkedBounds(previewRing(style, frame).track);
@@ -140,7 +140,7 @@ TEST(PreviewRingTest, StandsInTheMiddleOfTheFrameWithAllThatIsPainted) {
     }
 }
 
-TEST(PreviewRingTest, CutsAWedgeFromTwelveOClockWhereItIsAPie) {
+TEST(PreviewRingTest, CutsAWedgeFromTwelveOClockWhenItIsAPie) {
     const PreviewRing pie = previewRing(RingChartStyle::pieChart, frame);
     EXPECT_TRUE(pie.isFilled);
     const auto at = [](double degrees) {
@@ -154,56 +154,19 @@ TEST(PreviewRingTest, CutsAWedgeFromTwelveOClockWhereItIsAPie) {
     EXPECT_TRUE(pie.track.contains(at(-92)));
 }
 
-TEST(ThemeCardTest, KeepsItsBarsAndDotsApartAndInside) {
+TEST(ThemeCardTest, SeparatesItsBarsAndDotsInsideTheCard) {
     for (const double width : {72.0, 92.0, 112.0}) {
         const QRectF content(0, 0, width, 58);
         const ThemeCardLayout layout = themeCardLayout(content);
         ASSERT_EQ(layout.bars.size(), 6);
         ASSERT_EQ(layout.dots.size(), 5);
-        for (const QRectF& part : layout.bars + layout.dots)
-            EXPECT_TRUE(content.contains(part));
+        for (const QRectF& shape : layout.bars + layout.dots)
+            EXPECT_TRUE(content.contains(shape));
         for (qsizetype index = 1; index < layout.bars.size(); ++index)
             EXPECT_GT(layout.bars[index].left(), layout.bars[index - 1].right());
         EXPECT_LT(layout.bars.first().bottom(), layout.dots.first().top());
         EXPECT_NEAR(layout.bars.first().left(), width - layout.bars.last().right(), 1e-9);
     }
-}
-
-TEST(ThemeGridTest, FitsAsManyColumnsAsTheWidthHolds) {
-    EXPECT_EQ(themeGridColumns(440, 12), QList<double>({80, 80, 80, 80, 80}));
-    EXPECT_EQ(themeGridColumns(439, 12).size(), 4);
-    EXPECT_EQ(themeGridColumns(169, 12), QList<double>({120})) << "no wider than the widest";
-    EXPECT_EQ(themeGridColumns(170, 12), QList<double>({80, 80}));
-}
-
-TEST(ThemeGridTest, FillsTheWidthWithColumnsOfWholePointsUnlessTheyAreAtTheirWidest) {
-    EXPECT_EQ(themeGridColumns(428, 12), QList<double>({100, 99, 100, 99}));
-    for (int width = 170; width < 700; ++width) {
-        const QList<double> columns = themeGridColumns(width, 12);
-        double end = -themeGridSpacing;
-        for (const double column : columns) {
-            EXPECT_EQ(column, std::round(column));
-            EXPECT_TRUE(column >= 80 && column <= 120) << column;
-            end += themeGridSpacing + column;
-        }
-        const double widest =
-            static_cast<double>(columns.size()) * (120 + themeGridSpacing) - themeGridSpacing;
-        EXPECT_EQ(end, std::min<double>(width, widest));
-    }
-}
-
-TEST(ThemeGridTest, HasNoMoreColumnsThanCards) {
-    EXPECT_EQ(themeGridColumns(428, 3), QList<double>({120, 120, 120}));
-    EXPECT_EQ(themeGridColumns(1400, 12).size(), 12);
-    EXPECT_EQ(themeGridColumns(largestThemeGridWidth(12), 12), QList<double>(12, 120));
-    EXPECT_EQ(largestThemeGridWidth(12), 12 * 120 + 11 * themeGridSpacing);
-}
-
-TEST(ThemeGridTest, HasAColumnWhateverTheWidth) {
-    for (const double width : {0.0, -10.0, std::nan(""), 10.0}) {
-        EXPECT_EQ(themeGridColumns(width, 12).size(), 1);
-    }
-    EXPECT_EQ(themeGridColumns(1e300, 12).size(), 12);
 }
 
 } // namespace
