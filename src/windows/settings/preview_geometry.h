@@ -1,6 +1,5 @@
 #pragma once
 
-#include "charts/any_shape.h"
 #include "settings/styles.h"
 
 #include <QColor>
@@ -21,7 +20,7 @@ namespace orvelle {
 [[nodiscard]] QList<QRectF> previewBars(BarChartStyle style, const QSizeF& frame);
 
 /// The outline of a bar.
-[[nodiscard]] AnyShape previewBarShape(BarChartStyle style);
+[[nodiscard]] QPainterPath previewBarShape(BarChartStyle style, const QRectF& bar);
 
 inline constexpr double previewRingSide = 22;
 inline constexpr double previewRingStroke = 3;

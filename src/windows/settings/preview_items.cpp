@@ -49,9 +49,8 @@ void StyleDrawing::paintLine(QPainter& painter) const {
 
 void StyleDrawing::paintBars(QPainter& painter) const {
     const auto style = static_cast<BarChartStyle>(m_style);
-    const AnyShape shape = previewBarShape(style);
     for (const QRectF& bar : previewBars(style, size()))
-        painter.fillPath(shape.path(bar), withOpacity(m_color, barOpacity));
+        painter.fillPath(previewBarShape(style, bar), withOpacity(m_color, barOpacity));
 }
 
 void StyleDrawing::paintRing(QPainter& painter) const {
