@@ -60,7 +60,7 @@ bool isListed(const NetworkInterfaceInfo& info) {
     return info.bytesIn != 0 || info.bytesOut != 0 || info.ipv4Address.has_value();
 }
 
-/// Lets interfaces of a known kind be told apart: those that read as another does get their names behind.
+/// Appends the names of interfaces of a known kind that would otherwise read alike.
 void tellApart(QList<NetworkInterfaceInfo>& interfaces) {
     std::map<QString, int> counts;
     for (const NetworkInterfaceInfo& info : interfaces)

@@ -37,7 +37,7 @@ public:
     std::optional<QString> ipv4Address; ///< in numeric form
     std::optional<QString> ipv6Address; ///< in numeric form, never link-local
     InterfaceKind kind = InterfaceKind::unknown;
-    /// Metric of the IPv4 default route that leads here; nothing where none does or the system does not tell.
+    /// Metric of the IPv4 default route that leads here; nothing without such a route and when unknown.
     std::optional<quint32> defaultRouteMetric;
 
     [[nodiscard]] QVariant ipv4AddressValue() const;
@@ -46,8 +46,8 @@ public:
     bool operator==(const NetworkInterfaceInfo&) const = default;
 };
 
-/// What an interface is called in front of the user: by its kind; where that is unknown by the first part of
-/// its name, else by the name itself.
+/// The name of an interface for display: by its kind; when that is unknown by the prefix of its name, else
+/// the name itself.
 [[nodiscard]] QString interfaceDisplayName(const QString& name, InterfaceKind kind = InterfaceKind::unknown);
 
 /// Samples the network interfaces that are up, loopbacks left out. Main thread only.

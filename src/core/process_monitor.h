@@ -54,7 +54,7 @@ public:
     [[nodiscard]] const QList<ProcessInfo>& topCPUProcesses() const { return m_topCPUProcesses; }
     /// By `memoryBytes` descending; equal ones in the order the system lists them.
     [[nodiscard]] const QList<ProcessInfo>& topMemoryProcesses() const { return m_topMemoryProcesses; }
-    /// Bytes of physical memory, 0 when the system did not tell.
+    /// Bytes of physical memory, 0 when unknown.
     [[nodiscard]] quint64 totalMemory() const { return m_totalMemory; }
 
     /// Publishes both lists anew, empty when the processes cannot be listed.

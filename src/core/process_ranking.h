@@ -23,7 +23,7 @@ struct ProcessTimes {
 /// are looked up in every sample and nearly all of them are the ones of the sample before.
 class ProcessTimesByPid {
 public:
-    /// Begins a sample of so many processes: from here on none of them has been seen.
+    /// Begins a sample of `processCount` processes, none of which has been seen yet.
     void beginSample(std::size_t processCount);
     /// The times of `pid`, which counts as seen from now on; null for an unknown process. Valid until the
     /// next call of any other member.

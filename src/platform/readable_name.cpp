@@ -13,8 +13,8 @@ struct Character {
     std::string_view bytes;
 };
 
-/// How many bytes a character has that begins with `first`, and the least code that needs so many; a shorter
-/// spelling exists for anything less. Nothing when no character begins so.
+/// The size of a character that begins with a given byte, and the least code that needs that size: a lesser
+/// code has a shorter spelling.
 struct Form {
     std::size_t size = 0;
     char32_t firstBits = 0;

@@ -102,7 +102,7 @@ TEST_F(BatteryMonitorTest, AnyStateButExternalPowerIsBattery) {
     }
 }
 
-TEST_F(BatteryMonitorTest, WhatADescriptionDoesNotSayKeepsItsValue) {
+TEST_F(BatteryMonitorTest, AMissingFieldKeepsItsValue) {
     const PowerSourceDescription full{.currentCapacity = 80,
                                       .isCharging = true,
                                       .powerSourceState = "AC Power",
@@ -215,7 +215,7 @@ TEST_F(BatteryMonitorTest, AssignsTheFieldsOneAfterAnother) {
                              "temperature,voltage,amperage,wattage,history"));
 }
 
-TEST_F(BatteryMonitorTest, TellsItsObserversOfEveryAssignmentAlsoOfAnEqualValue) {
+TEST_F(BatteryMonitorTest, NotifiesObserversOfEveryAssignmentEvenOfAnEqualValue) {
     int notificationCount = 0;
     const PowerSourceDescription same{.currentCapacity = 80};
     updatedWith(same);

@@ -53,7 +53,7 @@ TEST(DiskVolume, WithMoreFreeSpaceThanSpaceIsNotUsed) {
     EXPECT_EQ(usedFraction(volumeOf(1000, 1001)), 0);
 }
 
-TEST_F(DiskMonitorTest, HasNothingToTellAfterConstruction) {
+TEST_F(DiskMonitorTest, PublishesNothingAfterConstruction) {
     EXPECT_TRUE(monitor.volumes().isEmpty());
     EXPECT_EQ(monitor.diskIO(), DiskMonitor::DiskIO());
     EXPECT_TRUE(monitor.readHistory().isEmpty());

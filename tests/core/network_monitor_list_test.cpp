@@ -48,7 +48,7 @@ QStringList displayNamesOf(const QList<NetworkInterfaceInfo>& interfaces) {
     return names;
 }
 
-TEST_F(NetworkMonitorTest, InterfacesOfAKindAreToldApartByTheirNames) {
+TEST_F(NetworkMonitorTest, InterfacesOfOneKindAreDistinguishedByTheirNames) {
     const InterfaceEntry card = ofKind("wlp3s0", InterfaceKind::wifi);
     const InterfaceEntry stick = ofKind("wlx0", InterfaceKind::wifi);
     const InterfaceEntry cable = ofKind("enp2s0", InterfaceKind::ethernet);

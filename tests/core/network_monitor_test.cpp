@@ -5,7 +5,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST_F(NetworkMonitorTest, HasNothingToTellAfterConstruction) {
+TEST_F(NetworkMonitorTest, PublishesNothingAfterConstruction) {
     EXPECT_TRUE(monitor.interfaces().isEmpty());
     EXPECT_EQ(monitor.totalDownloadSpeed(), 0);
     EXPECT_EQ(monitor.totalUploadSpeed(), 0);

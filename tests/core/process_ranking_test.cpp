@@ -92,7 +92,7 @@ std::vector<int> heaviestFive(const std::vector<std::pair<int, int>>& items) {
     return result;
 }
 
-TEST(TopN, OfNothingIsNothing) {
+TEST(TopN, IsEmptyWithoutItems) {
     EXPECT_TRUE(heaviestFive({}).empty());
 }
 

@@ -100,7 +100,7 @@ TEST_F(SystemMonitorOrder, SamplesTheProcessesInTheFirstCycleAndInEveryThirdAfte
     }
 }
 
-TEST_F(SystemMonitorOrder, GoesOnWithTheThirdsWhereItWasWhenItIsStartedAgain) {
+TEST_F(SystemMonitorOrder, ContinuesTheThirdsAfterARestart) {
     const std::unique_ptr<SystemMonitor> monitor = makeMonitor();
     monitor->start();
     EXPECT_EQ(processSamples(), 1);

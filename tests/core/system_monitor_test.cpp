@@ -70,7 +70,7 @@ TEST_F(SystemMonitorTest, StopEndsSamplingAndKeepsTheCount) {
     EXPECT_EQ(monitor.updateCycleCount(), 1);
 }
 
-TEST_F(SystemMonitorTest, AMachineThatAnswersNothingIsSurvived) {
+TEST_F(SystemMonitorTest, SurvivesAMachineThatAnswersNothing) {
     monitor.updateCycle();
     monitor.updateCycle();
     EXPECT_EQ(monitor.updateCycleCount(), 2);

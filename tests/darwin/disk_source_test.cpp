@@ -107,12 +107,12 @@ TEST_F(DarwinDiskSourceTest, AVolumeThatCannotBeAskedOrHasNoPathIsLeftOut) {
     EXPECT_EQ(readVolumes(), (std::vector<MountedVolume>{{.path = "/", .isLocal = true, .totalBytes = 5}}));
 }
 
-TEST_F(DarwinDiskSourceTest, NamesAndPathsAreMadeFitToBeShown) {
+TEST_F(DarwinDiskSourceTest, NamesAndPathsAreMadeReadable) {
     machine().volumes = {{.path = "/Volumes/a\nb", .values = {{{"name", "a\nb"}}}}};
     EXPECT_EQ(readVolumes(), (std::vector<MountedVolume>{{.path = "/Volumes/a b", .name = "a b"}}));
 }
 
-TEST_F(DarwinDiskSourceTest, ANegativeCapacityReachesTheMonitorAsItIs) {
+TEST_F(DarwinDiskSourceTest, ANegativeCapacityReachesTheMonitorUnchanged) {
     machine().volumes = {{.path = "/", .values = {{{"total", -1}, {"free", -2}}}}};
     EXPECT_EQ(readVolumes()->at(0).totalBytes, -1);
     EXPECT_EQ(readVolumes()->at(0).freeBytes, -2);

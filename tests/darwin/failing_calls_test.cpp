@@ -2,7 +2,7 @@
 
 #include <functional>
 
-// Each call that a question makes fails in turn, and every one has an answer of its own here. A call that no
+// Each call that a question makes fails in turn, and every one has its own answer here. A call that no
 // outcome is written down for fails the test.
 namespace orvelle {
 namespace {
@@ -19,7 +19,7 @@ struct Question {
     std::map<std::string, Answer> whenFailing;
 };
 
-/// The calls since the last `forgetCalls`, each with a text of its own.
+/// The calls since the last `forgetCalls`, each with its own text.
 std::vector<std::string> distinctCalls() {
     std::map<std::string, int> counts;
     std::vector<std::string> calls;

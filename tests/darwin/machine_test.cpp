@@ -39,7 +39,7 @@ TEST_F(DarwinMachineTest, WithoutItsPortTheHostAnswersTheRest) {
     EXPECT_TRUE(host().network->read());
 }
 
-TEST_F(DarwinMachineTest, ACycleOfAllMonitorsMakesAsManyCallsEachTimeAndHoldsNothingBetween) {
+TEST_F(DarwinMachineTest, EveryCycleMakesTheSameNumberOfCallsAndHoldsNothingBetween) {
     MachineSources& sources = host();
     CPUMonitor cpu(*sources.processor, sources.now);
     MemoryMonitor memory(*sources.memory);

@@ -21,12 +21,12 @@ TEST_F(DarwinMemorySourceTest, WithoutPageCountersSwapIsNotAskedFor) {
     EXPECT_EQ(takeSystemCalls(), (std::vector<std::string>{"sysctl hw.memsize", "host_statistics64"}));
 }
 
-TEST_F(DarwinMemorySourceTest, AKernelWithALongerRecordFillsWhatThisOneHolds) {
+TEST_F(DarwinMemorySourceTest, ALongerRecordIsReadUpToTheKnownCounters) {
     machine().pages.wordCount = 40;
     EXPECT_EQ(host().memory->read(), typicalMemoryReading());
 }
 
-TEST_F(DarwinMemorySourceTest, AShorterRecordCountsAsLongAsItHoldsEveryCounterThatIsUsed) {
+TEST_F(DarwinMemorySourceTest, AShorterRecordCountsWhileItHoldsEveryUsedCounter) {
     machine().pages.wordCount = 35;
     EXPECT_EQ(host().memory->read(), typicalMemoryReading());
     for (const std::uint32_t wordCount : {34u, 15u, 0u}) {
@@ -66,7 +66,7 @@ TEST_F(DarwinMemorySourceTest, TheLargestCountersDoNotReachTheMonitorsLimits) {
     EXPECT_EQ(monitor.info().free, std::uint64_t{most} * 16384);
 }
 
-TEST_F(DarwinMemorySourceTest, ACacheOfHalfOfWhatIsHeldIsHandedOverWhole) {
+TEST_F(DarwinMemorySourceTest, ACacheOfHalfOfTheHeldPagesIsReportedWhole) {
     machine().pages = {.active = 6000,
                        .inactive = 4000,
                        .wired = 500,
@@ -103,7 +103,7 @@ TEST_F(DarwinMemorySourceTest, TheCacheIsNeverMoreThanTheMachinesMemory) {
     EXPECT_EQ(reading->externalPages, 0u);
 }
 
-TEST_F(DarwinMemorySourceTest, NoCountersOfAKernelStopTheMonitor) {
+TEST_F(DarwinMemorySourceTest, NoKernelCountersStopTheMonitor) {
     std::mt19937 engine(20260101);
     const auto counter = [&engine] {
         constexpr std::array<std::uint32_t, 6> kinds{0, 1, 1000, 600'000, 0x7fffffff, 0xffffffff};

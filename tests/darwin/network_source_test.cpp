@@ -40,7 +40,7 @@ TEST_F(DarwinNetworkSourceTest, AnEmptyListIsAnEmptyAnswer) {
     EXPECT_EQ(read(), std::vector<InterfaceEntry>{});
 }
 
-TEST_F(DarwinNetworkSourceTest, ALinkEntryWithoutDataTellsNoBytes) {
+TEST_F(DarwinNetworkSourceTest, ALinkEntryWithoutDataHasNoBytes) {
     const InterfaceEntry entry = readOnly({.name = "en1", .flags = up, .address = linkAddress()});
     EXPECT_EQ(entry, (InterfaceEntry{.name = "en1", .isUp = true}));
 }
@@ -51,7 +51,7 @@ TEST_F(DarwinNetworkSourceTest, DataOfAnotherFamilyIsNotTakenForCounters) {
     EXPECT_EQ(entry, (InterfaceEntry{.name = "en1", .isUp = true, .ipv4Address = "10.1.2.3"}));
 }
 
-TEST_F(DarwinNetworkSourceTest, AnUnknownFamilyTellsOnlyThatTheInterfaceIsUp) {
+TEST_F(DarwinNetworkSourceTest, AnUnknownFamilyReportsOnlyThatTheInterfaceIsUp) {
     const InterfaceEntry entry =
         readOnly({.name = "en1", .flags = up, .address = {{16, 99, 1, 2}}, .bytes = {{5, 6}}});
     EXPECT_EQ(entry, (InterfaceEntry{.name = "en1", .isUp = true}));

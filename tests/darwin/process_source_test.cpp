@@ -81,7 +81,7 @@ TEST_F(DarwinProcessSourceTest, AProcessWithoutAnyNameIsListedWithoutAName) {
     EXPECT_EQ(read()->at(0).name, "");
 }
 
-TEST_F(DarwinProcessSourceTest, OddSizesOfTheListAreCutToWholePidsWithinTheBuffer) {
+TEST_F(DarwinProcessSourceTest, OddListSizesAreCutToWholePidsWithinTheBuffer) {
     machine().processes = countedProcesses(3);
     machine().listedPidBytes = 11;
     EXPECT_EQ(read()->size(), 2u);
@@ -119,7 +119,7 @@ TEST_F(DarwinProcessSourceTest, ASampleUsesTheRecordsAndNamesOfTheOneBefore) {
     EXPECT_EQ(second[0].name, std::string(90, 'm'));
 }
 
-TEST_F(DarwinProcessSourceTest, NamesAreMadeFitToBeShown) {
+TEST_F(DarwinProcessSourceTest, NamesAreMadeReadable) {
     EXPECT_EQ(nameFrom("/tmp/two\nlines"), "two lines");
     EXPECT_EQ(nameFrom("/tmp/broken\xff"), "broken\xEF\xBF\xBD");
     machine().processes = {{.pid = 5, .shortName = "a\tb"}};

@@ -61,7 +61,7 @@ TEST_F(DarwinProcessorSourceTest, ACounterThatWrappedBelowZeroStopsTheProcess) {
     }
 }
 
-TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorAsItIs) {
+TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorUnchanged) {
     CPUMonitor monitor(*host().processor, host().now);
     machine().processors = {.count = 1, .words = {90, 80, 810, 10}};
     monitor.updateUsage();

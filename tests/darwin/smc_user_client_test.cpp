@@ -32,7 +32,7 @@ TEST_F(DarwinSMCUserClientTest, TheBlocksOfOneReadingAreTheseBytes) {
     keyInfo[3] = 0x54;
     keyInfo[42] = 9;
     WireBlock bytes = keyInfo;
-    bytes[28] = 4; // the size that the first answer told
+    bytes[28] = 4; // the size of the first answer
     bytes[42] = 5;
     EXPECT_EQ(kernel().wireBlocks(), (std::vector<WireBlock>{keyInfo, bytes}));
 }
@@ -80,7 +80,7 @@ TEST_F(DarwinSMCUserClientTest, AnUnknownKeyIsNothing) {
     EXPECT_EQ(helper.readKey("Tp0T"), std::nullopt);
 }
 
-TEST_F(DarwinSMCUserClientTest, ATypicalMachineTellsItsTemperatureAndItsFan) {
+TEST_F(DarwinSMCUserClientTest, ATypicalMachineReportsItsTemperatureAndItsFan) {
     SMCHelper helper(client());
     EXPECT_EQ(helper.readCPUTemperature(), 50.0);
     EXPECT_EQ(helper.readGPUTemperature(), std::nullopt);

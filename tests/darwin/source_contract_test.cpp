@@ -23,16 +23,16 @@ protected:
     }
 };
 
-TEST_F(DarwinSourceContractTest, ATypicalMachineKeepsIt) {
+TEST_F(DarwinSourceContractTest, HoldsForATypicalMachine) {
     expectKeepsContract(host());
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, ATreeKeepsIt) {
+TEST_F(DarwinSourceContractTest, HoldsForATree) {
     expectKeepsContract(makeTreeSources("/", [] { return WallTime{}; }));
 }
 
-TEST_F(DarwinSourceContractTest, TenThousandProcessesOfExtremeFiguresKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForTenThousandProcessesOfExtremeFigures) {
     for (std::int32_t pid = 1; pid <= 10'000; ++pid)
         machine().processes.push_back({.pid = pid,
                                        .path = "/" + oddName + std::to_string(pid),
@@ -42,7 +42,7 @@ TEST_F(DarwinSourceContractTest, TenThousandProcessesOfExtremeFiguresKeepIt) {
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, ExtremeAnswersOfTheControllerKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForExtremeAnswersOfTheController) {
     setTemperature("Tp09", {0x7f, 0x80, 0, 0});       // infinity
     setTemperature("Tp0T", {0x7f, 0xc0, 0, 0});       // no number
     setTemperature("Tp01", {0x49, 0x74, 0x24, 0});    // a million
@@ -54,18 +54,18 @@ TEST_F(DarwinSourceContractTest, ExtremeAnswersOfTheControllerKeepIt) {
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, MoreSwapInUseThanThereIsKeepsIt) {
+TEST_F(DarwinSourceContractTest, HoldsForMoreUsedSwapThanThereIs) {
     machine().setSysctl(swapUsageName, std::array<std::uint64_t, 4>{gibibyte, 0, largestCounter, 16384});
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, MemoryThatIsAllCacheKeepsIt) {
+TEST_F(DarwinSourceContractTest, HoldsForMemoryThatIsAllCache) {
     constexpr std::uint32_t most = std::numeric_limits<std::uint32_t>::max();
     machine().pages = {.active = most, .inactive = most, .purgeable = most, .external = most};
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, OddInterfacesKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForOddInterfaces) {
     for (const std::string& name : {std::string(), std::string("\xE2\x80\xAE"), oddName})
         machine().interfaces.push_back({.name = name,
                                         .flags = flagsOfAnInterfaceThatIsUp,
@@ -74,7 +74,7 @@ TEST_F(DarwinSourceContractTest, OddInterfacesKeepIt) {
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, OddVolumesAndTheLargestCountersKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForOddVolumesAndTheLargestCounters) {
     machine().volumes->push_back(
         {.path = "/Volumes/" + oddName,
          .values = {{{"name", oddName}, {"total", largestInteger - 1}, {"free", largestInteger}}}});
@@ -84,13 +84,13 @@ TEST_F(DarwinSourceContractTest, OddVolumesAndTheLargestCountersKeepIt) {
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, LoadAveragesThatAreNoNumbersKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForLoadAveragesThatAreNotNumbers) {
     machine().loadAverages = {std::numeric_limits<double>::quiet_NaN(), -1,
                               std::numeric_limits<double>::infinity()};
     expectKeepsContract(host());
 }
 
-TEST_F(DarwinSourceContractTest, TheLargestTicksKeepIt) {
+TEST_F(DarwinSourceContractTest, HoldsForTheLargestTicks) {
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     machine().processors = {.count = 1, .words = {most, most, most, most}};
     expectKeepsContract(host());

@@ -15,7 +15,7 @@ using simulated::kernel;
 using CallCounts = std::map<std::string, std::size_t>;
 
 /// The calls of a cycle on the typical machine: 2 processors, 2 volumes, 2 disks, 2 addresses to show, a
-/// battery and a controller of which the first key answers that tells the processor's temperature.
+/// battery and a controller that answers the first key of the processor's temperature.
 const CallCounts callsOfEveryCycle{
     {"host_processor_info", 1},
     {"getloadavg", 1},
@@ -85,7 +85,7 @@ TEST_F(DarwinUpdateCycleTest, ConnectsToTheControllerInTheFirstCycleAndOnlyThen)
     EXPECT_EQ(monitor.sensor().cpuTemperature(), 50);
 }
 
-TEST_F(DarwinUpdateCycleTest, GoesOnWithoutAControllerAndAsksForItNoMore) {
+TEST_F(DarwinUpdateCycleTest, RunsWithoutAControllerAndDoesNotAskForItAgain) {
     machine().services.erase("AppleSMC");
     SystemMonitor monitor(makeHostSources(), settings);
     monitor.updateCycle();

@@ -17,7 +17,7 @@ void checkChoice(const std::vector<Mount>& mounts, const HiddenPaths& hidden, bo
     for (const Mount& volume : chosen) {
         require(std::ranges::find(mounts, volume) != mounts.end(), "a volume is one of the mounts");
         require(volume.path == "/" || !hidden.contains(volume.path), "a hidden path is not chosen");
-        // A pool of ZFS is told by its name, whatever device number its mounts show.
+        // A pool of ZFS is identified by its name, whatever device number its mounts show.
         const auto sameDevice = std::ranges::count_if(chosen, [&volume](const Mount& other) {
             return other.fileSystem != "zfs" && other.deviceMajor == volume.deviceMajor &&
                    other.deviceMinor == volume.deviceMinor;

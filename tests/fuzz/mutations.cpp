@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// What parsers stumble over.
+/// Texts that parsers are prone to misread.
 constexpr std::array<std::string_view, 18> troublesome{"18446744073709551615"sv,
                                                        "18446744073709551616"sv,
                                                        "9223372036854775808"sv,

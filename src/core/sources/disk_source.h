@@ -11,7 +11,7 @@ namespace orvelle {
 struct MountedVolume {
     std::string path;                  ///< where it is mounted, fit to be shown
     std::optional<std::string> name{}; ///< its label; nothing when it has none
-    bool isLocal = false;              ///< false for a network volume and where the system does not tell
+    bool isLocal = false;              ///< false for a network volume and when unknown
     std::int64_t totalBytes = 0;       ///< capacity, 0 when unknown
     /// What a user's files can still take, 0 when unknown. A source says no more than `totalBytes`.
     std::int64_t freeBytes = 0;

@@ -19,8 +19,8 @@ struct ProcessRecord {
     /// Empty when the process is listed but could not be inspected: it is then left out, yet its earlier
     /// times stay known.
     std::string name;
-    /// Processor time since the process began, in nanoseconds, by all its threads including ended ones.
-    /// Where the system tells only the sum of both kinds, all of it is user time.
+    /// Processor time since the process began, in nanoseconds, by all its threads including ended ones. Where
+    /// only the sum of both is known, all of it is user time.
     std::uint64_t userNanoseconds = 0;
     std::uint64_t systemNanoseconds = 0;
     std::uint64_t residentBytes = 0; ///< memory held, shared pages included; at most `maximumBytes`
@@ -33,7 +33,7 @@ class ProcessSource {
 public:
     virtual ~ProcessSource() = default;
 
-    /// Bytes of physical memory; nothing when the system does not tell.
+    /// Bytes of physical memory; nothing when unknown.
     [[nodiscard]] virtual std::optional<std::uint64_t> readTotalMemory() = 0;
 
     /// All processes in the order the system lists them, the reader itself included; nothing when they cannot

@@ -13,7 +13,7 @@ namespace orvelle {
     return degreesCelsius > 0 && degreesCelsius < 150;
 }
 
-/// Revolutions per minute that no fan reaches; what a broken one tells beyond is cut here.
+/// Revolutions per minute that no fan reaches; a source cuts higher readings here.
 inline constexpr std::int64_t maximumFanSpeed = 100'000;
 
 /// One temperature sensor and what it reads now.

@@ -8,8 +8,8 @@ namespace orvelle::darwin_platform {
 /// the 32-bit ones of the link-layer entries, which wrap at 4 GiB.
 class DarwinNetworkSource final : public NetworkSource {
 public:
-    /// An entry of an interface that is down or a loopback tells no address and no bytes: nobody asks for
-    /// them. An entry without a name or an address stops the process.
+    /// An entry of a loopback or of an interface that is down has no address and no bytes, because no monitor
+    /// uses them. An entry without a name or an address stops the process.
     [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override;
 };
 

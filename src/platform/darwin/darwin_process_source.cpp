@@ -74,7 +74,7 @@ std::optional<std::span<const ProcessRecord>> DarwinProcessSource::readProcesses
 }
 
 std::span<const std::int32_t> DarwinProcessSource::listProcesses() {
-    // The first call tells the size of the list, with some room for processes that begin before the second.
+    // The first call answers the size of the list, with some room for processes that begin before the second.
     const int expectedSize = proc_listpids(PROC_ALL_PIDS, 0, nullptr, 0);
     if (expectedSize <= 0)
         return {};

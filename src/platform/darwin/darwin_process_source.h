@@ -10,10 +10,9 @@ namespace orvelle::darwin_platform {
 /// What follows the last slash, slashes at the end left aside; "/" when there is nothing else.
 [[nodiscard]] std::string_view lastPathComponent(std::string_view path);
 
-/// Answers from libproc and {CTL_HW, HW_MEMSIZE}. A process of another user, whose times and memory the
-/// system tells only to a privileged program, has an empty name like one that ended meanwhile. The times pass
-/// as the system counts them, cut at the bounds of the record. The lists are kept, so that a sample allocates
-/// only for names it never saw before.
+/// Answers from libproc and {CTL_HW, HW_MEMSIZE}. A process of another user, which only a privileged program
+/// may inspect, has an empty name, as has one that ended meanwhile. The times pass as the system counts them,
+/// cut at the bounds of the record. The lists are reused, so that a sample allocates only for new names.
 class DarwinProcessSource final : public ProcessSource {
 public:
     [[nodiscard]] std::optional<std::uint64_t> readTotalMemory() override;

@@ -31,7 +31,7 @@ public:
     SMCHelper(const SMCHelper&) = delete;
     SMCHelper& operator=(const SMCHelper&) = delete;
 
-    /// The value of one key, such as "Tp09"; nothing when it cannot be had for any reason.
+    /// The value of one key, such as "Tp09"; nothing when it cannot be read.
     [[nodiscard]] std::optional<double> readKey(std::string_view key);
 
     [[nodiscard]] std::optional<double> readCPUTemperature() override;

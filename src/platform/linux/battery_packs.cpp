@@ -8,8 +8,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// A figure in whole units; nothing where it cannot be told, and then whatever is computed from it is nothing
-/// too.
+/// A figure in base units; nothing when unknown, as is whatever is computed from it.
 using Figure = std::optional<double>;
 
 /// `value` when it is above 0.
@@ -17,7 +16,7 @@ Figure positive(const Figure& value) {
     return value && *value > 0 ? value : std::nullopt;
 }
 
-/// `first` when it can be told, else `second`.
+/// `first` when known, else `second`.
 Figure firstOf(const Figure& first, const Figure& second) {
     return first ? first : second;
 }
@@ -79,7 +78,7 @@ Figure energyNow(const BatteryPack& pack) {
     return wattHours(pack, pack.energyNow, pack.chargeNow);
 }
 
-/// Watt-hours that the full pack holds, those that it was designed for when it tells no others.
+/// Watt-hours that the full pack holds, else those that it was designed for.
 Figure energyFull(const BatteryPack& pack) {
     return firstOf(wattHours(pack, pack.energyFull, pack.chargeFull),
                    wattHours(pack, pack.energyFullDesign, pack.chargeFullDesign));
@@ -90,8 +89,8 @@ Figure chargeNow(const BatteryPack& pack) {
     return countsInEnergy(pack) ? std::nullopt : fromMillionths(pack.chargeNow);
 }
 
-/// Ampere-hours that the full pack holds, those that it was designed for when it tells no others; nothing
-/// when it counts in energy.
+/// Ampere-hours that the full pack holds, else those that it was designed for; nothing when it counts in
+/// energy.
 Figure chargeFull(const BatteryPack& pack) {
     if (countsInEnergy(pack))
         return std::nullopt;
@@ -108,7 +107,7 @@ Figure fullCapacity(const BatteryPack& pack) {
     return milliampereHours(pack, pack.chargeFull, pack.energyFull);
 }
 
-/// Charge as a fraction, by energy, by charge or by the percentage that the pack tells; not cut to 0..1.
+/// Charge as a fraction, by energy, by charge or by the pack's own percentage; not cut to 0..1.
 Figure chargeLevel(const BatteryPack& pack) {
     const Figure byEnergy = quotient(energyNow(pack), energyFull(pack));
     const Figure byCharge =
@@ -207,9 +206,8 @@ Figure meanVoltage(const std::vector<BatteryPack>& packs) {
     return firstOf(weighted, quotient(sum, count));
 }
 
-/// What all packs together hold and take. Packs that all count in charge are told in ampere-hours and
-/// amperes: turned into energy by one voltage and into power by another, their times would be those of
-/// neither.
+/// The content and flow of all packs together. Packs that all count in charge use ampere-hours and amperes:
+/// converted to energy by one voltage and to power by another, their times would be wrong.
 struct Store {
     Figure held;
     Figure full;
@@ -223,7 +221,7 @@ Store storeOf(const std::vector<BatteryPack>& packs, const Flow& flow) {
     return {.held = sumOverAll(packs, energyNow), .full = sumOverAll(packs, energyFull), .flow = flow.watts};
 }
 
-/// Minutes until `amount` has flowed; -1 when that cannot be told.
+/// Minutes until `amount` has flowed; -1 when unknown.
 std::int64_t minutesUntil(const Figure& amount, const Figure& flow) {
     const Figure minutes = product(quotient(amount, flow ? Figure(std::abs(*flow)) : flow), 60.0);
     return minutes && *minutes >= 0 && *minutes <= longestMinutes ? rounded(*minutes) : -1;

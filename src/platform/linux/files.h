@@ -9,16 +9,16 @@
 
 namespace orvelle::linux_platform {
 
-/// Whether `root` is the running system. Below any other root only the tree itself may be asked: no system
-/// call may tell anything of the host.
+/// Whether `root` is the running system. Below any other root only the tree itself may be read, and no system
+/// call may ask the host.
 [[nodiscard]] inline bool isHostRoot(const std::filesystem::path& root) {
     return root.lexically_normal() == "/";
 }
 
-/// The names in a directory in the kernel's order; what could be listed when it vanishes meanwhile.
+/// The names in a directory in the kernel's order; those read so far when it vanishes meanwhile.
 [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& directory);
 
-/// Whether there is something of this name, be it a link to nowhere.
+/// Whether the path exists; a dangling link does.
 [[nodiscard]] bool existsUnfollowed(const std::filesystem::path& path);
 
 /// Whether a directory can have an entry of this name: each has "." and ".." already.

@@ -71,7 +71,7 @@ bool isPCIAddress(std::string_view name) {
            name.find_first_not_of("0123456789abcdefABCDEF:.") == std::string_view::npos;
 }
 
-/// A copied tree may have lost its links; these two buses are told by where their devices stand.
+/// A copied tree may have lost its links; these two buses are recognized by the place of their devices.
 Subsystem subsystemByPlace(const fs::path& folder) {
     if (isPCIAddress(folder.filename().string()))
         return {.name = "pci", .isBus = true};

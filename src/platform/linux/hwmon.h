@@ -25,9 +25,9 @@ namespace orvelle::linux_platform {
 /// The device that a hwmon chip belongs to.
 struct HwmonDevice {
     /// Where the device sits, the same at every boot: the address of the nearest ancestor on the PCI,
-    /// platform or ACPI bus ("0000:01:00.0", "coretemp.0"), followed by what tells devices behind one address
-    /// apart (an I2C address, the port of a SATA controller). Numbers that the kernel deals out as devices
-    /// appear (hwmon3, nvme0, ata2, i2c-5) never stand in it. Empty for a device without such an ancestor.
+    /// platform or ACPI bus ("0000:01:00.0", "coretemp.0"), followed by what distinguishes devices behind one
+    /// address (an I2C address, the port of a SATA controller). It never contains numbers that the kernel
+    /// assigns as devices appear (hwmon3, nvme0, ata2, i2c-5). Empty for a device without such an ancestor.
     std::string place;
     /// The model's name as a disk gives it; empty when the device has none.
     std::string model;
@@ -68,8 +68,8 @@ struct HwmonChip {
 /// Stands for the same sensor at every boot.
 [[nodiscard]] std::string sensorKey(const HwmonChip& chip, const HwmonChannel& channel);
 
-/// The chip's title and the kernel's label, for display. `isTitleShared` says that another chip has the same
-/// title; the place then tells them apart.
+/// The chip's title and the kernel's label, for display. `isTitleShared`: another chip has the same title,
+/// and the place is added.
 [[nodiscard]] std::string sensorName(const HwmonChip& chip, const HwmonChannel& channel, bool isTitleShared);
 
 } // namespace orvelle::linux_platform

@@ -18,7 +18,7 @@ unsigned groupsOf(InterfaceWatch::Subject subject) {
     return RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV6_IFADDR;
 }
 
-/// A socket that hears of these groups; -1 when there is none to be had.
+/// A socket that receives the messages of these groups; -1 when none can be opened.
 int openSocket(unsigned groups) {
     const int descriptor = ::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE);
     if (descriptor < 0)

@@ -40,7 +40,7 @@ std::optional<KeptFile> keepReadable(const std::filesystem::path& path) {
     return file.read() ? std::optional(std::move(file)) : std::nullopt;
 }
 
-/// Without external supplies that tell of themselves, the packs' own states tell.
+/// Without a readable external supply the packs' own states decide.
 bool impliesExternalPower(const BatteryPack& pack) {
     return pack.status == PackStatus::charging || pack.status == PackStatus::full ||
            pack.status == PackStatus::notCharging;
@@ -129,7 +129,7 @@ void LinuxBatterySource::samplePacks() {
     }
 }
 
-/// Nothing when the pack no longer tells its state: then the whole device has gone.
+/// Nothing when the pack's state cannot be read: then the whole device has gone.
 std::optional<BatteryPack> LinuxBatterySource::readPack(Bay& bay) {
     BatteryPack pack = bay.rarelyChanging;
     if (bay.status) {

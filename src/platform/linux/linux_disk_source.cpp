@@ -31,7 +31,7 @@ bool isLetters(std::string_view text) {
            std::ranges::all_of(text, [](char letter) { return letter >= 'a' && letter <= 'z'; });
 }
 
-/// What sysfs tells of a block device: a `device` link leads to the hardware that it is on.
+/// What sysfs shows of a block device: a `device` link leads to its hardware.
 enum class Hardware { linked, none, unknown };
 
 Hardware hardwareOf(const std::filesystem::path& root, std::string_view name) {

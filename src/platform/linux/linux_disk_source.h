@@ -20,7 +20,7 @@ struct BlockDeviceCounters {
 /// included. Lines without both counters and names that no device can have are left out.
 [[nodiscard]] std::vector<BlockDeviceCounters> parseDiskstats(std::string_view text);
 
-/// Whether a device of this name is a whole disk and no partition, where only the name can tell.
+/// Whether a device of this name is a whole disk rather than a partition, judged by the name alone.
 [[nodiscard]] bool isWholeDiskName(std::string_view name);
 
 /// The disk that the kernel makes of the paths to one NVMe namespace, for the name of such a path
@@ -29,7 +29,7 @@ struct BlockDeviceCounters {
 
 /// The counters of the whole physical disks in `proc/diskstats`. Partitions, loop devices, memory disks and
 /// what the device mapper and md make of other disks would count the same bytes again, so only devices that
-/// sysfs links to hardware are counted; where sysfs tells nothing, the name decides.
+/// sysfs links to hardware are counted; where sysfs has nothing, the name decides.
 class LinuxDiskCounters {
 public:
     explicit LinuxDiskCounters(std::filesystem::path root);

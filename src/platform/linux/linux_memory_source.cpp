@@ -119,7 +119,7 @@ MemoryReading memoryReading(const Meminfo& meminfo, const MemoryBesideMeminfo& b
         reading.wiredPages + reading.compressorPages + reading.activePages + reading.inactivePages;
     const std::uint64_t arcAboveMinimum = saturatingSubtract(beside.arcSize, beside.arcMinimum) / pageSize;
     reading.purgeablePages = std::min(arcAboveMinimum, reading.wiredPages);
-    // What of it is more than half of everything held cannot be shown as cache, so it is shown as free.
+    // The share beyond half of everything held cannot be shown as cache, so it is shown as free.
     const std::uint64_t cutArc = saturatingSubtract(2 * reading.purgeablePages, held);
     reading.purgeablePages -= cutArc;
     reading.wiredPages -= cutArc;

@@ -49,10 +49,11 @@ struct MemoryBesideMeminfo {
 /// (Documentation/admin-guide/blockdev/zram.rst).
 [[nodiscard]] std::uint64_t parseZramMemoryUsed(std::string_view text);
 
-/// Chooses the page counters so that "used" is what programs and the kernel hold and cannot give back at
-/// once, "cached" is the part of the cache in active use and "free" is what can be had at once. The kernel's
-/// page cache is often larger than everything else, so the cache is reported only up to the amount that keeps
-/// used >= cached; what is cut counts as free. Whatever the text says, the parts never exceed the total.
+/// Chooses the page counters so that "used" is memory that programs and the kernel cannot give back at once,
+/// "cached" is the part of the cache in active use and "free" is memory that is available at once. The
+/// kernel's page cache is often larger than everything else, so the cache is reported only up to the amount
+/// that keeps used >= cached; what is cut counts as free. The parts never exceed the total, however odd the
+/// text.
 [[nodiscard]] MemoryReading memoryReading(const Meminfo& meminfo, const MemoryBesideMeminfo& beside,
                                           std::uint64_t pageSize);
 

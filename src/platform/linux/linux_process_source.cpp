@@ -10,15 +10,16 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// An idle process can lose resident pages without running, so one idle process in so many is read in every
-/// sample, each in its turn.
+/// An idle process can lose resident pages without running, so in every sample a share of the idle ones is
+/// read, each in its turn.
 constexpr std::size_t idleProcessesPerRead = 50;
 
 std::uint64_t bounded(std::uint64_t nanoseconds) {
     return std::min(nanoseconds, ProcessRecord::maximumNanoseconds);
 }
 
-/// The start time tells a reused pid, the short name an exec. Both in one number, since thousands are kept.
+/// The start time identifies a reused pid, the short name an exec. Both are in one number, since thousands
+/// are kept.
 ProcessLife lifeOf(const ProcessStat& stat) {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
     return std::hash<std::string_view>{}(stat.comm) ^ (stat.startTime * spread);

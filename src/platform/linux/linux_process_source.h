@@ -15,8 +15,8 @@ enum class ProcessTimesFrom {
     statFiles,     ///< user and system time, each rounded down to a tick; every `stat` is read every time
 };
 
-/// In what units the kernel counts. A machine that is only a tree of files does not tell its own, so it is
-/// taken to have the most common ones.
+/// The units in which the kernel counts. A tree of files does not contain its own, so it has the most common
+/// ones.
 struct ProcessUnits {
     std::uint64_t pageSize = 4096;      ///< bytes
     std::uint64_t ticksPerSecond = 100; ///< above 0

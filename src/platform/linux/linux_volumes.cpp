@@ -18,10 +18,10 @@ std::string linkedName(const std::filesystem::path& link) {
     return std::filesystem::read_symlink(link, ignored).filename().string();
 }
 
-/// The choice is made anew after so many readings in any case: a label may be written without a mount.
+/// Readings between two choices at most: a label may be written without a mount.
 constexpr unsigned readingsPerChoice = 20;
 
-/// What container runtimes bind into every container. A tree of files need not hold them to be told.
+/// Files that container runtimes bind into every container. A tree need not contain them.
 constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/hosts", "/etc/resolv.conf"};
 
 } // namespace

@@ -15,7 +15,7 @@
 
 namespace orvelle::linux_platform {
 
-/// Capacity of a file system, never negative, and never more free than there is in all.
+/// Capacity of a file system, never negative and never more free than the total.
 struct VolumeSpace {
     std::int64_t totalBytes = 0;
     std::int64_t freeBytes = 0;
@@ -26,7 +26,7 @@ struct VolumeSpace {
 /// The space of `totalBytes` and `freeBytes`, cut to what the record can say.
 [[nodiscard]] VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes);
 
-/// What asking a file system for its space came to.
+/// The answer of a file system that was asked for its space.
 struct SpaceAnswer {
     std::optional<VolumeSpace> space; ///< nothing when it cannot be asked
     std::chrono::duration<double> took{};
@@ -63,7 +63,7 @@ private:
 /// The mounted volumes: chosen from `proc/self/mountinfo`, hidden by `etc/fstab`, named by
 /// `dev/disk/by-label`. On the running system the choice is made anew when the kernel announces a change of
 /// the mounts, and their space is asked of the kernel at each reading; a volume that takes long to answer is
-/// asked less often, and what it told last stays meanwhile. In another tree everything is read each time, the
+/// asked less often and keeps its last answer meanwhile. In another tree everything is read each time, the
 /// space from its file `statfs`.
 class LinuxVolumes {
 public:
@@ -91,7 +91,7 @@ private:
     std::filesystem::path m_root;
     bool m_isHost;
     KeptFile m_mountinfo;
-    SpaceReader m_readSpace; ///< none where the tree's file tells
+    SpaceReader m_readSpace; ///< none where the tree's file is read
     std::vector<Volume> m_volumes;
     unsigned m_readingsUntilChoice = 0;
 };

@@ -19,19 +19,18 @@ struct Mount {
     std::int64_t parentId = 0; ///< the mount that this one was mounted in, possibly outside the list
     unsigned deviceMajor = 0;  ///< 0 when no block device lies below, as for memory and network file systems
     unsigned deviceMinor = 0;
-    std::string root; ///< what of the file system is mounted: "/" is all of it, else this is a bind or a part
+    std::string root; ///< the mounted directory of the file system: "/" for all of it, else a bind or a part
     std::string path; ///< where it is mounted
     std::string fileSystem;
-    std::string source; ///< device, pool or server, as the file system likes to say it
+    std::string source; ///< device, pool or server, in the file system's own notation
 
     bool operator==(const Mount&) const = default;
 };
 
-/// The mounts in the text's order, which is that of mounting. Lines that are cut or make no sense are left
-/// out.
+/// The mounts in the text's order, which is that of mounting. Truncated and malformed lines are left out.
 [[nodiscard]] std::vector<Mount> parseMountinfo(std::string_view text);
 
-/// Answers where a look-up of a mount's path really leads. A path may have been mounted over since, and the
+/// Finds out where a look-up of a mount's path really leads. A path may have been mounted over since, and the
 /// way to it may pass through a network mount that waits for a server that is gone.
 class MountTree {
 public:

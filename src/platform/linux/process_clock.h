@@ -18,8 +18,8 @@ inline constexpr std::int32_t largestPid = 1 << 22;
 
 /// Whether `readProcessClock` can be asked about the pids that `root/proc` lists: `root` is that of the
 /// running system, its kernel has process clocks, and its `/proc` shows the pid namespace that this program
-/// lives in. In a namespace whose `/proc` was mounted outside of it, the clocks would tell of other
-/// processes than the ones listed.
+/// lives in. In a namespace whose `/proc` was mounted outside of it, the clocks would be those of other
+/// processes.
 [[nodiscard]] bool clocksTellOfListedProcesses(const std::filesystem::path& root);
 
 /// Whether `proc/self/status` shows the reader under `ownPid` in one pid namespace only, its own: the line

@@ -10,8 +10,8 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// How many pids may be asked one by one: a few, and one for so many known processes. With more the sample
-/// would make many more system calls than there are processes, and listing them takes a handful.
+/// How many pids may be asked one by one: a few, plus a share of the known processes. Beyond that a listing,
+/// which takes a handful of system calls, is cheaper.
 constexpr std::size_t alwaysAsked = 16;
 constexpr std::size_t knownProcessesPerAsked = 32;
 

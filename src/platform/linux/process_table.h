@@ -27,7 +27,7 @@ public:
         return std::ranges::binary_search(m_records, pid, {}, &ProcessRecord::pid);
     }
 
-    /// Makes room for so many processes.
+    /// Makes room for `count` processes.
     void reserve(std::size_t count) {
         m_records.reserve(count);
         m_lives.reserve(count);
@@ -75,19 +75,19 @@ struct NewProcessSearch {
 };
 
 /// Decides where to look. The kernel hands out pids in ascending order and wraps at the end, so that the
-/// newest pid tells where the new processes are, if any. Asking the clock of a pid that no process has costs
-/// a sixth of listing one process, and on a desktop, where threads come and go all the time, the newest pid
-/// is different in nearly every sample.
+/// newest pid shows where new processes are. Asking the clock of a pid that no process has costs a sixth of
+/// listing one process, and on a desktop, where threads come and go all the time, the newest pid is different
+/// in nearly every sample.
 class NewProcessSearchPlan {
 public:
-    /// Samples between two whole listings: they find what the newest pid does not tell, such as a process
+    /// Samples between two whole listings: they find processes that the newest pid does not show, such as one
     /// whose pid was chosen by its parent.
     static constexpr unsigned samplesPerListing = 10;
     /// A pid is handed out a moment before its process can be seen, so that the last few of the sample before
     /// are asked once more.
     static constexpr std::int32_t askedAgain = 8;
 
-    /// `newestPid` is nothing when it cannot be told, `knownCount` how many processes are known.
+    /// `newestPid` is nothing when unknown; `knownCount` is the number of known processes.
     [[nodiscard]] NewProcessSearch next(std::optional<std::int32_t> newestPid, std::size_t knownCount);
 
 private:
@@ -99,8 +99,8 @@ private:
 class NewestPid {
 public:
     explicit NewestPid(const std::filesystem::path& root);
-    /// Nothing when it cannot be read or the file is not the kernel's own: some containers are given a
-    /// made-up one in its place, whose last number may tell of another pid namespace or stand still.
+    /// Nothing when it cannot be read or the file is not the kernel's own: some containers replace it with a
+    /// generated one, whose last number may belong to another pid namespace or never change.
     [[nodiscard]] std::optional<std::int32_t> read();
 
 private:

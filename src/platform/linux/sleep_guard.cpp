@@ -8,10 +8,10 @@
 namespace orvelle::linux_platform {
 namespace {
 
-/// Nobody waits longer for a disk to stop; it keeps nonsense out of the sums of times.
+/// No disk waits longer before it stops; the bound keeps the sums of times within their type.
 constexpr std::int64_t longestIdleMilliseconds = std::int64_t{24} * 3600 * 1000;
 
-/// The file that tells whether the device is awake; nothing while it has no runtime power management.
+/// The file with the device's power state; nothing while it has no runtime power management.
 std::optional<KeptFile> statusFile(const std::filesystem::path& powerFolder) {
     KeptFile status(powerFolder / "runtime_status", KeptFile::Layout::value);
     const std::optional<std::string_view> text = status.read();

@@ -11,25 +11,25 @@ namespace orvelle::linux_platform {
 /// Time that never steps back.
 using MonotonicClock = std::function<std::chrono::steady_clock::time_point()>;
 
-/// Tells when a device may be read without being woken or kept awake (Documentation/power/runtime_pm.rst). A
-/// suspended device would be resumed by the reading of a value. One that is awake and falls asleep after some
-/// idle time would never do so if it were read more often than that.
+/// Decides when a device may be read without being woken or kept awake (Documentation/power/runtime_pm.rst).
+/// A suspended device would be resumed by the reading of a value. One that is awake and falls asleep after
+/// some idle time would never do so if it were read more often than that.
 class SleepGuard {
 public:
     enum class Advice {
-        read,  ///< awake: read it now
-        wait,  ///< awake, but read so lately that it must be let fall asleep: what was read last still holds
+        read, ///< awake: read it now
+        wait, ///< awake, but read so lately that it must be left to fall asleep: the last reading still holds
         avoid, ///< asleep: nothing is known of it
     };
 
     /// `powerFolders` are the `power` folders of the device and of those that it sleeps with.
     explicit SleepGuard(const std::vector<std::filesystem::path>& powerFolders);
 
-    /// What to do now. Being told to read counts as having read.
+    /// The advice for now. `read` counts as a reading.
     [[nodiscard]] Advice adviceAt(std::chrono::steady_clock::time_point now);
 
     /// Looks again whether the devices have runtime power management, which a driver may switch on late, and
-    /// how they are told to save power, which the user may change at any time.
+    /// their power settings, which the user may change at any time.
     void lookAgain();
 
 private:

@@ -4,7 +4,7 @@
 
 namespace orvelle {
 
-/// A clock that stands still until it is told to move.
+/// A clock that stands still until it is advanced.
 class FakeClock {
 public:
     /// 2026-01-01 00:00:00 UTC, where every replay begins.
@@ -21,7 +21,7 @@ private:
     std::shared_ptr<WallTime> m_time = std::make_shared<WallTime>(std::chrono::seconds(replayStartSeconds));
 };
 
-/// Answers what it was last told, for tests, snapshots and replays.
+/// Answers the values of its fields, for tests, snapshots and replays.
 class FakeProcessorSource final : public ProcessorSource {
 public:
     std::optional<std::vector<CoreTicks>> ticks;

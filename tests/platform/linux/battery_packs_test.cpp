@@ -51,7 +51,7 @@ TEST(BatteryPacks, DescribesADischargingPack) {
     EXPECT_EQ(description.timeToFullCharge, -1);
 }
 
-TEST(BatteryPacks, TellsThePacksFiguresInTheMonitorsUnits) {
+TEST(BatteryPacks, ConvertsThePacksFiguresToTheMonitorsUnits) {
     BatteryPack pack = discharging();
     pack.temperature = 305;
     const SmartBatteryProperties battery = properties(pack);
@@ -118,7 +118,7 @@ TEST(BatteryPacks, TimesOfAPackThatCountsInChargeFollowFromChargeAndCurrentAlone
     EXPECT_EQ(describe(pack, true).timeToFullCharge, 180) << "the designed charge stands in";
 }
 
-TEST(BatteryPacks, TimesOfAPackThatCountsInChargeAndTellsItsPowerFollowFromEnergy) {
+TEST(BatteryPacks, TimesOfAPackThatCountsInChargeAndReportsItsPowerFollowFromEnergy) {
     BatteryPack pack = countedInCharge(PackStatus::discharging);
     pack.currentNow.reset();
     pack.powerNow = 9120 * milli;
@@ -196,7 +196,7 @@ TEST(BatteryPacks, TheDriversTimeIsTakenInMinutes) {
     EXPECT_EQ(describe(pack, true).timeToEmpty, -1);
 }
 
-TEST(BatteryPacks, ATimeThatCannotBeToldIsMinusOne) {
+TEST(BatteryPacks, AnUnknownTimeIsMinusOne) {
     BatteryPack pack = discharging();
     pack.powerNow = 0;
     EXPECT_EQ(describe(pack).timeToEmpty, -1);

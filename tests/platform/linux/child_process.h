@@ -14,7 +14,7 @@
 
 namespace orvelle::linux_platform {
 
-/// A real process that sleeps, does a piece of work whenever it is told to, and is ended with the object.
+/// A real process that sleeps, does a piece of work on request, and ends with the object.
 class ChildProcess {
 public:
     using Work = std::function<void(const ChildProcess& self)>;
@@ -51,7 +51,7 @@ public:
         static_cast<void>(!::write(m_requests[1], &byte, 1));
         waitForReply();
     }
-    /// In the child: tells that the work is done, for work that does not return.
+    /// In the child: reports that the work is done, for work that does not return.
     void reply() const {
         const char byte = 1;
         static_cast<void>(!::write(m_replies[1], &byte, 1));

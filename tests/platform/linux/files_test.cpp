@@ -13,7 +13,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-TEST(Directory, ListsWhatItHoldsAndNothingWhenItIsNone) {
+TEST(Directory, ListsItsEntriesAndIsEmptyForAnythingElse) {
     const TemporaryTree tree;
     tree.write("file", "");
     tree.link("link", "nowhere");
@@ -25,7 +25,7 @@ TEST(Directory, ListsWhatItHoldsAndNothingWhenItIsNone) {
     EXPECT_TRUE(namesIn(tree.root() / "file").empty());
 }
 
-TEST(Directory, ALinkToNowhereExistsByItself) {
+TEST(Directory, ADanglingLinkExists) {
     const TemporaryTree tree;
     tree.link("link", "nowhere");
     EXPECT_TRUE(existsUnfollowed(tree.root() / "link"));
@@ -33,7 +33,7 @@ TEST(Directory, ALinkToNowhereExistsByItself) {
     EXPECT_FALSE(existsUnfollowed(tree.root() / "missing"));
 }
 
-TEST(Directory, ItsOwnAndItsParentsNamesAreNoEntries) {
+TEST(Directory, DotAndDotDotAreNoEntries) {
     for (const char* name : {"", ".", ".."})
         EXPECT_FALSE(isEntryName(name)) << name;
     for (const char* name : {"...", ".x", "sda", " "})
@@ -88,7 +88,7 @@ TEST(KeptFile, DoesNotWaitForAFifo) {
     EXPECT_EQ(KeptFile(tree.root() / "fifo", KeptFile::Layout::single).read().value_or(""), "");
 }
 
-TEST(KeptFile, IsNothingOnceWhatItTellsOfHasVanishedAndReadsItsSuccessor) {
+TEST(KeptFile, FailsWhenItsDeviceVanishesAndReadsTheNextOne) {
     // As with a device in sysfs that is pulled out, the open file stays and reading it fails.
     const TemporaryTree tree;
     std::optional<ChildProcess> child(std::in_place);
@@ -132,7 +132,7 @@ MountOutcome watchOwnMounts(const std::string& path) {
     return mountinfo.hasAnnouncedChange() ? MountOutcome::neverQuiet : MountOutcome::asExpected;
 }
 
-TEST(MountAnnouncement, IsToldOnceForAMountAndQuietElse) {
+TEST(MountAnnouncement, ReportsAMountOnce) {
     const TemporaryTree tree;
     const auto outcome = inChildProcess([&tree] { return watchOwnMounts(tree.root().string()); });
     if (outcome == MountOutcome::notPermitted)

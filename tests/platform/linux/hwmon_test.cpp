@@ -90,14 +90,14 @@ TEST_F(HwmonDeviceTest, AnACPIDeviceSitsAtItsOwnName) {
     EXPECT_EQ(deviceOf("LNXSYSTM:00/LNXSYBUS:00/ACPI000D:00").place, "ACPI000D:00");
 }
 
-TEST_F(HwmonDeviceTest, AnI2CAddressIsToldWithoutTheAdaptersNumber) {
+TEST_F(HwmonDeviceTest, AnI2CAddressIsReportedWithoutTheAdaptersNumber) {
     tree.device("pci0000:00/0000:00:1f.4", "pci");
     tree.device("pci0000:00/0000:00:1f.4/i2c-11", "i2c");
     tree.device("pci0000:00/0000:00:1f.4/i2c-11/11-0051", "i2c");
     EXPECT_EQ(deviceOf("pci0000:00/0000:00:1f.4/i2c-11/11-0051").place, "0000:00:1f.4 i2c 0051");
 }
 
-TEST_F(HwmonDeviceTest, ADiskIsToldByThePortOfItsController) {
+TEST_F(HwmonDeviceTest, ADiskIsIdentifiedByThePortOfItsController) {
     const std::string port = "pci0000:00/0000:00:17.0/ata9";
     tree.device("pci0000:00/0000:00:17.0", "pci");
     tree.write("sys/devices/" + port + "/ata_port/ata9/port_no", "3\n");
@@ -129,7 +129,7 @@ TEST_F(HwmonDeviceTest, SleepIsAskedOfTheDeviceUpToItsBusAndNotBeyond) {
     EXPECT_TRUE(device.powerFolders[0].string().ends_with("11-0051/power"));
 }
 
-TEST_F(HwmonDeviceTest, ALinkThatLeavesTheTreeTellsNothing) {
+TEST_F(HwmonDeviceTest, ALinkThatLeavesTheTreeIsIgnored) {
     tree.write("sys/class/hwmon/hwmon0/name", "chip");
     tree.link("sys/class/hwmon/hwmon0/device", "/sys");
     const HwmonDevice device = findHwmonDevice(tree.root(), tree.root() / "sys/class/hwmon/hwmon0");

@@ -17,12 +17,12 @@ TEST(InterfaceAddresses, AreReadFromATextOfNamesAndAddresses) {
                          {"wlan0", Family::ipv6, "fe80::1"}}));
 }
 
-TEST(InterfaceAddresses, AreWrittenInOneForm) {
+TEST(InterfaceAddresses, AreNormalized) {
     EXPECT_EQ(parseAddresses("eth0 2001:0DB8:0:0:0:0:0:0001\neth0 FE80::A"),
               (Addresses{{"eth0", Family::ipv6, "2001:db8::1"}, {"eth0", Family::ipv6, "fe80::a"}}));
 }
 
-TEST(InterfaceAddresses, LeaveOutWhatIsNoAddress) {
+TEST(InterfaceAddresses, IgnoreMalformedAddresses) {
     EXPECT_TRUE(parseAddresses("").empty());
     EXPECT_TRUE(parseAddresses("\n\neth0\neth0 \n").empty());
     EXPECT_TRUE(parseAddresses("eth0 300.1.1.1\neth0 host.example\neth0 192.0.2.1/24\neth0 %eth0").empty());
@@ -30,7 +30,7 @@ TEST(InterfaceAddresses, LeaveOutWhatIsNoAddress) {
     EXPECT_TRUE(parseAddresses("eth0 " + std::string(std::size_t{1} << 20, ':')).empty());
 }
 
-TEST(InterfaceAddresses, OfTheHostNameAnInterfaceAndAreNumeric) {
+TEST(InterfaceAddresses, OfTheHostAreNumericAndNameTheirInterface) {
     const std::optional<Addresses> addresses = hostAddresses();
     ASSERT_TRUE(addresses);
     for (const InterfaceAddress& address : *addresses) {

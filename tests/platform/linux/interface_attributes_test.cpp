@@ -6,7 +6,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-TEST(InterfaceState, IsUpWhenSetUpAndAbleToPassPackets) {
+TEST(InterfaceState, IsUpWhenEnabledAndAbleToPassPackets) {
     EXPECT_TRUE(interfaceState("eth0", "0x1003\n", "up\n").isUp);
     EXPECT_TRUE(interfaceState("tun0", "0x10d1\n", "unknown\n").isUp);
     EXPECT_TRUE(interfaceState("eth0", "0x1003\n", "testing\n").isUp);
@@ -23,7 +23,7 @@ TEST(InterfaceState, IsDownInEveryStateInWhichNoPacketPasses) {
         EXPECT_FALSE(interfaceState("eth0", "0x1003\n", state).isUp) << state;
 }
 
-TEST(InterfaceState, TellsALoopbackByItsFlagAndElseByItsName) {
+TEST(InterfaceState, RecognizesALoopbackByItsFlagOrItsName) {
     EXPECT_TRUE(interfaceState("lo", "0x9\n", "unknown\n").isLoopback);
     EXPECT_TRUE(interfaceState("dummy", "0x9", "unknown").isLoopback);
     EXPECT_FALSE(interfaceState("eth0", "0x1003\n", "up\n").isLoopback);
@@ -58,7 +58,7 @@ Kind kindOfType(const std::string& deviceType) {
     return interfaceKind({.uevent = uevent, .linkType = ethernetLink});
 }
 
-TEST(InterfaceKind, IsWhatTheDriverSays) {
+TEST(InterfaceKind, FollowsTheDriversDeviceType) {
     EXPECT_EQ(kindOfType("wlan"), Kind::wifi);
     EXPECT_EQ(kindOfType("bridge"), Kind::bridge);
     EXPECT_EQ(kindOfType("wireguard"), Kind::vpnTunnel);
@@ -66,7 +66,7 @@ TEST(InterfaceKind, IsWhatTheDriverSays) {
     EXPECT_EQ(kindOfType("dsa"), Kind::ethernet);
 }
 
-TEST(InterfaceKind, OfAnotherTypeOfDeviceIsUnknown) {
+TEST(InterfaceKind, IsUnknownForOtherDeviceTypes) {
     for (const char* deviceType :
          {"bond", "vlan", "vxlan", "macvlan", "ppp", "bluetooth", "WLAN", "wlan0", ""})
         EXPECT_EQ(kindOfType(deviceType), Kind::unknown) << deviceType;
@@ -74,15 +74,15 @@ TEST(InterfaceKind, OfAnotherTypeOfDeviceIsUnknown) {
               Kind::unknown);
 }
 
-TEST(InterfaceKind, IsWiFiWithAFolderForIt) {
+TEST(InterfaceKind, IsWiFiWithAWirelessFolder) {
     EXPECT_EQ(interfaceKind({.linkType = ethernetLink, .isWireless = true, .hasDevice = true}), Kind::wifi);
 }
 
-TEST(InterfaceKind, IsABridgeWithAFolderForIt) {
+TEST(InterfaceKind, IsABridgeWithABridgeFolder) {
     EXPECT_EQ(interfaceKind({.linkType = ethernetLink, .isBridge = true}), Kind::bridge);
 }
 
-TEST(InterfaceKind, IsEthernetOfItsLinkTypeWithADeviceBehind) {
+TEST(InterfaceKind, IsEthernetForItsLinkTypeAndADevice) {
     const std::string_view uevent = "INTERFACE=eth0\nIFINDEX=2\n";
     EXPECT_EQ(interfaceKind({.uevent = uevent, .linkType = ethernetLink, .hasDevice = true}), Kind::ethernet);
     EXPECT_EQ(interfaceKind({.uevent = uevent, .linkType = ethernetLink}), Kind::unknown)
@@ -92,12 +92,12 @@ TEST(InterfaceKind, IsEthernetOfItsLinkTypeWithADeviceBehind) {
     EXPECT_EQ(interfaceKind({.uevent = uevent, .hasDevice = true}), Kind::unknown);
 }
 
-TEST(InterfaceKind, IsATunnelWhereATunnelsPacketsPassAndNotAMachinesFrames) {
+TEST(InterfaceKind, IsATunnelForATunDeviceButNotForATap) {
     EXPECT_EQ(interfaceKind({.linkType = noLink, .tunnelFlags = 0x1001}), Kind::vpnTunnel);
     EXPECT_EQ(interfaceKind({.linkType = ethernetLink, .tunnelFlags = 0x1002}), Kind::unknown);
 }
 
-TEST(InterfaceKind, IsCellularOfAModemsLinkType) {
+TEST(InterfaceKind, IsCellularForAModemsLinkType) {
     EXPECT_EQ(interfaceKind({.linkType = 519}), Kind::cellular);
 }
 
@@ -122,7 +122,7 @@ TEST(InterfaceKind, IsReadFromTheTree) {
     EXPECT_EQ(kindOf("wg0"), Kind::vpnTunnel);
 }
 
-TEST(InterfaceKind, SurvivesFilesThatMakeNoSense) {
+TEST(InterfaceKind, SurvivesMalformedFiles) {
     const TemporaryTree tree;
     for (const std::string& text :
          {std::string(), std::string("\xFF\xFE"), std::string("-1"), std::string("0x"),

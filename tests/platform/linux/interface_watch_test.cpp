@@ -40,7 +40,7 @@ WatchOutcome watchOwnNetwork() {
         return WatchOutcome::notPermitted;
     if (!watch.mayHaveChanged())
         return WatchOutcome::addressMissed;
-    static_cast<void>(routes.mayHaveChanged()); // an address brings a route of its own
+    static_cast<void>(routes.mayHaveChanged()); // an address brings a route with it
     if (!addDefaultRoute())
         return WatchOutcome::notPermitted;
     if (!routes.mayHaveChanged())
@@ -50,14 +50,14 @@ WatchOutcome watchOwnNetwork() {
     return watch.mayHaveChanged() ? WatchOutcome::neverQuiet : WatchOutcome::asExpected;
 }
 
-TEST(InterfaceWatch, TellsOfAChangeOnceAndIsQuietElse) {
+TEST(InterfaceWatch, ReportsAChangeOnce) {
     const auto outcome = inChildProcess(watchOwnNetwork);
     if (outcome == WatchOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
     EXPECT_EQ(outcome, WatchOutcome::asExpected);
 }
 
-TEST(InterfaceWatch, ReplacesASocketThatFailsAndAnswersYesForWhatWasMissed) {
+TEST(InterfaceWatch, ReportsAChangeAfterReplacingAFailedSocket) {
     const int watched = ::dup(STDIN_FILENO); // the number that the watch's socket gets
     ::close(watched);
     InterfaceWatch watch(Subject::interfacesAndAddresses);

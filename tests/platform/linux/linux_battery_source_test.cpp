@@ -9,7 +9,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-class PowerSupplySourceTest : public ::testing::Test {
+class LinuxBatterySourceTest : public ::testing::Test {
 protected:
     using Attributes = std::map<std::string, std::string>;
 
@@ -67,7 +67,7 @@ protected:
     }
 };
 
-TEST_F(PowerSupplySourceTest, TwoPacksAreOneSource) {
+TEST_F(LinuxBatterySourceTest, TwoPacksAreOneSource) {
     buildTwoPacks();
     LinuxBatterySource source(tree.root());
     const auto description = sampleOf(source);
@@ -82,18 +82,18 @@ TEST_F(PowerSupplySourceTest, TwoPacksAreOneSource) {
     EXPECT_EQ(battery->amperage, -1588);
 }
 
-TEST_F(PowerSupplySourceTest, AMachineWithSuppliesButNoBatteryHasNonePresent) {
+TEST_F(LinuxBatterySourceTest, AMachineWithSuppliesButNoBatteryHasNonePresent) {
     mains(true);
     LinuxBatterySource source(tree.root());
     EXPECT_EQ(sampleOf(source), std::nullopt);
     EXPECT_EQ(source.readSmartBattery(), std::nullopt);
 }
 
-TEST_F(PowerSupplySourceTest, AMachineWithNothingHasNonePresent) {
+TEST_F(LinuxBatterySourceTest, AMachineWithNothingHasNonePresent) {
     EXPECT_EQ(firstSample(), std::nullopt);
 }
 
-TEST_F(PowerSupplySourceTest, BatteriesOfDevicesAreNotTheMachinesAndAreNeverAsked) {
+TEST_F(LinuxBatterySourceTest, BatteriesOfDevicesAreNotTheMachinesAndAreNeverAsked) {
     supply("hidpp_battery_0", {{"type", "Battery"},
                                {"scope", "Device"},
                                {"status", "Discharging"},
@@ -106,17 +106,17 @@ TEST_F(PowerSupplySourceTest, BatteriesOfDevicesAreNotTheMachinesAndAreNeverAske
     EXPECT_EQ(watch.openedFiles(), std::set<std::string>{"scope"});
 }
 
-TEST_F(PowerSupplySourceTest, ABatteryOfTheSystemScopeIsTheMachines) {
+TEST_F(LinuxBatterySourceTest, ABatteryOfTheSystemScopeIsTheMachines) {
     supply("BAT0", {{"type", "Battery"}, {"scope", "System"}, {"status", "Full"}, {"capacity", "100"}});
     EXPECT_TRUE(firstSample());
 }
 
-TEST_F(PowerSupplySourceTest, AnEmptyBayIsNoBattery) {
+TEST_F(LinuxBatterySourceTest, AnEmptyBayIsNoBattery) {
     supply("BAT0", {{"type", "Battery"}, {"present", "0"}});
     EXPECT_EQ(firstSample(), std::nullopt);
 }
 
-TEST_F(PowerSupplySourceTest, APackThatIsPutInIsReadWithItsOwnFigures) {
+TEST_F(LinuxBatterySourceTest, APackThatIsPutInIsReadWithItsOwnFigures) {
     buildTwoPacks();
     LinuxBatterySource source(tree.root());
     EXPECT_EQ(sampleOf(source)->currentCapacity, 40);
@@ -129,7 +129,7 @@ TEST_F(PowerSupplySourceTest, APackThatIsPutInIsReadWithItsOwnFigures) {
     EXPECT_EQ(sampleOf(source)->currentCapacity, 50);
 }
 
-TEST_F(PowerSupplySourceTest, AnyOnlineSupplyThatIsNoBatteryIsExternalPower) {
+TEST_F(LinuxBatterySourceTest, AnyOnlineSupplyThatIsNoBatteryIsExternalPower) {
     supply("BAT0", {{"type", "Battery"}, {"status", "Not charging"}, {"capacity", "80"}, {"online", "1"}});
     mains(false);
     EXPECT_EQ(firstSample()->powerSourceState, "Battery Power");
@@ -144,7 +144,7 @@ TEST_F(PowerSupplySourceTest, AnyOnlineSupplyThatIsNoBatteryIsExternalPower) {
     EXPECT_EQ(firstSample()->powerSourceState, "Battery Power") << "a pad that charges a mouse";
 }
 
-TEST_F(PowerSupplySourceTest, WithoutSuppliesThePackTellsOfExternalPower) {
+TEST_F(LinuxBatterySourceTest, WithoutSuppliesThePacksStatusImpliesExternalPower) {
     supply("BAT0", {{"type", "Battery"}, {"status", "Charging"}, {"capacity", "80"}});
     EXPECT_EQ(firstSample()->powerSourceState, "AC Power");
     EXPECT_EQ(firstSample()->isCharging, true);
@@ -152,7 +152,7 @@ TEST_F(PowerSupplySourceTest, WithoutSuppliesThePackTellsOfExternalPower) {
     EXPECT_EQ(firstSample()->powerSourceState, "Battery Power");
 }
 
-TEST_F(PowerSupplySourceTest, FollowsTheValuesFromSampleToSample) {
+TEST_F(LinuxBatterySourceTest, FollowsTheValuesFromSampleToSample) {
     buildTwoPacks();
     LinuxBatterySource source(tree.root());
     EXPECT_EQ(sampleOf(source)->currentCapacity, 40);
@@ -165,7 +165,7 @@ TEST_F(PowerSupplySourceTest, FollowsTheValuesFromSampleToSample) {
     EXPECT_EQ(description->powerSourceState, "AC Power");
 }
 
-TEST_F(PowerSupplySourceTest, AValueThatVanishesIsUnknownRatherThanOld) {
+TEST_F(LinuxBatterySourceTest, AValueThatVanishesIsUnknownRatherThanOld) {
     buildTwoPacks();
     LinuxBatterySource source(tree.root());
     EXPECT_EQ(sampleOf(source)->timeToEmpty, 120);
@@ -173,7 +173,7 @@ TEST_F(PowerSupplySourceTest, AValueThatVanishesIsUnknownRatherThanOld) {
     EXPECT_EQ(sampleOf(source)->timeToEmpty, -1);
 }
 
-TEST_F(PowerSupplySourceTest, WhatChangesRarelyIsReadAgainWithinTenSamples) {
+TEST_F(LinuxBatterySourceTest, WhatChangesRarelyIsReadAgainWithinTenSamples) {
     buildTwoPacks();
     LinuxBatterySource source(tree.root());
     static_cast<void>(sampleOf(source));
@@ -183,7 +183,7 @@ TEST_F(PowerSupplySourceTest, WhatChangesRarelyIsReadAgainWithinTenSamples) {
     EXPECT_EQ(source.readSmartBattery()->cycleCount, 451);
 }
 
-TEST_F(PowerSupplySourceTest, NonsenseInEveryFileDoesNoHarm) {
+TEST_F(LinuxBatterySourceTest, MalformedFilesDoNoHarm) {
     for (const char* text :
          {"", "x", "-9223372036854775808", "99999999999999999999999", "\xFF\xFE", "0", "1\n2"}) {
         mains(true);

@@ -16,7 +16,7 @@ TEST(Diskstats, CountsSectorsOfFiveHundredAndTwelveBytes) {
                  {"sda1", {.bytesRead = 3ULL * 512, .bytesWritten = 7ULL * 512}}}));
 }
 
-TEST(Diskstats, LeavesOutLinesThatAreCutOrMakeNoSense) {
+TEST(Diskstats, LeavesOutTruncatedAndMalformedLines) {
     EXPECT_TRUE(parseDiskstats("").empty());
     EXPECT_TRUE(parseDiskstats("8 0 sda 1 2 3 4 5 6\n8 0 sda 1 2 3\n8 0 sda\n8 0\n8\n\n").empty());
     EXPECT_TRUE(parseDiskstats("8 0 sda 1 2 x 4 5 6 7\n8 0 sda 1 2 3 4 5 6 -7\n").empty());
@@ -30,7 +30,7 @@ TEST(Diskstats, StaysAtTheLargestCounterWhereTheBytesDoNotFit) {
               (Devices{{"sda", {.bytesRead = largest, .bytesWritten = largest}}}));
 }
 
-TEST(WholeDiskName, IsToldFromAPartitions) {
+TEST(WholeDiskName, IsDistinguishedFromAPartitions) {
     for (const std::string_view name :
          {"sda", "sdaa", "vda", "xvdb", "hdc", "nvme0n1", "nvme10n12", "mmcblk0"})
         EXPECT_TRUE(isWholeDiskName(name)) << name;
@@ -50,7 +50,7 @@ TEST(MultipathDisk, IsNamedWithoutTheController) {
 
 using Disks = std::vector<DiskCounters>;
 
-/// A line of diskstats of a device that read and wrote so many sectors.
+/// A line of diskstats of a device that read and wrote these sectors.
 std::string lineOf(const std::string& name, std::uint64_t sectorsRead, std::uint64_t sectorsWritten) {
     return "8 0 " + name + " 1 0 " + std::to_string(sectorsRead) + " 9 1 0 " +
            std::to_string(sectorsWritten) + " 9 0 9 9\n";
@@ -82,14 +82,14 @@ TEST_F(LinuxDiskCountersTest, CountsOnlyWhatSysfsLinksToHardware) {
                                       {.bytesRead = 512, .bytesWritten = 2 * 512}}));
 }
 
-TEST_F(LinuxDiskCountersTest, TellsByNameWhereSysfsSaysNothingOfADevice) {
+TEST_F(LinuxDiskCountersTest, RecognizesDisksByNameWhereSysfsHasNoDevice) {
     tree.write("proc/diskstats", lineOf("sda", 1, 1) + lineOf("nvme0n1", 2, 2) + lineOf("nvme0n1p1", 2, 2) +
                                      lineOf("vdb", 4, 4) + lineOf("vdb1", 4, 4));
     addHardware("sda");
     EXPECT_EQ(counters.read()->size(), 3u); // sda by its link, nvme0n1 and vdb by their names
 }
 
-TEST_F(LinuxDiskCountersTest, TellsByNameInATreeWithoutAnyDeviceLink) {
+TEST_F(LinuxDiskCountersTest, RecognizesDisksByNameInATreeWithoutDeviceLinks) {
     tree.write("proc/diskstats", lineOf("sda", 1, 2) + lineOf("sda1", 1, 2) + lineOf("loop0", 3, 3));
     for (const char* name : {"sda", "sda/sda1", "loop0"})
         tree.makeDirectory(std::string("sys/block/") + name);

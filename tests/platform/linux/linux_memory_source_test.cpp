@@ -117,7 +117,7 @@ TEST(MemoryReading, ZfsKeepsItsMinimumAndCanGiveTheRestBack) {
     EXPECT_EQ(info.used, (5500 + 500) * megabyte);
 }
 
-TEST(MemoryReading, ZfsOwningNearlyAllMemoryIsSurvived) {
+TEST(MemoryReading, SurvivesZfsOwningNearlyAllMemory) {
     const Meminfo meminfo{.total = 1000 * megabyte, .free = 10 * megabyte, .activeFile = 100 * megabyte};
     const MemoryReading reading = memoryReading(meminfo, {.arcSize = 900 * megabyte}, pageSize);
     expectPartsWithinTotal(reading);
@@ -163,7 +163,7 @@ TEST(MemoryReading, PressureRisesAsMemoryGetsShort) {
 }
 
 /// Any combination of figures, sane or not, on pages of any size.
-TEST(MemoryReading, NoTextWhateverItSaysReachesTheLimitsOfTheMonitor) {
+TEST(MemoryReading, NoTextOverflowsTheMonitorsArithmetic) {
     std::mt19937_64 random(20260101);
     const auto figure = [&random]() -> std::string {
         switch (random() % 6) {

@@ -31,7 +31,7 @@ TEST_F(LinuxNetworkSourceTest, EmptyTreeIsAFailedRead) {
     EXPECT_FALSE(source.read());
 }
 
-TEST_F(LinuxNetworkSourceTest, TellsCountersStateAndAddressesOfEachInterface) {
+TEST_F(LinuxNetworkSourceTest, ReportsCountersStateAndAddressesOfEachInterface) {
     tree.write("proc/net/dev", "  lo: 5 0 0 0 0 0 0 0 5 0 0 0 0 0 0 0\n"
                                "eth0: 100 0 0 0 0 0 0 0 40 0 0 0 0 0 0 0\n"
                                "eth1: 7 0 0 0 0 0 0 0 8 0 0 0 0 0 0 0\n");
@@ -62,7 +62,7 @@ TEST_F(LinuxNetworkSourceTest, LeavesOutPortsOfABridgeWithTheirAddresses) {
     EXPECT_EQ(source.read(), (Entries{{.name = "br0", .isUp = true, .bytesIn = 100, .bytesOut = 40}}));
 }
 
-TEST_F(LinuxNetworkSourceTest, TellsTheKindOfAnInterface) {
+TEST_F(LinuxNetworkSourceTest, ReportsTheKindOfAnInterface) {
     tree.write("proc/net/dev", "wlp3s0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
                                "mystery: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
     tree.write("sys/class/net/wlp3s0/uevent", "DEVTYPE=wlan\nINTERFACE=wlp3s0\nIFINDEX=3\n");
@@ -89,7 +89,7 @@ TEST_F(LinuxNetworkSourceTest, ReadsTheKindOnlyOfAnInterfaceThatItDoesNotKnow) {
     EXPECT_EQ(source.read()->front().kind, Kind::unknown) << "another one of the same name";
 }
 
-TEST_F(LinuxNetworkSourceTest, TellsTheMetricOfTheDefaultRoute) {
+TEST_F(LinuxNetworkSourceTest, ReportsTheMetricOfTheDefaultRoute) {
     tree.write("proc/net/dev", "docker0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
                                " enp3s0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
     tree.write("proc/net/route", "Iface\tDestination\tGateway\tFlags\tRefCnt\tUse\tMetric\tMask\n"
@@ -100,7 +100,7 @@ TEST_F(LinuxNetworkSourceTest, TellsTheMetricOfTheDefaultRoute) {
     EXPECT_EQ(source.read()->back().defaultRouteMetric, std::nullopt);
 }
 
-TEST_F(LinuxNetworkSourceTest, TellsNothingOfTheHost) {
+TEST_F(LinuxNetworkSourceTest, ReportsNothingOfTheHost) {
     tree.write("proc/net/dev", "eth0: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n"
                                "  lo: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
     const std::optional<Entries> entries = source.read();
@@ -126,7 +126,7 @@ TEST_F(LinuxNetworkSourceTest, FollowsATreeThatChanges) {
     EXPECT_EQ(source.read(), (Entries{{.name = "usb0", .isUp = true, .bytesIn = 9, .bytesOut = 9}}));
 }
 
-TEST_F(LinuxNetworkSourceTest, MakesNamesFitToBeShown) {
+TEST_F(LinuxNetworkSourceTest, MakesNamesReadable) {
     tree.write("proc/net/dev", "a\x1B\xFF\xE2\x80\xAE: 1 0 0 0 0 0 0 0 1 0 0 0 0 0 0 0\n");
     EXPECT_EQ(source.read()->front().name, "a \xEF\xBF\xBD");
 }
@@ -152,7 +152,7 @@ Entries withoutCounters(Entries entries) {
     return entries;
 }
 
-TEST(LinuxNetworkSourceOfTheHost, TellsTheSameWithAndWithoutAnAnnouncedChange) {
+TEST(LinuxNetworkSourceOfTheHost, AnswersTheSameWithAndWithoutAnAnnouncedChange) {
     LinuxNetworkSource source("/");
     const std::optional<Entries> first = source.read();
     const std::optional<Entries> second = source.read();
@@ -163,7 +163,7 @@ TEST(LinuxNetworkSourceOfTheHost, TellsTheSameWithAndWithoutAnAnnouncedChange) {
     EXPECT_EQ(withoutCounters(*afresh), withoutCounters(*first));
 }
 
-TEST(LinuxNetworkSourceOfTheHost, TellsTheAddressesThatTheKernelLists) {
+TEST(LinuxNetworkSourceOfTheHost, ReportsTheAddressesThatTheKernelLists) {
     std::vector<std::pair<std::string, std::string>> told;
     std::vector<std::pair<std::string, std::string>> listed;
     const std::optional<Entries> entries = LinuxNetworkSource("/").read();
@@ -182,7 +182,7 @@ TEST(LinuxNetworkSourceOfTheHost, TellsTheAddressesThatTheKernelLists) {
         << "ports of a bridge may be missing, no more may be told";
 }
 
-TEST(LinuxNetworkSourceOfTheHost, HasNoReadingWhileAddressesFailAndAsksAgainAtEachOne) {
+TEST(LinuxNetworkSourceOfTheHost, FailsWhileAddressesFailAndRetriesAtEachReading) {
     int timesAsked = 0;
     bool isAnswering = false;
     LinuxNetworkSource source("/", [&]() -> std::optional<Addresses> {
@@ -208,7 +208,7 @@ enum class AddressOutcome {
     wrongAfter
 };
 
-/// The IPv4 addresses of the loopback that the source tells now.
+/// The IPv4 addresses of the loopback in the present reading.
 std::vector<std::string> loopbackAddresses(LinuxNetworkSource& source) {
     std::vector<std::string> addresses;
     for (const InterfaceEntry& entry : source.read().value_or(Entries())) {
@@ -268,7 +268,7 @@ AddressOutcome followAnAddressThatCannotBeAskedFor() {
                                                                               : AddressOutcome::wrongAfter;
 }
 
-TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressOnceItCanBeAskedFor) {
+TEST(LinuxNetworkSourceOfTheHost, ReportsANewAddressOnceItCanBeRead) {
     const auto outcome = inChildProcess(followAnAddressThatCannotBeAskedFor);
     if (outcome == AddressOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
@@ -294,14 +294,14 @@ RouteOutcome followARoute() {
     return hasDefaultRoute(source) ? RouteOutcome::asExpected : RouteOutcome::routeMissed;
 }
 
-TEST(LinuxNetworkSourceOfTheHost, TellsANewDefaultRouteAtTheNextReading) {
+TEST(LinuxNetworkSourceOfTheHost, ReportsANewDefaultRouteAtTheNextReading) {
     const auto outcome = inChildProcess(followARoute);
     if (outcome == RouteOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";
     EXPECT_EQ(outcome, RouteOutcome::asExpected);
 }
 
-TEST(LinuxNetworkSourceOfTheHost, TellsANewAddressAtTheNextReading) {
+TEST(LinuxNetworkSourceOfTheHost, ReportsANewAddressAtTheNextReading) {
     const auto outcome = inChildProcess(followAnAddress);
     if (outcome == AddressOutcome::notPermitted)
         GTEST_SKIP() << "this system does not let a process have a network of its own";

@@ -46,7 +46,7 @@ TEST_F(LinuxProcessSourceTest, ReadsTimesAndMemoryInTheUsualUnits) {
                                                  .residentBytes = 3 * 4096}}));
 }
 
-TEST_F(LinuxProcessSourceTest, ReadsTimesAndMemoryInTheUnitsItIsTold) {
+TEST_F(LinuxProcessSourceTest, ReadsTimesAndMemoryInTheGivenUnits) {
     tree.put({.pid = 42, .userTicks = 3, .residentPages = 3, .exe = {}});
     LinuxProcessSource other(tree.root(), ProcessTimesFrom::statFiles,
                              {.pageSize = 65536, .ticksPerSecond = 1000});
@@ -119,7 +119,7 @@ TEST_F(LinuxProcessSourceTest, NamesAProcessByItsShortNameWhenTheLinkCannotBeRea
     EXPECT_EQ(readName(), "systemd-resolve");
 }
 
-TEST_F(LinuxProcessSourceTest, ListsAProcessWithoutAnyNameAsOneThatCannotBeShown) {
+TEST_F(LinuxProcessSourceTest, ListsAProcessWithoutAnyNameWithAnEmptyName) {
     tree.put({.pid = 5, .comm = "", .exe = {}});
     EXPECT_EQ(readName(), "");
 }
@@ -182,7 +182,7 @@ TEST_F(LinuxProcessSourceTest, CannotListWithoutAProcUntilThereIsOne) {
     EXPECT_EQ(readPids(), std::vector{5});
 }
 
-TEST_F(LinuxProcessSourceTest, TellsTheSizeOfMemoryWhereItStands) {
+TEST_F(LinuxProcessSourceTest, ReportsTheSizeOfMemory) {
     EXPECT_FALSE(source.readTotalMemory());
     tree.write(tree.root() / "proc/meminfo", "MemTotal:       24684 kB\nMemFree:  5 kB\n");
     EXPECT_EQ(source.readTotalMemory(), 24684u * 1024);

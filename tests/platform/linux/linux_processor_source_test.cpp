@@ -41,7 +41,7 @@ TEST(ProcStat, ATextWithoutCoresIsAFailedRead) {
         EXPECT_FALSE(parseProcStat(text)) << text;
 }
 
-TEST(ProcStat, EveryTruncationOfATextIsSurvived) {
+TEST(ProcStat, SurvivesEveryTruncation) {
     const std::string text = "cpu  10 2 3 4 5 6 7 8 9 10\ncpu0 1 2 3 4 5 6 7 8 9 10\nbtime 1700000000\n";
     for (std::size_t length = 0; length <= text.size(); ++length) {
         const auto stat = parseProcStat(std::string_view(text).substr(0, length));
@@ -49,7 +49,7 @@ TEST(ProcStat, EveryTruncationOfATextIsSurvived) {
     }
 }
 
-TEST(ProcStat, NonsenseNumbersStayWithinTheBoundOfASource) {
+TEST(ProcStat, BoundsImplausibleNumbers) {
     const auto stat =
         parseProcStat("cpu0 99999999999999999999999 -5 18446744073709551615 x 18446744073709551615 "
                       "18446744073709551615 18446744073709551615 18446744073709551615\n");
@@ -60,7 +60,7 @@ TEST(ProcStat, NonsenseNumbersStayWithinTheBoundOfASource) {
     EXPECT_EQ(stat->cores[0].nice, 0u);
 }
 
-TEST(ProcStat, ABootTimeThatCannotBeIsNothing) {
+TEST(ProcStat, AnImplausibleBootTimeIsNothing) {
     for (const char* time : {"-5", "9223372036854775807", "x"})
         EXPECT_EQ(parseProcStat(std::string("cpu0 1 1 1 1\nbtime ") + time + "\n")->bootTime, std::nullopt)
             << time;

@@ -8,7 +8,7 @@
 namespace orvelle::linux_platform {
 namespace {
 
-class HwmonSensorSourceTest : public ::testing::Test {
+class LinuxSensorSourceTest : public ::testing::Test {
 protected:
     HwmonTree tree;
 
@@ -85,7 +85,7 @@ protected:
     }
 };
 
-TEST_F(HwmonSensorSourceTest, ALaptopShowsItsSensorsWithTheKernelsLabels) {
+TEST_F(LinuxSensorSourceTest, ALaptopShowsItsSensorsWithTheKernelsLabels) {
     buildLaptop({0, 1, 2, 3, 4});
     const Sample sample = firstSample();
     EXPECT_EQ(sample.cpu, 61.0);
@@ -103,7 +103,7 @@ TEST_F(HwmonSensorSourceTest, ALaptopShowsItsSensorsWithTheKernelsLabels) {
     EXPECT_EQ(sample.fans, std::vector<std::int64_t>{2573});
 }
 
-TEST_F(HwmonSensorSourceTest, KeysAndOrderDoNotDependOnTheKernelsNumbering) {
+TEST_F(LinuxSensorSourceTest, KeysAndOrderDoNotDependOnTheKernelsNumbering) {
     buildLaptop({0, 1, 2, 3, 4});
     const Sample before = firstSample();
     tree.remove("sys");
@@ -113,7 +113,7 @@ TEST_F(HwmonSensorSourceTest, KeysAndOrderDoNotDependOnTheKernelsNumbering) {
     EXPECT_EQ(after.cpu, before.cpu);
 }
 
-TEST_F(HwmonSensorSourceTest, ADesktopTellsTwoEqualDrivesApart) {
+TEST_F(LinuxSensorSourceTest, ADesktopDistinguishesTwoEqualDrives) {
     buildDesktop();
     const Sample sample = firstSample();
     EXPECT_EQ(sample.cpu, 55.125);
@@ -130,14 +130,14 @@ TEST_F(HwmonSensorSourceTest, ADesktopTellsTwoEqualDrivesApart) {
     EXPECT_EQ(sample.fans, std::vector<std::int64_t>{1250});
 }
 
-TEST_F(HwmonSensorSourceTest, DrivesOfDifferentModelsNeedNoAddress) {
+TEST_F(LinuxSensorSourceTest, DrivesOfDifferentModelsNeedNoAddress) {
     tree.nvme(0, "0000:01:00.0", 0, "Samsung SSD 980 PRO 1TB", "41850");
     tree.nvme(1, "0000:04:00.0", 1, "WD_BLACK SN850X 2000GB", "38850");
     EXPECT_EQ(namesOf(firstSample()), (std::vector<std::string>{"Samsung SSD 980 PRO 1TB Composite",
                                                                 "WD_BLACK SN850X 2000GB Composite"}));
 }
 
-TEST_F(HwmonSensorSourceTest, ChipsThatShareNameAndAddressAreNumbered) {
+TEST_F(LinuxSensorSourceTest, ChipsThatShareNameAndAddressAreNumbered) {
     tree.device("pci0000:00/0000:00:1f.4", "pci");
     for (const int adapter : {2, 10}) {
         const std::string folder = "pci0000:00/0000:00:1f.4/i2c-" + std::to_string(adapter);
@@ -152,7 +152,7 @@ TEST_F(HwmonSensorSourceTest, ChipsThatShareNameAndAddressAreNumbered) {
               }));
 }
 
-TEST_F(HwmonSensorSourceTest, AnARMBoardsProcessorIsItsThermalZone) {
+TEST_F(LinuxSensorSourceTest, AnARMBoardsProcessorIsItsThermalZone) {
     tree.device("virtual/thermal/thermal_zone0", "thermal", "class");
     tree.chip(0, "virtual/thermal/thermal_zone0", "cpu_thermal", {{"temp1_input", "47236"}});
     tree.device("virtual/thermal/thermal_zone1", "thermal", "class");
@@ -163,7 +163,7 @@ TEST_F(HwmonSensorSourceTest, AnARMBoardsProcessorIsItsThermalZone) {
     EXPECT_EQ(namesOf(sample), (std::vector<std::string>{"cpu_thermal", "gpu_thermal"}));
 }
 
-TEST_F(HwmonSensorSourceTest, AMachineWithNothingHasNothing) {
+TEST_F(LinuxSensorSourceTest, AMachineWithNothingHasNothing) {
     for (int count = 0; count < 12; ++count) {
         const Sample sample = firstSample();
         EXPECT_EQ(sample.cpu, std::nullopt);
@@ -173,7 +173,7 @@ TEST_F(HwmonSensorSourceTest, AMachineWithNothingHasNothing) {
     }
 }
 
-TEST_F(HwmonSensorSourceTest, ImplausibleReadingsAreAbsent) {
+TEST_F(LinuxSensorSourceTest, ImplausibleReadingsAreAbsent) {
     tree.device("platform/chip.0", "platform");
     tree.chip(0, "platform/chip.0", "chip",
               {{"temp1_input", "-274000"},
@@ -194,7 +194,7 @@ TEST_F(HwmonSensorSourceTest, ImplausibleReadingsAreAbsent) {
                                              {"chip.0/chip/temp10", "chip temp10", 0.001}}));
 }
 
-TEST_F(HwmonSensorSourceTest, FansThatStandStillOrFailAreAbsent) {
+TEST_F(LinuxSensorSourceTest, FansThatStandStillOrFailAreAbsent) {
     tree.device("platform/chip.0", "platform");
     tree.chip(0, "platform/chip.0", "chip",
               {{"fan1_input", "0"},
@@ -205,14 +205,14 @@ TEST_F(HwmonSensorSourceTest, FansThatStandStillOrFailAreAbsent) {
     EXPECT_EQ(firstSample().fans, (std::vector<std::int64_t>{700, 900}));
 }
 
-TEST_F(HwmonSensorSourceTest, AFanThatTellsNonsenseIsCutAtWhatNoFanReaches) {
+TEST_F(LinuxSensorSourceTest, ImplausibleFanSpeedsAreCut) {
     tree.device("platform/nct6775.656", "platform");
     tree.chip(0, "platform/nct6775.656", "nct6798",
               {{"fan1_input", "100000"}, {"fan2_input", "100001"}, {"fan3_input", "9223372036854775807"}});
     EXPECT_EQ(firstSample().fans, std::vector(3, maximumFanSpeed));
 }
 
-TEST_F(HwmonSensorSourceTest, TheNextBestSensorStandsInForTheProcessor) {
+TEST_F(LinuxSensorSourceTest, TheNextBestSensorStandsInForTheProcessor) {
     buildLaptop({0, 1, 2, 3, 4});
     tree.write(HwmonTree::chipFolder(2) + "/temp1_input", "0");
     EXPECT_EQ(firstSample().cpu, 60.0);
@@ -224,7 +224,7 @@ TEST_F(HwmonSensorSourceTest, TheNextBestSensorStandsInForTheProcessor) {
     EXPECT_EQ(firstSample().cpu, std::nullopt);
 }
 
-TEST_F(HwmonSensorSourceTest, FollowsTheValuesFromSampleToSample) {
+TEST_F(LinuxSensorSourceTest, FollowsTheValuesFromSampleToSample) {
     buildDesktop();
     LinuxSensorSource source(tree.root());
     EXPECT_EQ(sampleOf(source).cpu, 55.125);
@@ -235,7 +235,7 @@ TEST_F(HwmonSensorSourceTest, FollowsTheValuesFromSampleToSample) {
     EXPECT_TRUE(sample.fans.empty());
 }
 
-TEST_F(HwmonSensorSourceTest, OnceAValueIsLostTheNextSampleSearchesAgain) {
+TEST_F(LinuxSensorSourceTest, OnceAValueIsLostTheNextSampleSearchesAgain) {
     buildDesktop();
     LinuxSensorSource source(tree.root());
     EXPECT_EQ(sampleOf(source).sensors.size(), 6u);
@@ -247,7 +247,7 @@ TEST_F(HwmonSensorSourceTest, OnceAValueIsLostTheNextSampleSearchesAgain) {
     EXPECT_EQ(namesOf(sampleOf(source)).back(), "WD_BLACK SN850X 2000GB Composite");
 }
 
-TEST_F(HwmonSensorSourceTest, NewChipsAreFoundWithinTenSamples) {
+TEST_F(LinuxSensorSourceTest, NewChipsAreFoundWithinTenSamples) {
     LinuxSensorSource source(tree.root());
     EXPECT_TRUE(sampleOf(source).sensors.empty());
     buildDesktop();
@@ -256,7 +256,7 @@ TEST_F(HwmonSensorSourceTest, NewChipsAreFoundWithinTenSamples) {
     EXPECT_EQ(sampleOf(source).sensors.size(), 6u);
 }
 
-TEST_F(HwmonSensorSourceTest, AChannelThatDoesNotAnswerIsTriedAgainAtTheNextSearch) {
+TEST_F(LinuxSensorSourceTest, AChannelThatDoesNotAnswerIsTriedAgainAtTheNextSearch) {
     tree.device("platform/chip.0", "platform");
     tree.chip(0, "platform/chip.0", "chip", {{"temp1_input", ""}});
     LinuxSensorSource source(tree.root());
@@ -267,7 +267,7 @@ TEST_F(HwmonSensorSourceTest, AChannelThatDoesNotAnswerIsTriedAgainAtTheNextSear
     EXPECT_EQ(sampleOf(source).sensors.size(), 1u);
 }
 
-TEST_F(HwmonSensorSourceTest, DriversOfTheOldWayKeepTheirAttributesWithTheDevice) {
+TEST_F(LinuxSensorSourceTest, DriversMayKeepTheirAttributesWithTheDevice) {
     tree.write("sys/devices/platform/applesmc.768/name", "applesmc\n");
     tree.write("sys/devices/platform/applesmc.768/temp1_input", "52250\n");
     tree.write("sys/devices/platform/applesmc.768/temp1_label", "TC0P\n");
@@ -277,7 +277,7 @@ TEST_F(HwmonSensorSourceTest, DriversOfTheOldWayKeepTheirAttributesWithTheDevice
               (std::vector<NamedTemperature>{{"applesmc.768/applesmc/temp1", "applesmc TC0P", 52.25}}));
 }
 
-TEST_F(HwmonSensorSourceTest, NamesAreMadeFitToBeShown) {
+TEST_F(LinuxSensorSourceTest, NamesAreMadeReadable) {
     tree.device("platform/chip.0", "platform");
     tree.chip(0, "platform/chip.0", "ch\xFFip",
               {{"temp1_input", "40000"},
@@ -287,7 +287,7 @@ TEST_F(HwmonSensorSourceTest, NamesAreMadeFitToBeShown) {
     EXPECT_EQ(firstSample().sensors[0].name, "ch\xEF\xBF\xBDip a bc d");
 }
 
-TEST_F(HwmonSensorSourceTest, LoopsAndStrayFilesInTheTreeDoNoHarm) {
+TEST_F(LinuxSensorSourceTest, LoopsAndStrayFilesInTheTreeAreIgnored) {
     tree.link("sys/class/hwmon/hwmon0", "hwmon0");
     tree.write("sys/class/hwmon/hwmon1", "a file");
     tree.link("sys/class/hwmon/hwmon2", "../../devices/gone");
@@ -295,7 +295,7 @@ TEST_F(HwmonSensorSourceTest, LoopsAndStrayFilesInTheTreeDoNoHarm) {
     EXPECT_TRUE(firstSample().sensors.empty());
 }
 
-TEST_F(HwmonSensorSourceTest, AValueFileThatIsAPipeDoesNotStopTheProgram) {
+TEST_F(LinuxSensorSourceTest, AValueFileThatIsAPipeDoesNotBlock) {
     tree.device("platform/chip.0", "platform");
     tree.chip(0, "platform/chip.0", "chip", {{"temp1_input", "40000"}});
     ASSERT_EQ(::mkfifo((tree.root() / HwmonTree::chipFolder(0) / "temp2_input").c_str(), 0600), 0);

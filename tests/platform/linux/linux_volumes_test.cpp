@@ -29,7 +29,7 @@ TEST(VolumeSpace, IsReadFromATextByMountPath) {
     EXPECT_TRUE(parseVolumeSpaces(std::string(std::size_t{1} << 20, '/')).empty());
 }
 
-TEST(VolumeSpace, OfTheHostIsToldOnlyWhereSomethingIs) {
+TEST(VolumeSpace, OfTheHostIsKnownOnlyForExistingPaths) {
     EXPECT_TRUE(hostVolumeSpace("/").space);
     EXPECT_FALSE(hostVolumeSpace("/no such directory").space);
     EXPECT_GT(hostVolumeSpace("/").took.count(), 0);
@@ -57,7 +57,7 @@ TEST_F(LinuxVolumesTest, EmptyTreeHasNoAnswer) {
     EXPECT_FALSE(volumes.read());
 }
 
-TEST_F(LinuxVolumesTest, TellsPathNameAndSpaceOfEachVolume) {
+TEST_F(LinuxVolumesTest, ReportsPathNameAndSpaceOfEachVolume) {
     tree.write("proc/self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
                                       "2 1 8:17 / /mnt/My\\040Disk rw - ext4 /dev/sdb1 rw\n"
                                       "3 1 0:40 / /mnt/nas rw - nfs4 server:/ rw\n");
@@ -69,7 +69,7 @@ TEST_F(LinuxVolumesTest, TellsPathNameAndSpaceOfEachVolume) {
     EXPECT_EQ(volumes.read(), expected);
 }
 
-TEST_F(LinuxVolumesTest, TellsNothingOfTheHost) {
+TEST_F(LinuxVolumesTest, ReportsNothingOfTheHost) {
     tree.write("proc/self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n");
     EXPECT_EQ(volumes.read(), Volumes{}); // though the host has a "/" with its space
 }
@@ -131,7 +131,7 @@ TEST_F(LinuxVolumesTest, FindsTheLabelOverEachNameOfADevice) {
     EXPECT_FALSE(listed->at(3).name); // a pool of that name is no device
 }
 
-TEST_F(LinuxVolumesTest, MakesNamesFitToBeShown) {
+TEST_F(LinuxVolumesTest, MakesNamesReadable) {
     tree.write("proc/self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
                                       "2 1 8:2 / /mnt/a\\012b\xFF rw - ext4 /dev/sda2 rw\n");
     tree.write("statfs", "/ 9 9\n/mnt/a\\012b\xFF 9 9\n");

@@ -22,7 +22,7 @@ TEST(Mountinfo, ReadsEachFieldWhateverTheNumberOfOptionalOnes) {
               expected);
 }
 
-TEST(Mountinfo, LeavesOutLinesThatAreCutOrMakeNoSense) {
+TEST(Mountinfo, LeavesOutTruncatedAndMalformedLines) {
     const std::string line = "36 35 98:1 / /mnt rw - ext3 /dev/root rw";
     EXPECT_EQ(parseMountinfo(line).size(), 1u);
     for (std::size_t size = 0; size <= line.find('-'); ++size)
@@ -35,7 +35,7 @@ TEST(Mountinfo, LeavesOutLinesThatAreCutOrMakeNoSense) {
                     .empty());
 }
 
-TEST(Mountinfo, SurvivesAMegabyteOfAnything) {
+TEST(Mountinfo, SurvivesAMegabyteOfArbitraryBytes) {
     EXPECT_TRUE(parseMountinfo(std::string(std::size_t{1} << 20, '\\')).empty());
     EXPECT_TRUE(parseMountinfo(std::string(std::size_t{1} << 20, ' ')).empty());
     const std::string longPath(std::size_t{1} << 20, 'a');
@@ -73,7 +73,7 @@ TEST(MountTree, DoesNotReachWhatIsMountedOver) {
                              "2 3 0:40 / /mnt rw - nfs4 server:/ rw\n"
                              "3 1 8:2 / /mnt rw - ext4 /dev/covered rw\n",
                              "/dev/covered"));
-    // The later one counts where the numbers do not tell.
+    // The later one counts where the numbers do not decide.
     EXPECT_FALSE(isReachable("1 0 8:1 / / rw - ext4 /dev/root rw\n"
                              "2 1 8:2 / /mnt rw - ext4 /dev/covered rw\n"
                              "3 1 0:40 / /mnt rw - nfs4 server:/ rw\n",
@@ -120,7 +120,7 @@ TEST(MountTree, DoesNotReachWhatALaterMountHidesWithADirectoryAbove) {
                              "/dev/disk"));
 }
 
-TEST(MountTree, IsNotMisledByMountsBesideTheWay) {
+TEST(MountTree, IgnoresMountsBesideThePath) {
     EXPECT_TRUE(isReachable("1 0 8:1 / / rw - ext4 /dev/root rw\n"
                             "2 1 8:2 / /mnt/disk rw - ext4 /dev/disk rw\n"
                             "3 1 0:40 / /mnt/di rw - nfs4 server:/ rw\n"

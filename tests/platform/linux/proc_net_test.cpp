@@ -26,7 +26,7 @@ TEST(NetDev, ReadsCountersBeyondThirtyTwoBits) {
     EXPECT_EQ(parseNetDev(text), expected);
 }
 
-TEST(NetDev, LeavesOutLinesThatAreCutOrMakeNoSense) {
+TEST(NetDev, LeavesOutTruncatedAndMalformedLines) {
     EXPECT_TRUE(parseNetDev("").empty());
     EXPECT_TRUE(parseNetDev(netDevHeading).empty());
     EXPECT_TRUE(parseNetDev("eth0").empty());
@@ -52,7 +52,7 @@ TEST(NetDev, KeepsSumsWithinSixtyFourBits) {
     EXPECT_GT(sumOut, 0u);
 }
 
-TEST(NetDev, SurvivesAMegabyteOfAnything) {
+TEST(NetDev, SurvivesAMegabyteOfArbitraryBytes) {
     EXPECT_TRUE(parseNetDev(std::string(std::size_t{1} << 20, ':')).empty());
     EXPECT_TRUE(parseNetDev(std::string(std::size_t{1} << 20, '9')).empty());
     const std::string longName(std::size_t{1} << 20, 'e');
@@ -66,7 +66,7 @@ DefaultRoutes routesIn(const std::string& lines) {
     return parseDefaultRoutes(std::string(routeHeading) + lines);
 }
 
-TEST(DefaultRoutes, AreToldWithTheirMetrics) {
+TEST(DefaultRoutes, AreReadWithTheirMetrics) {
     EXPECT_EQ(routesIn("enp3s0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0         \n"
                        "wlp2s0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0         \n"
                        "docker0\t000011AC\t00000000\t0001\t0\t0\t0\t0000FFFF\t0\t0\t0          \n"
@@ -74,7 +74,7 @@ TEST(DefaultRoutes, AreToldWithTheirMetrics) {
               (DefaultRoutes{{"enp3s0", 100}, {"wlp2s0", 600}}));
 }
 
-TEST(DefaultRoutes, OfOneInterfaceCountByTheLowestMetric) {
+TEST(DefaultRoutes, KeepTheLowestMetricOfAnInterface) {
     EXPECT_EQ(routesIn("a\t00000000\t1\t0003\t0\t0\t20\t00000000\n"
                        "a\t00000000\t2\t0003\t0\t0\t10\t00000000\n"
                        "a\t00000000\t3\t0003\t0\t0\t30\t00000000\n"),
@@ -85,17 +85,17 @@ TEST(DefaultRoutes, MayHaveTheLargestMetric) {
     EXPECT_EQ(routesIn("a\t00000000\t1\t0003\t0\t0\t-1\t00000000\n"), (DefaultRoutes{{"a", 0xFFFFFFFF}}));
 }
 
-TEST(DefaultRoutes, AreNotThoseThatLeadToAPartOfTheNetwork) {
+TEST(DefaultRoutes, LeaveOutRoutesToAPartOfTheNetwork) {
     EXPECT_TRUE(routesIn("tun0\t00000000\t1\t0003\t0\t0\t0\t00000080\n").empty()) << "half of all addresses";
     EXPECT_TRUE(routesIn("a\t0001A8C0\t1\t0003\t0\t0\t0\t00000000\n").empty());
 }
 
-TEST(DefaultRoutes, AreNotThoseThatAreDownOrReject) {
+TEST(DefaultRoutes, LeaveOutRoutesThatAreDownOrReject) {
     EXPECT_TRUE(routesIn("a\t00000000\t1\t0002\t0\t0\t0\t00000000\n").empty());
     EXPECT_TRUE(routesIn("*\t00000000\t0\t0201\t0\t0\t0\t00000000\n").empty());
 }
 
-TEST(DefaultRoutes, AreNoneInATextThatMakesNoSense) {
+TEST(DefaultRoutes, IgnoreMalformedText) {
     EXPECT_TRUE(parseDefaultRoutes("").empty());
     EXPECT_TRUE(parseDefaultRoutes(routeHeading).empty());
     EXPECT_TRUE(routesIn("a\n\n\t\t\na\t00000000\na\t00000000\t1\t0003\t0\t0\t0\n").empty()) << "cut lines";

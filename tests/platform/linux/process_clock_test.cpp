@@ -46,7 +46,7 @@ TEST(OwnNamespace, IsNotShownByAProcOfAnOuterNamespace) {
     EXPECT_FALSE(showsOwnNamespace("NSpid:\t9650\n", 2));
 }
 
-TEST(OwnNamespace, IsNotTakenForGrantedWhereTheKernelDoesNotTell) {
+TEST(OwnNamespace, IsNotAssumedWhereTheKernelDoesNotReportIt) {
     for (const char* status : {"", "\n", "Pid:\t77\n", "NSpid\n", "NSpid:\n", "NSpid:\tx\n", "xNSpid:\t77\n"})
         EXPECT_FALSE(showsOwnNamespace(status, 77)) << status;
 }

@@ -14,7 +14,7 @@ std::string lineWithComm(const std::string& comm) {
     return MadeProcess{.pid = 17, .comm = comm, .exe = {}}.statLine();
 }
 
-TEST(ProcessStat, TellsEveryFieldItIsNamedAfter) {
+TEST(ProcessStat, ReadsEveryField) {
     const MadeProcess made{.pid = 9628,
                            .comm = "cat",
                            .state = 'R',
@@ -141,7 +141,7 @@ TEST(ProcessName, IsTheShortNameWithoutAPath) {
     EXPECT_EQ(processName("", ""), "");
 }
 
-TEST(ProcessName, IsFitToBeShown) {
+TEST(ProcessName, IsReadable) {
     EXPECT_EQ(processName("/bin/two\nlines", "x"), "two lines");
     EXPECT_EQ(processName("/bin/\xFFname", "x"), "\xEF\xBF\xBDname");
     EXPECT_EQ(processName("", "cod\xE2\x80\xAE"

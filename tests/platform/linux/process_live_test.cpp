@@ -15,7 +15,7 @@ namespace {
 constexpr std::uint64_t millisecond = 1'000'000;
 constexpr std::uint64_t mebibyte = std::uint64_t{1} << 20;
 
-/// The system rounds user and system time down to a tick of 10 ms each where it tells them in ticks.
+/// The system rounds user and system time down to a tick of 10 ms each where it counts in ticks.
 constexpr std::uint64_t twoTicks = 20 * millisecond;
 
 /// More than it takes until every idle process has had its turn to be read.

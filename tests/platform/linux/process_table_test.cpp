@@ -112,7 +112,7 @@ TEST_F(NewProcessSearchPlanTest, AsksAFewPidsHoweverFewProcessesAreKnown) {
     EXPECT_EQ(plan.next(1017, known), wholeListing);
 }
 
-TEST_F(NewProcessSearchPlanTest, ListsEverythingAlwaysWhenTheNewestPidCannotBeTold) {
+TEST_F(NewProcessSearchPlanTest, AlwaysListsEverythingWhenTheNewestPidIsUnknown) {
     for (int sample = 0; sample < 12; ++sample)
         EXPECT_EQ(plan.next(std::nullopt, known), wholeListing);
 }
@@ -136,7 +136,7 @@ TEST(NewestPid, IsTheLastNumberOfTheLoadAverages) {
     EXPECT_EQ(parseNewestPid("0.05 0.13 0.09 1/92 9203"), 9203);
 }
 
-TEST(NewestPid, IsNothingInAnyOtherText) {
+TEST(NewestPid, IsNothingInMalformedText) {
     for (const char* text : {"", "\n", "0.05 0.13 0.09", "0.05 0.13 0.09 1/92", "0.05 0.13 0.09 1/92 x",
                              "0.05 0.13 0.09 1/92 0", "0.05 0.13 0.09 1/92 -3", "0.05 0.13 0.09 1/92 4194305",
                              "0.05 0.13 0.09 1/92 99999999999999999999", "a\nb\nc\nd\n5"})
@@ -152,7 +152,7 @@ TEST(NewestPid, IsReadFromTheFileOfTheProcDirectory) {
     EXPECT_EQ(newestPid.read(), 9204);
 }
 
-TEST(NewestPid, IsNotBelievedFromAFileThatWasPutInThePlaceOfTheKernels) {
+TEST(NewestPid, IgnoresAFileThatReplacesTheKernels) {
     const ProcessTree tree;
     std::filesystem::create_symlink("/proc/loadavg", tree.root() / "proc/loadavg");
     if (!std::filesystem::exists("/proc/loadavg"))

@@ -35,7 +35,7 @@ struct MadeProcess {
     }
 };
 
-/// A directory with a `proc` of its own that lives as long as the test.
+/// A temporary directory with a `proc` in it.
 class ProcessTree {
 public:
     ProcessTree() {

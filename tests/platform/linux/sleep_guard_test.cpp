@@ -48,7 +48,7 @@ TEST_F(SleepGuardTest, ADeviceThatSleepsWhenIdleIsReadOnceInTwiceThatTime) {
     EXPECT_EQ(idling.adviceAt(start + 18s), Advice::avoid);
 }
 
-TEST_F(SleepGuardTest, ADeviceThatIsToldToStayAwakeIsReadEveryTime) {
+TEST_F(SleepGuardTest, ADeviceConfiguredToStayAwakeIsReadEveryTime) {
     tree.write("power/runtime_status", "active\n");
     tree.write("power/control", "on\n");
     tree.write("power/autosuspend_delay_ms", "5000\n");
@@ -74,7 +74,7 @@ TEST_F(SleepGuardTest, PowerManagementThatComesLaterIsFoundByLookingAgain) {
     }
 }
 
-TEST_F(SleepGuardTest, AnIdleTimeThatIsNoTimeIsNone) {
+TEST_F(SleepGuardTest, AMalformedIdleTimeCountsAsNone) {
     tree.write("power/runtime_status", "active\n");
     tree.write("power/control", "auto\n");
     for (const char* delay : {"-1", "", "x", "0"}) {

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Each, RecordedMachineContract, ::testing::ValuesIn(reco
                              return name;
                          });
 
-TEST_P(RecordedMachineContract, BothMomentsKeepItAndSoDoesTheirReplay) {
+TEST_P(RecordedMachineContract, HoldsForBothMomentsAndTheirReplay) {
     const TemporaryTree second;
     assembleSecondMoment(second.root(), GetParam());
     std::vector<MachineSources> moments;
@@ -72,7 +72,7 @@ TEST_P(RecordedMachineContract, BothMomentsKeepItAndSoDoesTheirReplay) {
     expectKeepsContract(machine);
 }
 
-TEST_P(RecordedMachineContract, ItKeepsItWithTheLargestNumbersAndWithEveryFileDamaged) {
+TEST_P(RecordedMachineContract, HoldsForTheLargestNumbersAndForDamagedFiles) {
     constexpr int rounds = 2;
     const TemporaryTree tree;
     layOver(tree.root(), GetParam() / "1");
@@ -92,18 +92,18 @@ TEST_P(RecordedMachineContract, ItKeepsItWithTheLargestNumbersAndWithEveryFileDa
     }
 }
 
-TEST(SourceContract, ThisMachineKeepsIt) {
+TEST(SourceContract, HoldsForThisMachine) {
     const MachineSources machine = makeHostSources();
     expectKeepsContract(machine);
     expectKeepsContract(machine);
 }
 
-TEST(SourceContract, AnEmptyTreeKeepsIt) {
+TEST(SourceContract, HoldsForAnEmptyTree) {
     const TemporaryTree tree;
     expectKeepsContract(makeTreeSources(tree.root(), FakeClock().reader()));
 }
 
-TEST(SourceContract, TheExampleMachinesKeepItInEveryCycle) {
+TEST(SourceContract, HoldsForTheExampleMachinesInEveryCycle) {
     for (const ExampleMachine example :
          {ExampleMachine::laptop, ExampleMachine::loadedLaptop, ExampleMachine::bareComputer}) {
         ExampleCharacter character = exampleCharacter(example);

@@ -55,7 +55,7 @@ TEST_F(TwoPacksTest, AreChargedOnlyTogether) {
     EXPECT_EQ(describePacks(packs, true).isCharged, true);
 }
 
-TEST_F(TwoPacksTest, CapacitiesAreSummedAndTheLargerCycleCountTells) {
+TEST_F(TwoPacksTest, CapacitiesAreSummedAndTheLargerCycleCountIsReported) {
     const SmartBatteryProperties battery = combinePacks(packs, false);
     EXPECT_EQ(battery.designCapacity, 8000) << "96 Wh at 12 V";
     EXPECT_EQ(battery.rawMaxCapacity, 7500) << "90 Wh at 12 V";
@@ -87,7 +87,7 @@ TEST_F(TwoPacksTest, EmptyPacksHaveTheirPlainMeanVoltage) {
     EXPECT_EQ(combinePacks(packs, false).voltage, 11000);
 }
 
-TEST_F(TwoPacksTest, ASumToWhichOnePackGivesNothingIsNothing) {
+TEST_F(TwoPacksTest, ASumIsUnknownWhenOnePacksShareIsUnknown) {
     packs[0].energyFullDesign.reset();
     EXPECT_EQ(combinePacks(packs, false).designCapacity, std::nullopt);
     EXPECT_EQ(combinePacks(packs, false).rawMaxCapacity, 7500);
@@ -104,7 +104,7 @@ TEST_F(TwoPacksTest, EnergyAndChargeFilesCanStandSideBySide) {
     EXPECT_EQ(combinePacks(packs, false).rawMaxCapacity, 7500);
 }
 
-TEST_F(TwoPacksTest, WhereOnePackTellsOnlyAPercentageThePlainMeanStandsIn) {
+TEST_F(TwoPacksTest, ThePlainMeanStandsInWhereOnePackHasOnlyAPercentage) {
     packs[0] = {.status = PackStatus::full, .capacity = 100};
     EXPECT_EQ(describePacks(packs, false).currentCapacity, 59) << "100 % and 18.2 %";
 }

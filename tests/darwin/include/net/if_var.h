@@ -1,6 +1,6 @@
 #pragma once
 
-// Simulated macOS: what a link-layer entry of the interface list tells of its interface.
+// Simulated macOS: the data of a link-layer entry of the interface list.
 #include <cstdint>
 
 struct if_data {
