@@ -44,7 +44,7 @@ TEST_F(AnimationClockTest, StepsAnAnimationNoOftenerThanItsInterval) {
     EXPECT_EQ(steps.size(), 10U);
 }
 
-TEST_F(AnimationClockTest, TakesStepsTogetherThatAreDueAlmostTogether) {
+TEST_F(AnimationClockTest, MergesStepsThatAreDueAlmostTogether) {
     int others = 0;
     Animation other(clock, [&others](double) { ++others; });
     animation.start(16ms);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr SpringParameters normalSpring{.response = 0.4, .dampingFraction = 0.7};
 
-/// Where a spring from 0 to 1 stands after some time at rest: the textbook solution.
+/// The analytic solution: the position of a spring that starts at rest at 0 and is pulled to 1.
 double springFromRest(double seconds, const SpringParameters& parameters) {
     const double frequency = 2 * std::numbers::pi / parameters.response;
     const double damped = frequency * std::sqrt(1 - parameters.dampingFraction * parameters.dampingFraction);
@@ -20,7 +20,7 @@ double springFromRest(double seconds, const SpringParameters& parameters) {
                    (std::cos(damped * seconds) + ratio * std::sin(damped * seconds));
 }
 
-TEST(Spring, FollowsTheTextbookFromRest) {
+TEST(Spring, FollowsTheAnalyticSolutionFromRest) {
     for (double seconds = 0.01; seconds < 1.5; seconds += 0.07) {
         Spring spring(0);
         spring.retarget(1);

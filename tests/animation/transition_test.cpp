@@ -31,7 +31,7 @@ TEST(Transition, StartsFromTheShownValueWhenItsTargetChanges) {
     EXPECT_EQ(value.shown(), 0);
 }
 
-TEST(Transition, EndsExactlyAtItsTargetHoweverLateTheStep) {
+TEST(Transition, EndsExactlyAtItsTargetAfterALateStep) {
     Transition<double> value(0);
     value.retarget(0.1, 0.3, easeInOut());
     value.advance(1000);

@@ -226,7 +226,7 @@ TEST_P(Bars, SurviveAnyInput) {
     }
 }
 
-TEST_P(Bars, OfAHundredThousandValuesArePaintedInTime) {
+TEST_P(Bars, PaintAHundredThousandValuesInTime) {
     AnimatedBarChart chart = Bars::chart(QList<double>(100000, 0.7));
     chart.showGlow = true;
     const QImage image = paintedChart(chart, {300, 20});
@@ -245,7 +245,7 @@ TEST(AnimatedBarChart, GivesItsBarsTheRadiusOfTheStyleAndItsOwnFields) {
     EXPECT_EQ(bars[1].glowIntensity, GlowIntensity::subtle);
 }
 
-TEST(AnimatedBarChart, LaysPillsThreePointsApartAndRoundedBarsAsAsked) {
+TEST(AnimatedBarChart, LaysPillsThreePointsApartAndRoundedBarsByTheirSpacing) {
     AnimatedBarChart chart{.values = {1, 1, 1}, .barSpacing = 1, .height = 20};
     const auto gap = [&](BarChartStyle style) {
         chart.barStyle = style;

@@ -244,7 +244,7 @@ TEST_P(LineGraph, SurvivesAnyInput) {
     }
 }
 
-TEST_P(LineGraph, OfAHundredThousandSamplesShowsTheSamePictureAsItsExtremes) {
+TEST_P(LineGraph, ShowsTheExtremesOfAHundredThousandSamples) {
     QList<double> data;
     for (int index = 0; index < 100000; ++index)
         data.append(index % 2 == 0 ? 0.25 : 0.75);
@@ -258,7 +258,7 @@ TEST_P(LineGraph, OfAHundredThousandSamplesShowsTheSamePictureAsItsExtremes) {
     }
 }
 
-TEST_P(LineGraph, OfAHundredThousandWildSamplesIsPaintedInTime) {
+TEST_P(LineGraph, PaintsAHundredThousandWildSamplesInTime) {
     QList<double> data;
     for (int index = 0; index < 100000; ++index)
         data.append(index % 3 == 0 ? -1e300 : std::fmod(index * 0.37, 1.0));

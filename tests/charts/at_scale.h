@@ -9,7 +9,7 @@
 
 namespace orvelle {
 
-/// A test of a picture that runs at one and at two pixels per point.
+/// A test of pictures that runs at one and at two pixels per point.
 class AtScale : public ::testing::TestWithParam<double> {
 protected:
     /// What `paint` draws on a transparent image of `size` points.
@@ -26,7 +26,7 @@ protected:
     }
 };
 
-/// The pictures of every test at scale are drawn for both.
+/// The parameters of every such test.
 inline const auto bothScales = ::testing::Values(1.0, 2.0);
 
 /// Whether two colours are the same but for rounding while painting.

@@ -65,7 +65,7 @@ TEST(ContinuousRoundedRect, IsSymmetric) {
     }
 }
 
-TEST(ContinuousRoundedRect, HoldsTheRadiusToHalfTheShorterSide) {
+TEST(ContinuousRoundedRect, ClampsTheRadiusToHalfTheShorterSide) {
     EXPECT_EQ(continuousRoundedRect({0, 0, 30, 10}, 50), continuousRoundedRect({0, 0, 30, 10}, 5));
     EXPECT_EQ(continuousCapsule({0, 0, 30, 10}), continuousRoundedRect({0, 0, 30, 10}, 5));
 }

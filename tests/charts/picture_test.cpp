@@ -73,7 +73,7 @@ TEST_P(Pictures, AreDrawnAgainOnlyWhenSomethingChanges) {
     EXPECT_EQ(show(2, area, {0.25, 0}, 4), 5U) << "another place within the pixel";
 }
 
-TEST_P(Pictures, TooLargeForAnyScreenAreNotDrawn) {
+TEST_P(Pictures, AreNotDrawnWhenTooLargeForAnyScreen) {
     PictureCache<int> cache;
     (void)painted({40, 40}, [&](QPainter& painter) {
         cache.show(painter, 1, {0, 0, 1e6, 10}, fillSquare);

@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-TEST(SparklineScale, IsTheMaximumThatIsGiven) {
+TEST(SparklineScale, IsTheGivenMaximum) {
     EXPECT_EQ(sparklineScale({1, 2, 4}, 10), 10);
     EXPECT_EQ(sparklineScale({0, 0}, 10), 10);
 }
@@ -18,13 +18,13 @@ TEST(SparklineScale, IsTheLargestSampleOtherwise) {
     EXPECT_EQ(sparklineScale({1, 3}, notANumber), 3);
 }
 
-TEST(SparklineScale, IsMissingWhenNothingIsAboveZero) {
+TEST(SparklineScale, IsAbsentWhenNothingIsAboveZero) {
     EXPECT_EQ(sparklineScale({0, 0, 0}, 0), std::nullopt);
     EXPECT_EQ(sparklineScale({-1, -2}, 0), std::nullopt);
     EXPECT_EQ(sparklineScale({notANumber, notANumber}, 0), std::nullopt);
 }
 
-TEST(SparklineScale, IsMissingForFewerThanTwoSamples) {
+TEST(SparklineScale, IsAbsentForFewerThanTwoSamples) {
     EXPECT_EQ(sparklineScale({}, 1), std::nullopt);
     EXPECT_EQ(sparklineScale({5}, 1), std::nullopt);
 }
@@ -123,7 +123,7 @@ TEST_P(Sparkline, SurvivesAnyInput) {
     }
 }
 
-TEST_P(Sparkline, OfAHundredThousandSamplesIsPaintedInTime) {
+TEST_P(Sparkline, PaintsAHundredThousandSamplesInTime) {
     QList<double> data;
     for (int index = 0; index < 100000; ++index)
         data.append(index % 7);

@@ -71,7 +71,7 @@ TEST_P(Gauge, ShowsTheTrackWhereItIsNotFilled) {
     EXPECT_TRUE(isNear(dialColorAt(image, 45), QColor(255, 255, 255, 20)));
 }
 
-TEST_P(Gauge, WithoutAMaximumHasAnEmptyArcButItsReading) {
+TEST_P(Gauge, HasAnEmptyArcButItsReadingWithoutAMaximum) {
     TemperatureGauge withoutMaximum = gauge(55);
     withoutMaximum.maxTemp = 0;
     const QImage image = paintedGauge(withoutMaximum);
@@ -79,7 +79,7 @@ TEST_P(Gauge, WithoutAMaximumHasAnEmptyArcButItsReading) {
     EXPECT_GT(countPixels(image, Qt::white), 0);
 }
 
-TEST_P(Gauge, WithoutATemperatureHasAFaintReading) {
+TEST_P(Gauge, HasAFaintReadingWithoutATemperature) {
     const QImage image = paintedGauge(gauge(0));
     EXPECT_EQ(countPixels(image, Qt::white), 0);
     const QImage reading = image.copy(pixels(40), pixels(45), pixels(40), pixels(20));

@@ -11,6 +11,12 @@
 namespace orvelle {
 namespace {
 
+struct Series {
+    const char* caption;
+    QList<double> values;
+    double maxValue = 1;
+};
+
 // Bars.
 
 constexpr QSizeF chartSize(72, 36);
@@ -18,13 +24,7 @@ constexpr double glowRoom = 11; ///< for the most intense glow
 
 const QList<double> everyLevel = {0, 0.2, 0.4, 0.55, 0.7, 0.85, 1};
 
-struct BarSeries {
-    const char* caption;
-    QList<double> values;
-    double maxValue = 1;
-};
-
-const QList<BarSeries> unusualBars = {
+const QList<Series> unusualBars = {
     {"all idle", {0, 0, 0, 0, 0, 0, 0, 0}},
     {"above the maximum", {1.4, 2, 9}},
     {"no maximum", {1, 2, 3, 4}, 0},
@@ -49,7 +49,7 @@ SheetRow barRowOf(BarChartStyle style) {
         chart.glowIntensity = glow;
         row.cells.append(barCell(QStringLiteral("glow %1").arg(caseName(glow)), chart));
     }
-    for (const BarSeries& series : unusualBars) {
+    for (const Series& series : unusualBars) {
         AnimatedBarChart chart = barChart(style, series.values);
         chart.maxValue = series.maxValue;
         row.cells.append(barCell(QString::fromLatin1(series.caption), chart));
@@ -89,12 +89,6 @@ constexpr double graphRoom = 2; ///< a graph paints nothing outside its canvas
 const QList<double> lively = {0.2, 0.25, 0.22, 0.6, 0.85, 0.5, 0.48, 0.9, 0.3, 0.1, 0.12, 0.4, 0.7, 0.65};
 const QList<double> other = {0.6, 0.5, 0.52, 0.3, 0.1, 0.15, 0.4, 0.2, 0.7, 0.8, 0.6, 0.3, 0.2, 0.35};
 
-struct LineSeries {
-    const char* caption;
-    QList<double> data;
-    double maxValue = 1;
-};
-
 /// 300 samples that go up and down, each rise a little longer than the last.
 QList<double> manySamples() {
     QList<double> samples;
@@ -103,7 +97,7 @@ QList<double> manySamples() {
     return samples;
 }
 
-QList<LineSeries> unusualLines() {
+QList<Series> unusualLines() {
     return {{"one sample", {0.5}},
             {"two samples", {0.2, 0.8}},
             {"all zero", {0, 0, 0, 0}},
@@ -145,9 +139,9 @@ SheetRow graphRowOf(GraphLineStyle line) {
 
 SheetRow unusualGraphs() {
     SheetRow row{.title = QStringLiteral("other data"), .cells = {}};
-    for (const LineSeries& series : unusualLines()) {
+    for (const Series& series : unusualLines()) {
         AnimatedLineGraph graph = lineGraph(GraphLineStyle::smooth, GraphFillStyle::gradient, gridColor);
-        graph.data = series.data;
+        graph.data = series.values;
         graph.maxValue = series.maxValue;
         row.cells.append(graphCell(QString::fromLatin1(series.caption), graph));
     }
@@ -194,9 +188,9 @@ SheetRow sparklinesOfAllSizes() {
 
 SheetRow unusualSparklines() {
     SheetRow row{.title = QStringLiteral("single, other data"), .cells = {}};
-    for (const LineSeries& series : unusualLines())
+    for (const Series& series : unusualLines())
         row.cells.append(sparklineCell(QString::fromLatin1(series.caption),
-                                       sparkline(series.data, series.maxValue, {64, 24})));
+                                       sparkline(series.values, series.maxValue, {64, 24})));
     return row;
 }
 

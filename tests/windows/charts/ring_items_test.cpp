@@ -134,7 +134,7 @@ TEST_F(RingItem, BeginsToPulseOnlyWithAChangeOfItsValue) {
     EXPECT_GT(ring->pulseScale(), 1);
 }
 
-TEST_F(RingItem, DoesNotPulseUnlessItIsAskedTo) {
+TEST_F(RingItem, DoesNotPulseUnlessPulseCriticalIsSet) {
     ring->setProperty("value", 1);
     showWindow();
     pass(1);
