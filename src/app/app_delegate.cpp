@@ -44,7 +44,7 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 void AppDelegate::applicationShouldHandleReopen() {
-    checkVisibility(); // a module may have been switched on a moment ago
+    checkVisibility(); // a module may just have been switched on
     if (m_statusItems.isEmpty())
         openSettings();
     else
@@ -55,7 +55,7 @@ void AppDelegate::setupStatusItems() {
     m_cancellables.reset();
     m_popovers.clear();
     if (m_contextMenu != nullptr)
-        m_contextMenu->close(); // the item above it goes
+        m_contextMenu->close(); // its item is about to be removed
     for (StatusItem* item : std::as_const(m_statusItems))
         m_dependencies.statusBar.removeItem(*item);
     m_statusItems.clear();
@@ -84,7 +84,7 @@ void AppDelegate::subscribe() {
     Throttle* throttle = m_cancellables.get();
     connect(&m_monitor, &SystemMonitor::changed, throttle, &Throttle::trigger);
     connect(throttle, &Throttle::passed, throttle, [this] { redraw(); });
-    // What the user chooses is seen at once. The theme is one of the settings, and has changed by then.
+    // A new setting takes effect at once. The theme is a setting, and has already changed at this point.
     connect(&m_settings, &SettingsStore::changed, throttle, [this] { redraw(); });
     connect(&FontChanges::shared(), &FontChanges::changed, throttle, [this] { redraw(); });
 }
@@ -170,9 +170,9 @@ void AppDelegate::snapshotVisibility() {
 void AppDelegate::startRefreshTimer() {
     m_refreshTimer = std::make_unique<QTimer>(this);
     m_refreshTimer->callOnTimeout(this, &AppDelegate::checkVisibility);
-    m_refreshTimer->setTimerType(Qt::PreciseTimer); // a coarse one may be late by a twentieth
+    m_refreshTimer->setTimerType(Qt::PreciseTimer); // a coarse timer may be late by a twentieth
     m_refreshTimer->setInterval(visibilityInterval);
-    // A sample is a tick as well. Where samples come as often, the process need not wake for another one.
+    // Every sample checks too, so the timer is needed only while samples come less often.
     connect(&m_monitor, &SystemMonitor::changed, m_refreshTimer.get(), [this] { checkVisibility(); });
     if (m_monitor.activeInterval() > std::chrono::duration<double>(visibilityInterval).count())
         m_refreshTimer->start();

@@ -18,7 +18,7 @@ void LaunchAtLogin::start() {
 }
 
 void LaunchAtLogin::takeOver() {
-    // Setting the value that it has would store the default, which nobody chose.
+    // Setting an equal value would store the default, although the user did not choose it.
     if (const bool isEnabled = m_item->isEnabled(); isEnabled != m_settings.launchAtLogin())
         m_settings.setLaunchAtLogin(isEnabled);
 }
@@ -29,7 +29,7 @@ void LaunchAtLogin::apply() {
         setError({});
         return;
     }
-    takeOver(); // comes back here, where nothing is left to do
+    takeOver(); // calls this function again, which then has nothing to do
     setError(isWanted ? QStringLiteral("Orvelle could not be made to start at login.")
                       : QStringLiteral("Orvelle could not be kept from starting at login."));
 }

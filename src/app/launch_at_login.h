@@ -11,7 +11,7 @@ namespace orvelle {
 
 class SettingsStore;
 
-/// Keeps the setting `launchAtLogin` and the desktop's login item in line. Main thread only.
+/// Synchronizes the setting `launchAtLogin` with the desktop's login item. Main thread only.
 class LaunchAtLogin : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)
@@ -20,12 +20,12 @@ public:
     /// The settings must outlive the object.
     LaunchAtLogin(SettingsStore& settings, std::unique_ptr<LoginItem> item, QObject* parent = nullptr);
 
-    /// Repairs the item where the program has moved, and takes over what the desktop will really do: the user
-    /// may have changed it there. From now on the item follows the setting; where it cannot, the setting goes
-    /// back.
+    /// Repairs the item if the program has moved, and makes the setting match what the desktop will really
+    /// do, because the user may have changed it there. Afterwards the item follows the setting. If the item
+    /// cannot change, the setting reverts.
     void start();
 
-    /// Why the setting went back the last time, for the user; empty when it did not.
+    /// Tells the user why the setting last reverted; empty if it did not.
     [[nodiscard]] const QString& error() const { return m_error; }
 
 Q_SIGNALS:

@@ -11,6 +11,6 @@ int main(int /*argumentCount*/, char** arguments) {
         std::fprintf(stderr, "%s\n", qPrintable(*reason));
         return EXIT_FAILURE;
     }
-    int programNameOnly = 1; // the program takes nothing on its command line
+    int programNameOnly = 1; // the program takes no arguments
     return orvelle::OrvelleApp(programNameOnly, arguments, sinceStart).run();
 }

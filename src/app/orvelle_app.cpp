@@ -13,7 +13,7 @@
 namespace orvelle {
 namespace {
 
-/// Off by default; QT_LOGGING_RULES="orvelle.start.debug=true" switches one on.
+/// Off by default; QT_LOGGING_RULES="orvelle.start.debug=true" enables this category.
 Q_LOGGING_CATEGORY(startLog, "orvelle.start", QtInfoMsg)
 Q_LOGGING_CATEGORY(sampleLog, "orvelle.sample", QtInfoMsg)
 Q_LOGGING_CATEGORY(motionLog, "orvelle.motion", QtInfoMsg)
@@ -32,7 +32,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
     , m_launchAtLogin(m_settings, makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
                  {*m_statusBar, &loadWindowFactory, &makeSettingsWindow, &m_launchAtLogin}) {
-    // The bar may be empty and every window closed; the program stays.
+    // The program keeps running with an empty bar and every window closed.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_terminationSignals, &TerminationSignals::received, &m_application,
                      &QGuiApplication::quit);

@@ -13,20 +13,20 @@
 
 namespace orvelle {
 
-/// The program: it owns everything that lives as long as the process and connects it.
+/// The program: owns and connects everything that lives as long as the process.
 class OrvelleApp {
 public:
-    /// `sinceStart` was started when the process entered main(). Needs a desktop that `prepareDesktop()` has
-    /// found. The arguments name the program and nothing else; both must outlive the object.
+    /// `prepareDesktop()` must have found a desktop. `sinceStart` started when the process entered main().
+    /// The arguments contain only the program's name; both must outlive the object.
     OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart);
 
-    /// Runs until the program is told to end; returns its exit status. Ends at once, and well, when the
-    /// program runs on this desktop already.
+    /// Runs until the program quits; returns its exit status. Returns at once, with success, if the program
+    /// already runs on this desktop.
     [[nodiscard]] int run();
 
 private:
-    /// A session that restores what ran in it would start the program whether or not the user has it start
-    /// at login, and beside the one that the login item starts.
+    /// Keeps a restored session from starting the program: it would ignore the setting to start at login, and
+    /// add a second process to the one that the login item starts.
     void leaveLoginToItsSwitch();
     void logStart();
     void logSamples();
@@ -39,7 +39,7 @@ private:
     SettingsStore m_settings{openUserSettings()};
     ThemeManager m_themes;
     SystemMonitor m_monitor;
-    std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop cannot say whether it is wanted
+    std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop does not report it
     std::unique_ptr<QObject> m_desktopFonts;  ///< null where Qt knows the fonts
     std::unique_ptr<StatusBar> m_statusBar;
     std::unique_ptr<SingleInstance> m_singleInstance; ///< null before run()

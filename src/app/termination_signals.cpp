@@ -11,14 +11,14 @@ namespace {
 
 constexpr std::array terminatingSignals{SIGTERM, SIGINT};
 
-/// What the handler may touch: a lock-free number and write().
+/// The handler may use only a lock-free number and write().
 std::atomic<int> signalDescriptor{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
 extern "C" void writeSignal(int /*signal*/) {
     const int savedError = errno;
     const char byte = 0;
-    // A full pipe already holds the news.
+    // A full pipe already carries the signal.
     [[maybe_unused]] const ssize_t written = ::write(signalDescriptor, &byte, 1);
     errno = savedError;
 }

@@ -8,7 +8,7 @@
 namespace orvelle {
 
 /// Turns SIGTERM and SIGINT into an event of the main thread, so that the program ends through its event
-/// loop. At most one instance exists. A signal that comes after its destruction ends the process at once.
+/// loop. At most one instance exists. After its destruction a signal ends the process at once.
 class TerminationSignals : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ Q_SIGNALS:
     void received();
 
 private:
-    std::array<int, 2> m_pipe; ///< the end that is read, then the end that the signal handler writes
+    std::array<int, 2> m_pipe; ///< the read end, then the end that the signal handler writes to
     QSocketNotifier m_notifier;
 };
 

@@ -8,16 +8,16 @@
 
 namespace orvelle {
 
-/// Lets at most one event pass per interval. The first one passes at once. Later ones within the interval are
-/// held, and one event passes for them when the interval ends; whoever receives it reads the newest values.
-/// While nothing is held no timer runs. Destroying the throttle drops what it holds. Main thread only.
+/// Lets at most one event pass per interval. The first event passes at once. Later events within the interval
+/// are merged into one, which passes when the interval ends; its receiver reads the newest values. No timer
+/// runs while no event is held. Destroying the throttle drops a held event. Main thread only.
 class Throttle : public QObject {
     Q_OBJECT
 
 public:
     explicit Throttle(std::chrono::milliseconds interval, QObject* parent = nullptr);
 
-    /// An event happened.
+    /// Reports an event.
     void trigger();
 
     [[nodiscard]] bool isHolding() const { return m_held.isActive(); }

@@ -16,12 +16,12 @@ constexpr double bodyCornerRadius = 2.5;
 constexpr double fillInset = 1;
 constexpr double fillCornerRadius = 1.5;
 constexpr double outlineWidth = 1;
-/// Room on the left for the half of the outline that lies outside the body, whole so that the body stays on
+/// Space on the left for the half of the outline that lies outside the body. A whole point keeps the body on
 /// whole pixels.
 constexpr double leadingMargin = 1;
 
-/// Outlined one point wide along the edge of the body. Where that is an odd number of device pixels the line
-/// moves inwards by half a pixel, because it would be blurred over two.
+/// Draws an outline of one point along the edge of the body. If its width is an odd number of device pixels,
+/// the line moves inwards by half a pixel; otherwise it would blur over two.
 void paintOutline(QPainter& painter, const QRectF& body) {
     const double pixelsPerPoint = devicePixelsPerPoint(painter);
     const double linePixels = std::max(1.0, std::round(outlineWidth * pixelsPerPoint));

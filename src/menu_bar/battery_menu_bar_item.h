@@ -6,13 +6,13 @@ namespace orvelle {
 
 class BatteryMonitor;
 
-/// The battery module's place in the menu bar: the charge as glyph, text, dots or history; on a machine
-/// without a battery that it runs on external power.
+/// The battery module's item: the charge as glyph, text, dots or history. On a machine without a battery it
+/// shows external power.
 class BatteryMenuBarItem : public MenuBarItem<ModuleId::battery, BatteryMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:
@@ -22,10 +22,10 @@ private:
     [[nodiscard]] SceneNode charge(double fontSize) const;
 };
 
-/// A charge in percent as a fraction from 0 to 1, whatever the battery says.
+/// Converts a charge in percent to a fraction, clamped to 0 to 1.
 [[nodiscard]] double chargedFraction(qint64 charge);
 
-/// Green while charging; otherwise red below 21, yellow below 41, and else `color`.
+/// Green while charging; otherwise red below 21, yellow below 41, and `color` from there on.
 [[nodiscard]] QColor batteryColor(qint64 charge, bool isCharging, const QColor& color);
 
 /// Five dots of one colour, one lit for each full fifth of the charge.

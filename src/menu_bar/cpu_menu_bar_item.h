@@ -6,12 +6,12 @@ namespace orvelle {
 
 class CPUMonitor;
 
-/// The CPU module's place in the menu bar: total usage, a bar or a dot for each core, or the usage history.
+/// The CPU module's item: total usage, a bar or a dot for each core, or the usage history.
 class CPUMenuBarItem : public MenuBarItem<ModuleId::cpu, CPUMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:
@@ -21,7 +21,7 @@ private:
     [[nodiscard]] SceneNode coreDots(const QColor& color) const;
 };
 
-/// How many cores have a dot.
+/// The number of cores that get a dot.
 [[nodiscard]] qsizetype coreDotCount(qsizetype coreCount);
 
 /// The colour of a core's dot: `color` at three strengths as the load, a fraction, grows, and red from 0.8.

@@ -8,21 +8,20 @@ namespace orvelle {
 
 class DiskMonitor;
 
-/// The disk module's place in the menu bar: how full the first volume is, and whether the disks are being
-/// read and written.
+/// The disk module's item: the used share of the first volume, and whether the disks are read or written.
 class DiskMenuBarItem : public MenuBarItem<ModuleId::disk, DiskMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:
     [[nodiscard]] SceneNode picture() const;
     [[nodiscard]] QString accessibleText() const;
-    /// The used share of the first volume; nothing while none is mounted.
+    /// The used share of the first volume; nothing while no volume is mounted.
     [[nodiscard]] std::optional<double> used() const;
-    /// `parts` and, when a volume is mounted, how full the first one is.
+    /// `parts`, followed by the used share of the first volume if one is mounted.
     [[nodiscard]] SceneNode withUsedText(std::vector<SceneNode> parts) const;
     /// An arrow for each direction above the bar of the first volume.
     [[nodiscard]] SceneNode activityAndUsage(const QColor& color) const;
@@ -30,7 +29,7 @@ private:
     [[nodiscard]] SceneNode activityDots() const;
 };
 
-/// The colour of the arrow of one direction: `color` while bytes flow, else a faint grey.
+/// The colour of one direction's arrow: `color` while bytes flow, otherwise a faint grey.
 [[nodiscard]] QColor activityArrowColor(double bytesPerSecond, const QColor& color);
 
 } // namespace orvelle

@@ -31,7 +31,7 @@ QList<BarLook> looksOf(const QList<Level>& levels) {
 std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from, const QList<Level>& to,
                                                       double pixelsPerPoint) {
     if (from.size() != to.size())
-        return std::nullopt; // other bars
+        return std::nullopt; // the number of bars has changed
     double pixels = 0;
     bool isRecolored = false;
     for (qsizetype index = 0; index < to.size(); ++index) {
@@ -74,7 +74,7 @@ void ItemPresenter::retarget(bool mayMove, double pixelsPerPoint) {
     const QList<Level> target = easingLevelsOf(m_scene.body);
     const QList<BarLook> looks = looksOf(target);
     if (mayMove && looks == m_looks.target())
-        return; // they stand there, or are on their way there
+        return; // the levels are there or already move there
     const auto interval = easeInterval(easingLevelsOf(m_shown), target, pixelsPerPoint);
     if (mayMove && interval) {
         m_looks.retarget(looks, miniBarSeconds, easeInOut());

@@ -10,34 +10,35 @@
 
 namespace orvelle {
 
-/// How often levels are painted on their way; nothing when the change is not worth moving for. Nobody sees
-/// less than half a pixel, so a level that has a short way takes few steps.
+/// The time between the frames of an animated change of levels; nothing when the change is too small to
+/// animate. Steps below half a pixel are invisible, so a short distance takes few frames.
 [[nodiscard]] std::optional<std::chrono::milliseconds>
 easeInterval(const QList<Level>& from, const QList<Level>& to, double pixelsPerPoint);
 
-/// Shows scenes in a status item: levels ease from the length and the colour that they have to the new ones,
-/// and the item is painted again only when it looks different. Main thread only.
+/// Shows scenes in a status item. Levels ease from their current length and colour to the new ones, and the
+/// item is repainted only when it looks different. Main thread only.
 class ItemPresenter {
 public:
-    /// The item must outlive the presenter, unless it is not painted any more.
+    /// The item must exist while the presenter shows or eases scenes. Nothing may paint it after the
+    /// presenter's destruction.
     ItemPresenter(StatusItem& item, AnimationClock& clock);
     ItemPresenter(const ItemPresenter&) = delete;
     ItemPresenter& operator=(const ItemPresenter&) = delete;
 
-    /// Replaces the scene. What is not on the screen does not move, and neither does the first scene.
+    /// Replaces the scene. The first scene appears without motion, as does an item that is off the screen.
     void show(const ItemScene& scene);
 
     [[nodiscard]] const ItemScene& scene() const { return m_scene; }
-    /// What the item shows now, which may be on its way to the scene.
+    /// The current look of the item, which may still be easing to the newest scene.
     [[nodiscard]] const SceneNode& shown() const { return m_shown; }
-    /// Whether levels are on their way.
+    /// Whether levels are easing.
     [[nodiscard]] bool isMoving() const { return m_part.isRunning(); }
 
 private:
     void retarget(bool mayMove, double pixelsPerPoint);
     void step(double seconds);
     void refresh();
-    /// The levels of the present scene as they are shown now.
+    /// The levels of the newest scene as currently shown.
     [[nodiscard]] QList<Level> shownLevels() const;
 
     StatusItem& m_item;

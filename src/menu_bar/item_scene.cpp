@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-/// As fine as anybody can see it.
+/// The length, rounded to the finest visible step.
 double visibleLength(const Level& level) {
     constexpr double stepsPerPoint = 16;
     return std::round(level.look.ratio * level.fullLength * stepsPerPoint);

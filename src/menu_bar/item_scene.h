@@ -12,8 +12,8 @@
 #include <variant>
 #include <vector>
 
-/// What a status item shows, as a value: a tree of shapes in rows and columns, and the words for assistive
-/// technology. Scenes that are equal look the same. Lengths are in points.
+/// The content of a status item as a value: a tree of shapes in rows and columns, and the words for assistive
+/// technology. Equal scenes look the same. Lengths are in points.
 namespace orvelle {
 
 struct SymbolShape {
@@ -24,7 +24,7 @@ struct SymbolShape {
     bool operator==(const SymbolShape&) const = default;
 };
 
-/// One line of text, its capitals centred vertically. In a narrower place it is condensed.
+/// One line of text, its capitals centred vertically. It is condensed when its space is too narrow.
 struct TextShape {
     QString text;
     QFont font = {};
@@ -33,11 +33,11 @@ struct TextShape {
     bool operator==(const TextShape&) const = default;
 };
 
-/// How far a bar reaches. Two levels that nobody can tell apart are equal.
+/// The length of a bar. Levels that are visually indistinguishable compare equal.
 struct Level {
     BarLook look = {};
     double fullLength = 0; ///< of a bar at ratio 1
-    bool eases = true;     ///< moves to its next value; else it jumps there
+    bool eases = true;     ///< whether it eases to its next value instead of jumping
 
     friend bool operator==(const Level& one, const Level& other);
 };
@@ -49,7 +49,7 @@ struct CoreBarsShape {
     bool operator==(const CoreBarsShape&) const = default;
 };
 
-/// A bar that is filled from the left; more than 1 is drawn as full.
+/// A bar filled from the left; a ratio above 1 is drawn as full.
 struct LevelBarShape {
     QSizeF size;
     double cornerRadius = 0;
@@ -74,12 +74,12 @@ struct BatteryShape {
     bool operator==(const BatteryShape&) const = default;
 };
 
-/// Which edges of the shapes in a column lie on one line.
+/// The alignment of the shapes in a column.
 enum class ColumnAlignment { center, trailing };
 
 struct SceneNode;
 
-/// Side by side, each centred vertically.
+/// Shapes side by side, each centred vertically.
 struct RowShape {
     std::vector<SceneNode> nodes;
     double spacing = 0;
@@ -87,7 +87,7 @@ struct RowShape {
     bool operator==(const RowShape& other) const;
 };
 
-/// One above the other.
+/// Shapes from top to bottom.
 struct ColumnShape {
     std::vector<SceneNode> nodes;
     double spacing = 0;
@@ -96,7 +96,7 @@ struct ColumnShape {
     bool operator==(const ColumnShape& other) const;
 };
 
-/// A shape, or several in a row or a column. An empty row is nothing.
+/// One shape, or several in a row or a column. An empty row draws nothing.
 struct SceneNode {
     std::variant<RowShape, ColumnShape, SymbolShape, TextShape, CoreBarsShape, LevelBarShape, DotsShape,
                  BatteryShape, SparklineView, DualSparklineView>
@@ -107,7 +107,7 @@ struct SceneNode {
 
 struct ItemScene {
     SceneNode body = {};
-    QString accessibleName = {}; ///< what the item is about, for example "CPU"; it does not change
+    QString accessibleName = {}; ///< the subject of the item, for example "CPU"; constant
     QString accessibleText = {}; ///< the values in words, for example "CPU 12%"
 
     bool operator==(const ItemScene&) const = default;
@@ -116,9 +116,9 @@ struct ItemScene {
 [[nodiscard]] SceneNode row(std::vector<SceneNode> nodes, double spacing);
 [[nodiscard]] SceneNode column(std::vector<SceneNode> nodes, double spacing, ColumnAlignment alignment);
 
-/// The levels in a scene, in the order in which they are painted.
+/// The levels of a scene in painting order.
 [[nodiscard]] QList<Level> levelsOf(const SceneNode& node);
-/// The scene with other levels, as many as it has.
+/// Copies the scene with new levels; their number must match.
 [[nodiscard]] SceneNode withLevels(const SceneNode& node, const QList<Level>& levels);
 
 } // namespace orvelle

@@ -6,12 +6,12 @@ namespace orvelle {
 
 class MemoryMonitor;
 
-/// The memory module's place in the menu bar: the used share as text, bar or dots, or the pressure history.
+/// The memory module's item: the used share as text, bar or dots, or the pressure history.
 class MemoryMenuBarItem : public MenuBarItem<ModuleId::memory, MemoryMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:

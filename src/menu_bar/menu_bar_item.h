@@ -7,12 +7,12 @@
 
 #include <utility>
 
-/// What the menu-bar items of all modules share: where their values come from, the nodes that their scenes
-/// are made of, and the rules by which they show a level or a rate.
+/// Shared parts of all menu-bar items: the sources of their values, the nodes of their scenes, and the rules
+/// for showing a level or a rate.
 namespace orvelle {
 
-/// An item shows the values of the module's monitor in the style and the colours that the user chose. What it
-/// refers to must outlive it.
+/// An item shows the values of a module's monitor in the user's style and colours. The referenced objects
+/// must outlive the item.
 template <ModuleId module, class Monitor>
 class MenuBarItem {
 public:
@@ -25,7 +25,7 @@ protected:
     ~MenuBarItem() = default;
 
     [[nodiscard]] QColor moduleColor() const { return m_themes.moduleColor(module, m_settings); }
-    /// The scene with these words for assistive technology.
+    /// Adds these words for assistive technology to the scene.
     [[nodiscard]] static ItemScene scene(SceneNode picture, QString accessibleText) {
         return {.body = std::move(picture),
                 .accessibleName = QString(moduleInfo(module).title),
@@ -37,7 +37,7 @@ protected:
     const ThemeManager& m_themes;
 };
 
-/// Size of the module's icon and of the value that stands alone; beside a mini chart the value is smaller.
+/// Size of the module's icon, and of a value without a chart. Beside a mini chart the value is smaller.
 inline constexpr double iconFontSize = 10;
 inline constexpr double valueFontSize = 11;
 inline constexpr double smallValueFontSize = 10;
@@ -54,7 +54,7 @@ inline constexpr double smallValueFontSize = 10;
 
 [[nodiscard]] SceneNode dotsNode(const QList<QColor>& colors, double diameter = 4);
 
-/// A bar that is filled from the left up to `fraction`. It eases to its next value, or jumps there.
+/// A bar filled from the left up to `fraction`. It eases or jumps to its next value.
 [[nodiscard]] SceneNode levelBarNode(const QSizeF& size, double cornerRadius, double fraction,
                                      const QColor& color, bool eases);
 
@@ -62,24 +62,24 @@ inline constexpr double smallValueFontSize = 10;
 [[nodiscard]] SceneNode historyNode(const QList<double>& history, const QColor& color, double maxValue,
                                     const QSizeF& size);
 
-/// How many samples of a history the menu bar draws.
+/// The number of history samples that the menu bar draws.
 inline constexpr qsizetype recentSampleCount = 20;
 
-/// The newest samples of a history, oldest first; a history of at most 20 is used whole.
+/// The newest samples of a history, oldest first; all of them if there are at most 20.
 [[nodiscard]] QList<double> recentSamples(const QList<double>& history);
 
-/// How many of `dotCount` dots are lit at `level`, which is counted in dots: the whole part, from 0 to all. A
-/// level that is not finite stops the process, because no monitor publishes one.
+/// The number of lit dots at `level`, a number of dots: its whole part, clamped to 0 to `dotCount`. A level
+/// that is not finite stops the process, because no monitor publishes one.
 [[nodiscard]] qsizetype litDotCount(double level, qsizetype dotCount);
 
-/// `dotCount` dots of one colour, the first `litCount` at full strength, the others at `dimmedOpacity`.
+/// `dotCount` dots of one colour: the first `litCount` at full strength, the others at `dimmedOpacity`.
 [[nodiscard]] QList<QColor> meterColors(const QColor& color, qsizetype litCount, qsizetype dotCount,
                                         double dimmedOpacity);
 
-/// Whether a rate is worth a lit mark: more than 1024 bytes per second.
+/// Whether a rate lights its mark: above 1024 bytes per second.
 [[nodiscard]] bool isActive(double bytesPerSecond);
 
-/// The colour of the dot of one direction: `color`, dimmed to opacity 0.2 while nothing much flows.
+/// The colour of one direction's dot: `color`, dimmed to opacity 0.2 below that rate.
 [[nodiscard]] QColor activityDotColor(double bytesPerSecond, const QColor& color);
 
 } // namespace orvelle

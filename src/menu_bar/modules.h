@@ -9,15 +9,15 @@ class SettingsStore;
 class SystemMonitor;
 class ThemeManager;
 
-/// What the items of all modules are made from.
+/// The objects that the items of all modules need.
 struct ModuleContext {
     SystemMonitor& monitor;
     const SettingsStore& settings;
     const ThemeManager& themes;
 };
 
-/// What the module's status item shows at the present values. A module of the table that has no monitor or no
-/// item of its name does not compile.
+/// The module's status item at the current values. A module of the table without a matching monitor or item
+/// does not compile.
 [[nodiscard]] ItemScene makeScene(ModuleId module, const ModuleContext& context);
 
 } // namespace orvelle

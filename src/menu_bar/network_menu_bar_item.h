@@ -6,13 +6,13 @@ namespace orvelle {
 
 class NetworkMonitor;
 
-/// The network module's place in the menu bar: the upload rate above the download rate, their histories, or a
-/// dot for each direction.
+/// The network module's item: the upload rate above the download rate, their histories, or a dot for each
+/// direction.
 class NetworkMenuBarItem : public MenuBarItem<ModuleId::network, NetworkMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:
@@ -20,7 +20,7 @@ private:
     [[nodiscard]] QString accessibleText() const;
     /// Both rates as bare text.
     [[nodiscard]] SceneNode rates() const;
-    /// Both rates, each behind an arrow in the colour of its direction.
+    /// Both rates, each after an arrow in the colour of its direction.
     [[nodiscard]] SceneNode ratePair() const;
     [[nodiscard]] SceneNode history(double width) const;
     [[nodiscard]] SceneNode activityDots() const;

@@ -4,27 +4,27 @@
 
 #include <QRectF>
 
-/// How much room the shapes of a scene want. Lengths are in points.
+/// The natural size of the shapes of a scene. Lengths are in points.
 namespace orvelle {
 
 struct Extent {
     QSizeF size;
-    double rigidWidth = 0; ///< the share of the width that cannot be condensed; text has none
+    double rigidWidth = 0; ///< the part of the width that cannot be condensed; 0 for text
 };
 
 [[nodiscard]] Extent extentOf(const SceneNode& node);
 [[nodiscard]] Extent extentOf(const RowShape& row);
 
-/// Text narrower than this share of its natural width is no longer legible at menu-bar sizes.
+/// Text below this share of its natural width is illegible at menu-bar sizes.
 inline constexpr double narrowestText = 0.75;
 
-/// The width of something when all text in it is condensed to `share` of its natural width.
+/// The width when all text is condensed to `share` of its natural width.
 [[nodiscard]] double condensedWidth(const Extent& extent, double share);
 
-/// To which share of its natural width text is condensed, `narrowestText` to 1, in a place of this width.
+/// The share of its natural width, from `narrowestText` to 1, to which text is condensed to fit this width.
 [[nodiscard]] double condensedShare(const Extent& extent, double width);
 
-/// What is left of the spacing in a row that is wider than `width` even where its text is condensed.
+/// The reduced spacing of a row that exceeds `width` even with condensed text.
 [[nodiscard]] double gapWithin(const RowShape& row, const Extent& extent, double width);
 
 struct TextExtent {
@@ -32,19 +32,19 @@ struct TextExtent {
     double capHeight = 0;
 };
 
-/// Texts are measured once and remembered while they recur: to measure one costs as much as to paint it.
+/// Text sizes are cached while the texts recur, because measuring a text costs as much as painting it.
 [[nodiscard]] const TextExtent& textExtent(const TextShape& text);
 
 inline constexpr double coreBarsHeight = 14;
 
-/// Width of the frame that all cores' bars share: 3.5 for each core, and no more than for 12 cores.
+/// Width of the frame for all cores' bars: 3.5 per core, for at most 12 cores.
 [[nodiscard]] double coreBarsWidth(qsizetype coreCount);
 
-/// The slots of the cores' bars from left to right in a frame at the origin. Bars lie 1 apart; where a bar
-/// would become narrower than the gap beside it, the two share the room equally.
+/// The slots of the cores' bars from left to right in a frame at the origin. Gaps are 1 wide. If a bar would
+/// become narrower than its gap, both get the same width.
 [[nodiscard]] QList<QRectF> coreBarSlots(qsizetype coreCount);
 
-/// Between the dots of a row.
+/// The gap between the dots of a row.
 inline constexpr double dotSpacing = 2;
 
 } // namespace orvelle

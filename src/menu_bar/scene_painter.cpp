@@ -23,8 +23,8 @@ QPainterPath roundedRect(const QRectF& rect, double cornerRadius) {
     return path;
 }
 
-/// Moves the bar's sides to whole device pixels, because a gap of one pixel that lies between two is not
-/// seen. Where bars or gaps are narrower than a pixel, they stay where they are.
+/// Moves the bar's sides to whole device pixels, because a gap of one pixel that straddles two pixels is
+/// invisible. Bars and gaps narrower than a pixel stay where they are.
 QRectF onWholePixels(const QPainter& painter, const QRectF& bar, double gap) {
     if (std::min(bar.width(), gap) * devicePixelsPerPoint(painter) < 1)
         return bar;
@@ -64,7 +64,7 @@ void paintShape(QPainter& painter, const QRectF& frame, const LevelBarShape& bar
     const QPainterPath track = roundedRect(frame, bar.cornerRadius);
     const double width = frame.width() * std::clamp(bar.level.look.ratio, 0.0, 1.0);
     QPainterPath level = roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, bar.cornerRadius);
-    // A low level is narrower than the track's corners are round; it must not stick out of them.
+    // A low level is narrower than the radius of the track's corners. It must not extend past them.
     if (width < 2 * bar.cornerRadius)
         level = level.intersected(track);
     painter.save();
@@ -87,10 +87,11 @@ void paintShape(QPainter& painter, const QRectF& frame, const DotsShape& dots) {
     painter.restore();
 }
 
-/// Leans to the left where it must round, so that the last shape of a row that just fits does not stick out.
+/// Snaps to device pixels. Halves round to the left, so that the last shape of a row that just fits stays
+/// inside.
 void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame);
 
-/// Paints a shape within `frame`, which has its height, and its width or less.
+/// Paints a shape within `frame`, which has the shape's height and at most its width.
 struct Painter {
     QPainter& painter;
     const QRectF& frame;
@@ -132,8 +133,8 @@ void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame)
     std::visit(Painter{painter, snapped}, node.shape);
 }
 
-/// What is less than this too large, in points, is not drawn smaller: it would lose the sharpness of whole
-/// pixels for no more than its gaps, or the empty edge of a line of text, have to give.
+/// A scene that exceeds its place by less than this, in points, is not scaled down. Scaling would blur it,
+/// and its gaps, or the empty edge of a line of text, can absorb the excess.
 constexpr double worthScaling = 2;
 
 double scaleToFit(double extent, double room) {

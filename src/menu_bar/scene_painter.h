@@ -6,9 +6,10 @@
 
 namespace orvelle {
 
-/// Paints a scene centred in the fixed length of its place in the menu bar, in points, at any scale. What is
-/// wider than that gets its text condensed; what is still wider has its parts put closer together, and from 2
-/// points on it is drawn smaller as a whole, so that nothing is cut off. Shapes start on whole device pixels.
+/// Paints a scene centred in its place in the menu bar, whose fixed length is in points, at any scale. A
+/// scene that is too wide condenses its text first, then moves its parts closer together. If it still exceeds
+/// the place by 2 points or more, it is scaled down as a whole, so nothing is cut off. Shapes start on whole
+/// device pixels.
 void paintScene(QPainter& painter, const QRectF& bounds, const SceneNode& scene);
 
 } // namespace orvelle

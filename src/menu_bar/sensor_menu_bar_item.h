@@ -6,12 +6,12 @@ namespace orvelle {
 
 class SensorMonitor;
 
-/// The sensor module's place in the menu bar: the CPU temperature as text or dots, or its history.
+/// The sensor module's item: the CPU temperature as text or dots, or its history.
 class SensorMenuBarItem : public MenuBarItem<ModuleId::sensor, SensorMonitor> {
 public:
     using MenuBarItem::MenuBarItem;
 
-    /// The present values in the style that the user chose.
+    /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
 
 private:
@@ -19,7 +19,7 @@ private:
     [[nodiscard]] QString accessibleText() const;
 };
 
-/// "45°", or "--°" for a temperature that is not known.
+/// "45°", or "--°" for an unknown temperature.
 [[nodiscard]] QString temperatureText(double celsius);
 
 /// `color` at opacity 0.7 below 60, yellow from 60 and red from 80.
