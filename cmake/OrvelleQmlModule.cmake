@@ -1,12 +1,12 @@
-# How every folder of QML is built into its library.
+# Builds each folder of QML into its library.
 
-# Where the tools for QML find all modules, each in the folder of its name.
+# The QML tools find all modules here, each in a folder of its name.
 set(ORVELLE_QML_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
-# orvelle_qml_module(TARGET URI [DEPENDENCIES...] [IMPORTS...] [QML_FILES...]): makes the library, which was declared
-# before, the QML module of that name. Its files are compiled ahead of time. A static library does not register its
-# types by itself: it needs a function of its own for that, such as `registerPanelTypes`. DEPENDENCIES are modules
-# whose types the properties of this one have; IMPORTS come with every import of this one.
+# orvelle_qml_module(TARGET URI [DEPENDENCIES...] [IMPORTS...] [QML_FILES...]): turns an existing library into the QML
+# module URI and compiles its files ahead of time. A static library does not register its types by itself, so it needs a
+# function for that, such as `registerPanelTypes`. DEPENDENCIES are modules whose types this module uses for properties.
+# IMPORTS are imported with this module.
 function(orvelle_qml_module target uri)
   cmake_parse_arguments(ARG "" "" "DEPENDENCIES;IMPORTS;QML_FILES" ${ARGN})
   find_package(Qt6 6.4 REQUIRED COMPONENTS Quick)
@@ -16,19 +16,19 @@ function(orvelle_qml_module target uri)
     URI ${uri}
     VERSION 1.0
     OUTPUT_DIRECTORY ${ORVELLE_QML_DIRECTORY}/${folder}
-    RESOURCE_PREFIX / # where `makeEngine` looks; its default differs between releases of Qt
+    RESOURCE_PREFIX / # `makeEngine` looks here; the default differs between releases of Qt
     NO_PLUGIN
     DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
     IMPORTS ${ARG_IMPORTS}
     QML_FILES ${ARG_QML_FILES})
 
-  set_property(GLOBAL APPEND PROPERTY ORVELLE_QML_MODULES ${target}) # for tests that hold for all modules
+  set_property(GLOBAL APPEND PROPERTY ORVELLE_QML_MODULES ${target}) # for tests of all modules
 
   orvelle_compile_generated_qml(${target})
 endfunction()
 
-# What the QML compiler writes is not ours to keep free of warnings, nor to search for faults. Its files read the same
-# headers each, so a fast build compiles those of a module as one.
+# Generated QML code is built without warnings and sanitizers, because we cannot fix it. All its files include the same
+# headers, so a fast build compiles those of a module as one file.
 function(orvelle_compile_generated_qml target)
   set(options -w)
   if(ORVELLE_SANITIZE)

@@ -1,4 +1,4 @@
-# How every room of the house is built: one library target per folder, few test programs per floor.
+# Defines how each part is built: one library target per folder, and few test programs.
 
 option(ORVELLE_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
 option(ORVELLE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
@@ -14,7 +14,7 @@ target_compile_options(orvelle_build_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
   $<$<BOOL:${ORVELLE_WARNINGS_AS_ERRORS}>:-Werror>)
 if(ORVELLE_SANITIZE)
-  # Checks that the standard library makes of its own callers, in the program and in the tests alike.
+  # The standard library checks its callers, in the program and in the tests.
   target_compile_definitions(orvelle_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_compile_options(orvelle_build_flags INTERFACE -fno-omit-frame-pointer)
   target_link_options(orvelle_build_flags INTERFACE -fsanitize=address,undefined)
@@ -25,16 +25,16 @@ if(ORVELLE_BUILD_FUZZERS)
   target_link_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# The windows need Qt Quick, which costs 7 MB of memory and is not needed for the bar. On Linux they are a module
-# that the program loads when the first one opens; elsewhere the program is linked with them.
+# The windows need Qt Quick, which costs 7 MB of memory and which the bar does not need. On Linux the windows are a
+# module that the program loads when the first window opens. Elsewhere the program links them.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   set(ORVELLE_LOADS_WINDOWS ON)
 else()
   set(ORVELLE_LOADS_WINDOWS OFF)
 endif()
 
-# Most of the time of compiling a file goes into reading headers that nearly every file of its kind includes. Each
-# kind of library precompiles them once: `plain` knows no Qt, `core`, `gui` and `quick` know that module of it.
+# A compiler spends most of its time on headers that nearly every file of a kind includes. Each kind of library
+# precompiles them once: `plain` is without Qt; `core`, `gui` and `quick` include the headers of that Qt module.
 set(ORVELLE_HEADERS_plain <algorithm> <array> <charconv> <chrono> <cmath> <cstdint> <filesystem> <fstream>
   <functional> <map> <memory> <optional> <ranges> <span> <string> <string_view> <utility> <vector>)
 set(ORVELLE_HEADERS_core ${ORVELLE_HEADERS_plain} <QObject> <QTimer>)
@@ -44,7 +44,7 @@ set(ORVELLE_MODULE_core Qt6::Core)
 set(ORVELLE_MODULE_gui Qt6::Gui)
 set(ORVELLE_MODULE_quick Qt6::Quick)
 
-# orvelle_precompile(TARGET KIND): lets the target use the precompiled headers of its kind.
+# orvelle_precompile(TARGET KIND): makes the target use the precompiled headers of KIND.
 function(orvelle_precompile target kind)
   if(NOT ORVELLE_FAST_BUILD)
     return()
@@ -61,10 +61,10 @@ function(orvelle_precompile target kind)
   target_precompile_headers(${target} REUSE_FROM ${owner})
 endfunction()
 
-# orvelle_library(NAME [COMMON] [MOC] [KIND plain|core|gui|quick] SOURCES... LINK...): a library of one folder.
-# COMMON is for what both the program and a module that it loads use: there must be one of it in the process, so it
-# is shared where modules are loaded. MOC is for folders with a Q_OBJECT or Q_GADGET. KIND chooses the precompiled
-# headers. A folder with headers only is declared with no compiled source and becomes an interface library.
+# orvelle_library(NAME [COMMON] [MOC] [KIND plain|core|gui|quick] SOURCES... LINK...): adds the library of a folder.
+# COMMON marks a library that both the program and a loaded module use. A process must contain it only once, so it is
+# shared on systems that load modules. MOC is for folders with a Q_OBJECT or Q_GADGET. KIND selects the precompiled
+# headers. A library without SOURCES is an interface library of headers.
 function(orvelle_library name)
   cmake_parse_arguments(ARG "COMMON;MOC" "KIND" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
   if(NOT ARG_SOURCES)
@@ -86,7 +86,7 @@ function(orvelle_library name)
   endif()
 endfunction()
 
-# orvelle_program(NAME [MOC] SOURCES... LINK...): a program that people run.
+# orvelle_program(NAME [MOC] SOURCES... LINK...): adds a program for users.
 function(orvelle_program name)
   cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -95,10 +95,10 @@ function(orvelle_program name)
   set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
 endfunction()
 
-# orvelle_test(NAME [GUI] [MOC] SOURCES... LINK...): a GoogleTest program that ctest runs without a display.
-# GUI gives it a QGuiApplication, for fonts and images; without it there is a QCoreApplication.
-# The libraries under test are built with the sanitizers; the tests' own files are not, because the checks of a
-# test's assertions find nothing and take half of its compile time.
+# orvelle_test(NAME [GUI] [MOC] SOURCES... LINK...): adds a GoogleTest program that ctest runs without a display.
+# GUI provides a QGuiApplication for fonts and images; otherwise the program gets a QCoreApplication.
+# Only the libraries under test are built with the sanitizers. In the tests' own files the sanitizers find nothing and
+# take half of the compile time.
 function(orvelle_test name)
   cmake_parse_arguments(ARG "GUI;MOC" "" "SOURCES;LINK" ${ARGN})
   set(support orvelle_test_support)
@@ -106,7 +106,7 @@ function(orvelle_test name)
     set(support orvelle_gui_test_support)
   endif()
   add_executable(${name} ${ARG_SOURCES})
-  # Compiled as the library is whose precompiled headers it uses.
+  # These options must match the library whose precompiled headers the test uses.
   set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC} POSITION_INDEPENDENT_CODE OFF)
   target_compile_options(${name} PRIVATE -fPIC -O0)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)

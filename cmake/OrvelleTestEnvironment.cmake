@@ -1,5 +1,5 @@
-# What tests find around them, whoever runs them and on whichever desktop: one way of drawing text, with the fonts
-# that ./test installs, and folders of their own in place of the user's.
+# Gives tests the same environment for every user and on every desktop: fixed settings for drawing text, only the fonts
+# that ./test installs, and private folders in place of the user's.
 
 set(ORVELLE_TEST_HOME ${CMAKE_BINARY_DIR}/test-home)
 foreach(folder IN ITEMS config data cache state runtime)
@@ -7,9 +7,8 @@ foreach(folder IN ITEMS config data cache state runtime)
 endforeach()
 file(CHMOD ${ORVELLE_TEST_HOME}/runtime DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
-# orvelle_test_fonts(NAME FONT SANS_SERIF FILE...): writes a configuration that knows only these font files, by links
-# in a folder of their own, and SANS_SERIF of them as the desktop's font. FONT is the family and style that the desktop's
-# font then has.
+# orvelle_test_fonts(NAME FONT SANS_SERIF FILE...): writes a font configuration that contains only these files, through
+# links in a private folder. SANS_SERIF becomes the desktop's font. FONT is the resulting family and style of that font.
 function(orvelle_test_fonts name font sans_serif)
   set(folder ${ORVELLE_TEST_HOME}/fonts-${name})
   file(REMOVE_RECURSE ${folder})
@@ -21,17 +20,17 @@ function(orvelle_test_fonts name font sans_serif)
   set(ORVELLE_TEST_FONT_${name} ${font} PARENT_SCOPE)
 endfunction()
 
-# Those of the package fonts-dejavu-core, whatever other packages put beside them.
+# The fonts of the package fonts-dejavu-core, without those that other packages add to its folder.
 set(mono DejaVuSansMono DejaVuSansMono-Bold)
 orvelle_test_fonts(usual "DejaVu Sans Book" "DejaVu Sans"
   DejaVuSans DejaVuSans-Bold DejaVuSerif DejaVuSerif-Bold ${mono})
-# Others, in which texts must have room too: a wider one, one whose letters are all as wide as a digit, and one
-# that is narrower, of the package fonts-dejavu-extra.
+# Texts must fit in these fonts too: a wider one, one whose letters are all as wide as a digit, and a narrower one from
+# the package fonts-dejavu-extra.
 orvelle_test_fonts(wide "DejaVu Serif Bold" "DejaVu Serif" DejaVuSerif-Bold ${mono})
 orvelle_test_fonts(even "DejaVu Sans Mono Book" "DejaVu Sans Mono" ${mono})
 orvelle_test_fonts(narrow "DejaVu Sans Condensed" "DejaVu Sans" DejaVuSansCondensed DejaVuSansCondensed-Bold ${mono})
 
-# What desktops and their users choose scales, fonts and themes with.
+# Variables that desktops and users set to choose scales, fonts and themes.
 set(desktop_choices
   QT_QPA_PLATFORMTHEME QT_FONT_DPI QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS QT_AUTO_SCREEN_SCALE_FACTOR
   QT_ENABLE_HIGHDPI_SCALING QT_SCALE_FACTOR_ROUNDING_POLICY QT_USE_PHYSICAL_DPI
@@ -39,7 +38,7 @@ set(desktop_choices
   FREETYPE_PROPERTIES FONTCONFIG_PATH FONTCONFIG_SYSROOT)
 list(TRANSFORM desktop_choices APPEND "=unset:" OUTPUT_VARIABLE ORVELLE_WITHOUT_DESKTOP_CHOICES)
 
-# Every test runs off-screen, under one locale, with the sanitizers told to stop at the first finding.
+# Every test runs off-screen and under one locale.
 function(orvelle_test_environment name)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
   set_property(TEST ${name} PROPERTY ENVIRONMENT
@@ -57,7 +56,7 @@ function(orvelle_test_environment name)
   orvelle_test_has_fonts(${name} usual)
 endfunction()
 
-# orvelle_test_has_fonts(TEST NAME): the test finds the fonts of this name and no others, where fontconfig chooses.
+# orvelle_test_has_fonts(TEST NAME): gives the test only the fonts of this name, on systems with fontconfig.
 function(orvelle_test_has_fonts test fonts)
   if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     return()
@@ -67,7 +66,7 @@ function(orvelle_test_has_fonts test fonts)
     "ORVELLE_TEST_FONT=set:${ORVELLE_TEST_FONT_${fonts}}")
 endfunction()
 
-# orvelle_test_in_other_fonts(TEST FILTER): runs those tests of a program that FILTER names in the other fonts too.
+# orvelle_test_in_other_fonts(TEST FILTER): also runs the program's tests that FILTER matches in the other fonts.
 function(orvelle_test_in_other_fonts program filter)
   if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     return()

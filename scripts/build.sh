@@ -1,7 +1,7 @@
-# Sourced by ./run, ./test and ./bench: how a preset is configured and built.
+# Configures and builds a preset. Sourced by ./run, ./test and ./bench.
 
-# What a build folder was made with. An upgraded compiler or library, or a checkout that moved, leaves files in it that no
-# longer fit.
+# Prints the tools that a build folder depends on. After an upgrade of a compiler or library, or a move of the checkout,
+# the files in the folder no longer fit.
 toolchain() {
   pwd
   cmake --version | head -1
@@ -9,8 +9,8 @@ toolchain() {
   pkg-config --modversion Qt6Core Qt6Quick fmt 2>/dev/null || true
 }
 
-# configure PRESET [CMAKE OPTION...]: sets up build/PRESET, and sets it up anew where it no longer fits. Prints what CMake
-# says only when that fails.
+# configure PRESET [CMAKE OPTION...]: sets up build/PRESET, and recreates it if it no longer fits. Prints the output of
+# CMake only on failure.
 configure() {
   local preset=$1; shift
   local folder=build/$preset
@@ -29,7 +29,7 @@ configure() {
   toolchain >"$stamp"
 }
 
-# build PRESET [CMAKE OPTION...]: configures when needed, and builds.
+# build PRESET [CMAKE OPTION...]: configures if needed, then builds.
 build() {
   configure "$@"
   cmake --build "build/$1" -- --quiet

@@ -1,9 +1,9 @@
-# Sourced on macOS, in place of what is there for Debian: packages come from Homebrew, and there is a display.
-# Written for the bash of macOS, which is version 3.2.
-# shellcheck disable=SC2034 # what is set here is for those who source this file
+# Sourced on macOS to replace the Debian parts: packages come from Homebrew, and there is always a display.
+# The bash of macOS is version 3.2.
+# shellcheck disable=SC2034 # the sourcing scripts use these variables
 
 build_packages=(cmake ninja fmt)
-# One package has all of Qt.
+# One package contains all of Qt.
 desktop_packages=(qt)
 qml_packages=(qt)
 virtual_display_packages=(qt)
@@ -12,7 +12,7 @@ test_packages=(googletest)
 program=build/release/bin/Orvelle.app/Contents/MacOS/Orvelle
 has_display() { true; }
 
-# install_packages WHY PACKAGE...: installs what is missing and says so; does nothing when all is there.
+# install_packages WHY PACKAGE...: installs missing packages and reports them; does nothing when none is missing.
 install_packages() {
   local why=$1; shift
   local missing=() package

@@ -1,4 +1,4 @@
-"""Which files of the project the files of the project include, told without a compiler."""
+"""Finds the includes between the project's files without a compiler."""
 
 import os
 import re
@@ -7,7 +7,7 @@ INCLUDE = re.compile(r'^[ \t]*#[ \t]*(?:include|import)[ \t]*[<"]([^">\n]+)[">]'
 
 
 class Includes:
-    """Answers for the files that git knows. A name that several files end in stands for all of them."""
+    """The includes of the files that git knows. A name that matches the end of several paths stands for all of them."""
 
     def __init__(self, files):
         self.files_by_name = {}
@@ -16,19 +16,19 @@ class Includes:
         self.known = {}
 
     def named(self, name):
-        """The files that a name in an #include may stand for."""
+        """The files that a name in an #include may refer to."""
         ending = "/" + re.sub(r"^(\.\.?/)+", "", name)
         return [file for file in self.files_by_name.get(os.path.basename(name), []) if ("/" + file).endswith(ending)]
 
     def included_by(self, file):
-        """The files that the file itself names."""
+        """The files that the file includes directly."""
         if file not in self.known:
             with open(file, encoding="utf-8") as text:
                 self.known[file] = [found for name in INCLUDE.findall(text.read()) for found in self.named(name)]
         return self.known[file]
 
     def closure(self, source, added=()):
-        """The source, what it includes, what that includes, and so on; `added` are names that it includes besides."""
+        """The source and everything that it includes, directly or not; `added` are further names that it includes."""
         seen, waiting = set(), [source, *(file for name in added for file in self.named(name))]
         while waiting:
             file = waiting.pop()

@@ -1,9 +1,9 @@
-# The modules as the program itself lists them, for scripts that click on its items or change their settings. Sourced.
+# Lists the program's modules for scripts that click on its items or change their settings. Sourced.
 
-# read_modules PROGRAM: asks the probe beside the program. Sets, with an element for each module from left to right,
-# module_keys, module_titles, module_settings, which show them, and module_widths, of their items in points; and
-# module_middles, where the middle of each item is in points from the right edge of the screen while all are shown.
-# ORVELLE_MODULE_TITLES has the titles with a bar between them, as a regular expression; it is exported.
+# read_modules PROGRAM: asks the probe in the program's folder. Sets arrays with one element per module, from left to
+# right: module_keys, module_titles, module_settings (the settings that show them), module_widths (of their items, in
+# points) and module_middles (the middle of each item while all are shown, in points from the right edge of the screen).
+# Exports ORVELLE_MODULE_TITLES, a regular expression that matches any title.
 # shellcheck disable=SC2034 # the scripts that source this use them
 read_modules() {
   local key width setting title index right=8 # the margin of the bar

@@ -1,6 +1,6 @@
-# Sourced by scripts/system.sh: which Debian packages each needs, and how they are installed when missing.
-# An entry "a|b" is a package that has two names in the supported releases; the first one known is taken.
-# shellcheck disable=SC2034 # the lists are for those who source this file
+# Lists the Debian packages for each purpose and installs missing ones. Sourced by scripts/system.sh.
+# An entry "a|b" is a package with two names in the supported releases; the first known name is used.
+# shellcheck disable=SC2034 # the sourcing scripts use these lists
 
 build_packages=(
   g++ cmake ninja-build pkg-config
@@ -8,38 +8,38 @@ build_packages=(
   "qt6-svg-dev|libqt6svg6-dev" libfmt-dev bootstrap-icons
   libxcb1-dev libxcb-ewmh-dev libxcb-xinput-dev
 )
-# What the program needs to draw text and to meet a display, where the desktop does not bring it already.
+# The program needs these to draw text and to use a display. A desktop may not provide them.
 desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)
-# The modules that the windows' QML imports when they are opened.
+# The modules that the windows' QML imports when they open.
 qml_packages=(
   qml6-module-qtquick qml6-module-qtquick-layouts qml6-module-qtquick-templates
   qml6-module-qtquick-window
   qml6-module-qtqml qml6-module-qtqml-workerscript
 )
-# A display of our own for a machine without one, and what clicks on it and takes pictures of it.
+# A virtual display for a machine without one, and the tools that click on it and take pictures of it.
 virtual_display_packages=(xvfb openbox imagemagick x11-utils x11-xserver-utils xdotool)
-# `locales` brings the sources of the locale with a decimal comma under which numbers are tested.
+# `locales` contains the sources of the locale with a decimal comma that the tests of numbers use.
 test_packages=(
   libgtest-dev gobjc++ xdotool wmctrl xfwm4 picom locales
   # An accessibility bus and a program that reads it.
   dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
   # A session manager.
   libsm-dev libice-dev
-  # A narrower font, in which the windows are laid out too.
+  # A narrower font, for which the tests lay out the windows too.
   fonts-dejavu-extra
 )
-# What looks for faults without running anything; ./lint says why these versions.
+# Static checks; ./lint explains the versions.
 lint_packages=(clang-format-19 clang-tidy-19 shellcheck pylint)
 
-# Prints those of the given packages that are installed, one a line.
+# Prints the installed packages among the given ones, one per line.
 installed_packages() {
   dpkg-query -W -f='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^installed //p' || true
 }
 
-# Prints the entries of the given list of which no name is installed, one a line. One query serves them all.
+# Prints the entries of the given list without an installed name, one per line. One query serves all entries.
 missing_packages() {
   local entry name installed found
-  # shellcheck disable=SC2048,SC2086 # the names of an entry are to be split into words
+  # shellcheck disable=SC2048,SC2086 # splits the names of an entry into words
   installed=" $(installed_packages ${*//|/ } | tr '\n' ' ') "
   for entry in "$@"; do
     found=""
@@ -50,7 +50,7 @@ missing_packages() {
   done
 }
 
-# Of the names of one entry, the first that the package lists know.
+# Prints the first name of an entry that the package lists know.
 known_name() {
   local name
   for name in ${1//|/ }; do
@@ -59,7 +59,7 @@ known_name() {
   printf '%s\n' "${1%%|*}"
 }
 
-# Where no Debian package can be asked for: what the build calls must be there, however it came.
+# Without Debian packages: checks that the commands of the build exist.
 require_commands() {
   local command missing=()
   for command in c++ cmake ninja pkg-config; do
@@ -71,8 +71,8 @@ require_commands() {
   fi
 }
 
-# install_packages WHY PACKAGE...: installs what is missing and says so; does nothing when all is there. What apt says is
-# kept in build/packages.log; a failure is one line that names what is missing.
+# install_packages WHY PACKAGE...: installs missing packages and reports them; does nothing when none is missing. The
+# output of apt goes to build/packages.log. A failure prints one line that names the missing packages.
 install_packages() {
   local why=$1; shift
   local missing as_root=() names=() entry log=build/packages.log
@@ -92,10 +92,10 @@ install_packages() {
   fi
   echo "orvelle: installing ${missing[*]} ($why)"
   mkdir -p build
-  # One broken source of packages need not matter: the installation decides.
+  # A broken package source may not matter. The installation decides.
   "${as_root[@]}" apt-get update -q >"$log" 2>&1 || echo "orvelle: the package lists could not all be renewed" >&2
   for entry in "${missing[@]}"; do names+=("$(known_name "$entry")"); done
-  # Waiting for the disk after each of several hundred packages takes half of the time: once at the end is enough.
+  # Syncing the disk after each of several hundred packages takes half of the time. One sync at the end is enough.
   if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 -o Dpkg::Options::=--force-unsafe-io \
     "${names[@]}" >>"$log" 2>&1; then

@@ -1,12 +1,12 @@
-# Sourced by ./run, ./test and ./bench: what differs between the systems. The only place that asks which one this is.
+# Handles the differences between operating systems, the only script that does. Sourced by ./run, ./test and ./bench.
 source scripts/packages.sh
 source scripts/build.sh
 
-# Each of Qt's many tools would print a notice where the locale's texts are not UTF-8.
+# Without a UTF-8 locale each of Qt's many tools prints a notice.
 [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
 
 program=build/release/bin/orvelle
-# A DISPLAY may name a server that is gone, or one that does not let this user in.
+# DISPLAY may name a server that is gone or that refuses this user.
 has_display() { [ -n "${DISPLAY:-}" ] && timeout 5 xprop -root >/dev/null 2>&1; }
 
 [ "$(uname -s)" != Darwin ] || source scripts/homebrew.sh

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""tidy.py CLANG_TIDY FILE...: runs clang-tidy over C++ and Objective-C++. Ends with status 1 when it found anything.
+"""tidy.py CLANG_TIDY FILE...: runs clang-tidy over C++ and Objective-C++. Exits with status 1 if it finds anything.
 
-Headers are looked at together with the sources that include them. A source in which nothing was found is not looked
-at again until it changes, or a file of the project that it includes, or how it is compiled, or what is checked.
+Headers are checked through the sources that include them. A clean source is checked again only after a change of the
+source, of a project file that it includes, of its compile command, or of the checks.
 """
 
 import concurrent.futures
@@ -16,7 +16,7 @@ import sys
 from includes import Includes
 
 BUILD = "build/lint"
-CLEAN = f"{BUILD}/clean"  # one empty file, named by the fingerprint, for each source in which nothing was found
+CLEAN = f"{BUILD}/clean"  # one empty file, named by the fingerprint, for each clean source
 FINDING = re.compile(r"^(\S[^:\n]*):\d+:\d+: (?:warning|error): .*$")
 NOT_COMPILED = "[clang-diagnostic-error]"
 
@@ -26,36 +26,36 @@ def output_of(*command):
 
 
 def project_files():
-    """The files that git tracks, and the new ones that it does not ignore."""
+    """The files that git tracks, and new files that it does not ignore."""
     return [file for file in output_of("git", "ls-files", "-co", "--exclude-standard").splitlines() if os.path.isfile(file)]
 
 
 def compile_commands(files):
-    """How each of the sources is compiled. The preset has no precompiled headers, which clang could not read."""
+    """The compile command of each source. The preset uses no precompiled headers, which clang could not read."""
     if not os.path.exists(f"{BUILD}/build.ninja"):
         output_of("cmake", "--preset", "dev", "-B", BUILD, "-DORVELLE_BUILD_BENCH=ON")
-    output_of("cmake", "--build", BUILD, "--target", "build.ninja")  # configures again if that has become necessary
+    output_of("cmake", "--build", BUILD, "--target", "build.ninja")  # reconfigures if necessary
     with open(f"{BUILD}/compile_commands.json", encoding="utf-8") as file:
         commands = {os.path.relpath(entry["file"]): entry["command"] for entry in json.load(file)}
     return {file: commands[file] for file in files if file in commands}
 
 
 class Tidy:
-    """Looks at sources, several at a time, and keeps what was found."""
+    """Checks sources in parallel and collects the findings."""
 
     def __init__(self, clang_tidy):
         files = project_files()
         self.commands = compile_commands(files)
         self.includes = Includes(files)
-        # The header of Objective-C's runtime comes with g++.
+        # The header of the Objective-C runtime comes with g++.
         gcc_headers = output_of("g++", "-print-file-name=include").strip()
         self.call = [clang_tidy, "-p", BUILD, "--quiet", f"--extra-arg=-idirafter{gcc_headers}"]
         self.version = output_of(clang_tidy, "--version")
-        self.findings = {}  # by their first line, because a header is seen from many sources
+        self.findings = {}  # by their first line, because many sources include the same header
         self.not_compiled = []
 
     def sources_for(self, files):
-        """The sources among the files, and for each header a source that includes it."""
+        """The sources among the files, and one including source for each header."""
         sources = self.commands.keys() & set(files)
         for header in sorted(file for file in files if file.endswith(".h")):
             including = [source for source in self.commands if header in self.seen_by(source)]
@@ -69,7 +69,7 @@ class Tidy:
         return self.includes.closure(source, added)
 
     def fingerprint(self, source):
-        """Equal as long as nothing changes that a finding could come from, but for headers of other projects."""
+        """Changes with everything that can cause a finding, except headers of other projects."""
         configurations = [file for file in (".clang-tidy", "tests/.clang-tidy") if os.path.exists(file)]
         digest = hashlib.sha256(f"{self.version} {self.call} {self.commands.get(source)}".encode())
         for file in sorted(self.seen_by(source)) + configurations:
@@ -78,7 +78,7 @@ class Tidy:
         return digest.hexdigest()
 
     def look_at(self, source):
-        """Prints what was not found before in another source."""
+        """Prints the new findings. Returns whether the source is clean."""
         run = subprocess.run([*self.call, source], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
         found = findings_of(run.stdout)
         if not found and run.returncode != 0:
@@ -92,7 +92,7 @@ class Tidy:
         return not found
 
     def look_at_all(self, sources):
-        """Looks at what is not known to be clean; how many that were."""
+        """Checks the sources that are not known to be clean. Returns their number."""
         os.makedirs(CLEAN, exist_ok=True)
         marks = {source: f"{CLEAN}/{self.fingerprint(source)}" for source in sources}
         waiting = [source for source, mark in marks.items() if not os.path.exists(mark)]

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# tour.sh PROGRAM PICTURES: shows the program on a virtual display, for machines without one. It runs the real
-# program, opens every panel and the settings window as a user would, saves a picture of each and prints what each
-# module sampled.
+# tour.sh PROGRAM PICTURES: shows the program on a virtual display, for machines without one. It runs the real program,
+# opens every panel and the settings window as a user would, saves a picture of each, and prints the samples of each
+# module.
 set -euo pipefail
 program=$1
 pictures=$2
@@ -10,7 +10,7 @@ source "$(dirname "$(readlink -f "$0")")/modules.sh"
 
 settings=$(mktemp -d)
 log=$settings/log
-# Nothing of the caller's desktop: neither the Qt choices nor the folders.
+# Isolates the program from the caller's desktop: from its Qt settings and its folders.
 unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_CACHE_HOME=$settings XDG_STATE_HOME=$settings
 export QT_FORCE_STDERR_LOGGING=1
@@ -31,13 +31,13 @@ echo "No display here: showing Orvelle on a virtual one."
 mkdir -p "$pictures"
 start_x_server 1280x800
 start_window_manager
-# A plain desktop behind the bar, so that its edge can be seen.
+# A plain desktop makes the bar's edge visible.
 xsetroot -solid '#3a4a5c'
 
 QT_LOGGING_RULES="orvelle.sample.debug=true" "$program" 2>"$log" &
 program_process=$!
 
-# Processes are looked at in the first and fourth cycle; only then is it known what they use.
+# Processes are sampled in the first and the fourth cycle; their usage is known only after the fourth.
 sampled_or_ended() { grep -q 'cycle 4' "$log" || ! kill -0 "$program_process"; }
 wait_until 30 sampled_or_ended || true
 if ! grep -q 'cycle 4' "$log"; then
@@ -55,7 +55,7 @@ picture() {
   echo "picture: $(readlink -f "$file")"
 }
 
-# wait_for_window NAME: leaves the id of the window "Orvelle NAME" in `window`, once it is at rest.
+# wait_for_window NAME: sets `window` to the id of the window "Orvelle NAME" and waits until it is at rest.
 wait_for_window() {
   window=""
   find_window() { window=$(xdotool search --onlyvisible --name "^Orvelle $1\$" | tail -1) && [ -n "$window" ]; }

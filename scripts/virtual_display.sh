@@ -1,10 +1,10 @@
-# Sourced by what drives the program without a display: an X server and a window manager of its own. Each function
-# leaves the process in a variable; `stop_virtual_display` ends both, and only them.
+# Starts a private X server and window manager for scripts that drive the program without a display. Sourced. Each start
+# function stores its process in a variable; `stop_virtual_display` ends these two processes only.
 
 x_server_process=""
 window_manager_process=""
 
-# wait_until SECONDS COMMAND...: tries the command again and again.
+# wait_until SECONDS COMMAND...: repeats the command until it succeeds or the time is up.
 wait_until() {
   local deadline=$((SECONDS + $1)); shift
   until "$@" >/dev/null 2>&1; do
@@ -13,7 +13,7 @@ wait_until() {
   done
 }
 
-# start_x_server WIDTHxHEIGHT [OPTION...]: sets DISPLAY to a server on a number that the server itself found free.
+# start_x_server WIDTHxHEIGHT [OPTION...]: starts a server on a display number that it finds free, and sets DISPLAY.
 start_x_server() {
   local number_file
   number_file=$(mktemp)
@@ -26,8 +26,8 @@ start_x_server() {
   export DISPLAY
 }
 
-# A window manager that ended may leave its name behind, but not the window that the name points to. One that is just
-# starting has told its name before it attends to windows; afterwards it tells which there are, or which is active.
+# A window manager that has ended may leave its property behind, but not the window that the property names. One that is
+# starting sets this property before it manages windows, and the list of windows or the active window afterwards.
 window_manager_runs() {
   local window
   window=$(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | sed -n 's/.*# //p')
@@ -38,7 +38,7 @@ window_manager_runs() {
 # start_window_manager [COMMAND...]
 start_window_manager() {
   [ $# -gt 0 ] || set -- openbox --sm-disable
-  xprop -root -remove _NET_CLIENT_LIST -remove _NET_ACTIVE_WINDOW >/dev/null 2>&1 # of an earlier one
+  xprop -root -remove _NET_CLIENT_LIST -remove _NET_ACTIVE_WINDOW >/dev/null 2>&1 # left by an earlier one
   "$@" >/dev/null 2>&1 &
   window_manager_process=$!
   wait_until 60 window_manager_runs || { echo "the window manager did not start" >&2; return 1; }

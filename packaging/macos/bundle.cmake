@@ -1,6 +1,6 @@
-# Makes the program Orvelle.app, and lets `cpack` write a disk image with it and all that it needs of Qt.
+# Builds the program as Orvelle.app, and lets `cpack` write a disk image with it and the parts of Qt that it needs.
 
-# The name of the port to I/O Kit that the sources use came with macOS 12.
+# The sources use a name for the I/O Kit port that macOS 12 introduced.
 set(ORVELLE_OLDEST_MACOS 12.0)
 if(CMAKE_OSX_DEPLOYMENT_TARGET)
   set(ORVELLE_OLDEST_MACOS ${CMAKE_OSX_DEPLOYMENT_TARGET})
@@ -15,7 +15,7 @@ set_target_properties(orvelle PROPERTIES
   MACOSX_BUNDLE_BUNDLE_VERSION ${PROJECT_VERSION}
   MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION})
 
-# The icon in all its sizes, from the one drawing that the other desktops use too.
+# The icon in all sizes, from the same drawing that other desktops use.
 set(ORVELLE_ICON_DRAWING ${CMAKE_SOURCE_DIR}/packaging/orvelle.svg CACHE FILEPATH "Drawing of the program's icon")
 if(EXISTS ${ORVELLE_ICON_DRAWING})
   add_executable(orvelle_icon_set EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/icon_set.cpp)
@@ -36,7 +36,7 @@ endif()
 install(TARGETS orvelle BUNDLE DESTINATION .)
 find_program(ORVELLE_MACDEPLOYQT macdeployqt HINTS ${QT6_INSTALL_PREFIX}/bin DOC "Copies Qt into a bundle")
 if(ORVELLE_MACDEPLOYQT)
-  # Changed programs must be signed anew to start at all; without an identity it is a signature for this machine.
+  # A changed program must be signed again to start. Without an identity the signature is valid on this machine only.
   install(CODE "execute_process(
     COMMAND \"${ORVELLE_MACDEPLOYQT}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Orvelle.app\"
       \"-qmldir=${CMAKE_SOURCE_DIR}/src\" -codesign=-
