@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# planted_faults.sh BUILD_DIRECTORY: shows that test_appkit notices when the shell of macOS is broken, by planting one
-# fault after the other. BUILD_DIRECTORY must have been configured for a checkout without changes in src: each file is
-# put back as git has it. For use by hand; it compiles for some minutes.
+# planted_faults.sh BUILD_DIRECTORY: proves that test_appkit notices faults in the macOS shell, by planting one fault at
+# a time. BUILD_DIRECTORY must belong to a checkout without changes in src, because each file is restored from git. For
+# use by hand: it compiles for several minutes.
 set -euo pipefail
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/../.."

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# planted_faults.sh CHECK SOURCE_DIRECTORY QT_HEADER_DIRECTORY: shows that the check of the architecture can fail,
-# by planting each kind of fault in a copy of the sources, and that it complains of nothing else.
+# planted_faults.sh CHECK SOURCE_DIRECTORY QT_HEADER_DIRECTORY: plants each kind of fault in a copy of the sources, and
+# proves that the architecture check reports these faults and nothing else.
 set -euo pipefail
 check=$1
 source_directory=$2
@@ -14,15 +14,15 @@ if ! complaints=$("$check" "$copy" "$qt_headers" 2>&1); then
   exit 1
 fi
 
-# plant FILE LINE COMPLAINT: FILE below the copy, which may be new, gets LINE at its end, for which the check must
-# complain in these words.
+# plant FILE LINE COMPLAINT: appends LINE to FILE in the copy, which may be new. The check must report exactly
+# COMPLAINT.
 plant() {
   mkdir -p "$(dirname "$copy/$1")"
   printf '%s\n' "$2" >>"$copy/$1"
   printf '%s\n' "$3" >>"$copy/expected"
 }
 
-# What the parts may know of each other.
+# The allowed arrows between the folders.
 plant src/core/sources/disk_source.h     '#include "core/checked.h"'                       'wrong arrow: core/sources/disk_source.h: core/checked.h'
 plant src/core/cpu_monitor.cpp           '#include "platform/linux/text.h"'                'wrong arrow: core/cpu_monitor.cpp: platform/linux/text.h'
 plant src/core/cpu_monitor.cpp           '#include "theme/theme_manager.h"'                'wrong arrow: core/cpu_monitor.cpp: theme/theme_manager.h'
@@ -61,7 +61,7 @@ plant src/core/cpu_monitor.cpp           '#include"animation/spring.h"'         
 plant src/platform/darwin/any.mm         '#import "core/checked.h"'                        'wrong arrow: platform/darwin/any.mm: core/checked.h'
 plant src/core/cpu_monitor.cpp           '#include HEADER'                                 'include that cannot be judged: core/cpu_monitor.cpp: HEADER'
 
-# Which modules of Qt are known where.
+# The Qt modules that a folder may use.
 plant src/core/cpu_monitor.h             '#include <QColor>'                               'Qt Gui: core/cpu_monitor.h: QColor'
 plant src/core/cpu_monitor.h             '#include <QtGui/QColor>'                         'Qt Gui: core/cpu_monitor.h: QtGui/QColor'
 plant src/core/cpu_monitor.h             '#include <QtGui>'                                'Qt Gui: core/cpu_monitor.h: QtGui'
@@ -80,7 +80,7 @@ plant src/charts/plain_bars.h            '#include <QQuickPaintedItem>'         
 plant src/app/app_delegate.h             '#include <QQmlEngine>'                           'Qt Qml: app/app_delegate.h: QQmlEngine'
 plant src/shell/painted/bar_window.cpp   '#include <QQuickView>'                           'Qt Quick: shell/painted/bar_window.cpp: QQuickView'
 
-# Questions that the build answers.
+# Decisions that belong to the build.
 question='question about the operating system:'
 for macro in __APPLE__ __MACH__ __linux __linux__ __gnu_linux__ __unix__ __FreeBSD__ TARGET_OS_MAC Q_OS_MACOS Q_OS_LINUX _WIN32; do
   plant src/core/checked.cpp            "#if defined($macro) && 1"                  "$question src/core/checked.cpp: #if defined($macro) && 1"
@@ -94,7 +94,7 @@ if "$check" "$copy" "$qt_headers" >/dev/null 2>"$copy/complaints"; then
   echo "the check succeeds on all planted faults" >&2
   exit 1
 fi
-# A system's question shows its line, whose number depends on what stands above it.
+# A question about the system shows its line number, which depends on the lines above.
 sed -E 's/^(question [^:]*: [^:]*):[0-9]+:/\1: /' "$copy/complaints" | sort >"$copy/found"
 if ! diff <(sort "$copy/expected") "$copy/found" >"$copy/differences"; then
   echo "< is planted and not noticed, > is noticed and not planted:" >&2

@@ -1,10 +1,9 @@
-# Beside the display of desktop.sh, a session bus with an accessibility bus of the test's own. Sourced by the
-# end-to-end tests.
+# Adds a private session bus and accessibility bus to the display of desktop.sh. Sourced by the end-to-end tests.
 
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 requireTools dbus-daemon dbus-send
 
-# The system's Python first, because packages install for that one.
+# The system's Python comes first, because packages install for it.
 python=""
 for candidate in /usr/bin/python3 python3; do
     [[ -n $python ]] || ! "$candidate" -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null ||
@@ -17,7 +16,7 @@ fi
 
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory NO_AT_BRIDGE=1
 
-# The session's bus starts the accessibility bus when that is first asked for; both end with it.
+# The session bus starts the accessibility bus on demand. Both end with the session bus.
 startAccessibilityBus() {
     dbus-daemon --session --nofork --nosyslog --print-address=3 3>"$workDirectory/address" \
         >"$workDirectory/bus.log" 2>&1 &

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program as an assistive program meets it: over an accessibility bus of the test's own.
+# Tests the real program with an assistive program, over a private accessibility bus.
 #
 #   accessibility_test.sh ORVELLE
 

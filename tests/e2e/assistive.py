@@ -1,6 +1,6 @@
-"""What the assistive programs of the end-to-end tests share: finding and using Orvelle through AT-SPI alone.
+"""Finds and uses Orvelle through AT-SPI alone. The assistive programs of the end-to-end tests share this module.
 
-Each check prints a line; `finish` ends with status 0 when all of them held.
+Each check prints a line. `finish` exits with status 0 if all checks passed.
 """
 
 import sys
@@ -9,7 +9,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # the version comes first
+from gi.repository import Atspi, GLib  # only after the version is set
 
 PATIENCE_SECONDS = 60
 Role = Atspi.Role
@@ -33,14 +33,14 @@ def handle_events():
 
 
 def wait_until(description, condition, patience_seconds=PATIENCE_SECONDS):
-    """Polls until `condition` returns something true, and returns that; None when it never does."""
+    """Polls until `condition` returns a true value, and returns it; None if it never does."""
     deadline = time.monotonic() + patience_seconds
     while time.monotonic() < deadline:
         handle_events()
         try:
             result = condition()
         except GLib.Error:
-            result = None  # what was looked at has just gone
+            result = None  # the object has just disappeared
         if result:
             report(True, description)
             return result
@@ -80,7 +80,7 @@ def find_child(parent, role, name):
 
 
 def shown_panel(program, title):
-    """The window on the screen that has a heading with this name."""
+    """The visible window that has a heading with this name."""
     for window in children(program):
         if window is None or not has_state(window, State.VISIBLE):
             continue
@@ -90,13 +90,13 @@ def shown_panel(program, title):
 
 
 def do(accessible, wanted):
-    """Does the action whose name in English is `wanted`; returns whether the program said that it did."""
+    """Performs the action with the English name `wanted`; returns whether the program reports success."""
     names = [accessible.get_action_name(index) for index in range(accessible.get_n_actions())]
     return wanted in names and accessible.do_action(names.index(wanted))
 
 
 def connect():
-    """The program on the accessibility bus; None when it does not come."""
+    """The program on the accessibility bus; None if it does not appear."""
     Atspi.init()
     Atspi.set_timeout(5000, 15000)
     return wait_until("the program is on the accessibility bus", find_program)

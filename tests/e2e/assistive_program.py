@@ -1,4 +1,4 @@
-"""An assistive program for the end-to-end test: it finds the bar, uses it through AT-SPI alone, and ends Orvelle."""
+"""An assistive program for the end-to-end test: finds the bar, uses it through AT-SPI alone, and ends Orvelle."""
 
 import os
 import subprocess
@@ -8,7 +8,7 @@ from assistive import (Atspi, GLib, Role, State, children, connect, descendants,
 
 ITEMS = os.environ["ORVELLE_MODULE_TITLES"].split("|")
 
-# What holds other things together and need not have a name of its own.
+# Containers need no name.
 CONTAINERS = {Role.FILLER, Role.PANEL, Role.UNKNOWN, Role.LIST, Role.SCROLL_PANE, Role.LAYERED_PANE}
 
 heard = []
@@ -84,7 +84,7 @@ def quit_by_menu(program):
             try:
                 do(menu.get_child_at_index(2), "Press")
             except GLib.Error:
-                pass  # it has ended before it could answer
+                pass  # the program has ended before it could answer
 
 
 def listen(event):
@@ -96,7 +96,7 @@ def main():
     program = connect()
     if program is None:
         return
-    # Not before: a program that is just starting can miss that somebody begins to listen.
+    # Register only now, because a starting program can miss a new listener.
     listener = Atspi.EventListener.new(listen)
     listener.register("object:property-change:accessible-description")
     listener.register("object:state-changed:focused")

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The real program in a real X server: where its bar stands, what it reserves, how it follows the desktop and
-# how it ends.
+# Tests the bar of the real program in a real X server: its place, its reserved space, its reaction to changes of the
+# desktop, and its end.
 #
 #   bar_test.sh ORVELLE X11_CLIENT
 
@@ -39,9 +39,9 @@ expectBar() {
         property "$bar" _NET_WM_STRUT_PARTIAL
 }
 
-# The first column of the bar that shows something other than its background.
+# Prints the first column of the bar that is not just background.
 firstInkedColumn() {
-    [[ -n $bar ]] || return # without an id import would wait for a click
+    [[ -n $bar ]] || return # without an id, import would wait for a click
     import -window "$bar" "$workDirectory/bar.png" 2>/dev/null || return
     convert "$workDirectory/bar.png" -crop x20+0+0 +repage -trim -format '%X' info: | tr -d +
 }
@@ -51,7 +51,7 @@ inkStartsBetween() {
     [[ -n $column ]] && ((column >= $1 && column < $2))
 }
 
-# store KEY=VALUE...: rewrites the settings file as another program would.
+# store KEY=VALUE...: rewrites the settings file like another program.
 store() {
     mkdir -p "$(dirname "$settingsFile")"
     { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
@@ -108,7 +108,7 @@ testPanelAbove() {
     ownedPids+=("$pid")
     expectBar "0,30 1280x22" 52 1279
     waitUntil "the space of both is reserved" workAreaIs "0, 52, 1280, 748"
-    sleep 0.2 # a bar that fell out with the panel over the place would move several times meanwhile
+    sleep 0.2 # a bar that competes with the panel for its place would move several times meanwhile
     expectBar "0,30 1280x22" 52 1279
     kill "$pid"
     expectBar "0,0 1280x22" 22 1279
@@ -172,7 +172,7 @@ testPanelPresentAtStart() {
     ownedPids+=("$pid")
     waitUntil "a panel reserves its space" workAreaIs "0, 25, 1280, 775"
     startOrvelle QT_SCALE_FACTOR=1.5
-    # 25 pixels are 16.7 points, and Qt places windows at whole points: 17, which are 26 pixels.
+    # 25 pixels are 16.7 points. Qt places windows at whole points: 17 points, which are 26 pixels.
     expectBar "0,26 1280x33" 59 1279
     endOrvelle INT
     kill "$pid"

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program in a real X server: what clicks on its items do.
+# Tests clicks on the items of the real program in a real X server.
 #
 #   click_test.sh ORVELLE X11_CLIENT
 
@@ -22,7 +22,7 @@ startOrvelle() {
     waitUntil "the bar appears" windowIsShown '^Orvelle$' || cat "$workDirectory/orvelle.log"
 }
 
-# expectEnd DESCRIPTION: the program ends by itself, with status 0.
+# expectEnd DESCRIPTION: expects that the program ends by itself, with status 0.
 expectEnd() {
     programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
     waitUntil "$1" programIsGone || return
@@ -30,11 +30,11 @@ expectEnd() {
     expectEqual "the program ends with status" 0 $?
 }
 
-# clickAt BUTTON X Y: in points of a screen at the origin.
+# clickAt BUTTON X Y: clicks at a point of a screen at the origin.
 clickAt() { xdotool mousemove "$(pixels "$2")" "$(pixels "$3")" click "$1"; }
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
 
-# The last item's middle, in points from the left.
+# Prints the middle of the last item, in points from the left.
 lastItemMiddle() { awk -v scale="$scale" 'BEGIN { printf "%d", 1280 / scale - 8 - 30 }'; }
 
 openMenu() {
@@ -53,7 +53,7 @@ panelWindow() { windowsTitled "Orvelle ($ORVELLE_MODULE_TITLES)" | tail -1; }
 panelIsShown() { [[ -n $(panelWindow) ]]; }
 panelIsHidden() { ! panelIsShown; }
 
-# keepPicture NAME: for whoever wants to see what was tested.
+# keepPicture NAME: saves a picture if ORVELLE_PICTURES names a folder.
 keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
 
 testMenu() {
@@ -110,7 +110,7 @@ testClickOnDesktop() {
     openMenu
     clickAt 2 300 "$(awk -v scale="$scale" 'BEGIN { printf "%d", 700 / scale }')"
     waitUntil "a click on the bare desktop closes the menu" menuIsHidden
-    xdotool key Escape # the window manager may have opened a menu of its own
+    xdotool key Escape # the window manager may have opened its own menu
 }
 
 testClickOnBar() {
@@ -129,7 +129,7 @@ testQuitWithTheMouse() {
     openMenu
     local left top
     IFS=', x' read -r left top _ < <(geometry "$(menuWindow)")
-    # The last entry's middle: below a margin of 5 points, another entry of 24 and a separator of 11.
+    # The middle of the last entry lies below a margin of 5 points, another entry of 24 and a separator of 11.
     xdotool mousemove $((left + 30)) $((top + $(pixels 52))) click 1
     expectEnd "a click on the entry ends the program"
 }

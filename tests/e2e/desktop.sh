@@ -1,29 +1,29 @@
-# An X server and a window manager of the test's own, and folders in the place of the user's. Sourced by the end-to-end
+# Prepares a private X server and window manager, and private folders in place of the user's. Sourced by the end-to-end
 # tests.
 
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual_display.sh"
 source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/modules.sh"
 
 readonly skipped=77
-readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # less of it helps whoever writes a test
+readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # a shorter time is convenient while writing a test
 
-# The leak checker of some compilers now and then stumbles over the thread-local storage of a thread that is just
-# ending; without this it does not look there.
+# The leak checker of some compilers sometimes fails on the thread-local storage of an ending thread. This option keeps
+# it from looking there.
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 
 workDirectory=$(mktemp -d)
 export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
-# Of the desktop that the test is started on, if any.
+# These belong to the desktop that starts the test.
 unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 export QT_FORCE_STDERR_LOGGING=1
 ownedPids=()
 failures=0
 
-# Ends what the test started, and only that.
+# Ends only the processes that the test started.
 cleanUp() {
     local pid
-    exec 2>/dev/null # the shell would announce each of them
-    # Of the children that still run only: a number that was given back may be another's by now.
+    exec 2>/dev/null # otherwise the shell announces each of them
+    # Kills only children that still run, because another process may have reused the id of an ended one.
     for pid in $(jobs -rp); do
         [[ " ${ownedPids[*]} " != *" $pid "* ]] || kill -KILL "$pid"
     done
@@ -43,7 +43,7 @@ requireTools() {
     done
 }
 
-# waitUntil DESCRIPTION COMMAND...: polls; a failure is reported with the description and counted.
+# waitUntil DESCRIPTION COMMAND...: polls; reports and counts a failure.
 waitUntil() {
     local description=$1 deadline=$((SECONDS + patienceSeconds))
     shift
@@ -62,7 +62,7 @@ fail() {
     failures=$((failures + 1))
 }
 
-# storeVisibility true|false: the settings say it of every module, and nothing else.
+# storeVisibility true|false: writes settings that show or hide every module, and contain nothing else.
 storeVisibility() {
     local setting
     mkdir -p "$XDG_CONFIG_HOME/orvelle"
@@ -82,8 +82,8 @@ expectEqual() {
     fi
 }
 
-# launch LOG COMMAND...: the program in the background, by that command; sets orvellePid. LOG gets what it complains of
-# and holds nothing of an earlier program's when the function returns.
+# launch LOG COMMAND...: runs the command in the background; sets orvellePid. LOG gets its complaints and is emptied
+# first.
 launch() {
     : >"$1"
     "${@:2}" 2>>"$1" &
@@ -91,16 +91,16 @@ launch() {
     ownedPids+=("$orvellePid")
 }
 
-# awaitAnswer CLIENT: returns when the program has handled every key and click that came before.
+# awaitAnswer CLIENT: waits until the program has handled all earlier keys and clicks.
 awaitAnswer() { timeout "$patienceSeconds" "$1" ping "$(windowsTitled Orvelle | tail -1)" || fail "the bar answers"; }
 
-# startAgain PROGRAM [ARGUMENT...]: it finds that it runs already, and ends. Where it does not find that it is ended.
+# startAgain PROGRAM [ARGUMENT...]: starts a second process, which must end by itself; otherwise a timeout ends it.
 startAgain() { timeout "$patienceSeconds" "$@"; }
 
-# The numbers or names of a window property, separated by ", ".
+# Prints the numbers or names of a window property, separated by ", ".
 property() { xprop -id "$1" -notype "$2" 2>/dev/null | sed -n 's/^[^=]* = //p'; }
 
-# expectTitle TITLE WINDOW: what window managers and assistive programs call it, which is not what xdotool finds it by.
+# expectTitle TITLE WINDOW: checks the title for window managers and assistive programs. xdotool searches another name.
 expectTitle() { expectEqual "a window is titled $1" "\"$1\"" "$(property "$2" _NET_WM_NAME)"; }
 
 windowsTitled() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null; }
@@ -109,14 +109,14 @@ isHidden() { ! isShown "$1"; }
 
 rootProperty() { xprop -root -notype "$1" 2>/dev/null | sed -n 's/^[^=#]*[=#] //p'; }
 
-# X,Y WIDTHxHEIGHT in pixels of the root window.
+# Prints X,Y WIDTHxHEIGHT in pixels of the root window.
 geometry() {
-    [[ -n $1 ]] || return # without an id xwininfo would wait for a click
+    [[ -n $1 ]] || return # without an id, xwininfo would wait for a click
     xwininfo -id "$1" 2>/dev/null | awk '/Absolute upper-left X/ {x = $NF} /Absolute upper-left Y/ {y = $NF}
         /^ *Width:/ {w = $NF} /^ *Height:/ {h = $NF} END {print x "," y " " w "x" h}'
 }
 
-# xfwm4 finds its settings by a session bus; sets xfwm4OnItsBus, the command that starts it.
+# Starts a session bus, which xfwm4 needs for its settings. Sets xfwm4OnItsBus, the command that starts xfwm4.
 startSessionBus() {
     dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/bus" >/dev/null 2>&1 &
     ownedPids+=("$!")
@@ -125,10 +125,10 @@ startSessionBus() {
     xfwm4OnItsBus=(env NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS="$(<"$workDirectory/bus")" xfwm4)
 }
 
-# openOtherWindow CLIENT: sets window and windowPid once the window manager knows it. What happens to the window is told in
-# the file "window".
+# openOtherWindow CLIENT: opens a window and waits until it is managed. Sets window and windowPid. The file "window"
+# records the window's events.
 openOtherWindow() {
-    rm -f "$workDirectory/window" # of an earlier one
+    rm -f "$workDirectory/window" # of an earlier window
     "$1" window >"$workDirectory/window" &
     windowPid=$!
     ownedPids+=("$windowPid")

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program when it is told to end with its windows open, and when its desktop ends.
+# Tests how the real program ends with its windows open, and with its desktop.
 #
 #   ending_test.sh ORVELLE
 
@@ -11,7 +11,7 @@ log=$workDirectory/orvelle.log
 
 barIsShown() { [[ -n $(xdotool search --onlyvisible --name '^Orvelle$' 2>/dev/null) ]]; }
 menuIsShown() { [[ -n $(xdotool search --onlyvisible --name '^Orvelle menu$' 2>/dev/null) ]]; }
-# The window of a panel is 320 x 500 points.
+# A panel's window is 320 x 500 points.
 panelIsShown() {
     local window
     for window in $(xdotool search --onlyvisible --class '^orvelle$' 2>/dev/null); do
@@ -27,7 +27,7 @@ startOrvelle() {
 }
 clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }
 
-# expectEnd DESCRIPTION STATUS: the program ends by itself, and the sanitizers have found nothing.
+# expectEnd DESCRIPTION STATUS: expects that the program ends by itself and without findings of the sanitizers.
 expectEnd() {
     local status
     waitUntil "$1" programIsGone || return
@@ -46,7 +46,7 @@ waitUntil "a click opens the panel" panelIsShown
 kill -TERM "$orvellePid"
 expectEnd "SIGTERM ends the program with its panel open" 0
 
-# Left behind by a session that has ended.
+# A session that has ended left this behind.
 export SESSION_MANAGER=local/nowhere:@/tmp/.ICE-unix/0
 startOrvelle
 clickLastItem 3
@@ -55,8 +55,8 @@ kill -INT "$orvellePid"
 expectEnd "SIGINT ends the program with its menu open and no session manager" 0
 unset SESSION_MANAGER
 
-# Qt leaves with exit() when its connection breaks, in the middle of everything: nothing is released, and what only
-# the heap of QML refers to looks like leaks.
+# Qt calls exit() when its connection breaks. Nothing is released then, and objects that only the QML heap refers to
+# look like leaks.
 export ASAN_OPTIONS=detect_leaks=0
 startOrvelle
 clickLastItem 1

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The real program in a real X server, by keys alone: a second start moves the keyboard to the items, whose panels and
-# menu then open and close with keys, and Escape gives the keyboard back to the window that had it.
+# Tests the real program in a real X server with the keyboard alone. A second start moves the focus to the items. Keys
+# open and close their panels and menu. Escape returns the focus to the window that had it.
 #
 #   keyboard_test.sh ORVELLE X11_CLIENT
 
@@ -11,7 +11,7 @@ requireTools Xvfb openbox xfwm4 dbus-daemon xprop xwininfo xdotool import
 
 keyboardIsIn() { [[ $(xdotool getwindowfocus 2>/dev/null) == "$1" ]]; }
 keyboardIsInTitled() { keyboardIsIn "$(windowsTitled "$1" | tail -1)"; }
-# The number that xdotool gives for the id of the other window.
+# Prints the id of the other window as xdotool writes it.
 otherWindow() { printf '%d' "$window"; }
 
 expectAnotherStart() {
@@ -50,7 +50,7 @@ testKeys() {
     xdotool key Escape
     waitUntil "Escape gives the keyboard back" keyboardIsIn "$(otherWindow)"
 
-    # Qt tells the bar of a lost keyboard some time later, when it may be back already.
+    # Qt reports a lost focus to the bar with a delay. The bar may have the focus again by then.
     for _ in 1 2 3 4 5; do
         expectAnotherStart "another start ends with status"
         waitUntil "and moves the keyboard to the bar" keyboardIsInTitled Orvelle

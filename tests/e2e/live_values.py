@@ -1,8 +1,8 @@
-"""Watches one panel of Orvelle until it shows what the test makes the machine do.
+"""Watches one panel of Orvelle until it shows the work that the test gives to the machine.
 
     live_values.py ITEM (DESCRIPTION PATTERN)...
 
-Presses the item, and waits until the name of something visible in its panel matches each regular expression in turn.
+Presses the item, and waits for each regular expression in turn to match the name of a visible part of its panel.
 """
 
 import re
@@ -11,7 +11,7 @@ import sys
 from assistive import (Role, State, connect, descendants, do, find_child, finish, has_state, report, shown_panel,
                        wait_until)
 
-# The processes are compared at every third sample, and a busy machine may take its time for each.
+# Processes are compared at every third sample, and a busy machine may need long for each sample.
 VALUE_PATIENCE_SECONDS = 40
 
 

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program beside a machine that is made to work: what is done shows up in its panels.
+# Tests that the panels of the real program show the work that the test gives to the machine.
 #
 #   live_values_test.sh ORVELLE
 
@@ -8,7 +8,7 @@ source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
 namespaces=()
 
-# startOrvelle [COMMAND...]: runs the program, by the command where one is given.
+# startOrvelle [COMMAND...]: runs the program, through COMMAND if given.
 startOrvelle() {
     launch "$workDirectory/orvelle.log" "$@" "$orvelle"
 }
@@ -28,7 +28,7 @@ testBusyProcess() {
     "$workDirectory/orvelle-busy" >/dev/null &
     local busyPid=$!
     ownedPids+=("$busyPid")
-    # On a machine that is busy otherwise it may have a small part of a processor only.
+    # On a busy machine the process may get only a small share of a processor.
     assist live_values.py CPU "a busy process is in the CPU panel's list" '^orvelle-busy ([1-9][0-9]*\.[0-9]|0\.[1-9])%$'
     endProcess "$busyPid"
 }
@@ -37,7 +37,7 @@ writeWithoutEnd() {
     while dd if=/dev/zero of="$workDirectory/written" bs=1M count=8 oflag=dsync status=none; do :; done
 }
 testWriting() {
-    # A file system in memory, or a disk that the kernel does not count, shows nothing.
+    # Writing to a file system in memory, or to a disk that the kernel does not count, shows nothing.
     local device
     device=$(df --output=source "$workDirectory" | tail -1)
     if [[ ! -e /sys/class/block/$(basename "$device") ]]; then
@@ -51,7 +51,7 @@ testWriting() {
     endProcess "$writerPid"
 }
 
-# Sends to the namespace of the program from the other one; nobody need listen there.
+# Sends from the other namespace to the program's namespace, where no receiver is needed.
 sendWithoutEnd() {
     exec ip netns exec "$1" "$python" -c '
 import socket, time

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The real program on several monitors, and on the second of two separate screens of one X server: its bar, its panels
-# and its menu belong together, and to one monitor.
+# Tests the real program on several monitors, and on the second of two separate screens of one X server. The bar, the
+# panels and the menu must stay together on one monitor.
 #
 #   monitors_test.sh ORVELLE X11_CLIENT
 
@@ -11,7 +11,7 @@ requireTools Xvfb openbox xprop xwininfo xdotool xrandr
 
 read_modules "$orvelle" || exit 1
 
-# Points as pixels: all that stands here has a whole number of them at these scales.
+# Converts points to pixels. All values here give whole pixels at these scales.
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
 
 # startOrvelle SCALE
@@ -33,14 +33,14 @@ isShown() { [[ -n $(windowTitled "$1") ]]; }
 isHidden() { ! isShown "$1"; }
 noPanelIsShown() { isHidden "Orvelle ($ORVELLE_MODULE_TITLES)"; }
 
-# setMonitor NAME OUTPUT GEOMETRY: about a quarter of a millimetre a pixel.
+# setMonitor NAME OUTPUT GEOMETRY: a pixel is about a quarter of a millimetre.
 setMonitor() {
     local width height left top
     IFS='x+' read -r width height left top <<<"$3"
     xrandr --setmonitor "$1" "$width/$((width / 4))x$height/$((height / 4))+$left+$top" "$2" >/dev/null
 }
 
-# expectBar WIDTHxHEIGHT+LEFT+TOP: of the monitor that has it. What follows happens there.
+# expectBar WIDTHxHEIGHT+LEFT+TOP: waits for the bar on this monitor. Later functions act on the same monitor.
 expectBar() {
     IFS='x+' read -r monitorWidth monitorHeight monitorLeft monitorTop <<<"$1"
     barStands() {
@@ -55,8 +55,8 @@ joinMonitors() {
     expectBar 2000x1200+0+0
 }
 
-# arrange PRIMARY OTHER: divides the one monitor in two. Qt 6.4 takes no notice of a monitor that is replaced by
-# another one of the same name before it has looked, so they are never exchanged at once.
+# arrange PRIMARY OTHER: divides the one monitor into two. Qt 6.4 misses a monitor that is replaced by another one with
+# the same name before Qt has checked, so a test joins the monitors between two arrangements.
 arrange() {
     setMonitor '*main' none "$1"
     setMonitor other screen "$2"
@@ -64,12 +64,12 @@ arrange() {
 }
 
 itemMiddle() { echo $((monitorLeft + monitorWidth - $(pixels "${module_middles[$1]}"))); }
-# clickAt X Y BUTTON: in pixels of the screen.
+# clickAt X Y BUTTON: the place is in pixels of the screen.
 clickAt() { xdotool mousemove --screen "$screenNumber" "$1" "$2" click "$3"; }
 # clickItem NUMBER [BUTTON]
 clickItem() { clickAt "$(itemMiddle "$1")" $((monitorTop + $(pixels 11))) "${2:-1}"; }
 
-# isOnMonitor GEOMETRY: and below the bar.
+# isOnMonitor GEOMETRY: whether the place is on the monitor, below the bar.
 isOnMonitor() {
     local left top width height
     IFS=', x' read -r left top width height <<<"$1"
@@ -77,7 +77,7 @@ isOnMonitor() {
         ((top >= monitorTop + $(pixels 22) && top + height <= monitorTop + monitorHeight))
 }
 
-# standsUnder NUMBER MIDDLE_OR_LEFT TITLE: under the item, by its middle or its left edge, as near as the monitor allows.
+# standsUnder NUMBER MIDDLE_OR_LEFT TITLE: whether the window is centred or left-aligned under the item, if it has room.
 standsUnder() {
     local place left width wanted first last
     place=$(geometry "$(windowTitled "$3")")
@@ -91,7 +91,7 @@ standsUnder() {
     (((left - wanted) ** 2 <= 9))
 }
 
-# The items at both ends of the bar, which on a narrow monitor are nearest to the other one.
+# Tests the items at both ends of the bar. On a narrow monitor they are nearest to the other monitor.
 testUnderTheItems() {
     local item
     for item in 0 5; do
@@ -106,7 +106,7 @@ testUnderTheItems() {
     waitUntil "the menu opens" isShown 'Orvelle menu'
     waitUntil "it stands under its item, on that monitor" standsUnder 5 left 'Orvelle menu' ||
         geometry "$(windowTitled 'Orvelle menu')"
-    clickAt $(((monitorLeft + monitorWidth + 100) % screenWidth)) 700 1 # where nothing is, on the other monitor if any
+    clickAt $(((monitorLeft + monitorWidth + 100) % screenWidth)) 700 1 # empty, if possible on the other monitor
     waitUntil "a click beside it closes the menu" isHidden 'Orvelle menu'
 }
 
@@ -125,7 +125,7 @@ testChangesOfArrangement() {
     joinMonitors
 }
 
-# An X server may have screens that are no part of one desktop: no window moves from one to another.
+# An X server may have separate screens, between which no window can move.
 testSeparateScreen() {
     stop_virtual_display
     start_x_server 800x600 -screen 1 1280x800x24
@@ -158,7 +158,7 @@ screenNumber=0 screenWidth=2000
 start_x_server 2000x1200 && start_window_manager || exit 1
 for factor in 1 2; do
     startOrvelle "$factor"
-    # On the narrow monitor most panels would reach over the edge.
+    # On the narrow monitor most panels would extend past the edge.
     narrow=$(pixels 400)
     arrange "${narrow}x1200+$((2000 - narrow))+0" "$((2000 - narrow))x1200+0+0"
     testUnderTheItems

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program on a desktop that says whether things may move, and in which font to write.
+# Tests the real program on a desktop that publishes a setting for motion and a font.
 #
 #   motion_test.sh ORVELLE SETTINGS_MANAGER
 
@@ -21,7 +21,7 @@ endOrvelle() {
     expectEqual "the program ends with status" 0 $?
 }
 
-# Its input stays open on descriptor 3; `say 0 FONT` has it publish that nothing may move, and a font.
+# The manager's input stays open on descriptor 3. `say 0 FONT` makes it publish reduced motion and the font.
 startManager() {
     mkfifo "$workDirectory/input"
     "$manager" <"$workDirectory/input" &
@@ -36,10 +36,10 @@ endManager() {
     wait "$managerPid"
 }
 
-# motionWas WORD...: what has been logged since the start, in order.
+# motionWas WORD...: whether the log since the start has exactly these words in this order.
 motionWas() { [[ $(sed -n 's/.*motion is //p' "$log" | xargs) == "$*" ]]; }
 
-# fontsWere FAMILY...: the same of the fonts, where a font may be told of again.
+# fontsWere FAMILY...: the same for fonts; repetitions of a font do not count.
 fontsWere() { [[ $(sed -n 's/.*font is //p' "$log" | uniq) == "$(printf '%s\n' "$@")" ]]; }
 
 start_x_server 640x480 && start_window_manager || exit 1

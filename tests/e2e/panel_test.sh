@@ -1,6 +1,5 @@
 #!/bin/bash
-# The real program in a real X server: the panels that clicks on its items open, under two window managers, with
-# and without a compositor.
+# Tests the panels of the real program in a real X server, under two window managers, with and without a compositor.
 #
 #   panel_test.sh ORVELLE X11_CLIENT
 
@@ -9,7 +8,7 @@ client=$2
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox xfwm4 picom dbus-daemon xprop xwininfo xdotool xrandr import
 
-# Freed memory that a sanitizer keeps back would look like growth.
+# Freed memory that the sanitizer retains would look like growth.
 export ASAN_OPTIONS+=:quarantine_size_mb=1
 read_modules "$orvelle" || exit 1
 
@@ -35,23 +34,23 @@ endOrvelle() {
     kill -TERM "$orvellePid"
     wait "$orvellePid"
     expectEqual "the program ends with status" 0 $?
-    # Qt says the former when a window is shown again before the server has told that it is hidden, as many clicks
-    # do; the latter was asked for.
+    # Qt prints the first line when a window reappears before the server reports that it is hidden, which many clicks
+    # cause. The test itself enabled the second line.
     expectEqual "it has nothing to complain of" "" \
         "$(grep -v -e 'setNetWmStateOnUnmappedWindow() called on mapped window' -e '^orvelle.open: ' \
             "$workDirectory/orvelle.log")"
 }
 
-# Of the item with this number: its middle, in points from the left edge of the screen.
+# itemMiddle NUMBER: prints the middle of the item, in points from the left edge of the screen.
 itemMiddle() { echo $(($(screenWidth) - module_middles[$1])); }
 # clickItem NUMBER [BUTTON]
 clickItem() { xdotool mousemove "$(pixels "$(itemMiddle "$1")")" "$(pixels 11)" click "${2:-1}"; }
 titleOf() { echo "${module_titles[$1]}"; }
 
-# keepPicture NAME: for whoever wants to see what was tested.
+# keepPicture NAME: saves a picture if ORVELLE_PICTURES names a folder.
 keepPicture() { [[ -z $ORVELLE_PICTURES ]] || import -window root "$ORVELLE_PICTURES/$1.png"; }
 
-# The panel stands below the bar, centred under its item where the screen has room, and on the screen in full.
+# Whether the panel is below the bar, centred under its item if there is room, and entirely on the screen.
 standsUnderItem() {
     local left top width height middle
     IFS=', x' read -r left top width height < <(geometry "$(panel "$(titleOf "$1")")")
@@ -181,7 +180,7 @@ testSmallerScreen() {
     xrandr -s 1280x800
 }
 
-# onDesktop NAME COMMAND...: what follows runs under another window manager.
+# onDesktop NAME COMMAND...: runs the tests under another window manager.
 onDesktop() {
     desktop=$1
     shift

@@ -1,4 +1,4 @@
-"""What the end-to-end tests see of the screen and do with the mouse."""
+"""Looks at the screen and uses the mouse for the end-to-end tests."""
 
 import subprocess
 
@@ -12,14 +12,14 @@ def box(accessible):
 
 
 def click(accessible):
-    """A click of the mouse in the middle."""
+    """Clicks in the middle with the mouse."""
     place = box(accessible)
     x, y = place.x + place.width // 2, place.y + place.height // 2
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
 
 def has_color(accessible, red, green, blue):
-    """Whether what is seen of it has a point of about this colour."""
+    """Whether its visible part has a pixel of approximately this colour."""
     place = box(accessible)
     part = f"{place.width}x{place.height}+{place.x}+{place.y}"
     picture = subprocess.run(["import", "-window", "root", "-crop", part, "-depth", "8", "rgb:-"],

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program in a session: what it does when the user logs out, changes their mind, and logs in again.
+# Tests the real program in a session: a logout, a cancelled logout, and the next login.
 #
 #   session_test.sh ORVELLE SESSION_MANAGER
 
@@ -15,7 +15,7 @@ stateFile=$XDG_STATE_HOME/orvelle/state.conf
 log=$workDirectory/orvelle.log
 session=$workDirectory/session
 
-# store KEY=VALUE...: rewrites the settings file as another program would.
+# store KEY=VALUE...: rewrites the settings file like another program.
 store() {
     mkdir -p "$(dirname "$settingsFile")"
     { echo "[General]"; printf '%s\n' "$@"; } >"$settingsFile"
@@ -26,7 +26,7 @@ isShown() { [[ -n $(shownWindows "$1") ]]; }
 isHidden() { ! isShown "$1"; }
 shownBars() { shownWindows Orvelle | wc -l; }
 
-# What the session manager has seen of the program, and how often.
+# Checks what the session manager has seen of the program, and how often.
 timesSeen() { grep -c "^$1\$" "$session" 2>/dev/null; }
 isSeen() { (($(timesSeen "$1") >= ${2:-1})); }
 lastProperty() { sed -n "s/^property $1 //p" "$session" | tail -1; }
@@ -59,7 +59,7 @@ startOrvelle() {
 }
 
 programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
-# expectEnd DESCRIPTION: the program ends by itself, with status 0 and nothing to complain of.
+# expectEnd DESCRIPTION: expects that the program ends by itself, with status 0 and without complaints.
 expectEnd() {
     local status
     waitUntil "$1" programIsGone || return
@@ -93,7 +93,7 @@ testLogout() {
     order logout
     waitUntil "the program is ready for the logout" isSeen saved 2
     expectEqual "and waits until the session ends" "1 0" "$(shownBars) $(timesSeen left)"
-    # At once before the end, so that only the end itself can still store it.
+    # Happens just before the end, so that only the end itself can store it.
     wmctrl -i -r "$(settingsWindow)" -e 0,150,90,500,520
     isMoved() { [[ $(geometry "$(settingsWindow)") == *" 500x520" ]]; }
     waitUntil "the settings window is moved" isMoved
@@ -123,7 +123,7 @@ testCancelledLogout() {
     endSessionManager
 }
 
-# Whether it starts at login is for its own switch to say, not for a session that is restored.
+# Only the setting decides whether the program starts at login, not a restored session.
 testRestart() {
     local neverRestart=3 seen
     storeVisibility false
@@ -137,7 +137,7 @@ testRestart() {
     store showCPU=true
     waitUntil "the bar appears" isShown Orvelle
     expectEqual "there is a command all the same" "$orvelle" "$(lastProperty RestartCommand | sed 's/ -session .*//')"
-    # As the autostart entry and a restored session do at the same time.
+    # An autostart entry and a restored session may start the program at the same time.
     seen=$(startAgain "$orvelle" -session 10d2a3c4_1600000000_500001 2>&1)
     expectEqual "a second start by the session manager ends with status" 0 $?
     [[ $seen == *"already running"* ]] || fail "a second start says that the program runs, not: $seen"
@@ -149,8 +149,8 @@ testRestart() {
     endSessionManager
 }
 
-# libICE leaves with exit() when its connection breaks, as Qt does when that to the X server does: nothing is released,
-# and what only the heap of QML refers to looks like leaks.
+# libICE calls exit() when its connection breaks, as Qt does for the X server. Nothing is released then, and objects
+# that only the QML heap refers to look like leaks.
 testBrokenSession() {
     startSessionManager
     ASAN_OPTIONS+=:detect_leaks=0 startOrvelle

@@ -1,4 +1,4 @@
-"""Uses every control of the settings window, and watches what becomes of it.
+"""Uses every control of the settings window and checks the results.
 
     settings_choices.py SETTINGS_FILE
 """
@@ -16,7 +16,7 @@ from screen import click, has_color
 SETTINGS_FILE = sys.argv[1]
 MODULES = os.environ["ORVELLE_MODULE_TITLES"].split("|")
 
-# The group, the name of the choice, the key and what is stored.
+# The group, the name of the choice, the key and the stored value.
 CHOICES = [
     ("CPU Display", "Percentage", "cpuDisplayMode", "percentage"),
     ("Every", "1s", "updateInterval", "1"),
@@ -41,7 +41,7 @@ def wait_stored(key, value):
 
 
 def check_names(window):
-    # A notice has a name when it has something to tell.
+    # A notice has a name only while it has text.
     nameless = [part.get_role_name() for part in descendants(window)
                 if not part.get_name() and part.get_role() not in CONTAINERS | {Role.ALERT}]
     report(not nameless, "everything in the settings has a name", nameless)
@@ -70,7 +70,7 @@ def shown_items(program):
 
 
 def use_modules(program, window):
-    """Turns each module over and back again."""
+    """Switches each module over and back again."""
     for _ in range(2):
         wanted = [module for module in MODULES if module not in shown_items(program)]
         for module in MODULES:
@@ -78,12 +78,12 @@ def use_modules(program, window):
             report(settings_window.is_checked(switch) != (module in wanted), f"{module} is as it was")
             settings_window.press(switch, f"{module} can be pressed")
             wait_stored(f"show{module}", "true" if module in wanted else "false")
-        # The bar looks every 3 seconds.
+        # The bar checks the settings every 3 seconds.
         wait_until(f"the bar shows {', '.join(wanted)}", lambda: shown_items(program) == wanted, 6)
 
 
 def type_color(window, module, digits):
-    """Gives the module a colour of its own by the hexadecimal digits."""
+    """Gives the module a custom colour by typing hexadecimal digits."""
     header = settings_window.find(window, Role.PUSH_BUTTON, "CUSTOM COLOR OVERRIDES")
     if settings_window.find_switch(window, f"Own color for {module}") is None:
         settings_window.press(header, "the overrides unfold")
@@ -112,7 +112,7 @@ def use_colors(window):
 
 
 def click_and_look(program, window):
-    """With the mouse, and by what is seen: the theme's color of the memory item, then one of its own."""
+    """Uses the mouse and checks the visible results, such as the theme's colour in the memory item."""
     bar = settings_window.find_bar(program)
     memory = find_child(bar, Role.PUSH_BUTTON, "Memory")
     for name, theme, color in (("Forest", "forest", (102, 204, 102)), ("Synthwave", "synthwave", (102, 0, 255))):
@@ -136,7 +136,7 @@ def click_and_look(program, window):
 
 
 def check_outside_edits(window):
-    """Somebody else writes one setting while the window writes another."""
+    """Another program writes one setting while the window writes another."""
     fahrenheit = settings_window.find_switch(window, "Use Fahrenheit")
     compact = settings_window.find_switch(window, "Compact Mode")
     for round_number in range(4):
@@ -158,7 +158,7 @@ def check_outside_edits(window):
 
 
 def check_panel(program):
-    """An open panel follows at once. Its gear leads back to the settings."""
+    """An open panel follows at once. Its gear returns to the settings."""
     bar = settings_window.find_bar(program)
     do(find_child(bar, Role.PUSH_BUTTON, "CPU"), "Press")
     panel = wait_until("the CPU panel opens", lambda: shown_panel(program, "CPU"))

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program's settings window: each of its controls, what they store, and what is seen of it.
+# Tests each control of the real program's settings window: the stored value and the visible effect.
 #
 #   settings_choices_test.sh ORVELLE
 

@@ -1,4 +1,4 @@
-"""Changes a setting that cannot be saved: the change holds, and the settings window tells why it is not kept.
+"""Changes a setting that cannot be saved: the change applies, and the settings window shows why it is not saved.
 
     settings_faults.py REASON
 """

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program where its settings cannot be kept: it goes on, and tells.
+# Tests that the real program continues, and tells the user, when it cannot save its settings.
 #
 #   settings_faults_test.sh ORVELLE
 
@@ -7,7 +7,7 @@ orvelle=$1
 source "$(dirname "$0")/accessibility_bus.sh"
 requireTools Xvfb openbox xprop
 
-# prepare NAME: a place for settings of its own.
+# prepare NAME: makes a separate place for settings.
 prepare() {
     export XDG_CONFIG_HOME=$workDirectory/$1
     settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -41,7 +41,7 @@ testHugeFile() {
     expectEqual "the file is as it was" $((100 * 1024 * 1024)) "$(stat -c %s "$settingsFile")"
     rm "$settingsFile"
 }
-# withMount DESCRIPTION REASON OPTION...: the folder of the settings is a file system of its own.
+# withMount DESCRIPTION REASON OPTION...: mounts a separate file system on the settings folder.
 withMount() {
     local description=$1 reason=$2 folder
     shift 2

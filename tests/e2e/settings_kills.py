@@ -1,8 +1,8 @@
-"""Ends a program that changes settings in the middle of its work, many times over.
+"""Kills a program many times in the middle of changing settings.
 
     settings_kills.py CHANGER FILE KILLS
 
-Whenever it ends, the file holds every change that was made, whole, and of the next one all or nothing.
+After each kill the file holds every completed change, and either all or nothing of the next one.
 """
 
 import os
@@ -19,7 +19,7 @@ LONGEST_LIFE_SECONDS = 0.03
 
 
 def change(values, number):
-    """What the changer does with this number."""
+    """The values after the change with this number."""
     turn = number // SETTING_COUNT
     key, value = [("selectedThemeId", f"theme-{turn}"), ("customCPUColorHex", f"#{turn:06x}"),
                   ("menuBarDisplayStyle", ["miniBars", "dotIndicator"][turn % 2]),
@@ -28,7 +28,7 @@ def change(values, number):
 
 
 def run_and_kill(changer, first):
-    """The numbers of the changes that were made."""
+    """Runs and kills the changer. Returns the numbers of the completed changes."""
     changer.stdin.write(b"%d\n" % first)
     changer.stdin.flush()
     process = int(changer.stdout.readline())
@@ -39,7 +39,7 @@ def run_and_kill(changer, first):
         lines.append(changer.stdout.readline() or sys.exit("FAILED: the changer has ended"))
     if lines[-1] != b"ended %d\n" % signal.SIGKILL:
         sys.exit("FAILED: the process that changes settings ended by itself")
-    # The last number may be cut off: that change was made, too, but it is not known for sure which one.
+    # The last number may be cut off. Its change was made too, but the number is uncertain.
     return [int(line) for line in lines[:-2]]
 
 

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Programs that are ended without warning while they change settings: what was changed is kept, and kept whole.
+# Tests that programs killed while they change settings lose no change and leave no partial one.
 #
 #   settings_kills_test.sh ORVELLE SETTINGS_CHANGER
 

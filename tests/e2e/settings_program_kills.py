@@ -1,4 +1,4 @@
-"""Ends the real program without warning while its settings window is in use.
+"""Kills the real program while its settings window is in use.
 
     settings_program_kills.py ORVELLE FILE KILLS
 """
@@ -19,7 +19,7 @@ SWITCHES = [("Compact Mode", "compactMode"), ("Use Fahrenheit", "useFahrenheit")
 
 
 def press_until_the_end(controls, held):
-    """What was stored for sure, and what may have been as well: a press is answered when its change is made."""
+    """The values stored for certain, those possibly stored, and the number of answered presses."""
     presses = 0
     while True:
         control, key = controls[presses % len(controls)]

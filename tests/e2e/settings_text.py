@@ -1,10 +1,10 @@
-"""The settings file as the end-to-end tests read it, without any help of the program."""
+"""Reads and writes the settings file for the end-to-end tests, independently of the program."""
 
 import os
 
 
 def parse(text):
-    """The values by their keys; an error where the text is not a whole settings file."""
+    """The values by key; an error if the text is not a complete settings file."""
     lines = text.splitlines()
     if text and not (text.endswith("\n") and lines[0] == "[General]"):
         raise ValueError(f"not a whole settings file: {text!r}")
@@ -18,7 +18,7 @@ def parse(text):
 
 
 def read(path):
-    """The values in the file, nothing when there is none."""
+    """The values in the file; none if there is no file."""
     try:
         with open(path, encoding="utf-8") as file:
             return parse(file.read())
@@ -27,7 +27,7 @@ def read(path):
 
 
 def write(path, key, value):
-    """Stores one value as somebody with an editor would, who saves under another name first."""
+    """Stores one value like an editor that saves under another name first."""
     values = {**read(path), key: value}
     with open(path + ".edited", "w", encoding="utf-8") as file:
         file.write("[General]\n" + "".join(f"{name}={text}\n" for name, text in values.items()))

@@ -1,4 +1,4 @@
-"""The settings window as an assistive program uses it."""
+"""Uses the settings window like an assistive program."""
 
 from assistive import (Role, State, children, descendants, do, find_child, has_state, report, wait_until)
 
@@ -20,7 +20,7 @@ def shown_menu(program):
 
 
 def open_by_menu(program):
-    """The window; None when it does not open."""
+    """The window; None if it does not open."""
     bar = wait_until("the bar is there", lambda: find_bar(program))
     if bar is None:
         return None

@@ -1,5 +1,5 @@
 #!/bin/bash
-# The real program in a real X server: the settings window among other windows.
+# Tests the settings window of the real program among other windows in a real X server.
 #
 #   settings_window_test.sh ORVELLE X11_CLIENT
 
@@ -15,7 +15,7 @@ read_modules "$orvelle" || exit 1
 
 startOrvelle() {
     QT_LOGGING_RULES="orvelle.sample.debug=true" launch "$workDirectory/log" "$orvelle"
-    # Else the second start might come first.
+    # Otherwise the second start may come first.
     waitUntil "the program runs" grep -q 'cycle 1' "$workDirectory/log" || exit 1
 }
 stopOrvelle() {
@@ -116,7 +116,7 @@ testChanges() {
     waitUntil "and shown in the bar" isShown Orvelle
     storeVisibility false
     waitUntil "hiding every module elsewhere takes the bar away" isHidden Orvelle
-    # Backward: the first switch, the button that quits, and the last switch.
+    # In backward order: the first switch, the quit button, and the last switch.
     xdotool key shift+Tab shift+Tab shift+Tab space
     waitUntil "the program will start at login" test -f "$autostartFile" || cat "$settingsFile"
     xdotool key space

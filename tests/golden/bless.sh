@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# bless.sh: takes the pictures as they are painted now as the golden ones. Look at what git shows as changed
-# before you commit it.
+# bless.sh: replaces the golden pictures with the current ones. Look at every picture that git shows as changed before
+# you commit.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# planted_faults.sh SOURCE_DIRECTORY: shows that ./lint can fail, by planting a fault of each kind in a small project
-# that it checks in the same way, and that it complains of nothing without them.
+# planted_faults.sh SOURCE_DIRECTORY: plants a fault of each kind in a small project, and proves that ./lint reports
+# them, and that it reports nothing without them.
 set -euo pipefail
 source_directory=$1
 for tool in clang-format-19 clang-tidy-19 shellcheck pylint git; do
@@ -26,7 +26,7 @@ printf 'int  same() {\n    return 1;\n}\n' >src/same.cpp
 git init -q
 git add -A
 
-# expect DESCRIPTION TEXT: the output of ./lint has the text.
+# expect DESCRIPTION TEXT: checks that the output of ./lint contains the text.
 failures=0
 expect() {
   case $output in
@@ -43,7 +43,7 @@ expect "the layout is mended when that is wished" "int same() {"
 
 printf 'inline int* nothing() {\n    return 0;\n}\nint  spaces();\n' >>src/planted.h
 printf '#include "missing.h"\n' >>src/broken.cpp
-# shellcheck disable=SC2016 # the script that is written is to have it
+# shellcheck disable=SC2016 # the generated script needs it
 printf '#!/bin/sh\nls $1\n' >unquoted
 chmod +x unquoted
 printf 'unused=1\n' >scripts/unused.sh

@@ -1,4 +1,4 @@
-"""Faults of the items in the menu bar."""
+"""Faults in the items of the menu bar."""
 
 from planting import Fault
 

@@ -1,4 +1,4 @@
-"""Faults of the charts, and of the numbers by which they are drawn."""
+"""Faults in the charts and in their numbers."""
 
 from planting import Fault
 

@@ -1,4 +1,4 @@
-"""Faults of the sampling core and of the delegate."""
+"""Faults in the sampling core and the delegate."""
 
 from planting import Fault
 

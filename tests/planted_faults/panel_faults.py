@@ -1,4 +1,4 @@
-"""Faults of the panels: what reaches their charts, and what they show where."""
+"""Faults in the panels: in the input of their charts and in their contents."""
 
 from planting import Fault
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env -S python3 -B
-"""Shows that the tests notice when Orvelle is broken, by planting one fault after the other in a copy of the
-checkout. For use by hand: it builds and tests for a quarter of an hour, longer on a busy machine.
+"""Proves that the tests notice when Orvelle is broken, by planting one fault at a time in a copy of the checkout. For
+use by hand: it builds and tests for a quarter of an hour, longer on a busy machine.
 
     plant.py [--folder FOLDER] [WORD...]
 
-Only faults with one of the WORDs in their description or file are planted. FOLDER, build/planted-faults where none
-is given, keeps the copy and its build for the next time. Ends with status 1 when a fault was not noticed.
+WORDs select the faults whose description or file contains one of them. FOLDER, by default build/planted-faults, keeps
+the copy and its build for the next run. Exits with status 1 if the tests miss a fault.
 """
 
 import argparse
@@ -22,7 +22,7 @@ CHECKOUT = Path(__file__).resolve().parents[2]
 
 
 def main():
-    """Plants the faults that were asked for."""
+    """Plants the selected faults."""
     arguments = argparse.ArgumentParser(description="Plants faults in a copy of the checkout.")
     arguments.add_argument("--folder", default=CHECKOUT / "build" / "planted-faults")
     arguments.add_argument("words", nargs="*")

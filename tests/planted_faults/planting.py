@@ -1,4 +1,4 @@
-"""Plants faults in a copy of the checkout, and builds and runs the tests that must notice them."""
+"""Plants faults in a copy of the checkout, then builds and runs the tests that must notice them."""
 
 import os
 import re
@@ -7,8 +7,8 @@ import time
 from dataclasses import dataclass
 from pathlib import Path
 
-# Without sanitizers and optimisation, because what costs is to compile; a library that changes does not have the
-# programs linked anew that load it.
+# No sanitizers and no optimisation, because compiling takes most of the time. A changed library does not relink the
+# programs that load it.
 BUILD_OPTIONS = ["-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
                  "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DORVELLE_FAST_BUILD=ON"]
 JOBS = str(os.cpu_count() or 1)
@@ -17,17 +17,17 @@ TEST_SECONDS = "120"
 
 @dataclass(frozen=True)
 class Fault:
-    """One change of one place of the sources, and who must notice it."""
+    """One change at one place in the sources, and the tests that must notice it."""
     what: str
     file: str
     old: str  # occurs once in the file
     new: str
-    test: str  # a program of the tests
-    only: str = "*"  # which of its tests are run
+    test: str  # a test program
+    only: str = "*"  # a filter for its tests
 
 
 class Checkout:
-    """A copy of all files of a checkout, with a build folder beside it. Both are kept for the next time."""
+    """A copy of all files of a checkout and a build folder. Both are kept for the next run."""
 
     def __init__(self, origin, folder):
         self.origin = origin
@@ -35,7 +35,7 @@ class Checkout:
         self.build = folder / "build"
 
     def refresh(self):
-        """Makes the copy equal to what it is copied from. A file that is equal already keeps its time."""
+        """Updates the copy from its origin. Unchanged files keep their times."""
         listing = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
                                  cwd=self.origin, check=True, capture_output=True).stdout
         names = {os.fsdecode(name) for name in listing.split(b"\0") if name}
@@ -65,12 +65,12 @@ class Checkout:
         _run(["cmake", "-S", self.source, "-B", self.build, *BUILD_OPTIONS]).check_returncode()
 
     def builds(self, programs):
-        """Whether the programs of the tests can be built."""
+        """Whether the test programs build."""
         targets = [part for program in programs for part in ("--target", program)]
         return _run(["cmake", "--build", self.build, "-j", JOBS, *targets]).returncode == 0
 
     def passed(self, program, only):
-        """How many of these tests passed; nothing when one failed."""
+        """The number of these tests that passed; None if one failed."""
         run = _run(["ctest", "--test-dir", self.build, "-V", "--timeout", TEST_SECONDS, "-R", f"^{program}$"],
                    env={**os.environ, "GTEST_FILTER": only})
         counts = re.findall(r"\[  PASSED  \] (\d+) test", run.stdout)
@@ -82,7 +82,7 @@ def _run(command, env=None):
 
 
 def unfit(checkout, faults):
-    """The faults whose tests do not pass as things are: these would notice anything, or are not there."""
+    """The faults whose tests fail without a fault or do not exist. Such tests prove nothing."""
     if not checkout.builds({fault.test for fault in faults}):
         raise SystemExit("the tests do not build")
     counts = {}
@@ -94,7 +94,7 @@ def unfit(checkout, faults):
 
 
 def verdict(checkout, fault):
-    """What becomes of the fault: "noticed" is what it must be."""
+    """The result for the fault. The only good result is "noticed"."""
     path = checkout.source / fault.file
     text = path.read_text(encoding="utf-8") if path.exists() else ""
     if text.count(fault.old) != 1:
@@ -109,7 +109,7 @@ def verdict(checkout, fault):
 
 
 def plant(origin, folder, faults):
-    """Plants one fault after the other and says what became of it. Returns how many were not noticed."""
+    """Plants one fault at a time and prints each result. Returns the number of unnoticed faults."""
     checkout = Checkout(Path(origin), Path(folder))
     began = time.monotonic()
     checkout.refresh()
