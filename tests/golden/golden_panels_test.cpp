@@ -10,7 +10,8 @@
 namespace orvelle {
 namespace {
 
-/// The panels' windows have one scale in a process, that of the screen: the program is run once for each.
+/// The panels' windows have the screen's scale, which a process cannot change, so the program runs once per
+/// scale.
 class GoldenPanels : public ::testing::Test {
 protected:
     void expectGoldenPanels(ExampleMachine machine, const QString& name) {

@@ -9,7 +9,7 @@
 namespace orvelle {
 namespace {
 
-/// Where the golden pictures are, and where a picture that differs from its golden one is written.
+/// The folder of the golden pictures, and the folder for pictures that differ from them.
 const QString goldenDirectory = QStringLiteral(ORVELLE_GOLDEN_DIRECTORY);
 const QString failureDirectory = QStringLiteral(ORVELLE_GOLDEN_FAILURE_DIRECTORY);
 

@@ -5,8 +5,8 @@
 
 namespace orvelle {
 
-/// Compares the picture with the golden one of this file name, or takes it as the golden one while blessing.
-/// A test fails when they differ, and says where the pictures are.
+/// Compares the picture with the golden one of this file name, or replaces the golden one while blessing. If
+/// they differ, the test fails and names the files of the pictures.
 void expectGoldenPicture(const QImage& actual, const QString& fileName);
 
 } // namespace orvelle

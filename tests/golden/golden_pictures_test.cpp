@@ -14,7 +14,7 @@ namespace {
 class GoldenPictures : public ::testing::TestWithParam<double> {
 protected:
     void expectGolden(Sheet sheet) const {
-        // What the light background would show besides the dark one is not worth another picture.
+        // A light background would show too little more to justify another picture.
         sheet.backgrounds = {SheetBackground::dark};
         expectGoldenPicture(sheetImage(sheet, GetParam()), sheetFileName(sheet.name, GetParam()));
     }

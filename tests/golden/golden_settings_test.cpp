@@ -8,7 +8,8 @@
 namespace orvelle {
 namespace {
 
-/// The settings window has one scale in a process, that of the screen: the program is run once for each.
+/// The settings window has the screen's scale, which a process cannot change, so the program runs once per
+/// scale.
 class GoldenSettings : public ::testing::Test {
 protected:
     void expectGoldenSettings(const SettingsPose& pose) {

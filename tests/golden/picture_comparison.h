@@ -5,23 +5,23 @@
 
 namespace orvelle {
 
-/// How far a component of a pixel (0 to 255) may be from that of the golden picture: enough for the rounding
-/// of another processor or compiler, too little for the faintest thing that is drawn.
+/// The allowed difference of a pixel's component (0 to 255) from the golden picture. It covers the rounding
+/// of other processors and compilers, but not the faintest drawn shape.
 inline constexpr int componentTolerance = 6;
 
-/// Where a picture differs from the golden one.
+/// The difference between a picture and the golden one.
 struct PictureDifference {
     bool sizesDiffer = false;
     qsizetype pixelCount = 0; ///< pixels that differ by more than the tolerance
-    int largest = 0;          ///< of all differences between two components
-    QRect area = {};          ///< the smallest rectangle that holds the pixels, in pixels
+    int largest = 0;          ///< the largest difference between two components
+    QRect area = {};          ///< the bounding rectangle of these pixels, in pixels
 
     [[nodiscard]] bool isNone() const { return !sizesDiffer && pixelCount == 0; }
 };
 
 [[nodiscard]] PictureDifference compare(const QImage& actual, const QImage& golden);
 
-/// The golden picture faded, with red where a pixel differs; the actual one where the sizes differ.
+/// The faded golden picture with differing pixels in red, or the actual picture if the sizes differ.
 [[nodiscard]] QImage differencePicture(const QImage& actual, const QImage& golden);
 
 } // namespace orvelle

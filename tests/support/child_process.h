@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Runs `body` in a process of its own, which may change its view of the system, and returns what it
-/// returned: an enumerator between 0 and 255. Nothing when it did not come to its end. `body` must report by
+/// Runs `body` in a separate process, which may change its view of the system, and returns the result of
+/// `body`: an enumerator between 0 and 255, or nothing if `body` did not finish. `body` must report through
 /// its result alone.
 template <class Body>
 [[nodiscard]] auto inChildProcess(Body body) -> std::optional<decltype(body())> {

@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Has a timer that runs end at once, so that a test need not wait for it. What the timer is for is done when
-/// the function returns.
+/// Ends a running timer at once, so that a test need not wait for it. The timer's action is done when the
+/// function returns.
 inline void endNow(QTimer& timer) {
     ASSERT_TRUE(timer.isActive());
     bool hasEnded = false;

@@ -7,7 +7,7 @@
 
 namespace orvelle {
 
-/// Gives a variable of the environment another value, or takes it away, for as long as the object lives.
+/// Changes or removes an environment variable for the lifetime of the object.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const std::optional<QByteArray>& value)

@@ -6,7 +6,7 @@
 namespace orvelle {
 namespace {
 
-TEST(TestEnvironment, KnowsOnlyTheFontsThatAreInstalledForTheTests) {
+TEST(TestEnvironment, HasOnlyTheFontsThatAreInstalledForTheTests) {
     QStringList families = QFontDatabase::families();
     for (const char* alias : {"Monospace", "Sans Serif", "Serif"})
         families.removeAll(QLatin1String(alias));
@@ -19,7 +19,7 @@ TEST(TestEnvironment, KnowsOnlyTheFontsThatAreInstalledForTheTests) {
     }
 }
 
-TEST(TestEnvironment, HasFoldersOfItsOwnInPlaceOfTheUsers) {
+TEST(TestEnvironment, UsesPrivateFoldersInPlaceOfTheUsers) {
     for (const QStandardPaths::StandardLocation location :
          {QStandardPaths::HomeLocation, QStandardPaths::GenericConfigLocation,
           QStandardPaths::GenericDataLocation, QStandardPaths::GenericCacheLocation,

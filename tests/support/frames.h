@@ -7,17 +7,17 @@
 #include <QDeadlineTimer>
 #include <QWindow>
 
-/// When a window is painted, for tests on the off-screen platform.
+/// Waits for the painting of windows, for tests on the off-screen platform.
 namespace orvelle {
 
-/// Whether the window has asked for a frame that is not painted yet. The platform lets a timer of the window
-/// run from the one to the other, and windows have no other timers.
+/// Whether the window has requested a frame that is not painted yet. The platform runs a timer of the window
+/// in the meantime, and windows have no other timers.
 [[nodiscard]] inline bool isFrameDue(QWindow& window) {
     return !QAbstractEventDispatcher::instance()->registeredTimers(&window).isEmpty();
 }
 
-/// Lets everything happen that follows at once from what was done: events come, what is left to be deleted
-/// is, and what has changed is laid out and painted. False when there is no end of it.
+/// Handles all immediate consequences of the test's actions: events, deferred deletions, layout and painting.
+/// False if they never end.
 [[nodiscard]] inline bool settle(QWindow& window) {
     const QDeadlineTimer deadline(patience);
     do {
@@ -27,8 +27,8 @@ namespace orvelle {
     return !isFrameDue(window);
 }
 
-/// Waits for as long as a few frames of any animation take: whatever is repainted again and again is within
-/// it. A machine that is slow does not matter, because all that is due by then comes first.
+/// Waits for a few animation frames, in which every continuous repaint shows. A slow machine does not matter,
+/// because everything that is due by then happens first.
 inline void passAMoment() {
     constexpr int milliseconds = 40;
     QTest::qWait(milliseconds);

@@ -4,8 +4,8 @@
 
 namespace orvelle {
 
-/// Lays the files of `overlay` over the tree `target`, which may be empty: what both have becomes that of the
-/// overlay. Symbolic links are copied as they are, wherever they lead.
+/// Copies the files of `overlay` over the tree `target`, which may be empty. Files of the overlay replace
+/// those of the target. Symbolic links are copied as links.
 inline void layOver(const std::filesystem::path& target, const std::filesystem::path& overlay) {
     namespace fs = std::filesystem;
     fs::create_directories(target);
@@ -23,8 +23,8 @@ inline void layOver(const std::filesystem::path& target, const std::filesystem::
     }
 }
 
-/// The tree of a recorded machine at its second moment: its folder `1` with its folder `2` laid over it,
-/// which holds only what has changed since.
+/// Builds the tree of a recorded machine at its second moment: its folder `1`, overlaid with its folder `2`,
+/// which holds only the changed files.
 inline void assembleSecondMoment(const std::filesystem::path& target, const std::filesystem::path& machine) {
     layOver(target, machine / "1");
     layOver(target, machine / "2");

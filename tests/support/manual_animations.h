@@ -4,21 +4,21 @@
 
 namespace orvelle {
 
-/// The animations of QML, whose time passes only when the test says so. There may be one at a time.
+/// Controls the time of all QML animations. At most one instance may exist at a time.
 class ManualAnimations final : public QAnimationDriver {
 public:
     ManualAnimations() { install(); }
 
     [[nodiscard]] qint64 elapsed() const override { return m_milliseconds; }
 
-    /// Lets time pass in one step.
+    /// Advances the time in one step.
     void pass(qint64 milliseconds) {
         m_milliseconds += milliseconds;
         advance();
     }
 
 protected:
-    /// The first animation begins; the time of each later one counts from here too.
+    /// The first animation starts. The time of later animations counts from here too.
     void start() override {
         m_milliseconds = 0;
         QAnimationDriver::start();

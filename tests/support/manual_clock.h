@@ -6,12 +6,12 @@
 
 namespace orvelle {
 
-/// AnimationClock whose time passes only when the test says so.
+/// An AnimationClock whose time the test controls.
 struct ManualClock {
     double seconds = 0;
     AnimationClock clock{[this] { return seconds; }};
 
-    /// Lets time pass in steps of one frame.
+    /// Advances the time in steps of one frame.
     void pass(double duration) {
         constexpr double frame = 0.01;
         const int frames = static_cast<int>(std::round(duration / frame));

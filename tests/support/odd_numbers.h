@@ -2,7 +2,7 @@
 
 #include <limits>
 
-/// Numbers that no measurement gives and that every rule must survive.
+/// Numbers that no measurement produces, but that every rule must survive.
 namespace orvelle {
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();

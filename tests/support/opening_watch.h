@@ -10,7 +10,7 @@
 
 namespace orvelle {
 
-/// Notes which files of a folder are opened, by whomever.
+/// Records which files of a folder any process opens.
 class OpeningWatch {
 public:
     explicit OpeningWatch(const std::filesystem::path& folder)
@@ -21,7 +21,7 @@ public:
     OpeningWatch(const OpeningWatch&) = delete;
     OpeningWatch& operator=(const OpeningWatch&) = delete;
 
-    /// The names of the files that were opened since the last call.
+    /// The names of the files opened since the last call.
     [[nodiscard]] std::set<std::string> openedFiles() {
         std::set<std::string> names;
         alignas(inotify_event) char buffer[4096];

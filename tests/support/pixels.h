@@ -6,11 +6,11 @@
 
 #include <functional>
 
-/// Pictures for tests: paints into an image and asks what its pixels show.
+/// Pictures for tests: paints into an image and examines its pixels.
 namespace orvelle {
 
-/// A transparent image of `size` points at a device pixel ratio, painted by `paint` with antialiasing off
-/// until it switches it on.
+/// A transparent image of `size` points at a device pixel ratio, painted by `paint`. Antialiasing is off
+/// unless `paint` switches it on.
 inline QImage paintedImage(const QSizeF& size, double devicePixelRatio,
                            const std::function<void(QPainter&)>& paint) {
     QImage image((size * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -21,13 +21,13 @@ inline QImage paintedImage(const QSizeF& size, double devicePixelRatio,
     return image;
 }
 
-/// The same pixels without a device pixel ratio, for comparison.
+/// Copies the pixels without the device pixel ratio, for comparison.
 inline QImage unscaled(QImage image) {
     image.setDevicePixelRatio(1);
     return image;
 }
 
-/// Pixels of exactly this colour.
+/// The number of pixels of exactly this colour.
 inline int countPixels(const QImage& image, const QColor& color) {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -37,7 +37,7 @@ inline int countPixels(const QImage& image, const QColor& color) {
     return count;
 }
 
-/// The painted area in pixels, a translucent pixel counting by its opacity.
+/// The painted area in pixels. A translucent pixel counts by its opacity.
 inline double coveredArea(const QImage& image) {
     double area = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -47,7 +47,7 @@ inline double coveredArea(const QImage& image) {
     return area;
 }
 
-/// The smallest rectangle of pixels that holds everything painted; empty when nothing is.
+/// The bounding rectangle of all painted pixels; empty if there are none.
 inline QRect paintedRect(const QImage& image) {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {

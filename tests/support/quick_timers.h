@@ -6,7 +6,7 @@
 
 namespace orvelle {
 
-/// Whether a timer of QML runs that belongs to `item` or to an item in it.
+/// Whether a QML timer of `item` or of an item inside it runs.
 [[nodiscard]] inline bool hasRunningTimer(const QQuickItem& item) {
     const bool hasOwn = std::ranges::any_of(item.children(), [](const QObject* each) {
         return each->inherits("QQmlTimer") && each->property("running").toBool();

@@ -6,7 +6,7 @@
 
 namespace orvelle {
 
-/// Gives every module of the table an item in the menu bar, or none.
+/// Shows or hides the menu-bar items of all modules.
 inline void showEveryModule(SettingsStore& settings, bool isShown) {
     for (const ModuleInfo& module : moduleTable)
         settings.setProperty(module.showSetting.data(), isShown);

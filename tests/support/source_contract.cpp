@@ -11,7 +11,7 @@
 namespace orvelle {
 namespace {
 
-/// Whether `text` can be shown as it is: valid UTF-8 on one line.
+/// Whether `text` is displayable: valid UTF-8 on one line.
 bool isFitToBeShown(const std::string& text) {
     return readableName(text) == text;
 }
@@ -102,7 +102,7 @@ void expectSensorContract(SensorSource& source) {
     EXPECT_EQ(identities(source.readSensors()), identities(sensors));
 }
 
-/// Ends at the first failure, since there may be thousands of processes.
+/// Stops at the first failure, because there may be thousands of processes.
 void expectProcessContract(ProcessSource& source) {
     static_cast<void>(source.readTotalMemory());
     const auto processes = source.readProcesses().value_or(std::span<const ProcessRecord>{});

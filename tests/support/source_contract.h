@@ -4,8 +4,8 @@
 
 namespace orvelle {
 
-/// Asks the sources of `machine` in the order of an update cycle, and fails the running test for each answer
-/// that breaks a promise of `core/sources`. The records of a battery have no bounds, so it is not asked.
+/// Queries the sources of `machine` in the order of an update cycle, and fails the running test for each
+/// answer that breaks a promise of `core/sources`. Skips the battery, because its records have no bounds.
 void expectKeepsContract(const MachineSources& machine);
 
 } // namespace orvelle

@@ -9,8 +9,8 @@
 
 namespace orvelle {
 
-/// A settings file in a folder of its own, which vanishes with the test. It is kept in memory where there is
-/// a place for that: each write waits for the disk.
+/// A settings file in a private folder that disappears with the test. The folder is in memory if possible,
+/// because each write waits for the disk.
 class TemporarySettings {
 public:
     [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("orvelle.conf")); }
@@ -21,14 +21,14 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Writes into the file that is there, as `echo >` does.
+    /// Overwrites the existing file, like `echo >`.
     void writeInPlace(const QByteArray& text) const {
         QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write(text), text.size());
     }
 
-    /// Puts a new file in the place of the old one, as most editors do.
+    /// Replaces the file with a new one, like most editors.
     void replaceByRename(const QByteArray& text) const {
         QSaveFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

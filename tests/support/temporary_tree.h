@@ -10,7 +10,7 @@
 
 namespace orvelle {
 
-/// A tree of files of a test's own, such as /proc and /sys of an invented machine; removed with the object.
+/// A private tree of files, such as /proc and /sys of an invented machine. The destructor removes it.
 class TemporaryTree {
 public:
     TemporaryTree() {
@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] const std::filesystem::path& root() const { return m_root; }
 
-    /// Writes a file with its directories, over what was there.
+    /// Writes a file and creates its directories. Replaces an existing file.
     void write(const std::filesystem::path& path, std::string_view text) const {
         makeParent(path);
         std::ofstream file(m_root / path, std::ios::binary | std::ios::trunc);
@@ -38,7 +38,7 @@ public:
     void makeDirectory(const std::filesystem::path& path) const {
         std::filesystem::create_directories(m_root / path);
     }
-    /// A symbolic link; its target need not exist.
+    /// Creates a symbolic link; its target need not exist.
     void link(const std::filesystem::path& path, const std::filesystem::path& target) const {
         makeParent(path);
         std::filesystem::create_symlink(target, m_root / path);

@@ -9,17 +9,17 @@
 #include <QQuickWindow>
 #include <gtest/gtest.h>
 
-/// Where the texts of a window of Qt Quick stand, and whether a person can read all of them.
+/// The places of the texts in a Qt Quick window, and checks that all texts are readable.
 namespace orvelle {
 
-/// Half a point: what rounding to pixels hides.
+/// Half a point, which rounding to pixels hides.
 inline constexpr double textTolerance = 0.5;
 
 inline std::string wordsOf(const QQuickItem& text) {
     return text.property("text").toString().toStdString();
 }
 
-/// What can be seen inside `root` of these kinds: labels, and what can be selected or edited.
+/// The visible texts inside `root`: labels, and texts that can be selected or edited.
 inline QList<QQuickItem*> shownTextsIn(const QQuickItem& root) {
     QList<QQuickItem*> texts;
     for (QQuickItem* child : root.childItems()) {
@@ -33,7 +33,7 @@ inline QList<QQuickItem*> shownTextsIn(const QQuickItem& root) {
     return texts;
 }
 
-/// Writes every text inside `root` with letters further apart, as wide as in a font that is wider still.
+/// Increases the letter spacing of every text inside `root`, to simulate an even wider font.
 inline void spreadLetters(const QQuickItem& root, double percent) {
     for (QQuickItem* text : shownTextsIn(root)) {
         QFont font = text->property("font").value<QFont>();
@@ -42,8 +42,7 @@ inline void spreadLetters(const QQuickItem& root, double percent) {
     }
 }
 
-/// The room that the lines of a text really take, in the coordinates of `frame`. Unlike the item it may be
-/// wider than there is room.
+/// The real extent of the lines of a text, in the coordinates of `frame`. It may exceed the item.
 inline QRectF linesOf(const QQuickItem& text, const QQuickItem& frame) {
     const QSizeF size(text.property("contentWidth").toDouble(), text.property("contentHeight").toDouble());
     const double free = text.width() - size.width();
@@ -57,16 +56,16 @@ inline QRectF linesOf(const QQuickItem& text, const QQuickItem& frame) {
     return frame.mapRectFromItem(&text, {{left, top}, size});
 }
 
-/// The size, in points, in which a text is written: smaller than its font's where it is fitted to its room.
-/// What can be edited is never fitted.
+/// The size, in points, of a text as shown. It is below the font's size if the text is shrunk to fit.
+/// Editable text is never shrunk.
 inline int shownSizeOf(const QQuickItem& text) {
     if (text.inherits("QQuickTextInput"))
         return text.property("font").value<QFont>().pixelSize();
     return text.property("fontInfo").value<QJSValue>().property(QStringLiteral("pixelSize")).toInt();
 }
 
-/// The text stands inside each item that holds it, up to `frame`. What scrolls may hold more than is to be
-/// seen.
+/// Expects the text inside each of its parent items, up to `frame`. A scrolling parent may be shorter than
+/// its content.
 inline void expectInsideItsHolders(const QQuickItem& text, const QQuickItem& frame) {
     constexpr double room = textTolerance;
     bool scrolls = false;
@@ -81,8 +80,8 @@ inline void expectInsideItsHolders(const QQuickItem& text, const QQuickItem& fra
     }
 }
 
-/// Every text inside `frame` that is shown is whole, inside of what holds it, and apart from all others. Only
-/// of names that come from outside the end may be missing.
+/// Expects every visible text inside `frame` to be complete, inside its parents, and apart from all other
+/// texts. Only names from outside may be truncated.
 inline void expectReadableTexts(const QQuickItem& frame, const QStringList& namesFromOutside = {}) {
     const QList<QQuickItem*> texts = shownTextsIn(frame);
     EXPECT_FALSE(texts.isEmpty());
@@ -101,7 +100,7 @@ inline void expectReadableTexts(const QQuickItem& frame, const QStringList& name
     }
 }
 
-/// The fonts are those that ctest has chosen for this run, and nothing else that the machine has.
+/// Expects the fonts that ctest selects for this run, not other fonts of the machine.
 inline void expectTheFontsOfThisRun() {
     const QByteArray expected = qgetenv("ORVELLE_TEST_FONT");
     if (expected.isEmpty())

@@ -6,10 +6,10 @@
 
 namespace orvelle {
 
-/// How long a test waits for what must come. Only a test that fails waits that long.
+/// The longest time that a test waits for an expected event. Only a failing test waits that long.
 inline constexpr std::chrono::milliseconds patience{20'000};
 
-/// Handles events until `holds` is true; false when it never is.
+/// Handles events until `holds` returns true; false if it never does.
 template <class Condition>
 [[nodiscard]] bool waitUntil(Condition holds) {
     return QTest::qWaitFor(holds, static_cast<int>(patience.count()));

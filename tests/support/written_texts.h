@@ -13,7 +13,7 @@
 
 namespace orvelle {
 
-/// A text as a painter was asked to write it.
+/// A text as passed to a painter.
 struct WrittenText {
     QString text;
     int pixelSize = 0;
@@ -30,7 +30,7 @@ inline std::ostream& operator<<(std::ostream& stream, const WrittenText& written
                   << written.color.name(QColor::HexArgb).toStdString();
 }
 
-/// Takes down what is written and draws nothing.
+/// Records the texts and draws nothing.
 class WritingEngine final : public QPaintEngine {
 public:
     explicit WritingEngine(QList<WrittenText>& texts)
@@ -41,7 +41,7 @@ public:
     bool end() override { return true; }
     void updateState(const QPaintEngineState& change) override {
         if ((change.state() & DirtyPen) != 0)
-            m_color = QColor::fromRgba(change.pen().color().rgba()); // as pixels have it
+            m_color = QColor::fromRgba(change.pen().color().rgba()); // with the precision of pixels
     }
     void drawTextItem(const QPointF& /*place*/, const QTextItem& item) override {
         const QFont font = item.font();
@@ -63,7 +63,7 @@ private:
     QColor m_color;
 };
 
-/// A surface of one pixel per point that keeps the texts that are written on it.
+/// A surface of one pixel per point that records the texts painted on it.
 class WritingSurface final : public QPaintDevice {
 public:
     QList<WrittenText> texts;
@@ -96,7 +96,7 @@ private:
     mutable WritingEngine m_engine{texts};
 };
 
-/// The texts that `paint` writes, in its order.
+/// The texts that `paint` writes, in painting order.
 [[nodiscard]] inline QList<WrittenText> writtenTexts(const std::function<void(QPainter&)>& paint) {
     WritingSurface surface;
     QPainter painter(&surface);

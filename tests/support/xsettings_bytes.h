@@ -6,7 +6,7 @@
 
 namespace orvelle {
 
-/// Writes the bytes by which a desktop publishes its settings, in either order of bytes.
+/// Writes the bytes of a desktop's published settings, in either byte order.
 class XSettingsBytes {
 public:
     explicit XSettingsBytes(bool mostSignificantFirst = false)
@@ -40,7 +40,7 @@ public:
     }
 
     [[nodiscard]] std::string bytes() const { return bytes(m_count); }
-    /// The same with another count than there are.
+    /// The same, with a count that differs from the number of settings.
     [[nodiscard]] std::string bytes(std::uint32_t count) const {
         XSettingsBytes header(m_isMostSignificantFirst);
         header.number(m_isMostSignificantFirst ? 1 : 0, 1);
