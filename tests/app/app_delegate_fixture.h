@@ -14,7 +14,7 @@
 
 namespace orvelle {
 
-/// Makes empty windows and records for what.
+/// Makes empty windows and records their purposes.
 class RecordedWindowFactory final : public WindowFactory {
 public:
     explicit RecordedWindowFactory(QStringList& calls)
@@ -60,7 +60,7 @@ protected:
     FakeMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
     RecordingStatusBar bar;
-    /// What the delegate asked of the views and of the settings window, in order.
+    /// The delegate's calls to the views and the settings window, in order.
     QStringList windowCalls;
     std::optional<WindowContext> context;
     bool canLoadViews = true;

@@ -12,7 +12,7 @@ static_assert(AppDelegate::redrawInterval == std::chrono::seconds(2));
 
 class AppDelegateRedrawTest : public AppDelegateTest {
 protected:
-    /// A cycle in which that share of the memory is in use, in percent.
+    /// Runs a cycle with this share of the memory in use, in percent.
     void sample(std::uint64_t usedPercent) {
         machine.memory->reading =
             MemoryReading{.pageSize = 4096, .physicalMemory = 409600, .wiredPages = usedPercent};
@@ -22,7 +22,7 @@ protected:
         return *bar.items[static_cast<std::size_t>(bar.identifiers().indexOf(key))];
     }
     [[nodiscard]] QString memoryText() const { return item(QStringLiteral("memory")).accessibleText; }
-    /// What lets a redraw go that is held; null when none is.
+    /// The timer that releases a held redraw; null if no redraw is held.
     [[nodiscard]] QTimer* heldRedraw() const {
         const auto* throttle = delegate.findChild<Throttle*>();
         return throttle != nullptr && throttle->isHolding() ? throttle->findChild<QTimer*>() : nullptr;

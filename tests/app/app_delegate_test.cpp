@@ -113,7 +113,7 @@ TEST_F(AppDelegateVisibilityTest, NoticesAChangeWithTheNextSample) {
     EXPECT_FALSE(showsMemory());
 }
 
-TEST_F(AppDelegateVisibilityTest, NoticesAChangeByItselfWhereSamplesAreRare) {
+TEST_F(AppDelegateVisibilityTest, NoticesAChangeByItselfWhenSamplesAreRare) {
     delegate.applicationDidFinishLaunching();
     settings.setUpdateInterval(10);
     settings.setShowMemory(false);

@@ -7,7 +7,7 @@ namespace {
 
 using AppDelegateWindowsTest = AppDelegateTest;
 
-TEST_F(AppDelegateWindowsTest, OpensTheMenuUnderTheItemThatIsClickedWithTheRightButton) {
+TEST_F(AppDelegateWindowsTest, ARightClickOpensTheMenuUnderItsItem) {
     delegate.applicationDidFinishLaunching();
     bar.calls.clear();
     bar.items.front()->click(ClickButton::right);
@@ -16,7 +16,7 @@ TEST_F(AppDelegateWindowsTest, OpensTheMenuUnderTheItemThatIsClickedWithTheRight
                                       QStringLiteral("menu ") + bar.items.back()->identifier()}));
 }
 
-TEST_F(AppDelegateWindowsTest, OpensAPanelAndNoMenuOnALeftClick) {
+TEST_F(AppDelegateWindowsTest, ALeftClickOpensAPanelAndNoMenu) {
     delegate.applicationDidFinishLaunching();
     bar.calls.clear();
     EXPECT_TRUE(windowCalls.isEmpty()); // the windows are not loaded before they are needed
@@ -64,7 +64,7 @@ TEST_F(AppDelegateWindowsTest, ClosesTheMenuBeforeAPanelOpens) {
     EXPECT_EQ(bar.calls, (QStringList{QStringLiteral("close menu"), QStringLiteral("open cpu")}));
 }
 
-TEST_F(AppDelegateWindowsTest, MakesThePanelsAnewWithTheItems) {
+TEST_F(AppDelegateWindowsTest, RecreatesThePanelsTogetherWithTheItems) {
     delegate.applicationDidFinishLaunching();
     bar.items[0]->click(ClickButton::left);
     settings.setShowMemory(!settings.showMemory());
@@ -75,7 +75,7 @@ TEST_F(AppDelegateWindowsTest, MakesThePanelsAnewWithTheItems) {
     EXPECT_EQ(windowCalls, QStringList{QStringLiteral("cpu panel 7")});
 }
 
-TEST_F(AppDelegateWindowsTest, IgnoresAClickOnAnItemThatItDoesNotKnow) {
+TEST_F(AppDelegateWindowsTest, IgnoresAClickOnAnUnknownItem) {
     delegate.applicationDidFinishLaunching();
     const RecordingStatusBar::Item stranger(QStringLiteral("unknown"), 40);
     bar.calls.clear();
@@ -83,7 +83,7 @@ TEST_F(AppDelegateWindowsTest, IgnoresAClickOnAnItemThatItDoesNotKnow) {
     EXPECT_TRUE(bar.calls.isEmpty());
 }
 
-TEST_F(AppDelegateWindowsTest, GoesOnWithoutWindowsThatCannotBeLoaded) {
+TEST_F(AppDelegateWindowsTest, KeepsRunningWhenTheWindowsCannotBeLoaded) {
     canLoadViews = false;
     delegate.applicationDidFinishLaunching();
     bar.items[0]->click(ClickButton::left);
@@ -94,7 +94,7 @@ TEST_F(AppDelegateWindowsTest, GoesOnWithoutWindowsThatCannotBeLoaded) {
     EXPECT_EQ(windowCalls.last(), QStringLiteral("forward"));
 }
 
-TEST_F(AppDelegateWindowsTest, OpensOneSettingsWindowHoweverItIsAskedFor) {
+TEST_F(AppDelegateWindowsTest, OpensTheSameSettingsWindowFromEverywhere) {
     delegate.applicationDidFinishLaunching();
     delegate.openSettings();
     EXPECT_EQ(windowCalls,

@@ -42,7 +42,7 @@ protected:
     LaunchAtLogin launch{settings, std::make_unique<ScriptedItem>(state)};
 };
 
-TEST_F(LaunchAtLoginTest, TakesOverWhatTheDesktopWillDo) {
+TEST_F(LaunchAtLoginTest, StartsWithTheStateOfTheDesktop) {
     state.isEnabled = true;
     launch.start();
     EXPECT_TRUE(settings.launchAtLogin());
@@ -50,7 +50,7 @@ TEST_F(LaunchAtLoginTest, TakesOverWhatTheDesktopWillDo) {
     EXPECT_EQ(state.writes, 0);
 }
 
-TEST_F(LaunchAtLoginTest, TakesOverThatTheUserSwitchedItOffElsewhere) {
+TEST_F(LaunchAtLoginTest, StartsSwitchedOffWhenTheUserDidSoOnTheDesktop) {
     settings.setLaunchAtLogin(true);
     launch.start();
     EXPECT_FALSE(settings.launchAtLogin());
@@ -62,7 +62,7 @@ TEST_F(LaunchAtLoginTest, StoresNothingWhenNothingDiffers) {
     EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(LaunchAtLoginTest, FollowsTheSetting) {
+TEST_F(LaunchAtLoginTest, TheLoginItemFollowsTheSetting) {
     launch.start();
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(state.isEnabled);
@@ -72,7 +72,7 @@ TEST_F(LaunchAtLoginTest, FollowsTheSetting) {
     EXPECT_EQ(launch.error(), QString());
 }
 
-TEST_F(LaunchAtLoginTest, PutsTheSettingBackAndTellsWhyUntilItSucceeds) {
+TEST_F(LaunchAtLoginTest, RevertsTheSettingAndReportsWhyUntilItSucceeds) {
     launch.start();
     QSignalSpy errors(&launch, &LaunchAtLogin::errorChanged);
     state.isWritable = false;

@@ -10,10 +10,10 @@
 
 namespace orvelle {
 
-/// A status bar without a desktop: it holds the items and records what is asked of it.
+/// A status bar without a desktop: holds the items and records the calls.
 class RecordingStatusBar final : public StatusBar {
 public:
-    static constexpr double cornerRadius = 7; ///< that is asked of every popover's content
+    static constexpr double cornerRadius = 7; ///< for the content of every popover
 
     class Item final : public StatusItem {
     public:
@@ -115,8 +115,8 @@ public:
         return identifiers;
     }
 
-    std::vector<std::unique_ptr<Item>> items; ///< present now, from left to right
-    std::vector<MenuEntry> menuEntries;       ///< of the menu that is shown
+    std::vector<std::unique_ptr<Item>> items; ///< the present items, from left to right
+    std::vector<MenuEntry> menuEntries;       ///< of the visible menu
     QStringList calls;
 };
 

@@ -7,11 +7,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Longer than any test takes: what is held is let go by the test alone.
+/// Longer than any test runs, so only the test itself releases a held event.
 constexpr std::chrono::milliseconds longInterval = 1h;
 constexpr std::chrono::milliseconds shortInterval = 20ms;
 
-/// Counts what a throttle lets pass.
+/// Counts the events that pass a throttle.
 struct Counted {
     explicit Counted(std::chrono::milliseconds interval)
         : throttle(interval) {
@@ -55,7 +55,7 @@ TEST(ThrottleTest, LetsASecondEventPassWhenTheIntervalEnds) {
     EXPECT_FALSE(events.throttle.isHolding());
 }
 
-TEST(ThrottleTest, LetsOneEventPassForAllThatItHeld) {
+TEST(ThrottleTest, MergesAllHeldEventsIntoOne) {
     Counted events(longInterval);
     events.trigger(10);
     events.endInterval();
@@ -83,7 +83,7 @@ TEST(ThrottleTest, LetsAnEventPassAtOnceAfterAQuietInterval) {
     EXPECT_FALSE(events.throttle.isHolding());
 }
 
-TEST(ThrottleTest, DropsWhatItHoldsWhenDestroyed) {
+TEST(ThrottleTest, DropsAHeldEventWhenDestroyed) {
     int passedCount = 0;
     {
         Throttle throttle(longInterval);

@@ -83,7 +83,7 @@ TEST_F(BatteryMenuBarItemTest, WithoutABatteryEveryStyleShowsExternalPower) {
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery: none, on AC power"));
 }
 
-TEST_F(BatteryMenuBarItemTest, ABatteryThatWentAwayLeavesExternalPower) {
+TEST_F(BatteryMenuBarItemTest, ARemovedBatteryLeavesExternalPower) {
     charge(50);
     const QImage before = pictureIn(MenuBarDisplayStyle::miniBars);
     source.powerSources = std::vector<std::optional<PowerSourceDescription>>{};
@@ -98,13 +98,13 @@ TEST_F(BatteryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     expectItStaysInItsPlace(item, batteryLength);
 }
 
-TEST_F(BatteryMenuBarItemTest, AChargeThatCannotBeStillFitsItsPlace) {
+TEST_F(BatteryMenuBarItemTest, AnImpossibleChargeStillFitsItsPlace) {
     charge(std::numeric_limits<std::int64_t>::max(), true);
     charge(std::numeric_limits<std::int64_t>::max(), true);
     expectItStaysInItsPlace(item, batteryLength);
 }
 
-TEST_F(BatteryMenuBarItemTest, TellsTheChargeInWords) {
+TEST_F(BatteryMenuBarItemTest, DescribesTheChargeInWords) {
     charge(85);
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Battery 85%"));
     charge(86, true);
@@ -167,7 +167,7 @@ TEST(BatteryFill, GrowsWithTheChargeUpToEighteenPoints) {
     EXPECT_EQ(batteryFillWidth(chargedFraction(100)), 18);
 }
 
-TEST(BatteryFill, StaysWithinTheGlyphWhateverTheBatterySays) {
+TEST(BatteryFill, StaysWithinTheGlyphForEveryCharge) {
     EXPECT_EQ(batteryFillWidth(chargedFraction(-5)), 0);
     EXPECT_EQ(batteryFillWidth(chargedFraction(130)), 18);
     EXPECT_EQ(batteryFillWidth(chargedFraction(std::numeric_limits<qint64>::max())), 18);

@@ -14,7 +14,7 @@ constexpr double cpuLength = 60;
 
 class CPUMenuBarItemTest : public ItemFixture {
 protected:
-    /// One more sample in which the cores were busy for these fractions of the time.
+    /// Adds a sample in which the cores were busy for these fractions of the time.
     void run(const QList<double>& loads) {
         if (!source.ticks)
             source.ticks = std::vector<CoreTicks>(static_cast<size_t>(loads.size()));
@@ -58,7 +58,7 @@ TEST_F(CPUMenuBarItemTest, IconAndTextShowsTheIconBesideTheUsage) {
 TEST_F(CPUMenuBarItemTest, SixteenCoresDrawSixteenBarsInFortyTwoPoints) {
     run(QList<double>(16, 1.0));
     const QImage shown = pictureIn(MenuBarDisplayStyle::miniBars);
-    // Icon 12, gap 3 and bars 42 are centred in 60, so that the bars begin at 16.5 points.
+    // Icon 12, gap 3 and bars 42 are centred in 60, so the bars start at 16.5 points.
     const int left = 33;
     const int right = 33 + 84;
     const int bottomLine = (11 + 7) * 2 - 1;
@@ -70,7 +70,7 @@ TEST_F(CPUMenuBarItemTest, SixteenCoresDrawSixteenBarsInFortyTwoPoints) {
 TEST_F(CPUMenuBarItemTest, ABarIsAsHighAsItsCoreIsBusyAndShowsTheModulesColour) {
     run({0.4, 0, 0, 0});
     const QImage shown = pictureIn(MenuBarDisplayStyle::miniBars);
-    // Icon 12, gap 3 and bars 14 are centred in 60: the first bar begins at 30.5 points.
+    // Icon 12, gap 3 and bars 14 are centred in 60, so the first bar starts at 30.5 points.
     const int insideFirstBar = 61 + 2;
     const int bottom = (11 + 7) * 2;
     EXPECT_EQ(shown.pixel(insideFirstBar, bottom - 2), color().rgba());
@@ -78,7 +78,7 @@ TEST_F(CPUMenuBarItemTest, ABarIsAsHighAsItsCoreIsBusyAndShowsTheModulesColour) 
     EXPECT_EQ(shown.pixelColor(insideFirstBar, bottom - 13).alpha(), 0);
 }
 
-TEST_F(CPUMenuBarItemTest, HasBarsToMoveInTheStyleOfBarsAlone) {
+TEST_F(CPUMenuBarItemTest, HasEasingBarsOnlyInTheStyleOfBars) {
     run({0.4, 1});
     const auto level = [](double ratio, const QColor& tint) {
         return Level{.look = {ratio, tint}, .fullLength = 14, .eases = true};
@@ -162,7 +162,7 @@ TEST_F(CPUMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     expectItStaysInItsPlace(item(), cpuLength);
 }
 
-TEST_F(CPUMenuBarItemTest, TellsTheUsageInWords) {
+TEST_F(CPUMenuBarItemTest, DescribesTheUsageInWords) {
     run({0.12});
     EXPECT_EQ(item().body().accessibleText, QStringLiteral("CPU 12%"));
 }

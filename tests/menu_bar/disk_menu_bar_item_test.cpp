@@ -21,7 +21,7 @@ protected:
             MountedVolume{.path = "/data", .isLocal = true, .totalBytes = 100, .freeBytes = 1}};
         monitor.updateVolumes();
     }
-    /// One more second in which this many bytes were read and written.
+    /// Adds a second in which this many bytes were read and written.
     void transfer(std::uint64_t bytesRead, std::uint64_t bytesWritten) {
         counters.bytesRead += bytesRead;
         counters.bytesWritten += bytesWritten;
@@ -105,7 +105,7 @@ TEST_F(DiskMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     expectItStaysInItsPlace(item, diskLength);
 }
 
-TEST_F(DiskMenuBarItemTest, TellsUsageAndActivityInWords) {
+TEST_F(DiskMenuBarItemTest, DescribesUsageAndActivityInWords) {
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Disk, read 0 B/s, write 0 B/s"));
     mount(1000, 250);
     transfer(0, 0);

@@ -17,13 +17,13 @@ inline constexpr std::array allDisplayStyles = {
     MenuBarDisplayStyle::miniBars, MenuBarDisplayStyle::textOnly, MenuBarDisplayStyle::iconAndText,
     MenuBarDisplayStyle::sparkline, MenuBarDisplayStyle::dotIndicator};
 
-/// Settings and themes of a fresh user, and pictures of items. One point is two pixels.
+/// Settings and themes of a new user, and pictures of items at two pixels per point.
 class ItemFixture : public ::testing::Test {
 protected:
     static constexpr double barHeight = 22;
     static constexpr double pixelsPerPoint = 2;
 
-    /// The item as the menu bar shows it in a place of `length` points.
+    /// The item as painted in a place of `length` points in the menu bar.
     [[nodiscard]] static QImage picture(const SceneNode& scene, double length,
                                         double ratio = pixelsPerPoint) {
         return paintedImage({length, barHeight}, ratio, [&](QPainter& painter) {
@@ -35,7 +35,7 @@ protected:
         return picture(item.body().body, length, ratio);
     }
 
-    /// In every style and at every screen scale, nothing is painted outside the item's place.
+    /// Expects that no style paints outside the item's place at any screen scale.
     template <class Item>
     void expectItStaysInItsPlace(const Item& item, double length) {
         constexpr double margin = 30;
@@ -59,7 +59,7 @@ protected:
     ThemeManager themes{settings};
 };
 
-/// How many separate painted stretches a row of pixels has within [left, right).
+/// The number of separate painted stretches in a row of pixels within [left, right).
 inline int countRuns(const QImage& image, int y, int left, int right) {
     int runs = 0;
     bool isInside = false;

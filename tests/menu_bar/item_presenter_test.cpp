@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// An item that remembers what it is told.
+/// An item that records the calls.
 class RecordingItem final : public StatusItem {
 public:
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
@@ -71,7 +71,7 @@ TEST_F(ItemPresenterTest, EasesToTheLevelsOfANewSceneInThreeTenthsOfASecond) {
     EXPECT_LE(item.repaints, 10) << "some thirty times a second";
 }
 
-TEST_F(ItemPresenterTest, RepaintsNoMoreOnceTheLevelsStand) {
+TEST_F(ItemPresenterTest, StopsRepaintingWhenTheLevelsHaveArrived) {
     show(0.9);
     pass(0.5);
     const int before = item.repaints;
@@ -89,7 +89,7 @@ TEST_F(ItemPresenterTest, RepaintsOnlyWhatLooksDifferent) {
     EXPECT_EQ(item.repaints, 3);
 }
 
-TEST_F(ItemPresenterTest, GoesOnWhenTheSameSceneComesAgain) {
+TEST_F(ItemPresenterTest, KeepsEasingWhenTheSameSceneComesAgain) {
     show(0.9);
     pass(0.16);
     const double before = shownRatio();
@@ -99,7 +99,7 @@ TEST_F(ItemPresenterTest, GoesOnWhenTheSameSceneComesAgain) {
     EXPECT_EQ(shownRatio(), 0.9) << "it did not begin again";
 }
 
-TEST_F(ItemPresenterTest, StartsFromWhatItShowsWhenTheNextSceneComesEarly) {
+TEST_F(ItemPresenterTest, EasesFromTheCurrentLookWhenTheNextSceneComesEarly) {
     show(1);
     pass(0.16);
     const double before = shownRatio();
@@ -109,7 +109,7 @@ TEST_F(ItemPresenterTest, StartsFromWhatItShowsWhenTheNextSceneComesEarly) {
     EXPECT_EQ(shownRatio(), 0.2);
 }
 
-TEST_F(ItemPresenterTest, JumpsWhereNobodyWouldSeeItMove) {
+TEST_F(ItemPresenterTest, JumpsWhenTheMotionWouldBeInvisible) {
     show(0.22);
     EXPECT_EQ(shownRatio(), 0.22) << "0.4 pixels";
     EXPECT_FALSE(clock.isRunning());
@@ -148,7 +148,7 @@ TEST_F(ItemPresenterTest, PaintsWhatItShows) {
     EXPECT_NE(picture(), before);
 }
 
-TEST_F(ItemPresenterTest, TellsNewWordsOnce) {
+TEST_F(ItemPresenterTest, SetsNewWordsOnce) {
     item.words.clear();
     for (const char* text : {"CPU 1%", "CPU 1%", "CPU 2%"})
         showAll({{0.2, Qt::blue}}, QString::fromLatin1(text));
@@ -156,14 +156,14 @@ TEST_F(ItemPresenterTest, TellsNewWordsOnce) {
     EXPECT_EQ(item.repaints, 1) << "words are not seen";
 }
 
-TEST_F(ItemPresenterTest, DoesNotMoveLevelsThatJump) {
+TEST_F(ItemPresenterTest, DoesNotEaseLevelsThatJump) {
     presenter.show({.body = levelBarNode({20, 8}, 0, 0.1, Qt::red, false)});
     presenter.show({.body = levelBarNode({20, 8}, 0, 0.9, Qt::red, false)});
     EXPECT_EQ(shownRatio(), 0.9);
     EXPECT_FALSE(clock.isRunning());
 }
 
-TEST_F(ItemPresenterTest, StopsWhenItGoes) {
+TEST_F(ItemPresenterTest, StopsWhenDestroyed) {
     auto other = std::make_unique<ItemPresenter>(item, clock);
     other->show({.body = levelBarNode({20, 8}, 0, 0.1, Qt::red, true)});
     other->show({.body = levelBarNode({20, 8}, 0, 0.9, Qt::red, true)});
@@ -179,7 +179,7 @@ QList<Level> levels(const QList<BarLook>& looks, double fullLength = 20) {
     return result;
 }
 
-TEST(EaseInterval, StepsByHalfAPixelButNoOftenerThanThirtyTimesASecond) {
+TEST(EaseInterval, StepsByHalfAPixelAtMostThirtyTimesASecond) {
     const auto interval = [](double pixels) {
         return easeInterval(levels({{0, Qt::blue}}), levels({{pixels / 40, Qt::blue}}), 2);
     };
@@ -190,13 +190,13 @@ TEST(EaseInterval, StepsByHalfAPixelButNoOftenerThanThirtyTimesASecond) {
     EXPECT_EQ(interval(14), 33ms);
 }
 
-TEST(EaseInterval, FollowsTheBarThatHasTheLongestWay) {
+TEST(EaseInterval, FollowsTheBarWithTheLongestDistance) {
     const QList<Level> from = levels({{0, Qt::blue}, {0, Qt::blue}, {0.5, Qt::blue}}, 14);
     const QList<Level> to = levels({{0.01, Qt::blue}, {1, Qt::blue}, {0.5, Qt::blue}}, 14);
     EXPECT_EQ(easeInterval(from, to, 1), 33ms);
 }
 
-TEST(EaseInterval, IsShortWhereAColorFades) {
+TEST(EaseInterval, IsShortWhenAColorFades) {
     EXPECT_EQ(easeInterval(levels({{0.499, Qt::blue}}), levels({{0.501, Qt::yellow}}), 1), 33ms);
 }
 

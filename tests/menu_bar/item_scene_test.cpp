@@ -13,7 +13,7 @@ SceneNode changed(const SparklineView& line, Change change) {
     return {other};
 }
 
-TEST(ItemSceneTest, EveryValueOfAShapeCounts) {
+TEST(ItemSceneTest, EveryValueOfAShapeAffectsEquality) {
     const QFont font = systemFont(10);
     const QString cpu = QStringLiteral("cpu");
     const SparklineView line{.data = {1, 2}, .maxValue = 3, .lineColor = Qt::red, .width = 30, .height = 12};
@@ -66,7 +66,7 @@ TEST(ItemSceneTest, EveryValueOfAShapeCounts) {
     }
 }
 
-TEST(ItemSceneTest, TheWordsCount) {
+TEST(ItemSceneTest, TheWordsAffectEquality) {
     const ItemScene scene{.accessibleName = QStringLiteral("CPU"),
                           .accessibleText = QStringLiteral("CPU 1%")};
     ItemScene other = scene;
@@ -75,7 +75,7 @@ TEST(ItemSceneTest, TheWordsCount) {
     EXPECT_NE(scene, other);
 }
 
-TEST(ItemSceneTest, ALevelThatNobodySeesMoveIsTheSame) {
+TEST(ItemSceneTest, LevelsThatLookTheSameAreEqual) {
     const auto bar = [](double fraction) { return levelBarNode({28, 8}, 3, fraction, Qt::red, true); };
     EXPECT_EQ(bar(0.5), bar(0.5005));
     EXPECT_NE(bar(0.5), bar(0.505)) << "an eighth of a point";

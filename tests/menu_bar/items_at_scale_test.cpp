@@ -12,7 +12,7 @@
 namespace orvelle {
 namespace {
 
-/// Whether two colours are the same but for the rounding of a translucent pixel.
+/// Whether two colours are equal apart from the rounding of translucent pixels.
 bool isNear(const QColor& left, const QColor& right) {
     constexpr int tolerance = 6;
     return std::abs(left.red() - right.red()) <= tolerance &&
@@ -21,17 +21,17 @@ bool isNear(const QColor& left, const QColor& right) {
            std::abs(left.alpha() - right.alpha()) <= tolerance;
 }
 
-/// What the pixels of the items show at one and at two pixels per point.
+/// Checks the pixels of the items at one and at two pixels per point.
 class ItemsAtScale : public ItemFixture, public ::testing::WithParamInterface<double> {
 protected:
-    /// The item in the middle of a place that is wide enough for all of it.
+    /// The item in the middle of a place that is wide enough for it.
     template <class Item>
     [[nodiscard]] QImage shown(const Item& item, MenuBarDisplayStyle style) {
         settings.setMenuBarDisplayStyle(style);
         return unscaled(picture(item, 100, GetParam()));
     }
 
-    /// The cores were busy for these shares (of 10000) of the time.
+    /// Adds a sample in which the cores were busy for these shares (of 10000) of the time.
     [[nodiscard]] QImage cores(const std::vector<std::uint64_t>& loads, MenuBarDisplayStyle style) {
         std::vector<CoreTicks> ticks(loads.size());
         for (std::size_t core = 0; core < loads.size(); ++core)
@@ -71,7 +71,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, ItemsAtScale, ::testing::Values(1.0, 2.0));
 
-/// The colours of the last `count` stretches that are painted in the middle row, from left to right.
+/// The colours of the last `count` painted stretches in the middle row, from left to right.
 QList<QColor> lastDots(const QImage& image, qsizetype count) {
     QList<QColor> dots;
     const int middle = image.height() / 2;

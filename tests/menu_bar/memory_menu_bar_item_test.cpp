@@ -11,7 +11,7 @@ constexpr double memoryLength = 70;
 
 class MemoryMenuBarItemTest : public ItemFixture {
 protected:
-    /// One more sample with `usedPages` of `totalPages` in use and no cache.
+    /// Adds a sample with `usedPages` of `totalPages` in use and no cache.
     void use(std::uint64_t usedPages, std::uint64_t totalPages = 100) {
         constexpr std::uint64_t pageSize = 4096;
         source.reading = MemoryReading{.pageSize = pageSize,
@@ -41,7 +41,7 @@ TEST_F(MemoryMenuBarItemTest, MiniBarsShowsIconBarAndSmallText) {
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::miniBars), picture(expected, memoryLength));
 }
 
-TEST_F(MemoryMenuBarItemTest, HasALevelToMoveInTheStyleOfBarsAlone) {
+TEST_F(MemoryMenuBarItemTest, HasAnEasingLevelOnlyInTheStyleOfBars) {
     use(42);
     EXPECT_EQ(levelsOf(item.body().body),
               QList<Level>({{.look = {0.42, color()}, .fullLength = 28, .eases = true}}));
@@ -78,7 +78,7 @@ TEST_F(MemoryMenuBarItemTest, NinetyNinePercentLightsFourOfFiveDots) {
     EXPECT_NE(pictureOfDots(4), pictureOfDots(5));
 }
 
-TEST_F(MemoryMenuBarItemTest, AnUnknownTotalIsNothingUsed) {
+TEST_F(MemoryMenuBarItemTest, AnUnknownTotalCountsAsNothingUsed) {
     use(0, 0);
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
               picture(valueNode(QStringLiteral("0.0%")), memoryLength));
@@ -93,7 +93,7 @@ TEST_F(MemoryMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     expectItStaysInItsPlace(item, memoryLength);
 }
 
-TEST_F(MemoryMenuBarItemTest, TellsTheShareInWords) {
+TEST_F(MemoryMenuBarItemTest, DescribesTheShareInWords) {
     use(45);
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Memory 45%"));
 }

@@ -39,17 +39,17 @@ TEST_F(MenuBarItemTest, ALevelIsTheColourAtFourFifthsOverTheTrack) {
     const QImage full = picture(levelBarNode({28, 8}, 3, 1, tint, true), 28);
     const QColor level = full.pixelColor(26, full.height() / 2);
     EXPECT_NEAR(level.alphaF(), 0.8 + 0.2 * 0.15, 0.005);
-    // Over black the colour's part and the white track's can be told apart.
+    // A black background separates the colour's part from the white track's.
     EXPECT_NEAR(level.redF() * level.alphaF(), tint.redF() * 0.8 + 0.2 * 0.15, 0.01);
     EXPECT_NEAR(level.blueF() * level.alphaF(), tint.blueF() * 0.8 + 0.2 * 0.15, 0.01);
 }
 
-TEST_F(MenuBarItemTest, ALevelAboveOneFillsTheBarAndNoMore) {
+TEST_F(MenuBarItemTest, ALevelAboveOneJustFillsTheBar) {
     EXPECT_EQ(picture(levelBarNode({28, 8}, 3, 7, tint, true), 40),
               picture(levelBarNode({28, 8}, 3, 1, tint, true), 40));
 }
 
-TEST_F(MenuBarItemTest, ALowLevelDoesNotStickOutOfTheRoundedTrack) {
+TEST_F(MenuBarItemTest, ALowLevelStaysInsideTheRoundedTrack) {
     const QImage empty = picture(levelBarNode({28, 8}, 3, 0, tint, true), 28);
     const QImage low = picture(levelBarNode({28, 8}, 3, 0.04, tint, true), 28);
     for (int y = 0; y < empty.height(); ++y)
@@ -100,7 +100,7 @@ TEST_F(MenuBarItemTest, AHistoryIsALineOfOnePointOverAFaintFill) {
     EXPECT_NEAR(lineWidthPixels, pixelsPerPoint, 0.25);
 }
 
-TEST_F(MenuBarItemTest, AnEmptyHistoryTakesItsRoomAndDrawsNothing) {
+TEST_F(MenuBarItemTest, AnEmptyHistoryKeepsItsSpaceAndDrawsNothing) {
     const SceneNode history = historyNode({}, tint, 1, {32, 12});
     EXPECT_EQ(extentOf(history).size, QSizeF(32, 12));
     EXPECT_TRUE(paintedRect(picture(history, 32)).isEmpty());
@@ -132,7 +132,7 @@ TEST(LitDots, AreTheWholePartOfTheLevel) {
     EXPECT_EQ(litDotCount(0, 5), 0);
 }
 
-TEST(LitDots, AreNeverFewerThanNoneNorMoreThanAll) {
+TEST(LitDots, StayBetweenNoneAndAll) {
     EXPECT_EQ(litDotCount(-3, 5), 0);
     EXPECT_EQ(litDotCount(1e15, 5), 5);
 }

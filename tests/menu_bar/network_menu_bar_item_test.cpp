@@ -16,7 +16,7 @@ constexpr double networkLength = 90;
 
 class NetworkMenuBarItemTest : public ItemFixture {
 protected:
-    /// One more second in which this many bytes were received and sent.
+    /// Adds a second in which this many bytes were received and sent.
     void transfer(std::uint64_t bytesIn, std::uint64_t bytesOut) {
         entry.bytesIn += bytesIn;
         entry.bytesOut += bytesOut;
@@ -127,7 +127,7 @@ TEST_F(NetworkMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
     expectItStaysInItsPlace(item, networkLength);
 }
 
-TEST_F(NetworkMenuBarItemTest, TellsBothRatesInWords) {
+TEST_F(NetworkMenuBarItemTest, DescribesBothRatesInWords) {
     transfer(0, 0);
     transfer(1536, 20);
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Network download 1.5 KB/s, upload 20 B/s"));

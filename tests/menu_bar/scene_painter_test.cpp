@@ -9,7 +9,7 @@
 namespace orvelle {
 namespace {
 
-/// A full bar with square corners: its edges are seen to the pixel.
+/// A full bar with square corners, so its edges are exact to the pixel.
 SceneNode block(double width, double height, const QColor& color = Qt::red) {
     return levelBarNode({width, height}, 0, 1, color, false);
 }
@@ -23,7 +23,7 @@ QImage painted(const SceneNode& scene, const QSizeF& place, double ratio = 1) {
                         [&](QPainter& painter) { paintScene(painter, {{0, 0}, place}, scene); });
 }
 
-/// Where the picture has a colour in which one channel prevails, in pixels.
+/// The area in which one colour channel dominates, in pixels.
 QRect rectOf(const QImage& image, int (*channel)(QRgb)) {
     QRect found;
     for (int y = 0; y < image.height(); ++y) {
@@ -72,7 +72,7 @@ TEST(ScenePainterTest, AColumnStacksItsPartsCentredOrAtTheTrailingEdge) {
     EXPECT_EQ(blueIn(painted(stack(ColumnAlignment::trailing), {20, 12})), QRect(10, 8, 10, 4));
 }
 
-TEST(ScenePainterTest, TextIsCondensedWhereARowDoesNotFit) {
+TEST(ScenePainterTest, TextIsCondensedWhenARowDoesNotFit) {
     const SceneNode words = text(QStringLiteral("HHHH"));
     const double width = 42 + extentOf(words).size.width();
     const QImage fitting = painted(row({block(40, 12), words}, 2), {width, 22});
@@ -91,13 +91,13 @@ TEST(ScenePainterTest, TextWithinColumnsIsCondensedToo) {
     EXPECT_EQ(blueIn(image).width(), 30) << "the long line gives way";
 }
 
-TEST(ScenePainterTest, WhatIsFarTooWideIsDrawnSmallerAsAWhole) {
+TEST(ScenePainterTest, AFarTooWideSceneIsScaledDown) {
     const QImage image = painted(row({block(60, 12), block(18, 10, Qt::blue)}, 2), {40, 22});
     EXPECT_NEAR(redIn(image).width(), 30, 1);
     EXPECT_NEAR(blueIn(image).right() + 1, 40, 1);
 }
 
-TEST(ScenePainterTest, WhatIsHardlyTooWideStandsCloserTogether) {
+TEST(ScenePainterTest, ASlightlyTooWideSceneMovesItsPartsTogether) {
     const QImage two = painted(row({block(12, 12), block(46, 4, Qt::blue)}, 3), {60, 22});
     EXPECT_EQ(redIn(two), QRect(0, 5, 12, 12));
     EXPECT_EQ(blueIn(two), QRect(14, 9, 46, 4));
@@ -107,16 +107,16 @@ TEST(ScenePainterTest, WhatIsHardlyTooWideStandsCloserTogether) {
     EXPECT_EQ(blueIn(three), QRect(27, 18, 48, 8));
 }
 
-TEST(ScenePainterTest, WhatIsTwoPointsTooWideIsDrawnSmaller) {
+TEST(ScenePainterTest, ASceneTwoPointsTooWideIsScaledDown) {
     const QImage image = painted(row({block(12, 12), block(47, 4, Qt::blue)}, 3), {60, 22});
     EXPECT_LT(redIn(image).width(), 12);
 }
 
-TEST(ScenePainterTest, WhatIsHardlyTooHighIsNotDrawnSmaller) {
+TEST(ScenePainterTest, ASlightlyTooHighSceneIsNotScaledDown) {
     EXPECT_EQ(redIn(painted(block(20, 23), {40, 22})).size(), QSize(20, 22));
 }
 
-TEST(ScenePainterTest, WhatIsTooHighIsDrawnSmallerAsAWhole) {
+TEST(ScenePainterTest, ATooHighSceneIsScaledDown) {
     EXPECT_EQ(redIn(painted(block(20, 44), {40, 22})), QRect(15, 0, 10, 22));
 }
 

@@ -81,7 +81,7 @@ TEST_F(SensorMenuBarItemTest, StaysInItsPlaceInEveryStyle) {
 
 const QColor sensorModuleColor(40, 80, 120);
 
-/// How many of the dots, from the left, are at full strength; the others must be dimmed to 0.15.
+/// The number of dots at full strength, from the left. The others must be dimmed to 0.15.
 qsizetype litTemperatureDots(double celsius) {
     qsizetype lit = 0;
     for (const QColor& color : temperatureDotColors(celsius)) {
@@ -97,7 +97,7 @@ TEST(TemperatureText, HasWholeDegreesWithoutAUnit) {
     EXPECT_EQ(temperatureText(0.2), QStringLiteral("0°"));
 }
 
-TEST(TemperatureText, HasDashesWhereNoTemperatureIsKnown) {
+TEST(TemperatureText, HasDashesForAnUnknownTemperature) {
     EXPECT_EQ(temperatureText(0), QStringLiteral("--°"));
     EXPECT_EQ(temperatureText(-3), QStringLiteral("--°"));
 }

@@ -11,7 +11,7 @@
 namespace orvelle {
 namespace {
 
-/// The largest difference between two pictures in any of their colours, 0 to 255.
+/// The largest difference between two pictures in any colour channel, 0 to 255.
 int largestDifference(const QImage& left, const QImage& right) {
     int largest = 0;
     for (int y = 0; y < left.height(); ++y) {
@@ -26,7 +26,7 @@ int largestDifference(const QImage& left, const QImage& right) {
     return largest;
 }
 
-/// The items of all modules over many samples of a machine whose values wander, often by little.
+/// Checks the items of all modules over many samples with wandering values, which often change little.
 class UnchangedPictures : public ItemFixture {
 protected:
     void sample() {

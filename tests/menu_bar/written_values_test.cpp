@@ -14,7 +14,7 @@ namespace {
 
 using enum MenuBarDisplayStyle;
 
-/// What the items write, told by the painter and not by the items' own functions.
+/// Checks the texts that the items paint, as the painter receives them.
 class WrittenValues : public ItemFixture {
 protected:
     void SetUp() override {
@@ -37,7 +37,7 @@ protected:
         return writtenTexts(
             [&](QPainter& painter) { paintScene(painter, {0, 0, 200, barHeight}, item.body().body); });
     }
-    /// A value as all items write it: monospaced and medium.
+    /// A value in the usual font of all items: monospaced and medium.
     [[nodiscard]] static WrittenText value(const char16_t* text, int pixelSize,
                                            const QColor& color = Qt::white) {
         return {QString::fromUtf16(text), pixelSize, QFont::Medium, true, color};
