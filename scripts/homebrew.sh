@@ -1,5 +1,5 @@
 # Sourced on macOS to replace the Debian parts: packages come from Homebrew, and there is always a display.
-# The bash of macOS is version 3.2.
+# This file must work in bash 3.2, the version of macOS.
 # shellcheck disable=SC2034 # the sourcing scripts use these variables
 
 build_packages=(cmake ninja fmt)

@@ -40,7 +40,7 @@ public:
     }
 
     [[nodiscard]] std::string bytes() const { return bytes(m_count); }
-    /// The same, with a count that differs from the number of settings.
+    /// The same bytes with this count of settings, which may be wrong.
     [[nodiscard]] std::string bytes(std::uint32_t count) const {
         XSettingsBytes header(m_isMostSignificantFirst);
         header.number(m_isMostSignificantFirst ? 1 : 0, 1);
