@@ -24,49 +24,18 @@ constexpr unsigned readingsPerChoice = 20;
 /// Files that container runtimes bind into every container. A tree need not contain them.
 constexpr std::array<std::string_view, 3> containerFiles{"/etc/hostname", "/etc/hosts", "/etc/resolv.conf"};
 
-} // namespace
+/// The labels of the file systems on a machine's block devices, as udev lists them in `dev/disk/by-label`.
+class VolumeLabels {
+public:
+    explicit VolumeLabels(std::filesystem::path root);
 
-VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes) {
-    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
-    const std::uint64_t total = std::min(totalBytes, largest);
-    // A file system can report more blocks free than it has while it is being changed in size.
-    return {.totalBytes = static_cast<std::int64_t>(total),
-            .freeBytes = static_cast<std::int64_t>(std::min(freeBytes, total))};
-}
+    /// The label of the file system that is mounted, fit to be shown; nothing when it has none.
+    [[nodiscard]] std::optional<std::string> labelOf(const Mount& mount) const;
 
-SpaceAnswer hostVolumeSpace(const std::string& path) {
-    using Clock = std::chrono::steady_clock;
-    struct statvfs space = {};
-    const Clock::time_point start = Clock::now();
-    const bool isTold = ::statvfs(path.c_str(), &space) == 0;
-    SpaceAnswer answer{.space = std::nullopt, .took = Clock::now() - start};
-    if (isTold)
-        answer.space = volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
-                                   saturatingMultiply(space.f_bavail, space.f_frsize));
-    return answer;
-}
-
-unsigned readingsToSkipAfter(std::chrono::duration<double> took) {
-    constexpr std::chrono::milliseconds patience{50};
-    constexpr unsigned skippedPerPatience = 10;
-    constexpr double mostSkipped = 200;
-    if (took <= patience)
-        return 0;
-    return static_cast<unsigned>(std::min(took / patience * skippedPerPatience, mostSkipped));
-}
-
-std::map<std::string, VolumeSpace> parseVolumeSpaces(std::string_view text) {
-    std::map<std::string, VolumeSpace> spaces;
-    while (!text.empty()) {
-        std::string_view line = trimmed(takeLine(text));
-        const std::string_view path = takeWord(line);
-        const auto total = takeNumber<std::uint64_t>(line);
-        const auto free = takeNumber<std::uint64_t>(line);
-        if (total && free)
-            spaces.insert_or_assign(withoutOctalEscapes(path), volumeSpace(*total, *free));
-    }
-    return spaces;
-}
+private:
+    std::filesystem::path m_root;
+    std::map<std::string, std::string> m_labelsByDevice;
+};
 
 VolumeLabels::VolumeLabels(std::filesystem::path root)
     : m_root(std::move(root)) {
@@ -95,6 +64,50 @@ std::optional<std::string> VolumeLabels::labelOf(const Mount& mount) const {
         return label.empty() ? std::nullopt : std::optional(std::move(label));
     }
     return std::nullopt;
+}
+
+} // namespace
+
+VolumeSpace volumeSpace(std::uint64_t totalBytes, std::uint64_t freeBytes) {
+    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    const std::uint64_t total = std::min(totalBytes, largest);
+    // A file system can report more blocks free than it has while it is being changed in size.
+    return {.totalBytes = static_cast<std::int64_t>(total),
+            .freeBytes = static_cast<std::int64_t>(std::min(freeBytes, total))};
+}
+
+SpaceAnswer hostVolumeSpace(const std::string& path) {
+    using Clock = std::chrono::steady_clock;
+    struct statvfs space = {};
+    const Clock::time_point start = Clock::now();
+    const bool isKnown = ::statvfs(path.c_str(), &space) == 0;
+    SpaceAnswer answer{.space = std::nullopt, .took = Clock::now() - start};
+    if (isKnown)
+        answer.space = volumeSpace(saturatingMultiply(space.f_blocks, space.f_frsize),
+                                   saturatingMultiply(space.f_bavail, space.f_frsize));
+    return answer;
+}
+
+unsigned readingsToSkipAfter(std::chrono::duration<double> took) {
+    constexpr std::chrono::milliseconds patience{50};
+    constexpr unsigned skippedPerPatience = 10;
+    constexpr double mostSkipped = 200;
+    if (took <= patience)
+        return 0;
+    return static_cast<unsigned>(std::min(took / patience * skippedPerPatience, mostSkipped));
+}
+
+std::map<std::string, VolumeSpace> parseVolumeSpaces(std::string_view text) {
+    std::map<std::string, VolumeSpace> spaces;
+    while (!text.empty()) {
+        std::string_view line = trimmed(takeLine(text));
+        const std::string_view path = takeWord(line);
+        const auto total = takeNumber<std::uint64_t>(line);
+        const auto free = takeNumber<std::uint64_t>(line);
+        if (total && free)
+            spaces.insert_or_assign(withoutOctalEscapes(path), volumeSpace(*total, *free));
+    }
+    return spaces;
 }
 
 LinuxVolumes::LinuxVolumes(const std::filesystem::path& root)

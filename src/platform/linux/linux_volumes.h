@@ -47,19 +47,6 @@ using SpaceReader = std::function<SpaceAnswer(const std::string& path)>;
 /// the total and the free bytes. Anything else is left out.
 [[nodiscard]] std::map<std::string, VolumeSpace> parseVolumeSpaces(std::string_view text);
 
-/// The labels of the file systems on a machine's block devices, as udev lists them in `dev/disk/by-label`.
-class VolumeLabels {
-public:
-    explicit VolumeLabels(std::filesystem::path root);
-
-    /// The label of the file system that is mounted, fit to be shown; nothing when it has none.
-    [[nodiscard]] std::optional<std::string> labelOf(const Mount& mount) const;
-
-private:
-    std::filesystem::path m_root;
-    std::map<std::string, std::string> m_labelsByDevice;
-};
-
 /// The mounted volumes: chosen from `proc/self/mountinfo`, hidden by `etc/fstab`, named by
 /// `dev/disk/by-label`. On the running system the choice is made anew when the kernel announces a change of
 /// the mounts, and their space is asked of the kernel at each reading; a volume that takes long to answer is

@@ -14,7 +14,7 @@
 
 namespace orvelle::linux_platform {
 
-/// Tells one life of a pid from the next and one program in it from the next; 0 before either is known.
+/// Identifies one life of a pid and the program in it; 0 before either is known.
 using ProcessLife = std::uint64_t;
 
 /// The known processes, ascending by pid. The records lie side by side in one piece of memory, so that they
