@@ -19,7 +19,8 @@ NSTimeInterval uptime() { return [[NSProcessInfo processInfo] systemUptime]; }
 } // namespace
 
 MacosPopover::MacosPopover(PopoverContent makeContent)
-    : m_makeContent(std::move(makeContent)), m_observer([[PopoverObserver alloc] initWithPopoverListener:this]),
+    : m_makeContent(std::move(makeContent)),
+      m_observer([[PopoverObserver alloc] initWithPopoverListener:this]),
       m_popover([[NSPopover alloc] init]) {
     [m_popover.get() setContentSize:NSMakeSize(width, height)];
     [m_popover.get() setBehavior:NSPopoverBehaviorTransient];
