@@ -41,7 +41,7 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
-/// The processor time of each of so many cycles, in microseconds.
+/// The processor time of each of `count` cycles, in microseconds.
 std::vector<double> timesOf(SystemMonitor& monitor, int count, std::chrono::milliseconds pause) {
     std::vector<double> times;
     for (int cycle = 0; cycle < count; ++cycle) {

@@ -14,13 +14,13 @@ public:
     Helpers(const Helpers&) = delete;
     Helpers& operator=(const Helpers&) = delete;
 
-    /// Makes room for so many, so that starting them allocates nothing.
+    /// Reserves memory for `count` processes, so that starting them allocates nothing.
     void reserve(std::size_t count) { m_pids.reserve(count); }
-    /// Processes that sleep for good.
+    /// Processes that never wake.
     void addSleepers(std::size_t count);
     /// Processes that wake for a moment once per second, spread over it.
     void addWakers(std::size_t count);
-    /// One process of so many threads that sleep for good.
+    /// One process of `threadCount` threads that never wake.
     void addThreadedProcess(std::size_t threadCount);
 
 private:

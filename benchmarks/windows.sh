@@ -55,7 +55,7 @@ end_program() {
   process=""
 }
 
-# Opens and closes each panel so many times; the log then tells how long each took.
+# open_panels ROUNDS: opens and closes each panel in turn; the log then says how long each took.
 open_panels() {
   local index
   for ((round = 0; round < $1; ++round)); do

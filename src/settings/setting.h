@@ -9,11 +9,11 @@ namespace orvelle {
 
 class SettingsStore;
 
-/// How a value is handed over: a text by reference, everything else by value.
+/// The parameter type of a setting: a text by reference, everything else by value.
 template <class Value>
 using PassedSetting = std::conditional_t<std::is_same_v<Value, QString>, const QString&, Value>;
 
-/// One setting of the store, whatever its type: its key, and how its value stands to what is stored.
+/// One setting of any type: its key, and whether its value is stored.
 class AnySetting {
 public:
     using ChangedSignal = void (SettingsStore::*)();
@@ -29,9 +29,9 @@ public:
     [[nodiscard]] virtual QVariant storedForm() const = 0;
     /// The storage now holds the value.
     virtual void markSaved() = 0;
-    /// Takes over what the storage holds, or the default where that is nothing legal, if the storage held
-    /// something else before. Only then did someone change it; else a value that could not be saved stays.
-    /// Returns whether the value changed.
+    /// Takes the stored value, or the default where that is not legal, if the storage held another value
+    /// before: only then did someone change it. Otherwise a value that could not be saved stays. Returns
+    /// whether the value changed.
     [[nodiscard]] virtual bool follow(const QVariant& stored) = 0;
 
 protected:

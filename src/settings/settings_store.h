@@ -78,14 +78,14 @@ public:
     enum class ColorTheme { standard, monochrome, neon };
     Q_ENUM(ColorTheme)
 
-    /// The settings that are kept there, as in the user's place for them: see `openUserSettings`.
+    /// Settings in this storage; the user's own is `openUserSettings()`.
     explicit SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* parent = nullptr);
-    /// Those in an ini file of one's own.
+    /// Settings in an ini file at this path.
     explicit SettingsStore(const QString& filePath, QObject* parent = nullptr);
     ~SettingsStore() override;
 
-    /// Sets the property with this name to a value that follows the user's hand, as under a slider. Of many
-    /// in quick succession only some are stored: the first at once, the last within `tuningInterval` at most.
+    /// Sets the property with this name while the user drags a control. Not every value of a drag is stored:
+    /// the first is at once, the last within `tuningInterval`.
     Q_INVOKABLE void tune(const QString& property, const QVariant& value);
     static constexpr std::chrono::milliseconds tuningInterval{500};
 
@@ -98,9 +98,9 @@ public:
     /// Whether the module has an item in the menu bar.
     [[nodiscard]] bool isShown(ModuleId module) const;
 
-    /// Why a value that was set could not be stored, in a few words for the user; empty when all are. The
-    /// value holds until the program ends and is stored together with the next one that can be. While another
-    /// program has the storage for itself, saving is tried again and again; this tells of it when that lasts.
+    /// Why a value could not be stored, in a few words for the user; empty when every value is stored. Such a
+    /// value holds until the program ends and is stored with the next one that can be. While another program
+    /// locks the storage, the store retries; the error appears only when the lock lasts.
     [[nodiscard]] const QString& saveError() const { return m_saveError; }
 
 Q_SIGNALS:
@@ -124,16 +124,16 @@ private:
     SaveResult store();
     void retry();
     void updateSaveError();
-    /// Takes over what changed in the storage; nothing when it cannot be read.
+    /// Reads the storage and announces the differences. An unreadable storage changes nothing.
     void reload();
     void watch();
 
     std::unique_ptr<SettingsStorage> m_storage;
     QFileSystemWatcher m_watcher;
     QTimer m_reloadDelay{this};
-    QTimer m_tuningDelay{this}; ///< runs for a while after a tuned value was saved
-    QTimer m_retryDelay{this};  ///< runs while another program has the storage for itself
-    int m_lockedTries = 0;      ///< how often saving was tried in vain since
+    QTimer m_tuningDelay{this}; ///< runs after a value of a drag was saved
+    QTimer m_retryDelay{this};  ///< runs while another program locks the storage
+    int m_lockedTries = 0;      ///< failed tries since the lock was met
     bool m_isTuning = false;
     bool m_isSaveDue = false; ///< when `m_tuningDelay` ends
     QString m_saveError;
@@ -144,7 +144,7 @@ private:
 #undef SETTING
 
 #define SETTING(Type, name, setName, defaultValue) &m_##name,
-    /// All of them, in the order of the list.
+    /// Every setting, in the order of the list.
     const std::vector<AnySetting*> m_settings{ORVELLE_SETTINGS};
 #undef SETTING
 };

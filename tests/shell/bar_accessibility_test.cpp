@@ -173,7 +173,7 @@ TEST_F(BarAccessibilityTest, AnInterfaceOutlivesTheBarOnlyToSayThatItIsGone) {
 TEST_F(BarAccessibilityTest, NewValuesAreAnnouncedOnceEach) {
     BarItem& item = addCPU();
     const Announcements announcements;
-    static_cast<void>(toolBar()->child(0)); // whoever listens has looked at the bar
+    static_cast<void>(toolBar()->child(0)); // a listener has read the bar
     const auto say = [&item](const QString& text) { item.setWords(QStringLiteral("CPU"), text); };
     say(QStringLiteral("CPU 13%"));
     say(QStringLiteral("CPU 13%"));

@@ -49,7 +49,7 @@ TEST_F(SettingsPicture, ShowsWhatIsSet) {
     EXPECT_EQ(inAnotherTheme.size(), before.size());
     settings.store.setUseCustomCPUColor(true);
     EXPECT_NE(settingsPicture(settings, unfolded).image, inAnotherTheme)
-        << "the colours of one's own are unfolded";
+        << "the custom colours are unfolded";
 }
 
 TEST_F(SettingsPicture, HasTheSizeOfItsPose) {

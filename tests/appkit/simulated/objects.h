@@ -36,7 +36,7 @@ struct WindowRecord {
     NSView* firstResponder = nil;
 };
 WindowRecord& recordOf(NSWindow* window);
-/// A window that the system makes, released by whoever asked for it.
+/// A window that the system makes, released by its caller.
 NSWindow* makeSystemWindow();
 void setKeyWindow(NSWindow* window);
 [[nodiscard]] NSWindow* keyWindow();
