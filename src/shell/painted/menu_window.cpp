@@ -1,6 +1,7 @@
 #include "shell/painted/menu_window.h"
 
 #include "shell/painted/popup.h"
+#include "theme/colors.h"
 #include "theme/fonts.h"
 
 #include <QFontMetricsF>
