@@ -103,7 +103,7 @@ PICTURE_FAULTS = [
     Fault("used and total swap are exchanged", MEMORY, "text: PanelTexts.formatByteSize(panel.info.swapUsed)",
           "text: PanelTexts.formatByteSize(panel.info.swapTotal)", *PICTURES),
     Fault("the bars of the processes have one scale", "src/windows/panels/ProcessListView.qml",
-          "PanelGraphics.processBarScale(processes, mode)", "100", *PICTURES),
+          "PanelGraphics.processBarScale(processes, byMemory)", "100", *PICTURES),
     Fault("processes of the memory tell their processor time", MEMORY, "mode: ProcessListView.DisplayMode.Memory",
           "mode: ProcessListView.DisplayMode.CPU", *PICTURES),
     Fault("the health's bar is full", BATTERY, "fraction: panel.info.health", "fraction: 1", *PICTURES),

@@ -14,7 +14,8 @@ ColumnLayout {
     required property var processes
     required property int mode
     required property color accentColor
-    readonly property real maxValue: PanelGraphics.processBarScale(processes, mode)
+    readonly property bool byMemory: mode === ProcessListView.DisplayMode.Memory
+    readonly property real maxValue: PanelGraphics.processBarScale(processes, byMemory)
 
     Layout.fillWidth: true
     spacing: 2
@@ -36,7 +37,7 @@ ColumnLayout {
         delegate: ProcessRow {
             required property var record
             process: record
-            mode: view.mode // qmllint disable unqualified
+            byMemory: view.byMemory // qmllint disable unqualified
             accentColor: view.accentColor // qmllint disable unqualified
             maxValue: view.maxValue // qmllint disable unqualified
         }
@@ -47,10 +48,10 @@ ColumnLayout {
         id: row
 
         required property var process
-        required property int mode
+        required property bool byMemory
         required property color accentColor
         required property real maxValue
-        readonly property real fraction: PanelGraphics.processBarFraction(process, mode, maxValue)
+        readonly property real fraction: PanelGraphics.processBarFraction(process, byMemory, maxValue)
 
         Layout.fillWidth: true
         Layout.preferredHeight: 18
@@ -78,12 +79,12 @@ ColumnLayout {
         TextMetrics {
             id: widestValue
             font: value.font
-            text: row.mode === ProcessListView.DisplayMode.Memory ? "1000.0 MB" : "800.0%"
+            text: row.byMemory ? "1000.0 MB" : "800.0%"
         }
         PlainText {
             id: value
             readonly property real room: Math.max(50, Math.ceil(widestValue.advanceWidth), implicitWidth)
-            text: PanelTexts.processValueText(row.process, row.mode)
+            text: PanelTexts.processValueText(row.process, row.byMemory)
             size: 10
             weight: Font.Medium
             monospaced: true

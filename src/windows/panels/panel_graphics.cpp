@@ -20,8 +20,8 @@ QColor levelColor(PressureLevel level, const QColor& normalColor) {
     return normalColor;
 }
 
-double processPercent(const ProcessInfo& process, int mode) {
-    return mode == static_cast<int>(ProcessDisplayMode::cpu) ? process.cpuUsage : process.memoryPercent;
+double processPercent(const ProcessInfo& process, bool byMemory) {
+    return byMemory ? process.memoryPercent : process.cpuUsage;
 }
 
 /// The records of a list that has been a QML property of type `var`: from Qt 6.5 on such a list keeps its
@@ -94,19 +94,19 @@ QColor PanelGraphics::batteryHealthColor(double health) {
     return health > 0.6 ? SystemColors::yellow : SystemColors::red;
 }
 
-double PanelGraphics::processBarScale(const QVariant& processes, int mode) {
+double PanelGraphics::processBarScale(const QVariant& processes, bool byMemory) {
     constexpr double scaleOfEmptyList = 100;
     const QList<ProcessInfo> records = processRecords(processes);
     if (records.isEmpty())
         return scaleOfEmptyList;
     double scale = 1;
     for (const ProcessInfo& process : records)
-        scale = std::max(scale, processPercent(process, mode));
+        scale = std::max(scale, processPercent(process, byMemory));
     return scale;
 }
 
-double PanelGraphics::processBarFraction(const ProcessInfo& process, int mode, double scale) {
-    return scale > 0 ? std::min(processPercent(process, mode) / scale, 1.0) : 0;
+double PanelGraphics::processBarFraction(const ProcessInfo& process, bool byMemory, double scale) {
+    return scale > 0 ? std::min(processPercent(process, byMemory) / scale, 1.0) : 0;
 }
 
 bool PanelGraphics::isTemperatureKnown(double celsius) {

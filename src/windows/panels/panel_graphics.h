@@ -19,10 +19,6 @@ enum class PressureLevel { normal, warning, critical };
 /// Critical from a pressure of 0.8 on, warning from 0.6.
 [[nodiscard]] PressureLevel pressureLevel(double pressure);
 
-/// What a process list compares: processor time or resident memory. The order is that of
-/// `ProcessListView.DisplayMode`.
-enum class ProcessDisplayMode { cpu, memory };
-
 /// How the panels draw values: colours, symbols, fractions, scales and angles.
 class PanelGraphics : public QObject {
     Q_OBJECT
@@ -61,14 +57,14 @@ public:
     /// Green above 0.8, yellow above 0.6, else red.
     Q_INVOKABLE [[nodiscard]] static QColor batteryHealthColor(double health);
 
-    // Processes. `mode` is a ProcessDisplayMode.
+    // Processes, compared by resident memory or else by processor time
 
     /// The percentage of a full bar: the largest in `processes`, a list of ProcessInfo, but at least 1. 100
     /// for an empty list.
-    Q_INVOKABLE [[nodiscard]] static double processBarScale(const QVariant& processes, int mode);
+    Q_INVOKABLE [[nodiscard]] static double processBarScale(const QVariant& processes, bool byMemory);
     /// How much of the process's bar is filled, at most 1; 0 when the scale is not above 0.
-    Q_INVOKABLE [[nodiscard]] static double processBarFraction(const orvelle::ProcessInfo& process, int mode,
-                                                               double scale);
+    Q_INVOKABLE [[nodiscard]] static double processBarFraction(const orvelle::ProcessInfo& process,
+                                                               bool byMemory, double scale);
 
     // Sensors. A speed is in revolutions per minute.
 

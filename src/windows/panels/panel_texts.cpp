@@ -53,9 +53,8 @@ QString PanelTexts::loadAveragesText(double oneMinute, double fiveMinutes, doubl
     return formatted("{:.2f}  {:.2f}  {:.2f}", oneMinute, fiveMinutes, fifteenMinutes);
 }
 
-QString PanelTexts::processValueText(const ProcessInfo& process, int mode) {
-    return mode == static_cast<int>(ProcessDisplayMode::cpu) ? percentText(process.cpuUsage)
-                                                             : formatByteSize(process.memoryBytes);
+QString PanelTexts::processValueText(const ProcessInfo& process, bool byMemory) {
+    return byMemory ? formatByteSize(process.memoryBytes) : percentText(process.cpuUsage);
 }
 
 QString PanelTexts::pressureBadgeText(double pressure) {

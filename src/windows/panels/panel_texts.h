@@ -40,8 +40,9 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString loadAveragesText(double oneMinute, double fiveMinutes,
                                                               double fifteenMinutes);
 
-    /// The percentage of processor time, or the bytes of memory. `mode` is a ProcessDisplayMode.
-    Q_INVOKABLE [[nodiscard]] static QString processValueText(const orvelle::ProcessInfo& process, int mode);
+    /// The percentage of processor time, or the bytes of memory.
+    Q_INVOKABLE [[nodiscard]] static QString processValueText(const orvelle::ProcessInfo& process,
+                                                              bool byMemory);
 
     /// "Normal", "Warning" or "Critical".
     Q_INVOKABLE [[nodiscard]] static QString pressureBadgeText(double pressure);

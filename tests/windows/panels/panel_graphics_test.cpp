@@ -8,8 +8,8 @@ namespace {
 
 const QColor moduleColor(40, 80, 120);
 
-constexpr int byCPU = static_cast<int>(ProcessDisplayMode::cpu);
-constexpr int byMemory = static_cast<int>(ProcessDisplayMode::memory);
+constexpr bool byCPU = false;
+constexpr bool byMemory = true;
 
 ProcessInfo processOf(double cpuUsage, double memoryPercent = 0) {
     ProcessInfo process;
@@ -64,8 +64,8 @@ TEST(SharedGraphScale, IsTheLargestSampleOfEitherHistory) {
     EXPECT_EQ(PanelGraphics::sharedGraphScale({2000}, {1048576}), 1048576);
 }
 
-double barScale(const QList<ProcessInfo>& processes, int mode) {
-    return PanelGraphics::processBarScale(QVariant::fromValue(processes), mode);
+double barScale(const QList<ProcessInfo>& processes, bool isByMemory) {
+    return PanelGraphics::processBarScale(QVariant::fromValue(processes), isByMemory);
 }
 
 TEST(ProcessBars, AreScaledToTheLargestOfTheList) {

@@ -75,11 +75,9 @@ TEST(ProcessValue, IsAPercentageOrASize) {
     ProcessInfo process;
     process.cpuUsage = 800;
     process.memoryBytes = 3 << 20;
-    const auto textBy = [&](ProcessDisplayMode mode) {
-        return PanelTexts::processValueText(process, static_cast<int>(mode));
-    };
-    EXPECT_EQ(textBy(ProcessDisplayMode::cpu), QStringLiteral("800.0%"));
-    EXPECT_EQ(textBy(ProcessDisplayMode::memory), QStringLiteral("3.0 MB"));
+    const auto text = [&](bool isByMemory) { return PanelTexts::processValueText(process, isByMemory); };
+    EXPECT_EQ(text(false), QStringLiteral("800.0%"));
+    EXPECT_EQ(text(true), QStringLiteral("3.0 MB"));
 }
 
 TEST(VolumeUsed, IsTheTotalWithoutTheFreeSpace) {
