@@ -97,6 +97,7 @@ struct ColumnShape {
 };
 
 /// One shape, or several in a row or a column. An empty row draws nothing.
+// NOLINTNEXTLINE(bugprone-exception-escape): no alternative throws when it moves
 struct SceneNode {
     std::variant<RowShape, ColumnShape, SymbolShape, TextShape, CoreBarsShape, LevelBarShape, DotsShape,
                  BatteryShape, SparklineView, DualSparklineView>
