@@ -54,7 +54,7 @@ std::string numericForm(sa_family_t family, const std::uint8_t* bytes) {
         return text.data();
     }
     std::string form;
-    for (int group = 0; group < 8; ++group) {
+    for (std::size_t group = 0; group < 8; ++group) {
         const std::uint8_t* pair = bytes + 8 + 2 * group;
         std::snprintf(text.data(), text.size(), "%s%x", group == 0 ? "" : ":", pair[0] << 8 | pair[1]);
         form += text.data();
