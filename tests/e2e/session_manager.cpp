@@ -102,13 +102,13 @@ void setProperties(SmsConn /*program*/, SmPointer /*data*/, int count, SmProp** 
         print("property " + std::string(properties[index]->name) + valueText(*properties[index]));
         SmFreeProperty(properties[index]);
     }
-    std::free(properties);
+    std::free(static_cast<void*>(properties));
 }
 
 void deleteProperties(SmsConn /*program*/, SmPointer /*data*/, int count, char** names) {
     for (int index = 0; index < count; ++index)
         std::free(names[index]);
-    std::free(names);
+    std::free(static_cast<void*>(names));
 }
 
 void getProperties(SmsConn program, SmPointer /*data*/) {

@@ -68,12 +68,13 @@ TEST(DescribedFamily, IsEmptyForAnEndlessDescription) {
 
 /// The desktop changes its fonts while the program runs. `./test` installs the fonts of these tests.
 class ChangedFonts : public ::testing::Test {
-protected:
+public:
     ChangedFonts() {
         QObject::connect(&FontChanges::shared(), &FontChanges::changed, &m_listener, [this] { ++changes; });
     }
     ~ChangedFonts() override { setDesktopFontNames({}); }
 
+protected:
     const QString ordinary = systemFont(11).family();
     int changes = 0;
 

@@ -9,10 +9,11 @@ namespace orvelle {
 namespace {
 
 class SettingsPicture : public ::testing::Test {
-protected:
+public:
     SettingsPicture() { AnimationClock::shared().setReduced(true); }
     ~SettingsPicture() override { AnimationClock::shared().setReduced(false); }
 
+protected:
     FreshSettings settings;
     SettingsPose unfolded{
         .name = QStringLiteral("unfolded"), .size = settingsSize, .isUnfolded = true, .isWhole = true};
@@ -48,8 +49,7 @@ TEST_F(SettingsPicture, ShowsWhatIsSet) {
     EXPECT_NE(inAnotherTheme, before);
     EXPECT_EQ(inAnotherTheme.size(), before.size());
     settings.store.setUseCustomCPUColor(true);
-    EXPECT_NE(settingsPicture(settings, unfolded).image, inAnotherTheme)
-        << "the custom colours are unfolded";
+    EXPECT_NE(settingsPicture(settings, unfolded).image, inAnotherTheme) << "the custom colours are unfolded";
 }
 
 TEST_F(SettingsPicture, HasTheSizeOfItsPose) {

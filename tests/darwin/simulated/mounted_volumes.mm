@@ -11,6 +11,8 @@ const Key nameKey{"name"}, totalKey{"total"}, freeKey{"free"}, localKey{"local"}
 
 namespace {
 
+// The names of attributes are only compared, so the address of a key stands in for an object.
+// NOLINTBEGIN(bugprone-casting-through-void): there is no other cast between a structure and an object
 NSString* keyObject(const Key& key) { return (NSString*)(void*)&key; }
 
 /// The names of the keys, as they were given.
@@ -20,6 +22,7 @@ std::string namesOf(NSArray* keys) {
         names += std::string(" ") + ((const Key*)(void*)[keys objectAtIndex:index])->name;
     return names;
 }
+// NOLINTEND(bugprone-casting-through-void)
 
 id makeObject(const Property& property) {
     if (const auto* text = std::get_if<std::string>(&property))

@@ -21,10 +21,11 @@ namespace orvelle {
 
 /// A scripted machine and its panels. A warning of Qt or QML fails the test.
 class PanelFixture : public ::testing::Test {
-protected:
+public:
     PanelFixture() { s_previousHandler = qInstallMessageHandler(&PanelFixture::failOnMessage); }
     ~PanelFixture() override { qInstallMessageHandler(s_previousHandler); }
 
+protected:
     /// Samples the machine, and lets three seconds pass after each sample.
     void sample(int times = 1) {
         for (int count = 0; count < times; ++count) {
