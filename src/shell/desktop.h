@@ -31,16 +31,16 @@ class LoginItem {
 public:
     virtual ~LoginItem() = default;
 
-    /// What the desktop will really do at the next login.
+    /// Whether the desktop will start the program at the next login.
     [[nodiscard]] virtual bool isEnabled() const = 0;
-    /// Returns whether the desktop has taken it. Switched on where it is on, it is made to start the program
-    /// from where it is now.
+    /// Returns whether the desktop accepted it. Switching on again makes it start this program, in case the
+    /// program has moved.
     [[nodiscard]] virtual bool setEnabled(bool enabled) = 0;
-    /// Where it is on but would start a program that is gone, it is made to start this one.
+    /// Makes an enabled item start this program when the program that it would start is gone.
     virtual void repair() = 0;
 };
 
-/// Held by the only process of the program on its desktop; others cannot hold one until it is destroyed or
+/// Held by the only process of the program on its desktop. No other process gets one until it is destroyed or
 /// the process ends. Main thread only.
 class SingleInstance : public QObject {
     Q_OBJECT
@@ -54,8 +54,8 @@ Q_SIGNALS:
 /// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
 [[nodiscard]] std::optional<QString> prepareDesktop();
 
-/// Makes this process the only one of the program on its desktop. Null when another one is, which has then
-/// been told. Needs the application object.
+/// Makes this process the only one of the program on its desktop. Null when another process is, which is then
+/// notified. Needs the application object.
 [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance();
 
 /// The bar of this desktop, empty and not yet shown. Needs the application object.
@@ -64,12 +64,12 @@ Q_SIGNALS:
 /// The settings window, not shown yet, around a content that has not been shown.
 [[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content);
 
-/// Keeps the clock's motion as much reduced as the user wants it on this desktop, now and whenever that
-/// changes, as long as the result lives. Null where the desktop cannot say. Needs the application object.
+/// Keeps the clock's motion reduced when the user asks the desktop for that, now and after every change, as
+/// long as the result lives. Null where the desktop has no such setting. Needs the application object.
 [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock);
 
-/// Keeps the fonts of theme/fonts.h those that the desktop announces, now and whenever that changes, as long
-/// as the result lives. Null where the desktop announces none beside what Qt knows. Needs the application
+/// Keeps the fonts of theme/fonts.h equal to those that the desktop announces, now and after every change, as
+/// long as the result lives. Null where the desktop announces no more than Qt knows. Needs the application
 /// object.
 [[nodiscard]] std::unique_ptr<QObject> followDesktopFonts();
 

@@ -20,21 +20,21 @@ struct MenuEntry {
 };
 
 /// The menu that opens under a status item. It closes by itself when an entry is chosen, with Escape, and
-/// when the user clicks elsewhere, but not by a press on the item that it belongs to: what that click does is
-/// for the item's handler to say. Main thread only.
+/// when the user clicks elsewhere. A press on its own item does not close it: the item's click handler
+/// decides. Main thread only.
 class ContextMenu {
 public:
     virtual ~ContextMenu() = default;
 
-    /// Opens with these entries under an item of the bar that made the menu, in place of what it shows. Where
-    /// it is shown under that item already it closes instead.
+    /// Opens with these entries under an item of the bar that made the menu; if it is open under another item
+    /// it moves. If it is open under this item it closes instead.
     virtual void show(const StatusItem& item, std::vector<MenuEntry> entries) = 0;
     virtual void close() = 0;
 };
 
 /// A window that opens under a status item, with the keyboard in it. It closes by itself with Escape and when
-/// the user clicks elsewhere, but not by a press on the item that it belongs to: what that click does is for
-/// the item's handler to say. Main thread only.
+/// the user clicks elsewhere. A press on its own item does not close it: the item's click handler decides.
+/// Main thread only.
 class Popover {
 public:
     virtual ~Popover() = default;

@@ -10,8 +10,8 @@ namespace orvelle {
 /// The button of a mouse that a click is made with; others are ignored.
 enum class ClickButton { left, right };
 
-/// One entry of the desktop's status bar: a fixed length, filled with a picture. The bar owns it. It knows
-/// nothing of what it shows.
+/// One entry of the desktop's status bar: a picture of fixed length. The bar owns it. It does not know what
+/// the picture shows.
 class StatusItem {
 public:
     virtual ~StatusItem() = default;
@@ -22,14 +22,15 @@ public:
     /// Width in points; it never follows the content.
     [[nodiscard]] virtual double length() const = 0;
 
-    /// Sets how the item is painted: within a rectangle in points, 22 points high. Nothing is painted before.
+    /// Sets the function that paints the item within a rectangle in points, 22 points high. Until then the
+    /// item is empty.
     virtual void setPaint(std::function<void(QPainter&, const QRectF&)> paint) = 0;
 
-    /// The item looks different from before: it alone is painted again, soon.
+    /// Has this item alone painted again, soon.
     virtual void repaint() = 0;
 
-    /// Sets what assistive programs tell: what the item is about, for example "CPU", and its value in words,
-    /// for example "CPU 12%".
+    /// Sets what assistive programs say: the item's subject, for example "CPU", and its value in words, for
+    /// example "CPU 12%".
     virtual void setWords(const QString& name, const QString& text) = 0;
 
     /// Device pixels that one point covers while the item is on the screen; 0 while it is not.

@@ -38,7 +38,7 @@ TEST_F(ContextMenuTest, BelongsToTheItemOnlyWhileItIsOpen) {
         EXPECT_FALSE(item.hasMenu);
 }
 
-TEST_F(ContextMenuTest, LeavesTheLeftClickAsItWas) {
+TEST_F(ContextMenuTest, LeavesTheLeftClickToThePanel) {
     launch();
     openMenuOf(cpuItem, {});
     desktop().deeds.clear();
@@ -77,7 +77,7 @@ TEST_F(ContextMenuTest, EndsTheProgram) {
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
-TEST_F(ContextMenuTest, SurvivesThatItsItemIsRemovedWhileItIsOpen) {
+TEST_F(ContextMenuTest, SurvivesTheRemovalOfItsItemWhileItIsOpen) {
     Program& running = launch();
     openMenuOf(cpuItem, [&] {
         running.settings.setShowMemory(false);
@@ -89,7 +89,7 @@ TEST_F(ContextMenuTest, SurvivesThatItsItemIsRemovedWhileItIsOpen) {
         EXPECT_FALSE(item.hasMenu);
 }
 
-TEST_F(ContextMenuTest, DoesWhatIsChosenAndNothingForAnEntryWithoutAnAction) {
+TEST_F(ContextMenuTest, RunsTheChosenActionAndIgnoresAnEntryWithoutOne) {
     StatusItem& item = program().addItem("clock");
     const std::unique_ptr<ContextMenu> menu = program().statusBar->makeContextMenu();
     int timesChosen = 0;

@@ -10,7 +10,7 @@ protected:
     std::unique_ptr<LoginItem> login = makeLoginItem();
 };
 
-TEST_F(LoginItemTest, SaysWhatTheSystemWillDo) {
+TEST_F(LoginItemTest, ReportsTheStateThatTheSystemKeeps) {
     EXPECT_FALSE(login->isEnabled());
     desktop().script.loginStatus = 1;
     EXPECT_TRUE(login->isEnabled());
@@ -27,13 +27,13 @@ TEST_F(LoginItemTest, IsSwitchedOnAndOff) {
     EXPECT_TRUE(login->setEnabled(false));
 }
 
-TEST_F(LoginItemTest, SaysThatTheSystemHasNotTakenIt) {
+TEST_F(LoginItemTest, ReportsFailureWhenTheSystemRefuses) {
     desktop().script.mayRegisterLogin = false;
     EXPECT_FALSE(login->setEnabled(true));
     EXPECT_FALSE(login->isEnabled());
 }
 
-TEST_F(LoginItemTest, CannotBeSwitchedOnBeforeTheSystemHadSuchAService) {
+TEST_F(LoginItemTest, CannotBeSwitchedOnWhereTheServiceIsMissing) {
     desktop().script.hasLoginService = false;
     EXPECT_FALSE(login->isEnabled());
     EXPECT_FALSE(login->setEnabled(true));

@@ -51,7 +51,7 @@ TEST_F(PopoverTest, ClosesWithTheSecondClickAndOpensWithTheThird) {
     EXPECT_EQ(running.contents.size(), 1) << "the content is made once";
 }
 
-TEST_F(PopoverTest, ClosesWithTheSecondClickAlsoWhereItsPressClosesItUnasked) {
+TEST_F(PopoverTest, ClosesWithTheSecondClickWhenItsPressHasAlreadyClosedIt) {
     desktop().script.asksBeforeClosingPopover = false;
     launch();
     click(cpuItem, MouseButton::left);
@@ -147,7 +147,7 @@ TEST_F(PopoverTest, DoesNotOpenWithoutContent) {
     EXPECT_EQ(shownPopoverCount(), 1);
 }
 
-TEST_F(PopoverTest, OpensAlsoWhenItGetsNoWindow) {
+TEST_F(PopoverTest, OpensWithoutTheKeyboardWhenItGetsNoWindow) {
     desktop().failCallsTo("popover's window");
     launch();
     click(cpuItem, MouseButton::left);
@@ -156,7 +156,7 @@ TEST_F(PopoverTest, OpensAlsoWhenItGetsNoWindow) {
     EXPECT_EQ(shownPopoverCount(), 0);
 }
 
-TEST_F(PopoverTest, MayBeAskedForAgainWhenTheSystemDidNotShowIt) {
+TEST_F(PopoverTest, OpensOnTheNextClickWhenTheSystemDidNotShowIt) {
     desktop().failCallsTo("showRelativeToRect");
     launch();
     click(cpuItem, MouseButton::left);

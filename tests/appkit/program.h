@@ -20,7 +20,7 @@ public:
 
     /// The settings for all six modules at once.
     void showAll(bool shown);
-    /// Adds one item that no module stands behind.
+    /// Adds an item that belongs to no module.
     StatusItem& addItem(const char* identifier, double length = 40) {
         return statusBar->addItem(QLatin1StringView(identifier), length);
     }

@@ -11,7 +11,7 @@ protected:
     AnimationClock clock;
 };
 
-TEST_F(ReducedMotionTest, IsWhatTheUserHasChosenFromTheStart) {
+TEST_F(ReducedMotionTest, FollowsTheUsersChoiceFromTheStart) {
     desktop().script.reducesMotion = true;
     const std::unique_ptr<QObject> follower = followReducedMotion(clock);
     EXPECT_TRUE(clock.isReduced());

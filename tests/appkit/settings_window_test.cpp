@@ -7,7 +7,7 @@ using namespace simulated;
 
 class SettingsWindowTest : public AppKitTest {};
 
-TEST_F(SettingsWindowTest, LooksAsItShould) {
+TEST_F(SettingsWindowTest, IsDarkWithATransparentTitleBar) {
     Program& running = launch();
     running.delegate.openSettings();
     ASSERT_EQ(windows().size(), 1U);
@@ -62,7 +62,7 @@ TEST_F(SettingsWindowTest, IsReusedAfterItWasClosed) {
     EXPECT_EQ(running.contents.size(), 1);
 }
 
-TEST_F(SettingsWindowTest, IsNotOpenedWithoutContentAndAskedForAgain) {
+TEST_F(SettingsWindowTest, OpensOnTheNextRequestWhenItsContentCouldNotBeMade) {
     Program& running = launch();
     running.canMakeContents = false;
     running.delegate.openSettings();
@@ -72,7 +72,7 @@ TEST_F(SettingsWindowTest, IsNotOpenedWithoutContentAndAskedForAgain) {
     EXPECT_EQ(windows().size(), 1U);
 }
 
-TEST_F(SettingsWindowTest, OpensForWhoeverHasHiddenEveryModuleAndStartsTheProgramAgain) {
+TEST_F(SettingsWindowTest, OpensWhenTheProgramIsStartedAgainWithEveryModuleHidden) {
     Program& running = launch();
     running.delegate.applicationShouldHandleReopen();
     EXPECT_TRUE(windows().empty());

@@ -10,30 +10,30 @@ using namespace simulated;
 
 class SingleInstanceTest : public AppKitTest {};
 
-TEST_F(SingleInstanceTest, IsTheOneThatRunsAlone) {
+TEST_F(SingleInstanceTest, IsHeldWhenNoOtherProcessRuns) {
     EXPECT_NE(becomeSingleInstance(), nullptr);
     EXPECT_TRUE(desktop().deeds.empty());
 }
 
-TEST_F(SingleInstanceTest, IsNotASecondProcessWhichHasTheFirstOneToldOfIt) {
+TEST_F(SingleInstanceTest, IsNotHeldByASecondProcessWhichNotifiesTheFirst) {
     desktop().script.instances = {{.processIdentifier = 499}, {.processIdentifier = 500}};
     EXPECT_EQ(becomeSingleInstance(), nullptr);
     EXPECT_EQ(desktop().deeds, std::vector<std::string>{"open the program's bundle"});
 }
 
-TEST_F(SingleInstanceTest, IsNotHinderedByAProcessThatHasEnded) {
+TEST_F(SingleInstanceTest, IgnoresAProcessThatHasEnded) {
     desktop().script.instances = {{.processIdentifier = 499, .isTerminated = true},
                                   {.processIdentifier = 500}};
     EXPECT_NE(becomeSingleInstance(), nullptr);
 }
 
-TEST_F(SingleInstanceTest, IsWhateverRunsOutsideABundle) {
+TEST_F(SingleInstanceTest, IsAlwaysHeldOutsideABundle) {
     desktop().script.bundleIdentifier.reset();
     desktop().script.instances = {{.processIdentifier = 499}};
     EXPECT_NE(becomeSingleInstance(), nullptr);
 }
 
-TEST_F(SingleInstanceTest, HearsOfLaterStartsOnceItsLoopHasBegun) {
+TEST_F(SingleInstanceTest, ReportsLaterStartsOnceItsLoopRuns) {
     std::unique_ptr<SingleInstance> instance = becomeSingleInstance();
     ASSERT_NE(instance, nullptr);
     const QSignalSpy startedAgain(instance.get(), &SingleInstance::startedAgain);

@@ -82,7 +82,7 @@ TEST_F(StatusItemsTest, AreDrawnAgainOnAnotherScreen) {
     EXPECT_EQ(drawing->width, 60U);
 }
 
-TEST_F(StatusItemsTest, AreDrawnAgainWhenTheirValuesLookDifferent) {
+TEST_F(StatusItemsTest, AreDrawnAgainWhenTheirValuesChange) {
     constexpr std::size_t batteryItem = 4;
     Program& running = launch();
     for (std::size_t index = 0; index < everyKey.size(); ++index)
@@ -99,7 +99,7 @@ TEST_F(StatusItemsTest, SayTheirValuesToAssistiveTechnology) {
     EXPECT_EQ(statusItems().at(0).accessibilityLabel, "CPU 12%");
 }
 
-TEST_F(StatusItemsTest, TellOnceThatTheyHaveBeenPainted) {
+TEST_F(StatusItemsTest, ReportTheirFirstPaintingOnce) {
     const QSignalSpy painted(program().statusBar.get(), &StatusBar::firstPainted);
     launch();
     EXPECT_EQ(painted.size(), 0);
@@ -129,7 +129,7 @@ TEST_F(StatusItemsTest, AreAllRemovedAndTheShownOnesRecreatedWhenAModuleIsSwitch
     EXPECT_EQ(popovers().size(), 5U) << "and a popover each";
 }
 
-TEST_F(StatusItemsTest, AreRebuiltWhileAPopoverIsOpenWithoutIt) {
+TEST_F(StatusItemsTest, CloseAnOpenPopoverWhenTheyAreRebuilt) {
     Program& running = launch();
     click(cpuItem, MouseButton::left);
     running.settings.setShowNetwork(false);
@@ -175,7 +175,7 @@ TEST_F(StatusItemsTest, AreKeptWithoutAButton) {
     EXPECT_TRUE(desktop().deeds.empty());
 }
 
-TEST_F(StatusItemsTest, AreKeptInMindWhenTheSystemRefusesThem) {
+TEST_F(StatusItemsTest, StayKnownToTheProgramWhenTheSystemRefusesThem) {
     desktop().failCallsTo("statusItemWithLength");
     Program& running = launch();
     EXPECT_TRUE(statusItems().empty());

@@ -6,7 +6,7 @@
 
 namespace orvelle {
 
-/// Stands for an assistive program that listens as long as the object exists. At most one at a time.
+/// Plays an assistive program that listens as long as the object exists. At most one at a time.
 class Announcements {
 public:
     struct Announced {

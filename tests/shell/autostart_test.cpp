@@ -34,7 +34,7 @@ TEST(AutostartEntryTest, TakesTheFirstWordAsTheProgram) {
     EXPECT_EQ(execProgram(QString()), QString());
 }
 
-TEST(AutostartEntryTest, IsStartedUnlessSomethingForbidsIt) {
+TEST(AutostartEntryTest, IsStartedUnlessAKeyForbidsIt) {
     const QByteArray start = "[Desktop Entry]\nType=Application\nExec=orvelle\n";
     const auto starts = [&](const QByteArray& more) {
         const auto entry = parseAutostart(start + more);
@@ -122,7 +122,7 @@ TEST_F(AutostartLoginItemTest, HidesAnEntryForAllUsers) {
     EXPECT_TRUE(item.isEnabled());
 }
 
-TEST_F(AutostartLoginItemTest, RespectsThatADesktopSwitchedItOff) {
+TEST_F(AutostartLoginItemTest, StaysOffWhenADesktopSwitchedItOff) {
     write(userFile, autostartText(program).replace("enabled=true", "enabled=false"));
     EXPECT_FALSE(item.isEnabled());
     write(userFile, autostartText(program) + "Hidden=true\n");
@@ -142,7 +142,7 @@ TEST_F(AutostartLoginItemTest, IsRepairedWhenTheProgramHasMoved) {
     EXPECT_TRUE(item.isEnabled());
 }
 
-TEST_F(AutostartLoginItemTest, IsLeftAloneWhileItStartsAnotherProgramThatIsThere) {
+TEST_F(AutostartLoginItemTest, KeepsAnEntryThatStartsAnotherExistingProgram) {
     const QString other = folder.filePath(u"other"_s);
     makeProgram(other);
     write(userFile, autostartText(other) + "X-Own=kept\n");
@@ -151,12 +151,12 @@ TEST_F(AutostartLoginItemTest, IsLeftAloneWhileItStartsAnotherProgramThatIsThere
     EXPECT_TRUE(item.isEnabled());
 }
 
-TEST_F(AutostartLoginItemTest, IsNotRepairedWhereThereIsNone) {
+TEST_F(AutostartLoginItemTest, WritesNothingWhenThereIsNoEntryToRepair) {
     item.repair();
     EXPECT_FALSE(QFile::exists(userFile));
 }
 
-TEST_F(AutostartLoginItemTest, RefusesWhereAFolderStandsInItsPlace) {
+TEST_F(AutostartLoginItemTest, FailsWhenAFolderHasTheNameOfTheEntry) {
     ASSERT_TRUE(QDir().mkpath(userFile + u"/full"_s));
     EXPECT_FALSE(item.isEnabled());
     EXPECT_FALSE(item.setEnabled(true));
@@ -164,7 +164,7 @@ TEST_F(AutostartLoginItemTest, RefusesWhereAFolderStandsInItsPlace) {
     EXPECT_TRUE(QFileInfo(userFile + u"/full"_s).isDir());
 }
 
-TEST_F(AutostartLoginItemTest, RefusesWhereItsFolderCannotBe) {
+TEST_F(AutostartLoginItemTest, FailsWhenItsFolderCannotBeCreated) {
     write(folder.filePath(u"user"_s), "a file");
     EXPECT_FALSE(item.setEnabled(true));
     EXPECT_TRUE(item.setEnabled(false));
@@ -173,7 +173,7 @@ TEST_F(AutostartLoginItemTest, RefusesWhereItsFolderCannotBe) {
     EXPECT_FALSE(nowhere.isEnabled());
 }
 
-TEST_F(AutostartLoginItemTest, ReplacesALinkThatLeadsNowhere) {
+TEST_F(AutostartLoginItemTest, ReplacesABrokenLink) {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(userFile).path()));
     ASSERT_TRUE(QFile::link(u"/nonexistent/orvelle.desktop"_s, userFile));
     write(systemFile, autostartText(program));
@@ -187,7 +187,7 @@ TEST_F(AutostartLoginItemTest, ReplacesALinkThatLeadsNowhere) {
     EXPECT_FALSE(item.isEnabled());
 }
 
-TEST_F(AutostartLoginItemTest, IsOffWhereTheFileIsNoEntry) {
+TEST_F(AutostartLoginItemTest, IsOffWhenTheFileIsNoDesktopEntry) {
     write(userFile, "\xFF\xFE nonsense");
     EXPECT_FALSE(item.isEnabled());
     ASSERT_TRUE(QFile::resize(userFile, 100 << 20));

@@ -142,7 +142,7 @@ TEST_F(BarAccessibilityTest, AnItemIsExpandedWhileItsPopoverIsShown) {
     EXPECT_EQ(Announcements::names(QAccessible::StateChanged), QStringList{QStringLiteral("Memory")});
 }
 
-TEST_F(BarAccessibilityTest, AnInterfaceOutlivesItsItemOnlyToSayThatItIsGone) {
+TEST_F(BarAccessibilityTest, AnInterfaceIsInvalidOnceItsItemIsGone) {
     BarItem& item = addCPU();
     addMemory();
     QAccessibleInterface* kept = toolBar()->child(0);
@@ -161,7 +161,7 @@ TEST_F(BarAccessibilityTest, AnInterfaceOutlivesItsItemOnlyToSayThatItIsGone) {
     EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
 }
 
-TEST_F(BarAccessibilityTest, AnInterfaceOutlivesTheBarOnlyToSayThatItIsGone) {
+TEST_F(BarAccessibilityTest, AnInterfaceIsInvalidOnceTheBarIsGone) {
     auto other = std::make_unique<BarWindow>();
     other->bar().addItem(QStringLiteral("cpu"), 60);
     QAccessibleInterface* kept = QAccessible::queryAccessibleInterface(other.get())->child(0);
@@ -173,7 +173,7 @@ TEST_F(BarAccessibilityTest, AnInterfaceOutlivesTheBarOnlyToSayThatItIsGone) {
 TEST_F(BarAccessibilityTest, NewValuesAreAnnouncedOnceEach) {
     BarItem& item = addCPU();
     const Announcements announcements;
-    static_cast<void>(toolBar()->child(0)); // a listener has read the bar
+    static_cast<void>(toolBar()->child(0)); // an assistive program has looked at the bar
     const auto say = [&item](const QString& text) { item.setWords(QStringLiteral("CPU"), text); };
     say(QStringLiteral("CPU 13%"));
     say(QStringLiteral("CPU 13%"));

@@ -137,7 +137,7 @@ TEST_F(BarKeyboardTest, DoesNotReturnWhenTheMouseOpenedWhatEscapeCloses) {
     EXPECT_EQ(focused(), QString());
 }
 
-TEST_F(BarKeyboardTest, StaysAtItsModuleWhenTheItemsAreMadeAnew) {
+TEST_F(BarKeyboardTest, StaysAtItsModuleWhenTheItemsAreCreatedAgain) {
     take();
     press(Qt::Key_Right);
     while (!bar.isEmpty())
@@ -149,7 +149,7 @@ TEST_F(BarKeyboardTest, StaysAtItsModuleWhenTheItemsAreMadeAnew) {
     EXPECT_EQ(clicks, QStringList{QStringLiteral("memory left")});
 }
 
-TEST_F(BarKeyboardTest, StartsAtTheFirstItemWhenTheLastOneHasGone) {
+TEST_F(BarKeyboardTest, StartsAtTheFirstItemWhenItsOwnHasGone) {
     take();
     press(Qt::Key_End);
     bar.removeItem(*bar.items().back());
@@ -177,7 +177,7 @@ TEST_F(BarKeyboardTest, SurvivesAHandlerThatRemovesEveryItem) {
     EXPECT_TRUE(bar.isEmpty());
 }
 
-TEST_F(BarKeyboardTest, TellsAssistivePrograms) {
+TEST_F(BarKeyboardTest, AnnouncesTheFocusToAssistivePrograms) {
     const Announcements announcements;
     QAccessibleInterface* toolBar = window.accessibleRoot();
     EXPECT_TRUE(toolBar->child(1)->state().focusable);

@@ -52,7 +52,7 @@ protected:
     std::vector<std::unique_ptr<BarPopover>> popovers;
 };
 
-TEST_F(BarPopoverTest, OpensWhenThePresentClicksAreHandled) {
+TEST_F(BarPopoverTest, OpensAfterThePendingClicksAreHandled) {
     popovers[0]->show(*items[0]);
     EXPECT_TRUE(popovers[0]->isShown());
     EXPECT_EQ(made[0], 0);

@@ -107,7 +107,7 @@ TEST_F(BarWindowTest, ClosesTheGapOfARemovedItem) {
     EXPECT_EQ(left.bounds().right(), 400 - barRightMarginPoints);
 }
 
-TEST_F(BarWindowTest, TellsWhenTheFirstItemComesAndTheLastGoes) {
+TEST_F(BarWindowTest, ReportsWhenTheFirstItemComesAndTheLastGoes) {
     int changes = 0;
     QObject::connect(&bar, &Bar::emptyChanged, &bar, [&changes] { ++changes; });
     const BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
@@ -128,7 +128,7 @@ TEST_F(BarWindowTest, FollowsItsWidth) {
     ASSERT_TRUE(waitUntil([&item] { return item.bounds().right() == 500 - barRightMarginPoints; }));
 }
 
-TEST_F(BarWindowTest, RepaintsOnlyTheItemThatLooksDifferent) {
+TEST_F(BarWindowTest, RepaintsOnlyTheItemThatChanged) {
     BarItem& left = bar.addItem(QStringLiteral("cpu"), 60);
     BarItem& right = bar.addItem(QStringLiteral("memory"), 70);
     fill(left, Qt::red, leftCount);
@@ -160,7 +160,7 @@ TEST_F(BarWindowTest, KeepsAPictureInsideItsItem) {
     EXPECT_EQ(colorAt(right.bounds().right() + 2), colorAt(10));
 }
 
-TEST_F(BarWindowTest, TellsItsPixelsWhileItIsOnTheScreen) {
+TEST_F(BarWindowTest, ReportsItsScaleOnlyWhileItIsOnTheScreen) {
     BarItem& item = bar.addItem(QStringLiteral("cpu"), 60);
     EXPECT_EQ(item.visiblePixelsPerPoint(), 0);
     fill(item, Qt::red, leftCount);
@@ -198,7 +198,7 @@ TEST_F(BarClickTest, ReachesAnItemAtItsEdges) {
     EXPECT_EQ(clicks.constLast().first, QStringLiteral("cpu"));
 }
 
-TEST_F(BarClickTest, IsNothingBesideTheItemsAndWithOtherButtons) {
+TEST_F(BarClickTest, IsIgnoredBesideTheItemsAndWithOtherButtons) {
     QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(10, 10));
     QTest::mouseClick(&window, Qt::MiddleButton, {}, middle(cpu));
     EXPECT_TRUE(clicks.isEmpty());

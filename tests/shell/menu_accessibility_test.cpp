@@ -106,7 +106,7 @@ TEST_F(MenuAccessibilityTest, NoInterfaceIsMadeWhileNobodyListens) {
     EXPECT_EQ(menu.accessibleEntry(0).get(), nullptr);
 }
 
-TEST_F(MenuAccessibilityTest, AnInterfaceOutlivesItsEntryOnlyToSayThatItIsGone) {
+TEST_F(MenuAccessibilityTest, AnInterfaceIsInvalidOnceItsEntryIsGone) {
     menu.show();
     QAccessibleInterface* kept = popup()->child(2);
     const QAccessible::Id id = QAccessible::uniqueId(kept);

@@ -49,7 +49,7 @@ protected:
     int closedCount = 0;
 };
 
-TEST_F(PopupWindowTest, OpensWhereItIsTold) {
+TEST_F(PopupWindowTest, OpensAtTheGivenGeometry) {
     show();
     EXPECT_TRUE(popup.isShown());
     EXPECT_EQ(window.geometry(), QRect(100, 30, 200, 100));

@@ -20,7 +20,7 @@ XSettingsBytes desktop(bool mostSignificantFirst, std::int32_t value) {
         .text("Gtk/FontName", "Cantarell 11");
 }
 
-TEST(IntegerSetting, IsFoundAmongSettingsOfEveryTypeInBothOrdersOfBytes) {
+TEST(IntegerSetting, IsFoundAmongSettingsOfEveryTypeInBothByteOrders) {
     for (const bool mostSignificantFirst : {false, true}) {
         const std::string bytes = desktop(mostSignificantFirst, 0).bytes();
         EXPECT_EQ(integerSetting(bytes, animations), 0);
@@ -29,7 +29,7 @@ TEST(IntegerSetting, IsFoundAmongSettingsOfEveryTypeInBothOrdersOfBytes) {
     }
 }
 
-TEST(IntegerSetting, HasASign) {
+TEST(IntegerSetting, CanBeNegative) {
     constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
     for (const bool mostSignificantFirst : {false, true})
         EXPECT_EQ(integerSetting(desktop(mostSignificantFirst, lowest).bytes(), animations), lowest);
@@ -48,24 +48,24 @@ TEST(IntegerSetting, IsNothingWhenItIsNoInteger) {
     EXPECT_EQ(integerSetting(XSettingsBytes().color(animations).bytes(), animations), std::nullopt);
 }
 
-TEST(IntegerSetting, IsNothingInAnUnknownOrderOfBytes) {
+TEST(IntegerSetting, IsNothingInAnUnknownByteOrder) {
     std::string bytes = desktop(false, 0).bytes();
     bytes[0] = 'l';
     EXPECT_EQ(integerSetting(bytes, animations), std::nullopt);
 }
 
-TEST(IntegerSetting, IsNotLookedForBehindATypeOfUnknownSize) {
+TEST(IntegerSetting, IsNothingBehindATypeOfUnknownSize) {
     const std::string bytes = XSettingsBytes().begin(3, "Odd").integer(animations, 0).bytes();
     EXPECT_EQ(integerSetting(bytes, animations), std::nullopt);
 }
 
-TEST(IntegerSetting, DoesNotBelieveTheCount) {
+TEST(IntegerSetting, SurvivesAWrongCount) {
     EXPECT_EQ(integerSetting(desktop(false, 0).bytes(0xFFFFFFFF), animations), 0);
     EXPECT_EQ(integerSetting(desktop(false, 0).bytes(0xFFFFFFFF), "None"), std::nullopt);
     EXPECT_EQ(integerSetting(desktop(false, 0).bytes(3), animations), std::nullopt);
 }
 
-TEST(IntegerSetting, DoesNotBelieveTheLengths) {
+TEST(IntegerSetting, IsNothingWhenALengthIsTooLarge) {
     for (const bool mostSignificantFirst : {false, true}) {
         const std::string good = desktop(mostSignificantFirst, 0).bytes();
         constexpr std::size_t nameLength = 12 + 2;
@@ -78,7 +78,7 @@ TEST(IntegerSetting, DoesNotBelieveTheLengths) {
     }
 }
 
-TEST(IntegerSetting, IsFoundOnceAllOfItIsThere) {
+TEST(IntegerSetting, IsNothingWhenTheBytesEndBeforeIt) {
     const std::string bytes =
         XSettingsBytes().text("Net/ThemeName", "Adwaita").integer(animations, 0).bytes();
     for (std::size_t size = 0; size < bytes.size(); ++size)
@@ -93,7 +93,7 @@ TEST(IntegerSetting, NeedsNoPaddingAtTheEnd) {
     EXPECT_EQ(integerSetting(bytes, "Last2"), std::nullopt);
 }
 
-TEST(TextSetting, IsFoundAmongSettingsOfEveryTypeInBothOrdersOfBytes) {
+TEST(TextSetting, IsFoundAmongSettingsOfEveryTypeInBothByteOrders) {
     for (const bool mostSignificantFirst : {false, true}) {
         const std::string bytes = desktop(mostSignificantFirst, 0).bytes();
         EXPECT_EQ(textSetting(bytes, "Net/ThemeName"), "Adwaita");
@@ -112,7 +112,7 @@ TEST(TextSetting, MayBeEmpty) {
     EXPECT_EQ(textSetting(XSettingsBytes().text("Gtk/FontName", "").bytes(), "Gtk/FontName"), "");
 }
 
-TEST(TextSetting, IsFoundOnceAllOfItIsThere) {
+TEST(TextSetting, IsNothingWhenTheBytesEndBeforeIt) {
     const std::string bytes = XSettingsBytes().text("Gtk/FontName", "Cantarell 11").bytes();
     for (std::size_t size = 0; size < bytes.size(); ++size)
         EXPECT_EQ(textSetting(std::string_view(bytes).substr(0, size), "Gtk/FontName"), std::nullopt) << size;

@@ -12,7 +12,7 @@
 
 namespace orvelle {
 
-/// What a view shows, painted with Qt.
+/// The content of a view, painted with Qt.
 class PaintedPicture {
   public:
     virtual ~PaintedPicture() = default;
@@ -20,7 +20,7 @@ class PaintedPicture {
     virtual void paint(QPainter& painter, const QRectF& bounds) = 0;
 };
 
-/// Pixels a point on the screen that the view is on; 0 while it is on none, and for null.
+/// Pixels per point of the view's screen; 0 while it is on none, and for nil.
 [[nodiscard]] CGFloat backingScale(NSView* view);
 
 struct CGImageReleaser {
@@ -29,7 +29,7 @@ struct CGImageReleaser {
 /// Owns one reference to an image of Core Graphics.
 using OwnedCGImage = std::unique_ptr<std::remove_pointer_t<CGImageRef>, CGImageReleaser>;
 
-/// The same pixels for Core Graphics; they are shared, not copied. The image is premultiplied, 32 bits a
+/// The same pixels for Core Graphics; they are shared, not copied. The image is premultiplied, 32 bits per
 /// pixel. Null when it has no pixels or the system cannot make one.
 [[nodiscard]] OwnedCGImage makeCGImage(QImage image);
 
@@ -40,7 +40,7 @@ using OwnedCGImage = std::unique_ptr<std::remove_pointer_t<CGImageRef>, CGImageR
   @private
     orvelle::PaintedPicture* m_picture;
 }
-/// The picture must live until the view is told to forget it.
+/// The picture must live until `forgetPicture` is called.
 - (instancetype)initWithPicture:(orvelle::PaintedPicture*)picture;
 /// The view shows nothing from now on.
 - (void)forgetPicture;

@@ -6,8 +6,7 @@
 
 #include <utility>
 
-/// The border to the system's objects: who owns them, in code that counts references by hand as everything in
-/// this folder does, and texts from one side to the other.
+/// Owners for the system's objects, whose references this folder counts by hand, and conversions of text.
 namespace orvelle {
 
 /// Owns one reference to an object and gives it back exactly once. `Object` is a pointer to its class, for
@@ -35,11 +34,11 @@ template <class Object> class Retained {
     explicit operator bool() const { return m_object != nil; }
 
   private:
-    id m_object = nil; // so that the class need not be known here
+    id m_object = nil; // works with a class that is only declared
 };
 
-/// Gives back at its end every object that was lent while it lived. What a timer of Qt does needs one of its
-/// own: the pool of the main loop waits for the next event of the user, which may be hours away.
+/// Releases at its end every object that was lent while it lived. Work that a timer of Qt starts needs one,
+/// because the pool of the main loop is drained at the next event of the user, which may be hours away.
 class ReleasePool {
   public:
     ReleasePool() = default;
@@ -51,10 +50,10 @@ class ReleasePool {
     NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
 };
 
-/// The text for the system, lent until the pool ends.
+/// The text as the system's type, lent until the pool ends.
 [[nodiscard]] NSString* systemText(const QString& text);
 
-/// The text of the system; null when there is none.
+/// The system's text as Qt's type; null for nil.
 [[nodiscard]] QString qtText(NSString* text);
 
 } // namespace orvelle

@@ -9,8 +9,8 @@
 
 namespace orvelle {
 
-/// The view in which Qt draws the window; the window owns it and creates it now if it has to. In a file of
-/// its own, because the tests stand in for it.
+/// The view in which Qt draws the window. The window owns it and creates it now if need be. It is defined in
+/// a file of its own, for which the tests have a substitute.
 [[nodiscard]] NSView* nativeView(QWindow& window);
 
 /// A window of Qt as the content of a window of the system.
@@ -22,11 +22,11 @@ public:
     HostedWindow(const HostedWindow&) = delete;
     HostedWindow& operator=(const HostedWindow&) = delete;
 
-    /// As large as the window wanted to be; the window fills it and grows with it.
+    /// Has the window's initial size; the window fills it and grows with it.
     [[nodiscard]] NSView* container() const { return m_container.get(); }
     /// Whether the content is drawn at all.
     void setVisible(bool isVisible) { m_window->setVisible(isVisible); }
-    /// Gives the content the keys that are pressed in the system's window.
+    /// Directs the keys that are pressed in the system's window to the content.
     void takeKeys();
 
 private:

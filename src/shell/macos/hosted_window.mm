@@ -3,7 +3,7 @@
 namespace orvelle {
 
 HostedWindow::HostedWindow(std::unique_ptr<QWindow> window) : m_window(std::move(window)) {
-    // Before the view exists: as a part of another window it gets no window of the system's own.
+    // Before the view exists, so that Qt creates no window of the system for it.
     m_window->setFlags(m_window->flags() | Qt::SubWindow);
     const NSRect frame = NSMakeRect(0, 0, m_window->width(), m_window->height());
     m_container = Retained<NSView*>([[NSView alloc] initWithFrame:frame]);

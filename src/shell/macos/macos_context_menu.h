@@ -47,7 +47,7 @@ class MacosContextMenu final : public ContextMenu, private MenuListener {
     [[nodiscard]] Retained<NSMenu*> makeMenu() const;
 
     Retained<MenuTarget*> m_target;
-    // Kept until the next one opens: the system may send the choice after the menu has closed.
+    // Kept until the next menu opens: the system may send the choice after the menu has closed.
     std::vector<MenuEntry> m_entries;
     Retained<NSMenu*> m_menu;
 };

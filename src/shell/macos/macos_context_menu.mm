@@ -34,7 +34,7 @@ void MacosContextMenu::show(const StatusItem& item, std::vector<MenuEntry> entri
         Retained<NSStatusItem*>::adding(static_cast<const MacosStatusItem&>(item).statusItem());
     m_entries = std::move(entries);
     m_menu = makeMenu();
-    // An item with a menu opens it at every click, a left one too; so it has one only for this click.
+    // An item with a menu opens it at every click, left ones too, so it has a menu only for this click.
     [statusItem.get() setMenu:m_menu.get()];
     [[statusItem.get() button] performClick:nil];
     [statusItem.get() setMenu:nil];

@@ -9,11 +9,11 @@
 namespace orvelle {
 namespace {
 
-/// Hears how the user wants things to be shown.
+/// Hears of changes to the user's options for display.
 class DisplayOptionsListener {
   public:
     virtual ~DisplayOptionsListener() = default;
-    /// Any of the options for people who see less well, or differently, may have changed.
+    /// Any of the accessibility options for display may have changed.
     virtual void displayOptionsChanged() = 0;
 };
 
@@ -25,7 +25,7 @@ class DisplayOptionsListener {
   @private
     orvelle::DisplayOptionsListener* m_listener;
 }
-/// The listener must live until the observer is told to stop.
+/// The listener must live until `stop` is called.
 - (instancetype)initWithListener:(orvelle::DisplayOptionsListener*)listener;
 - (void)start;
 - (void)stop;

@@ -27,7 +27,7 @@ class ReopenListener {
   @private
     orvelle::ReopenListener* m_listener;
 }
-/// The listener must live until the observer is told to stop.
+/// The listener must live until `stop` is called.
 - (instancetype)initWithListener:(orvelle::ReopenListener*)listener;
 - (void)start;
 - (void)stop;
@@ -65,8 +65,8 @@ class ReopenListener {
 namespace orvelle {
 namespace {
 
-/// Told by the system of later starts: it does not start a program a second time from the Finder or the Dock,
-/// but sends the running one an event.
+/// Hears of later starts from the system, which does not start a program a second time from the Finder or the
+/// Dock but sends the running one an event.
 class LaunchedInstance final : public SingleInstance, private ReopenListener {
   public:
     LaunchedInstance() : m_observer([[ReopenObserver alloc] initWithListener:this]) {
@@ -89,8 +89,8 @@ class LaunchedInstance final : public SingleInstance, private ReopenListener {
     Retained<ReopenObserver*> m_observer;
 };
 
-/// Another process of this program; null when there is none. A program outside a bundle has no name by which
-/// the system could find it.
+/// Another process of this program; null when there is none. The system cannot find a program outside a
+/// bundle, which has no identifier.
 NSRunningApplication* otherInstance() {
     NSString* const identifier = [[NSBundle mainBundle] bundleIdentifier];
     if (identifier == nil)
@@ -105,11 +105,11 @@ NSRunningApplication* otherInstance() {
     return nil;
 }
 
-/// Null before macOS 13, which has no such service. Asked for by name, so that the program starts there.
+/// Null before macOS 13. The class is looked up by name, so that the program starts there too.
 SMAppService* mainAppService() { return [NSClassFromString(@"SMAppService") mainAppService]; }
 
-/// The program's own entry among the login items in the system's settings. The user may forbid it there, and
-/// then it stays off.
+/// The program's entry among the login items in the system's settings. When the user forbids it there it
+/// stays off.
 class MacosLoginItem final : public LoginItem {
   public:
     [[nodiscard]] bool isEnabled() const override {
@@ -123,7 +123,7 @@ class MacosLoginItem final : public LoginItem {
         SMAppService* const service = mainAppService();
         if (service == nil)
             return false;
-        // Both fail where nothing is to be done; what counts is how it stands afterwards.
+        // Both fail when there is nothing to do; the status afterwards decides.
         if (enabled)
             static_cast<void>([service registerAndReturnError:nullptr]);
         else
@@ -142,8 +142,7 @@ std::unique_ptr<SingleInstance> becomeSingleInstance() {
     NSRunningApplication* const other = otherInstance();
     if (other == nil)
         return std::make_unique<LaunchedInstance>();
-    // Started as a bare file, past the system, which now tells the other one as if it had been asked to
-    // start.
+    // This process was started as a bare file. Opening the bundle makes the system notify the other one.
     NSURL* const bundle = [other bundleURL];
     if (bundle != nil)
         static_cast<void>([[NSWorkspace sharedWorkspace] openURL:bundle]);

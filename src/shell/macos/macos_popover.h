@@ -40,14 +40,14 @@ class MacosPopover final : public Popover, private PopoverListener {
     MacosPopover(const MacosPopover&) = delete;
     MacosPopover& operator=(const MacosPopover&) = delete;
 
-    /// True also while the click is handled whose press has just closed the popover: it closes by itself when
-    /// the mouse goes down anywhere, and the click comes when it goes up.
+    /// True also during the click whose press has just closed the popover: it closes when a button is pressed
+    /// anywhere, and the click follows when the button is released.
     [[nodiscard]] bool isShown() const override;
     void show(const StatusItem& item) override;
     void close() override;
 
   private:
-    /// Not by a press on the item that it stands under.
+    /// False for a press on its own item.
     [[nodiscard]] bool mayClose() const override;
     void willClose() override;
     void didClose() override;
@@ -57,7 +57,7 @@ class MacosPopover final : public Popover, private PopoverListener {
     std::optional<HostedWindow> m_content; ///< nothing before the first showing
     Retained<PopoverObserver*> m_observer;
     Retained<NSPopover*> m_popover;
-    Retained<NSView*> m_anchor; ///< what it was shown under last
+    Retained<NSView*> m_anchor; ///< the view that it was last shown under
     bool m_isAskedToClose = false;
     std::optional<NSTimeInterval> m_closedByItself; ///< when, by the clock of the system's uptime
 };

@@ -11,7 +11,7 @@ constexpr CGFloat height = 500;
 /// The system rounds its popovers itself.
 constexpr double contentCornerRadius = 0;
 
-/// Between the press and the release of a click there is less than this.
+/// The longest time between the press and the release of a click.
 constexpr NSTimeInterval clickSeconds = 0.3;
 
 NSTimeInterval uptime() { return [[NSProcessInfo processInfo] systemUptime]; }
@@ -30,7 +30,7 @@ MacosPopover::MacosPopover(PopoverContent makeContent)
 
 MacosPopover::~MacosPopover() {
     const ReleasePool pool;
-    // It may fade out for a while yet, and must not tell this object of it.
+    // It may go on fading out and must not call this object then.
     [m_popover.get() setDelegate:nil];
     [m_popover.get() close];
 }
@@ -88,7 +88,7 @@ void MacosPopover::willClose() {
 
 void MacosPopover::didClose() {
     if (m_content)
-        m_content->setVisible(false); // what nobody sees is not drawn
+        m_content->setVisible(false); // a hidden content is not drawn
 }
 
 } // namespace orvelle

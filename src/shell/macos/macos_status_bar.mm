@@ -34,14 +34,14 @@ class ClickListener {
 namespace orvelle {
 namespace {
 
-/// The program's part of the system's menu bar.
+/// The program's items in the system's menu bar.
 class MacosStatusBar final : public StatusBar, private ClickListener {
   public:
     MacosStatusBar();
     ~MacosStatusBar() override;
 
-    /// Asks the system for one item more. Where it stands among the others is for the system, and for the
-    /// user, who may move it.
+    /// Asks the system for another item. The system chooses its place among the others, and the user may move
+    /// it.
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override;
     void removeItem(StatusItem& item) override;
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;

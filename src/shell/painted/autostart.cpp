@@ -164,7 +164,7 @@ QString entryIn(const QString& folder) {
     return folder + QStringLiteral("/orvelle.desktop");
 }
 
-/// Whether something stands there, be it a link that leads nowhere.
+/// Whether the path exists, even as a broken link.
 bool isPresent(const QString& path) {
     const QFileInfo file(path);
     return file.exists() || file.isSymLink();
@@ -172,7 +172,7 @@ bool isPresent(const QString& path) {
 
 std::optional<AutostartEntry> readEntry(const QString& path) {
     const QFileInfo info(path);
-    if (!info.isFile() || info.size() > maximumSize) // opening a pipe could wait for ever
+    if (!info.isFile() || info.size() > maximumSize) // opening a pipe could block
         return std::nullopt;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -258,7 +258,7 @@ bool AutostartLoginItem::isEnabledForAll() const {
 
 bool AutostartLoginItem::writeUserFile(const QByteArray& text) const {
     const QFileInfo present(userFile());
-    if (present.isSymLink() && !present.exists()) // would be followed to where nothing can be written
+    if (present.isSymLink() && !present.exists()) // writing would follow the broken link
         QFile::remove(userFile());
     if (!QDir().mkpath(m_places.userFolder))
         return false;

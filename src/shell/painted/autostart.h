@@ -36,14 +36,14 @@ struct AutostartEntry {
 /// argument and as a text.
 [[nodiscard]] QString execArgument(const QString& programPath);
 
-/// The first argument of an `Exec` value, whose escapes as a text are resolved; empty when there is none or
+/// The first argument of an `Exec` value whose text escapes have been resolved; empty when there is none or
 /// its quotes are not closed.
 [[nodiscard]] QString execProgram(const QString& exec);
 
 /// Whether a desktop with these names (`$XDG_CURRENT_DESKTOP`) would start the entry, its program aside.
 [[nodiscard]] bool isStartedBy(const AutostartEntry& entry, const QStringList& desktopNames);
 
-/// Where the autostart entries of a desktop are, and what is started.
+/// The folders of a desktop's autostart entries, and the program to start.
 struct AutostartPlaces {
     QString userFolder;        ///< `$XDG_CONFIG_HOME/autostart`
     QStringList systemFolders; ///< `autostart` in each of `$XDG_CONFIG_DIRS`, the most important first
@@ -54,8 +54,8 @@ struct AutostartPlaces {
     [[nodiscard]] static AutostartPlaces present();
 };
 
-/// The entry `orvelle.desktop` of the XDG autostart folders. The user's own entry stands for all others of
-/// that name.
+/// The entry `orvelle.desktop` of the XDG autostart folders. The user's own entry replaces the others of that
+/// name.
 class AutostartLoginItem final : public LoginItem {
 public:
     explicit AutostartLoginItem(AutostartPlaces places);
@@ -66,7 +66,7 @@ public:
 
 private:
     [[nodiscard]] QString userFile() const;
-    /// The file that counts; empty when there is none.
+    /// The path of the entry that counts; empty when there is none.
     [[nodiscard]] QString effectiveFile() const;
     [[nodiscard]] bool isEnabledForAll() const;
     [[nodiscard]] bool writeUserFile(const QByteArray& text) const;

@@ -26,7 +26,7 @@ std::optional<ClickButton> clickButton(Qt::MouseButton button) {
 
 QList<QRectF> itemBounds(const QList<double>& lengths, double barWidth, double pixelsPerPoint) {
     const auto pixels = [pixelsPerPoint](double points) { return std::round(points * pixelsPerPoint); };
-    // Each length is rounded by itself: were the edges, an item would change its width with its place.
+    // The lengths are rounded, not the edges, or the width of an item would depend on its place.
     double left = pixels(barWidth - barRightMarginPoints);
     for (const double length : lengths)
         left -= pixels(length);

@@ -53,8 +53,8 @@ void BarItem::repaint() {
 void BarItem::setWords(const QString& name, const QString& text) {
     m_accessibleName = name;
     m_accessibleText = text;
-    if (PaintedPart* part = m_accessible.get())
-        part->announceDescription();
+    if (PaintedElement* element = m_accessible.get())
+        element->announceDescription();
 }
 
 double BarItem::visiblePixelsPerPoint() const {
@@ -83,8 +83,8 @@ void BarItem::setExpanded(bool expanded) {
         return;
     QAccessible::State changed;
     changed.expanded = true;
-    if (PaintedPart* part = m_accessible.get())
-        part->announceState(changed);
+    if (PaintedElement* element = m_accessible.get())
+        element->announceState(changed);
 }
 
 void BarItem::paint(QPainter& painter, bool isFocused) const {

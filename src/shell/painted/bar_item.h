@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const QString& accessibleName() const { return m_accessibleName; }
     [[nodiscard]] const QString& accessibleText() const { return m_accessibleText; }
     /// What assistive programs see of the item.
-    [[nodiscard]] PaintedPartHolder& accessible() { return m_accessible; }
+    [[nodiscard]] PaintedElementHolder& accessible() { return m_accessible; }
 
     /// Does what a click with this button does, which may remove the item.
     void click(ClickButton button) const;
@@ -38,7 +38,7 @@ public:
     [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
     void setExpanded(bool expanded);
 
-    /// Where the item stands in the bar, in points. The bar assigns it.
+    /// The item's rectangle in the bar, in points. The bar assigns it.
     [[nodiscard]] const QRectF& bounds() const { return m_bounds; }
     void setBounds(const QRectF& bounds) { m_bounds = bounds; }
 
@@ -56,7 +56,7 @@ private:
     QRectF m_bounds;
     bool m_isHighlighted = false;
     bool m_isExpanded = false;
-    PaintedPartHolder m_accessible;
+    PaintedElementHolder m_accessible;
 };
 
 } // namespace orvelle

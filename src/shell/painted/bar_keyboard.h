@@ -17,22 +17,21 @@ namespace orvelle {
 /// Shift+F10 the menu. Nothing for other keys.
 [[nodiscard]] std::optional<ClickButton> clickOfKey(const QKeyEvent& event);
 
-/// Lets keys do with the items of a bar what the mouse does. How the bar gets the keyboard is for the desktop
-/// to know. Main thread only.
+/// Lets keys choose and click the items of a bar. The desktop decides how the bar gets the keyboard. Main
+/// thread only.
 class BarKeyboard {
 public:
     explicit BarKeyboard(Bar& bar)
         : m_bar(bar) {}
 
-    /// Shows the item where the keyboard was last, or else the first one. The bar must have items.
+    /// Marks the item where the keyboard was last, or else the first one. The bar must have items.
     void showFocus();
     void hideFocus() { m_bar.setFocusedItem({}); }
 
-    /// Moves to an item or clicks it, which may remove items. Returns whether the key means anything here.
+    /// Moves to an item or clicks it, which may remove items. Returns whether the key was used.
     [[nodiscard]] bool handleKey(const QKeyEvent& event);
 
-    /// Whether a key clicked an item since this was last asked or forgotten, so that what is open now was
-    /// opened by a key.
+    /// Whether a key has clicked an item since the last call of this function or of the next one.
     [[nodiscard]] bool takeClick() { return std::exchange(m_hasClicked, false); }
     void forgetClick() { m_hasClicked = false; }
 

@@ -14,12 +14,12 @@ namespace orvelle {
 
 class BarPopover;
 
-/// The popovers of one bar whose windows are kept, the one that opened last at the end. Only a few are: each
-/// costs 2 MB, and opens again in a quarter of the time that it takes to make it.
+/// The popovers of one bar that keep their windows while they are closed, in the order in which they last
+/// opened. Only a few do: a window costs 2 MB, and opens again in a quarter of the time that making it takes.
 using KeptPopovers = std::vector<BarPopover*>;
 
-/// The popover of an item in the program's own bar. It opens when the clicks that have arrived are handled,
-/// so that many clicks at once end in one change.
+/// The popover of an item in the program's own bar. It opens after the pending clicks have been handled, so
+/// that several clicks at once cause one change.
 class BarPopover final : public QObject, public Popover {
     Q_OBJECT
 
@@ -37,10 +37,10 @@ public:
 private:
     void open();
     void setItem(const StatusItem* item);
-    /// The window's popup, made when there is none yet; null when it cannot be made.
+    /// The popup of the window; both are made if need be. Null when the content cannot be made.
     [[nodiscard]] Popup* popup();
     void releaseWindow();
-    /// Keeps the window of this popover at the expense of the one that has been closed for the longest time.
+    /// Keeps the window of this popover, and releases that of the one that opened the longest time ago.
     void keepWindow();
     void logPainted();
 

@@ -7,10 +7,10 @@
 namespace orvelle {
 namespace {
 
-class ItemButton final : public PaintedPart {
+class ItemButton final : public PaintedElement {
 public:
     ItemButton(BarWindow& window, BarItem& item)
-        : PaintedPart(window)
+        : PaintedElement(window)
         , m_window(window)
         , m_item(item) {}
 
@@ -111,7 +111,7 @@ BarWindow::BarWindow()
             [this](std::size_t index) { announceItem(index, QAccessible::ObjectCreated); });
     connect(&m_bar, &Bar::itemFocused, this,
             [this](std::size_t index) { announceItem(index, QAccessible::Focus); });
-    QAccessible::installFactory(makeToolBar); // once, however often it is called
+    QAccessible::installFactory(makeToolBar); // a second call has no effect
 }
 
 QAccessibleInterface* BarWindow::accessibleRoot() const {
@@ -144,7 +144,7 @@ void BarWindow::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void BarWindow::paintEvent(QPaintEvent* /*event*/) {
-    // The event's region is in local coordinates on some platforms only, so everything is painted.
+    // Only some platforms give the event's region in local coordinates, so everything is painted.
     m_pending = QRegion();
     repaint(QRect(QPoint(0, 0), size()));
 }

@@ -7,9 +7,9 @@
 
 namespace orvelle {
 
-/// The bar as a window of Qt. Where it stands is for the desktop to decide. Assistive programs see a tool bar
-/// with a button for each item, named after its module and described by the item's values in words; to press
-/// it is a left click, to show its menu a right one.
+/// The bar as a window of Qt; the desktop decides its place. Assistive programs see a tool bar with a button
+/// for each item, named after its module and described by its values in words. Pressing the button is a left
+/// click, showing its menu a right one.
 ///
 /// What changes is painted in the same turn of the event loop, which costs one wake-up of the process for
 /// each new sample. Qt's update requests would add a second one, because they wait for 5 ms.
@@ -35,7 +35,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    /// Has the rectangle, in points, painted when the present event has been handled.
+    /// Paints the rectangle, in points, after the current event has been handled.
     void repaintSoon(const QRect& rectangle);
     void repaintPending();
     void repaint(const QRegion& region);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double fontSize = 13;
 constexpr int textInset = 10;
-constexpr int keysGap = 32; ///< at least this much between a title and its keys
+constexpr int keysGap = 32; ///< the smallest distance between a title and its keys
 constexpr double plateRadius = 5;
 constexpr QColor background(40, 40, 43);
 constexpr QColor border(255, 255, 255, 40);
@@ -39,12 +39,12 @@ void paintBackground(QPainter& painter, const QSize& size, double pixelsPerPoint
                             radius, radius);
 }
 
-// What assistive programs see.
+// Accessibility.
 
-class MenuLine final : public PaintedPart {
+class MenuLine final : public PaintedElement {
 public:
     MenuLine(MenuWindow& menu, std::size_t index)
-        : PaintedPart(menu)
+        : PaintedElement(menu)
         , m_menu(menu)
         , m_index(index) {}
 
@@ -92,7 +92,7 @@ public:
         return action == pressAction() && !keys.isEmpty() ? QStringList{keys} : QStringList();
     }
 
-    /// A menu that is not shown keeps its entries, but nobody can choose one.
+    /// A menu that is not shown keeps its entries, but they cannot be chosen.
     void doAction(const QString& action) override {
         if (actionNames().contains(action) && m_menu.isVisible())
             Q_EMIT m_menu.chosen(m_index);
@@ -101,7 +101,7 @@ public:
 private:
     [[nodiscard]] const MenuEntry& entry() const { return m_menu.entries()[m_index]; }
 
-    MenuWindow& m_menu; // it has another entry there, or is gone, when the interface is not valid
+    MenuWindow& m_menu; // an invalid interface must not use it: the menu or the entry may be gone
     std::size_t m_index;
 };
 
@@ -180,14 +180,14 @@ MenuWindow::MenuWindow() {
     QSurfaceFormat translucent = requestedFormat();
     translucent.setAlphaBufferSize(8);
     setFormat(translucent);
-    QAccessible::installFactory(makePopupMenu); // once, however often it is called
+    QAccessible::installFactory(makePopupMenu); // a second call has no effect
 }
 
 void MenuWindow::setEntries(std::vector<MenuEntry> entries) {
     setCurrent(std::nullopt);
     m_accessibleEntries.clear(); // while the old entries are still there to be announced
     m_entries = std::move(entries);
-    m_accessibleEntries = std::vector<PaintedPartHolder>(m_entries.size());
+    m_accessibleEntries = std::vector<PaintedElementHolder>(m_entries.size());
     update();
 }
 

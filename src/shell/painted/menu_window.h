@@ -12,7 +12,7 @@
 /// The menu on desktops on which the program paints it. All lengths are in points.
 namespace orvelle {
 
-// Its layout and its keys, without a window.
+// Layout and keys.
 
 inline constexpr int menuPaddingPoints = 5;
 inline constexpr int menuRowPoints = 24;
@@ -23,17 +23,16 @@ inline constexpr int menuSeparatorPoints = 11;
 /// The entries' rows from top to bottom in a menu of that width.
 [[nodiscard]] QList<QRect> menuRows(const std::vector<MenuEntry>& entries, int width);
 
-/// The entry that the arrow keys go to: the next one in direction `step`, +1 or -1, that is no separator,
-/// round the ends. Without a current one it is the first or the last. Nothing when there is none to choose.
+/// The entry that an arrow key moves to: the next one in direction `step`, +1 or -1, that is no separator,
+/// round the ends. Without a current one it is the first or the last. Nothing when there are only separators.
 [[nodiscard]] std::optional<std::size_t> nextEntry(const std::vector<MenuEntry>& entries,
                                                    std::optional<std::size_t> current, int step);
 
 /// The keys that choose the entry; empty when it has no key equivalent.
 [[nodiscard]] QKeySequence menuKeys(const MenuEntry& entry);
 
-/// A menu's picture, and what the mouse and the keys choose in it. Where it stands and when it closes is the
-/// work of a `Popup`. Assistive programs see a menu with an item for each entry, of which the current one has
-/// the focus.
+/// Paints a menu and lets the mouse and keys choose from it. A `Popup` places and closes it. Assistive
+/// programs see a menu with an item for each entry; the current one has the focus.
 class MenuWindow : public QRasterWindow {
     Q_OBJECT
 
@@ -42,7 +41,7 @@ public:
 
     void setEntries(std::vector<MenuEntry> entries);
     [[nodiscard]] const std::vector<MenuEntry>& entries() const { return m_entries; }
-    /// The size, in points, that shows every entry whole.
+    /// The size, in points, at which every entry fits.
     [[nodiscard]] QSize wantedSize() const;
     /// The entry that Enter would choose.
     [[nodiscard]] std::optional<std::size_t> current() const { return m_current; }
@@ -50,7 +49,9 @@ public:
     [[nodiscard]] std::optional<std::size_t> entryAt(const QPointF& position) const;
 
     /// What assistive programs see of an entry.
-    [[nodiscard]] PaintedPartHolder& accessibleEntry(std::size_t index) { return m_accessibleEntries[index]; }
+    [[nodiscard]] PaintedElementHolder& accessibleEntry(std::size_t index) {
+        return m_accessibleEntries[index];
+    }
     [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
@@ -70,7 +71,7 @@ private:
     void paintRow(QPainter& painter, std::size_t index, const QRect& row) const;
 
     std::vector<MenuEntry> m_entries;
-    std::vector<PaintedPartHolder> m_accessibleEntries; ///< one for each entry
+    std::vector<PaintedElementHolder> m_accessibleEntries; ///< one for each entry
     std::optional<std::size_t> m_current;
 };
 

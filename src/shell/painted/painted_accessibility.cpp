@@ -32,7 +32,7 @@ void setAnnouncementHandler(AnnouncementHandler handler) {
     announcementHandler = handler;
 }
 
-void PaintedPart::announceDescription() {
+void PaintedElement::announceDescription() {
     if (!hasAssistiveListener())
         return;
     const QString description = text(QAccessible::Description);
@@ -40,39 +40,39 @@ void PaintedPart::announceDescription() {
         announce(*this, QAccessible::DescriptionChanged);
 }
 
-void PaintedPart::announceState(QAccessible::State changed) {
+void PaintedElement::announceState(QAccessible::State changed) {
     if (!hasAssistiveListener())
         return;
     QAccessibleStateChangeEvent event(this, changed);
     announce(event);
 }
 
-QAccessibleInterface* PaintedPart::parent() const {
+QAccessibleInterface* PaintedElement::parent() const {
     return isValid() ? QAccessible::queryAccessibleInterface(m_window) : nullptr;
 }
 
-void* PaintedPart::interface_cast(QAccessible::InterfaceType type) {
+void* PaintedElement::interface_cast(QAccessible::InterfaceType type) {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
 }
 
-PaintedPartHolder::~PaintedPartHolder() {
-    PaintedPart* part = get();
-    if (part == nullptr)
+PaintedElementHolder::~PaintedElementHolder() {
+    PaintedElement* element = get();
+    if (element == nullptr)
         return;
     if (hasAssistiveListener())
-        announce(*part, QAccessible::ObjectDestroyed);
-    part->invalidate();
+        announce(*element, QAccessible::ObjectDestroyed);
+    element->invalidate();
     QMetaObject::invokeMethod(
         qGuiApp, [id = m_id] { QAccessible::deleteAccessibleInterface(id); }, Qt::QueuedConnection);
 }
 
-PaintedPart* PaintedPartHolder::get() const {
-    return m_id == 0 ? nullptr : static_cast<PaintedPart*>(QAccessible::accessibleInterface(m_id));
+PaintedElement* PaintedElementHolder::get() const {
+    return m_id == 0 ? nullptr : static_cast<PaintedElement*>(QAccessible::accessibleInterface(m_id));
 }
 
-PaintedPart& PaintedPartHolder::hold(PaintedPart* part) {
-    m_id = QAccessible::registerAccessibleInterface(part);
-    return *part;
+PaintedElement& PaintedElementHolder::hold(PaintedElement* element) {
+    m_id = QAccessible::registerAccessibleInterface(element);
+    return *element;
 }
 
 PaintedWindow::PaintedWindow(QWindow& window)

@@ -5,35 +5,34 @@
 
 class QWindow;
 
-/// What assistive programs see of a window that is painted by hand: the window itself and the parts that are
-/// painted in it, which are no objects of their own. Nothing here exists before an assistive program asks,
-/// and nothing is announced that nobody has asked about. Main thread only.
+/// Interfaces for assistive programs of a window that is painted by hand: of the window itself and of the
+/// elements painted in it, which are no QObjects. An interface is made when an assistive program first asks
+/// for it, and only interfaces that exist announce changes. Main thread only.
 namespace orvelle {
 
 /// Whether an assistive program listens.
 [[nodiscard]] bool hasAssistiveListener();
-/// Tells assistive programs what happened to an interface. Only for when there is a listener, because Qt
-/// gives the interface a number, and keeps it, for the purpose.
+/// Announces to assistive programs what happened to an interface. Only for when there is a listener, because
+/// Qt registers the interface for the purpose and keeps it.
 void announce(QAccessibleInterface& interface, QAccessible::Event type);
 
 using AnnouncementHandler = void (*)(QAccessibleEvent&);
-/// For tests: hears all announcements in the place of assistive programs, as long as it is set.
+/// For tests: receives all announcements instead of assistive programs, as long as it is set.
 void setAnnouncementHandler(AnnouncementHandler handler);
 
-/// A part of a painted window: a leaf with actions. Once the part has gone the interface is no longer valid
-/// and answers nothing, but it lives until the present event has been handled: the program that asked may be
-/// in the middle of an action that removed the part.
-class PaintedPart : public QAccessibleInterface, public QAccessibleActionInterface {
+/// The interface of a painted element: a leaf with actions. When the element goes the interface becomes
+/// invalid and answers nothing, but it lives until the current event has been handled, because the element
+/// may go during one of the interface's own actions.
+class PaintedElement : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    explicit PaintedPart(QWindow& window)
+    explicit PaintedElement(QWindow& window)
         : m_window(&window) {}
 
     [[nodiscard]] bool isValid() const final { return m_window != nullptr; }
-    /// The part has gone.
+    /// The element has gone.
     void invalidate() { m_window = nullptr; }
 
-    /// Announces what `text(QAccessible::Description)` says by now, if it says something else than when it
-    /// was last announced.
+    /// Announces `text(QAccessible::Description)` if it differs from the last announcement.
     void announceDescription();
     void announceState(QAccessible::State changed);
 
@@ -53,27 +52,27 @@ private:
     QString m_announcedDescription;
 };
 
-/// Belongs to a part and holds its interface from the first time that it is asked for until the part goes.
-class PaintedPartHolder {
+/// Owns the interface of an element, from the first request for it until the element goes.
+class PaintedElementHolder {
 public:
-    PaintedPartHolder() = default;
-    ~PaintedPartHolder();
-    PaintedPartHolder(const PaintedPartHolder&) = delete;
-    PaintedPartHolder& operator=(const PaintedPartHolder&) = delete;
+    PaintedElementHolder() = default;
+    ~PaintedElementHolder();
+    PaintedElementHolder(const PaintedElementHolder&) = delete;
+    PaintedElementHolder& operator=(const PaintedElementHolder&) = delete;
 
-    /// Null when nobody has asked for the interface yet.
-    [[nodiscard]] PaintedPart* get() const;
+    /// Null before the first request.
+    [[nodiscard]] PaintedElement* get() const;
 
     /// The interface, made by `make`, which returns a new one, when there is none yet.
     template <class Make>
-    [[nodiscard]] PaintedPart& getOrMake(Make make) {
-        if (PaintedPart* present = get())
+    [[nodiscard]] PaintedElement& getOrMake(Make make) {
+        if (PaintedElement* present = get())
             return *present;
         return hold(make());
     }
 
 private:
-    PaintedPart& hold(PaintedPart* part);
+    PaintedElement& hold(PaintedElement* element);
 
     QAccessible::Id m_id = 0; ///< Qt owns the interface under this number; 0 for none
 };

@@ -86,7 +86,7 @@ bool PaintedSettingsWindow::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-/// Before it is shown: where it stood the last time, or in the middle of the first screen.
+/// Before the window is shown: moves it to its last frame, or to the middle of the first screen.
 void PaintedSettingsWindow::place() {
     const StoredValues stored = m_storage->read({frameKey()}).value_or(StoredValues());
     const std::optional<QRect> frame = parseFrame(stored.value(frameKey()).toString());
@@ -101,7 +101,7 @@ void PaintedSettingsWindow::place() {
 }
 
 void PaintedSettingsWindow::remember() {
-    // A window that is minimized, or as large as the screen, does not stand where the user put it.
+    // A window that is minimized or maximized is not where the user put it.
     if (!m_content->isVisible() || m_content->windowStates() != Qt::WindowNoState)
         return;
     const QRect frame(m_content->framePosition(), m_content->size());

@@ -13,14 +13,13 @@
 
 namespace orvelle {
 
-/// A window of its own under the desktop's window manager, which gives it its title bar. Where it stood is
-/// kept in `storage` under the key `OrvelleSettings`, also when the program ends unexpectedly.
+/// A window to which the window manager gives the title bar. Its frame is kept in `storage` under the key
+/// `OrvelleSettings`, also when the program ends unexpectedly.
 class PaintedSettingsWindow final : public QObject, public SettingsWindow {
     Q_OBJECT
 
 public:
-    /// `bringToUser` brings the window, which is shown, to the one of the window manager's desktops that the
-    /// user is on.
+    /// `bringToUser` moves the window, while it is shown, to the virtual desktop that the user is on.
     PaintedSettingsWindow(std::unique_ptr<QWindow> content, std::unique_ptr<SettingsStorage> storage,
                           std::function<void(QWindow&)> bringToUser);
     ~PaintedSettingsWindow() override;

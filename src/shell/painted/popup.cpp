@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::chrono::milliseconds fadeStepTime{16};
 
-/// The left edge nearest to `wanted` at which `width` points stay on the screen; its margin where they are
-/// too many.
+/// The left edge nearest to `wanted` at which `width` points stay on the screen; the screen's left margin
+/// when they do not fit.
 int keptOnScreen(double wanted, int width, const QRect& screen) {
     const int first = screen.left() + screenMarginPoints;
     const int last = screen.left() + screen.width() - screenMarginPoints - width;

@@ -13,13 +13,13 @@
 class QScreen;
 class QWindow;
 
-/// The windows that open under a status item: where they stand, how they appear, and what a desktop makes of
-/// them. All lengths are in points.
+/// The windows that open under a status item: their geometry, their fades, and how they open and close. All
+/// lengths are in points.
 namespace orvelle {
 
 // Geometry. The rectangles of item, screen and result share one origin.
 
-/// Of the rounded corners of a menu and a popover.
+/// The radius of the rounded corners of menus and popovers.
 inline constexpr int popupCornerRadiusPoints = 10;
 
 /// Kept free between a window that opens under an item and the edges of the screen.
@@ -36,8 +36,8 @@ inline constexpr int screenMarginPoints = 4;
 /// A rectangle of that size at the origin with rounded corners, made of whole points.
 [[nodiscard]] QRegion roundedRegion(const QSize& size, int radius);
 
-/// Lets a window appear and disappear softly, by its opacity as a whole, which the desktop applies without
-/// the window being painted again. With reduced motion it does both at once.
+/// Fades a window in and out by its opacity as a whole, which the desktop applies without repainting the
+/// window. With reduced motion the window appears and disappears at once.
 class WindowFade {
 public:
     static constexpr std::chrono::milliseconds inTime{120};
@@ -46,7 +46,7 @@ public:
     /// The window must outlive the object.
     explicit WindowFade(QWindow& window, AnimationClock& clock = AnimationClock::shared());
 
-    /// Shows the window. `softly` wherever the desktop respects the opacity of windows.
+    /// Shows the window; `softly` where the desktop respects the opacity of windows.
     void show(bool softly);
     /// Hides the window, at once or when it has faded.
     void hide(bool softly);
@@ -61,9 +61,9 @@ private:
     Animation m_animation;
 };
 
-/// A window that opens over the others with the keyboard in it, and closes by itself: with Escape, when
-/// another window gets the keyboard, when a mouse button goes down outside of it, which takes nothing from
-/// what was clicked, and when the screens change. Each desktop has its own. Main thread only.
+/// Opens a window over the others with the keyboard in it, and closes it with Escape, when another window
+/// gets the keyboard, when a mouse button is pressed outside of it, and when the screens change. The press
+/// that closes it still reaches what was clicked. Each desktop has its own implementation. Main thread only.
 class Popup : public QObject {
     Q_OBJECT
 
@@ -75,8 +75,8 @@ public:
 
 Q_SIGNALS:
     void closed();
-    /// Escape is about to close the window, which still has the keyboard. A window that wants it next takes
-    /// it now, because afterwards the desktop moves it.
+    /// Escape is about to close the window, which still has the keyboard. A window that wants the keyboard
+    /// next takes it now, before the desktop gives it to another one.
     void dismissed();
     /// The first picture since the window opened is on the screen.
     void painted();

@@ -6,8 +6,8 @@
 
 namespace orvelle {
 
-/// Gives the bar the keyboard. A dock gets it from no window manager, so the bar takes it when it is told to,
-/// and hands it back with Escape. Main thread only.
+/// Gives the bar the keyboard. No window manager gives it to a dock, so the bar takes it on request, and
+/// hands it back with Escape. Main thread only.
 class BarFocus : public QObject {
     Q_OBJECT
 
@@ -17,8 +17,8 @@ public:
     /// Moves the keyboard to the item where it was last, or else to the first one. Nothing happens while no
     /// item is on the screen.
     void take();
-    /// To be called when Escape is about to close what an item opened, as long as that has the keyboard: it
-    /// returns to the item if it was a key that opened it.
+    /// To be called when Escape is about to close what an item opened: the keyboard returns to the item if a
+    /// key opened it.
     void resume();
 
 private:
@@ -31,7 +31,7 @@ private:
     BarWindow& m_window;
     BarKeyboard m_keyboard;
     InputFocus m_focus;
-    bool m_isTaken = false; ///< asked for, and not lost again
+    bool m_isTaken = false; ///< taken, and not lost since
 };
 
 } // namespace orvelle

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-/// Where the bar stands on an X11 desktop.
+/// The bar's geometry on an X11 desktop.
 ///
 /// Two units meet here. Qt speaks of points, `pixelsPerPoint` device pixels each, and gives a screen's origin
 /// in device pixels but its size in points. The X server and the window manager know device pixels only.

@@ -11,8 +11,8 @@
 namespace orvelle {
 namespace {
 
-/// Screens, docks and window managers change in bursts; this long after the first sign of one the bar moves.
-/// It also bounds the cost of a dispute with another program that moves its dock out of the way.
+/// Screens, docks and window managers change in bursts; the bar moves this long after the first change. It
+/// also bounds the cost when another program keeps moving its dock out of the way.
 constexpr std::chrono::milliseconds burstDuration{50};
 
 std::vector<QRect> pixelsOfScreensOtherThan(const QScreen& screen) {
@@ -30,7 +30,7 @@ BarPlacement::BarPlacement(QWindow& bar)
     : m_bar(bar) {
     m_timer.setSingleShot(true);
     m_timer.callOnTimeout(this, &BarPlacement::update);
-    // A window manager may be asked to close any window; a bar that still has items comes back.
+    // The user may close any window through the window manager; a bar that still has items comes back.
     connect(&m_bar, &QWindow::visibleChanged, this, [this](bool visible) {
         if (!visible && m_isShown)
             updateSoon();

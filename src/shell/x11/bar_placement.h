@@ -13,15 +13,15 @@ namespace orvelle {
 
 /// Keeps the bar where it belongs while it is shown: at the top of the primary screen, below the docks of
 /// other programs, with its space reserved. It follows changes of the screens, of the docks and of the window
-/// manager. Without a window manager, or with one that reserves no space, the bar stands in the same place.
+/// manager. Without a window manager, or with one that reserves no space, the place is the same.
 class BarPlacement : public QObject, private X11EventFilter {
     Q_OBJECT
 
 public:
     explicit BarPlacement(QWindow& bar);
 
-    /// Takes effect in the next turn of the event loop, so that a bar that is emptied and filled again at
-    /// once does not flicker.
+    /// Takes effect in the next turn of the event loop, so that a bar that is emptied and filled at once does
+    /// not flicker.
     void setShown(bool shown);
 
 private:

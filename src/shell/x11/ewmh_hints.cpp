@@ -16,7 +16,7 @@ int pixelCount(std::uint32_t value) {
     return static_cast<int>(std::min<std::uint32_t>(value, std::numeric_limits<std::uint16_t>::max()));
 }
 
-/// What is asked about a window, all at once. Each answer must be taken.
+/// The requests about one window, sent at once. Each reply must be taken.
 class DockQuestion {
 public:
     DockQuestion(xcb_ewmh_connection_t* ewmh, xcb_window_t window, xcb_window_t root)
@@ -165,7 +165,7 @@ void EwmhHints::moveToPresentDesktop(xcb_window_t window) const {
     const bool hasOwn = xcb_ewmh_get_wm_desktop_reply(m_ewmh.get(), ownCookie, &own, nullptr) != 0;
     if (!hasPresent || !hasOwn || own == present || own == allDesktops)
         return;
-    // As a pager asks: the window manager may refuse what a program wants by itself.
+    // As a request of a pager: the window manager may refuse one of an ordinary program.
     xcb_ewmh_request_change_wm_desktop(m_ewmh.get(), m_screen, window, present,
                                        XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER);
     xcb_flush(m_ewmh->connection);

@@ -8,12 +8,11 @@
 
 namespace orvelle {
 
-/// What the program tells the window manager and asks of it, by the Extended Window Manager Hints. Borrows
-/// Qt's connection to the X server. Main thread only.
+/// The conversation with the window manager by the Extended Window Manager Hints. Borrows Qt's connection to
+/// the X server. Main thread only.
 class EwmhHints {
 public:
-    /// One for the whole program; null off X11 and when the server does not answer. Needs the application
-    /// object.
+    /// The only instance; null off X11 and when the server does not answer. Needs the application object.
     [[nodiscard]] static const EwmhHints* shared();
 
     /// Declares the window a dock that is present on every desktop and in no task list. To be called while

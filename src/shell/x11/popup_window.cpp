@@ -23,7 +23,7 @@ bool desktopComposesWindows() {
 PopupWindow::PopupWindow(QWindow& window)
     : m_window(window)
     , m_fade(window) {
-    // Not a popup, whose grab would take the click that closes it away from what was clicked.
+    // Not Qt::Popup, whose grab would keep the closing click from what was clicked.
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     m_window.installEventFilter(this);
     connect(&m_window, &QWindow::activeChanged, this, &PopupWindow::activeChanged);
@@ -60,7 +60,7 @@ void PopupWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spa
 void PopupWindow::close() {
     if (!isShown())
         return;
-    m_presses.release()->deleteLater(); // it may be what asks for this
+    m_presses.release()->deleteLater(); // it may be the caller
     m_fade.hide(m_window.isVisible() && desktopComposesWindows());
     Q_EMIT closed();
 }
@@ -72,8 +72,8 @@ void PopupWindow::pressed() {
 }
 
 void PopupWindow::activeChanged() {
-    // Qt reports a lost keyboard late: it may have come back since, as when a window manager gave it first to
-    // a window that was about to close.
+    // Qt reports a lost keyboard late: it may have come back since, for example when a window manager first
+    // gave it to a window that was about to close.
     if (m_window.isActive())
         m_wasActive = true;
     else if (m_wasActive && !InputFocus::isIn(m_window.winId()))

@@ -5,14 +5,14 @@
 
 namespace orvelle {
 
-/// Makes a popup of a window. Its corners are rounded, and where the desktop composes its windows it appears
-/// and disappears softly. Main thread only.
+/// Opens a window as a popup. Its corners are rounded, and it fades in and out where the desktop composes its
+/// windows. Main thread only.
 class PopupWindow final : public Popup {
     Q_OBJECT
 
 public:
-    /// The window must outlive the object and must not have been shown. Where it is partly transparent and
-    /// the desktop composes its windows it paints its corners itself; else they are cut off.
+    /// The window must outlive the object and must not have been shown. A window with transparency paints its
+    /// corners itself where the desktop composes its windows; else they are cut off.
     explicit PopupWindow(QWindow& window);
 
     void show(QScreen& screen, const QRect& geometry, const QRectF& spared) override;

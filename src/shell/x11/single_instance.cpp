@@ -51,15 +51,15 @@ void announceAnotherStart(xcb_connection_t* connection, xcb_window_t owner, xcb_
 
 } // namespace
 
-// The server keeps who owns a selection and forgets it when that process ends, however it ends; unlike a file
-// it also tells apart the desktops of one user.
+// The server forgets the owner of a selection when that process ends in any way. Unlike a file, a selection
+// also distinguishes the desktops of one user.
 std::unique_ptr<SingleInstance> becomeSingleInstance() {
     xcb_connection_t* connection = xcbConnection();
     const xcb_atom_t instance =
         connection != nullptr ? internAtom(connection, "_ORVELLE_INSTANCE") : xcb_atom_t{XCB_ATOM_NONE};
     if (instance == XCB_ATOM_NONE)
-        return std::make_unique<SingleInstance>(); // nobody can be asked
-    // Nobody else may ask between the question and the claim.
+        return std::make_unique<SingleInstance>(); // other processes cannot be found
+    // No other process may ask between this question and the claim.
     xcb_grab_server(connection);
     const xcb_window_t owner = selectionOwner(connection, instance);
     std::unique_ptr<SingleInstance> only;

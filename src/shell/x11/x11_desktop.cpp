@@ -14,7 +14,7 @@ std::unique_ptr<Popup> makePopup(QWindow& window) {
     return std::make_unique<PopupWindow>(window);
 }
 
-/// A status bar of the program's own, since X11 desktops have none that holds items of any width.
+/// X11 desktops have no status bar for items of any width, so the program paints its own.
 class X11StatusBar final : public StatusBar {
 public:
     X11StatusBar() {

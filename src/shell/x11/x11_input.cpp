@@ -7,8 +7,8 @@
 namespace orvelle {
 namespace {
 
-/// Asks for the events in `mask`, on the root window, in place of those that were asked for before. Qt asks
-/// there too, but for the devices of another group.
+/// Selects the events in `mask` on the root window, in place of the previous selection. It does not change
+/// Qt's selection there, which is for another group of devices.
 void selectEvents(xcb_connection_t* connection, std::uint32_t mask) {
     struct {
         xcb_input_event_mask_t head;
@@ -25,14 +25,14 @@ bool isWheel(std::uint32_t button) {
     return button >= 4 && button <= 7;
 }
 
-/// Whether the server did it. It refuses for a window that has gone or is not on the screen.
+/// Returns whether the server accepted it. It refuses a window that has gone or is not on the screen.
 bool setInputFocus(xcb_connection_t* connection, xcb_window_t window) {
     const auto cookie =
         xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
     return takeReply(xcb_request_check(connection, cookie)) == nullptr;
 }
 
-/// The window with the keyboard, or what the server says in the place of one; nothing when it does not
+/// The window with the keyboard, or a constant such as XCB_INPUT_FOCUS_NONE; nothing when the server does not
 /// answer.
 std::optional<xcb_window_t> inputFocus() {
     xcb_connection_t* connection = xcbConnection();

@@ -15,7 +15,7 @@ constexpr std::uint32_t colorType = 2;
 constexpr std::size_t colorSize = 8;
 constexpr std::size_t serialSize = 4;
 
-/// Takes pieces from the front of the bytes; nothing when there are too few.
+/// Takes values from the front of the bytes; nothing when there are too few.
 class Reader {
 public:
     explicit Reader(std::string_view bytes)
@@ -56,7 +56,7 @@ private:
     bool m_isMostSignificantFirst = false;
 };
 
-/// Takes the byte order and what else stands before the settings. Returns how many of them are announced.
+/// Takes the byte order and the rest of the header. Returns the number of settings that it announces.
 std::optional<std::uint32_t> takeHeader(Reader& reader) {
     const std::optional<std::uint32_t> order = reader.number(1);
     if (order != leastSignificantFirst && order != mostSignificantFirst)
@@ -67,12 +67,11 @@ std::optional<std::uint32_t> takeHeader(Reader& reader) {
     return reader.number(4);
 }
 
-/// A colour is of no use here, so that none is kept.
+/// The value of a colour is not needed.
 struct Color {};
 using Value = std::variant<Color, std::int32_t, std::string_view>;
 
-/// Takes the value of a setting. Nothing when it is not all there; a type of another protocol has an unknown
-/// size.
+/// Takes the value of a setting. Nothing when it is truncated or its type, and with it its size, is unknown.
 std::optional<Value> takeValue(Reader& reader, std::uint32_t type) {
     if (type == integerType) {
         const std::optional<std::uint32_t> number = reader.number(4);
@@ -103,7 +102,7 @@ std::optional<Value> valueOf(std::string_view property, std::string_view name) {
     return std::nullopt;
 }
 
-/// The value where it is of this type.
+/// The value, if it has this type.
 template <class Wanted>
 std::optional<Wanted> settingOf(std::string_view property, std::string_view name) {
     const std::optional<Value> value = valueOf(property, name);

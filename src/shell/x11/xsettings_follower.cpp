@@ -13,12 +13,12 @@ namespace {
 /// Published settings take some kilobytes; one word is 32 bits.
 constexpr std::uint32_t maximumSettingsWords = 65536;
 
-/// Follows what the XSETTINGS manager publishes, which is the program that owns a selection. Managers come
-/// and go: each announces itself to the root window, whose messages Qt has asked for.
+/// Follows the settings of the XSETTINGS manager, the program that owns a certain selection. Managers come
+/// and go: each announces itself to the root window, whose messages Qt has selected.
 class XSettingsFollower final : public QObject, private X11EventFilter {
 public:
-    /// `read` is given the bytes that xsettings.h reads: now, and whenever they change; none while there is
-    /// no manager.
+    /// Calls `read` with the bytes that xsettings.h parses, now and after every change; with none while there
+    /// is no manager.
     XSettingsFollower(xcb_connection_t* connection, std::function<void(std::string_view)> read)
         : m_connection(connection)
         , m_read(std::move(read))
@@ -64,15 +64,15 @@ bool XSettingsFollower::isSettingsChange(const xcb_generic_event_t& event) const
 void XSettingsFollower::findOwner() {
     m_owner = selectionOwner(m_connection, m_selection);
     if (m_owner != XCB_WINDOW_NONE) {
-        // The same events that Qt asks for when it follows the settings itself: a connection has one list of
-        // events for each window.
+        // The same events that Qt selects when it follows the settings itself: a connection has one selection
+        // for each window.
         const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-        // The window may have gone by now, which is nothing to report.
+        // The window may have gone by now; that error is ignored.
         xcb_discard_reply(
             m_connection,
             xcb_change_window_attributes_checked(m_connection, m_owner, XCB_CW_EVENT_MASK, &events).sequence);
     }
-    // After the events have been asked for, so that no change can slip through between the two.
+    // After the events have been selected, so that no change is missed between the two.
     readSettings();
 }
 

@@ -11,7 +11,7 @@ NSEvent*& currentEventPlace() {
     return event;
 }
 
-/// Who is told of something, and by which message.
+/// A receiver and the message that it wants.
 struct Handler {
     id object = nil;
     SEL selector = nullptr;

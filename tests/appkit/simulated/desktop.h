@@ -39,7 +39,7 @@ struct Script {
     std::function<void()> whileMenuIsOpen{};
 };
 
-/// What one status item looks like to the user and to the system.
+/// A status item as the user and the system see it.
 struct StatusItemState {
     double length = 0;
     bool hasMenu = false;
@@ -141,7 +141,7 @@ public:
     [[nodiscard]] bool arrives(std::string call);
     void expect(bool isTrue, const std::string& otherwise);
     void lend(const void* object, std::string className) { m_lent[object] = {std::move(className), 1, true}; }
-    /// The object belongs to the system from now on; nobody has to release it.
+    /// The object belongs to the system from now on and need not be released.
     void keep(const void* object) { m_lent[object].isCounted = false; }
     void addReference(const void* object);
     /// Whether that was the last reference.

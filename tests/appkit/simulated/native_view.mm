@@ -2,7 +2,7 @@
 
 #include <unordered_map>
 
-// Stands in for what Qt answers on macOS: a view for each window, which lives as long as the window.
+// Replaces the answer of Qt on macOS: a view for each window, which lives as long as the window.
 namespace orvelle {
 
 NSView* nativeView(QWindow& window) {

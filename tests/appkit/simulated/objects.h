@@ -36,7 +36,7 @@ struct WindowRecord {
     NSView* firstResponder = nil;
 };
 WindowRecord& recordOf(NSWindow* window);
-/// A window that the system makes, released by its caller.
+/// A window that the system makes, released by the code that asked for it.
 NSWindow* makeSystemWindow();
 void setKeyWindow(NSWindow* window);
 [[nodiscard]] NSWindow* keyWindow();
