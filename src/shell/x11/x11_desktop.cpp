@@ -5,6 +5,7 @@
 #include "shell/painted/window_frame.h"
 #include "shell/x11/bar_focus.h"
 #include "shell/x11/bar_placement.h"
+#include "shell/x11/ewmh_hints.h"
 #include "shell/x11/popup_window.h"
 
 namespace orvelle {
