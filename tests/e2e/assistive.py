@@ -50,19 +50,20 @@ def wait_until(description, condition, patience_seconds=PATIENCE_SECONDS):
 
 
 def children(accessible):
-    return [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
+    """The children that still exist when they are asked for: the bar may replace its items meanwhile."""
+    asked = [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
+    return [child for child in asked if child is not None]
 
 
 def descendants(accessible):
     for child in children(accessible):
-        if child is not None:
-            yield child
-            yield from descendants(child)
+        yield child
+        yield from descendants(child)
 
 
 def find_program():
     for program in children(Atspi.get_desktop(0)):
-        if program is not None and program.get_name() == "orvelle":
+        if program.get_name() == "orvelle":
             program.set_cache_mask(Atspi.Cache.NONE)
             return program
     return None
@@ -74,7 +75,7 @@ def has_state(accessible, state):
 
 def find_child(parent, role, name):
     for child in children(parent):
-        if child is not None and child.get_role() == role and child.get_name() == name:
+        if child.get_role() == role and child.get_name() == name:
             return child
     return None
 

@@ -10,13 +10,13 @@ def find_bar(program):
 
 
 def shown(program):
-    return next((window for window in children(program) if window is not None and
-                 window.get_name() == TITLE and has_state(window, State.VISIBLE)), None)
+    return next((window for window in children(program)
+                 if window.get_name() == TITLE and has_state(window, State.VISIBLE)), None)
 
 
 def shown_menu(program):
-    return next((child for child in children(program) if child is not None and
-                 child.get_role() == Role.POPUP_MENU and has_state(child, State.VISIBLE)), None)
+    return next((child for child in children(program)
+                 if child.get_role() == Role.POPUP_MENU and has_state(child, State.VISIBLE)), None)
 
 
 def open_by_menu(program):
