@@ -21,22 +21,26 @@ Q_LOGGING_CATEGORY(fontLog, "orvelle.fonts", QtInfoMsg)
 
 } // namespace
 
-OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart)
+OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer sinceStart)
     : m_sinceStart(sinceStart)
-    , m_application(argumentCount, arguments)
+    , m_settings(settings)
+    , m_desktop(desktop)
     , m_themes(m_settings)
     , m_monitor(makeHostSources(), m_settings)
-    , m_reducedMotion(followReducedMotion(AnimationClock::shared()))
-    , m_desktopFonts(followDesktopFonts())
-    , m_statusBar(makeStatusBar())
-    , m_launchAtLogin(m_settings, makeLoginItem())
+    , m_reducedMotion(m_desktop.followReducedMotion(AnimationClock::shared()))
+    , m_desktopFonts(m_desktop.followFonts())
+    , m_statusBar(m_desktop.makeStatusBar())
+    , m_launchAtLogin(m_settings, m_desktop.makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
-                 {*m_statusBar, &loadWindowFactory, &makeSettingsWindow, &m_launchAtLogin}) {
+                 {*m_statusBar, &loadWindowFactory,
+                  [this](std::unique_ptr<QWindow> content) {
+                      return m_desktop.makeSettingsWindow(std::move(content));
+                  },
+                  &m_launchAtLogin}) {
     // The program keeps running with an empty bar and every window closed.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(&m_terminationSignals, &TerminationSignals::received, &m_application,
-                     &QGuiApplication::quit);
-    QObject::connect(&m_application, &QGuiApplication::aboutToQuit, &m_delegate,
+    QObject::connect(&m_terminationSignals, &TerminationSignals::received, qGuiApp, &QGuiApplication::quit);
+    QObject::connect(qGuiApp, &QGuiApplication::aboutToQuit, &m_delegate,
                      &AppDelegate::applicationWillTerminate);
     leaveLoginToItsSwitch();
     logStart();
@@ -46,7 +50,7 @@ OrvelleApp::OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer since
 }
 
 int OrvelleApp::run() {
-    m_singleInstance = becomeSingleInstance();
+    m_singleInstance = m_desktop.becomeSingleInstance();
     if (m_singleInstance == nullptr) {
         std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
         return EXIT_SUCCESS;
@@ -62,8 +66,8 @@ void OrvelleApp::leaveLoginToItsSwitch() {
     const auto refuseRestart = [](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
     };
-    QObject::connect(&m_application, &QGuiApplication::commitDataRequest, &m_delegate, refuseRestart);
-    QObject::connect(&m_application, &QGuiApplication::saveStateRequest, &m_delegate, refuseRestart);
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &m_delegate, refuseRestart);
+    QObject::connect(qGuiApp, &QGuiApplication::saveStateRequest, &m_delegate, refuseRestart);
 }
 
 void OrvelleApp::logStart() {

@@ -16,9 +16,9 @@ namespace orvelle {
 /// The program: owns and connects everything that lives as long as the process.
 class OrvelleApp {
 public:
-    /// `prepareDesktop()` must have found a desktop. `sinceStart` started when the process entered main().
-    /// The arguments contain only the program's name; both must outlive the object.
-    OrvelleApp(int& argumentCount, char** arguments, QElapsedTimer sinceStart);
+    /// The application object exists. `sinceStart` started when the process entered main(). The settings and
+    /// the desktop must outlive the object.
+    OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer sinceStart);
 
     /// Runs until the program quits; returns its exit status. Returns at once, with success, if the program
     /// already runs on this desktop.
@@ -34,9 +34,9 @@ private:
     void logFonts();
 
     QElapsedTimer m_sinceStart;
-    QGuiApplication m_application;
+    SettingsStore& m_settings;
+    Desktop& m_desktop;
     TerminationSignals m_terminationSignals;
-    SettingsStore m_settings{openUserSettings()};
     ThemeManager m_themes;
     SystemMonitor m_monitor;
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop does not report it

@@ -3,14 +3,14 @@
 #include "shell/status_bar.h"
 
 #include <QLoggingCategory>
+#include <QStringList>
 
-#include <optional>
-
-/// What the program asks of its desktop. The functions at the end are defined once in the folder of each
-/// desktop; the build decides which one is linked.
+/// What the program asks of its desktop. The two functions at the end are defined once for each operating
+/// system; the build decides which are linked.
 namespace orvelle {
 
 class AnimationClock;
+class SettingsStore;
 
 /// Says when a window was asked for and when its first frame was shown. Off by default;
 /// QT_LOGGING_RULES="orvelle.open.debug=true" switches it on.
@@ -50,30 +50,48 @@ Q_SIGNALS:
     void startedAgain();
 };
 
-/// Chooses how the program talks to its desktop. Called once, before the application object exists, because
-/// the choice cannot change afterwards. Returns why no desktop can be reached, nothing when one can.
-[[nodiscard]] std::optional<QString> prepareDesktop();
+/// The desktop that the program runs on, and what only it can make. Main thread only; it outlives what it
+/// made.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
 
-/// Makes this process the only one of the program on its desktop. Null when another process is, which is then
-/// notified. Needs the application object.
-[[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance();
+    /// Makes this process the only one of the program on the desktop. Null when another process is, which is
+    /// then notified.
+    [[nodiscard]] virtual std::unique_ptr<SingleInstance> becomeSingleInstance() = 0;
 
-/// The bar of this desktop, empty and not yet shown. Needs the application object.
-[[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar();
+    /// The bar, empty and not yet shown.
+    [[nodiscard]] virtual std::unique_ptr<StatusBar> makeStatusBar() = 0;
 
-/// The settings window, not shown yet, around a content that has not been shown.
-[[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content);
+    /// The settings window, not shown yet, around a content that has not been shown.
+    [[nodiscard]] virtual std::unique_ptr<SettingsWindow>
+    makeSettingsWindow(std::unique_ptr<QWindow> content) = 0;
 
-/// Keeps the clock's motion reduced when the user asks the desktop for that, now and after every change, as
-/// long as the result lives. Null where the desktop has no such setting. Needs the application object.
-[[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock);
+    /// Keeps the clock's motion reduced when the user asks the desktop for that, now and after every change,
+    /// as long as the result lives. Null where the desktop has no such setting.
+    [[nodiscard]] virtual std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) = 0;
 
-/// Keeps the fonts of theme/fonts.h equal to those that the desktop announces, now and after every change, as
-/// long as the result lives. Null where the desktop announces no more than Qt knows. Needs the application
-/// object.
-[[nodiscard]] std::unique_ptr<QObject> followDesktopFonts();
+    /// Keeps the fonts of theme/fonts.h equal to those that the desktop announces, now and after every
+    /// change, as long as the result lives. Null where the desktop announces no more than Qt knows.
+    [[nodiscard]] virtual std::unique_ptr<QObject> followFonts() = 0;
 
-/// The login item of this program for the present user.
-[[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem();
+    /// The login item of this program for the present user.
+    [[nodiscard]] virtual std::unique_ptr<LoginItem> makeLoginItem() = 0;
+};
+
+/// A desktop that was found, or the reason why there is none.
+struct DesktopChoice {
+    /// Makes the desktop once the application object exists. Empty when none was found. The result is null,
+    /// with the reason on the program's standard error, when the desktop cannot be used after all.
+    std::function<std::unique_ptr<Desktop>(SettingsStore&)> make;
+    QString error; ///< one line for the user; empty when a desktop was found
+};
+
+/// The names that the user can choose a desktop by. The first one stands for the best that there is.
+[[nodiscard]] QStringList desktopNames();
+
+/// Looks for the desktop of that name, which is one of `desktopNames()`. Called once, before the application
+/// object exists, because it decides how that object talks to the desktop.
+[[nodiscard]] DesktopChoice chooseDesktop(const QString& name);
 
 } // namespace orvelle

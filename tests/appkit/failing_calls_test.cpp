@@ -1,4 +1,5 @@
 #include "appkit/program.h"
+#include "shell/macos/macos_desktop.h"
 
 #include <functional>
 
@@ -110,7 +111,7 @@ TEST_F(FailingCallsTest, BecomingTheSingleInstanceWhereAnotherOneRuns) {
     failEachCallOf({.perform =
                         [] {
                             desktop().script.instances = {{.processIdentifier = 499}};
-                            const bool runs = becomeSingleInstance() != nullptr;
+                            const bool runs = becomeSingleMacosInstance() != nullptr;
                             desktop().deeds.push_back(runs ? "runs" : "ends");
                             return desktop().deeds;
                         },
@@ -124,7 +125,7 @@ TEST_F(FailingCallsTest, BecomingTheSingleInstanceWhereAnotherOneRuns) {
 TEST_F(FailingCallsTest, StartingAtLogin) {
     failEachCallOf({.perform =
                         [] {
-                            const std::unique_ptr<LoginItem> login = makeLoginItem();
+                            const std::unique_ptr<LoginItem> login = makeMacosLoginItem();
                             const bool isTaken = login->setEnabled(true);
                             const bool isTakenBack = login->setEnabled(false);
                             return Deeds{isTaken ? "on" : "not on", isTakenBack ? "off" : "not off"};

@@ -1,4 +1,5 @@
 #include "appkit/program.h"
+#include "shell/macos/macos_desktop.h"
 
 namespace orvelle {
 namespace {
@@ -7,7 +8,7 @@ using namespace simulated;
 
 class LoginItemTest : public AppKitTest {
 protected:
-    std::unique_ptr<LoginItem> login = makeLoginItem();
+    std::unique_ptr<LoginItem> login = makeMacosLoginItem();
 };
 
 TEST_F(LoginItemTest, ReportsTheStateThatTheSystemKeeps) {

@@ -48,7 +48,9 @@ Program::Program()
                     context.emplace(given);
                     return std::make_unique<RecordedWindowFactory>(*this);
                 },
-                &makeSettingsWindow}) {
+                [this](std::unique_ptr<QWindow> content) {
+                    return desktop->makeSettingsWindow(std::move(content));
+                }}) {
     showAll(true);
 }
 

@@ -30,7 +30,8 @@ public:
     ThemeManager themes{settings};
     FakeMachine machine;
     SystemMonitor monitor{machine.sources(), settings};
-    std::unique_ptr<StatusBar> statusBar = makeStatusBar();
+    std::unique_ptr<Desktop> desktop = chooseDesktop(desktopNames().first()).make(settings);
+    std::unique_ptr<StatusBar> statusBar = desktop->makeStatusBar();
     /// What was made for the windows: keys of panels and "settings".
     QStringList contents;
     std::vector<QWindow*> contentWindows; ///< not those that are gone

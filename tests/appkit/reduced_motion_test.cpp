@@ -1,5 +1,6 @@
 #include "animation/animation_clock.h"
 #include "appkit/program.h"
+#include "shell/macos/macos_desktop.h"
 
 namespace orvelle {
 namespace {
@@ -13,12 +14,12 @@ protected:
 
 TEST_F(ReducedMotionTest, FollowsTheUsersChoiceFromTheStart) {
     desktop().script.reducesMotion = true;
-    const std::unique_ptr<QObject> follower = followReducedMotion(clock);
+    const std::unique_ptr<QObject> follower = followReducedMacosMotion(clock);
     EXPECT_TRUE(clock.isReduced());
 }
 
 TEST_F(ReducedMotionTest, FollowsTheUserWhileTheProgramRuns) {
-    std::unique_ptr<QObject> follower = followReducedMotion(clock);
+    std::unique_ptr<QObject> follower = followReducedMacosMotion(clock);
     EXPECT_FALSE(clock.isReduced());
     chooseReducedMotion(true);
     EXPECT_TRUE(clock.isReduced());

@@ -1,4 +1,5 @@
 #include "appkit/program.h"
+#include "shell/macos/macos_desktop.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>
@@ -11,30 +12,30 @@ using namespace simulated;
 class SingleInstanceTest : public AppKitTest {};
 
 TEST_F(SingleInstanceTest, IsHeldWhenNoOtherProcessRuns) {
-    EXPECT_NE(becomeSingleInstance(), nullptr);
+    EXPECT_NE(becomeSingleMacosInstance(), nullptr);
     EXPECT_TRUE(desktop().deeds.empty());
 }
 
 TEST_F(SingleInstanceTest, IsNotHeldByASecondProcessWhichNotifiesTheFirst) {
     desktop().script.instances = {{.processIdentifier = 499}, {.processIdentifier = 500}};
-    EXPECT_EQ(becomeSingleInstance(), nullptr);
+    EXPECT_EQ(becomeSingleMacosInstance(), nullptr);
     EXPECT_EQ(desktop().deeds, std::vector<std::string>{"open the program's bundle"});
 }
 
 TEST_F(SingleInstanceTest, IgnoresAProcessThatHasEnded) {
     desktop().script.instances = {{.processIdentifier = 499, .isTerminated = true},
                                   {.processIdentifier = 500}};
-    EXPECT_NE(becomeSingleInstance(), nullptr);
+    EXPECT_NE(becomeSingleMacosInstance(), nullptr);
 }
 
 TEST_F(SingleInstanceTest, IsAlwaysHeldOutsideABundle) {
     desktop().script.bundleIdentifier.reset();
     desktop().script.instances = {{.processIdentifier = 499}};
-    EXPECT_NE(becomeSingleInstance(), nullptr);
+    EXPECT_NE(becomeSingleMacosInstance(), nullptr);
 }
 
 TEST_F(SingleInstanceTest, ReportsLaterStartsOnceItsLoopRuns) {
-    std::unique_ptr<SingleInstance> instance = becomeSingleInstance();
+    std::unique_ptr<SingleInstance> instance = becomeSingleMacosInstance();
     ASSERT_NE(instance, nullptr);
     const QSignalSpy startedAgain(instance.get(), &SingleInstance::startedAgain);
     openProgramAgain();
@@ -48,8 +49,10 @@ TEST_F(SingleInstanceTest, ReportsLaterStartsOnceItsLoopRuns) {
     EXPECT_EQ(startedAgain.size(), 2);
 }
 
-TEST_F(SingleInstanceTest, NeedsNoPreparation) {
-    EXPECT_FALSE(prepareDesktop());
+TEST_F(SingleInstanceTest, NeedsNoSearchForADesktop) {
+    const DesktopChoice choice = chooseDesktop(desktopNames().first());
+    EXPECT_TRUE(choice.error.isEmpty());
+    EXPECT_TRUE(choice.make);
 }
 
 } // namespace

@@ -195,11 +195,15 @@ testWithoutDisplay() {
     message=$(env -u DISPLAY "$orvelle" 2>&1)
     status=$?
     expectEqual "without a display the status is" 1 "$status"
-    [[ $message == *"needs an X display"* ]] || fail "without a display the program says so, not: $message"
+    [[ $message == "Orvelle finds no desktop: "*"DISPLAY names no X display"* ]] ||
+        fail "without a display the program says what it looked for, not: $message"
     message=$(DISPLAY=:9999 "$orvelle" 2>&1)
     status=$?
     expectEqual "with an unreachable display the status is" 1 "$status"
     [[ $message == *":9999"* ]] || fail "an unreachable display is named, not: $message"
+    message=$("$orvelle" --desktop=x11 --loud 2>&1)
+    expectEqual "with an unknown option the status is" 2 $?
+    [[ $message == "orvelle: "*loud* && $message != *$'\n'* ]] || fail "one line names it, not: $message"
 }
 
 start_x_server 1280x800 && start_window_manager || exit 1

@@ -1,8 +1,6 @@
 #include "animation/animation_clock.h"
-#include "shell/desktop.h"
 #include "shell/macos/foundation.h"
-
-#include <QObject>
+#include "shell/macos/macos_desktop.h"
 
 #include <AppKit/AppKit.h>
 
@@ -87,13 +85,9 @@ class ReducedMotionFollower final : public QObject, private DisplayOptionsListen
 
 } // namespace
 
-std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) {
+std::unique_ptr<QObject> followReducedMacosMotion(AnimationClock& clock) {
     const ReleasePool pool;
     return std::make_unique<ReducedMotionFollower>(clock);
-}
-
-std::unique_ptr<QObject> followDesktopFonts() {
-    return nullptr; // the system has one font, which Qt knows
 }
 
 } // namespace orvelle

@@ -1,5 +1,5 @@
-#include "shell/desktop.h"
 #include "shell/macos/foundation.h"
+#include "shell/macos/macos_desktop.h"
 
 #include <QTimer>
 
@@ -137,7 +137,7 @@ class MacosLoginItem final : public LoginItem {
 
 } // namespace
 
-std::unique_ptr<SingleInstance> becomeSingleInstance() {
+std::unique_ptr<SingleInstance> becomeSingleMacosInstance() {
     const ReleasePool pool;
     NSRunningApplication* const other = otherInstance();
     if (other == nil)
@@ -149,6 +149,6 @@ std::unique_ptr<SingleInstance> becomeSingleInstance() {
     return nullptr;
 }
 
-std::unique_ptr<LoginItem> makeLoginItem() { return std::make_unique<MacosLoginItem>(); }
+std::unique_ptr<LoginItem> makeMacosLoginItem() { return std::make_unique<MacosLoginItem>(); }
 
 } // namespace orvelle

@@ -1,5 +1,5 @@
-#include "shell/desktop.h"
 #include "shell/macos/hosted_window.h"
+#include "shell/macos/macos_desktop.h"
 
 namespace orvelle {
 namespace {
@@ -57,7 +57,7 @@ class MacosSettingsWindow final : public SettingsWindow {
 
 } // namespace
 
-std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content) {
+std::unique_ptr<SettingsWindow> makeMacosSettingsWindow(std::unique_ptr<QWindow> content) {
     const ReleasePool pool;
     return std::make_unique<MacosSettingsWindow>(std::move(content));
 }

@@ -1,5 +1,5 @@
-#include "shell/desktop.h"
 #include "shell/macos/macos_context_menu.h"
+#include "shell/macos/macos_desktop.h"
 #include "shell/macos/macos_popover.h"
 #include "shell/macos/macos_status_item.h"
 
@@ -106,11 +106,7 @@ void MacosStatusBar::itemPainted() {
 
 } // namespace
 
-std::unique_ptr<StatusBar> makeStatusBar() { return std::make_unique<MacosStatusBar>(); }
-
-std::optional<QString> prepareDesktop() {
-    return std::nullopt; // a program is only ever started on a desktop that is there
-}
+std::unique_ptr<StatusBar> makeMacosStatusBar() { return std::make_unique<MacosStatusBar>(); }
 
 } // namespace orvelle
 

@@ -4,6 +4,7 @@ set(ORVELLE_MACOS_SHELL_SOURCES
   foundation.mm
   hosted_window.mm
   macos_context_menu.mm
+  macos_desktop.mm
   macos_display_options.mm
   macos_launch.mm
   macos_popover.mm

@@ -266,8 +266,4 @@ bool AutostartLoginItem::writeUserFile(const QByteArray& text) const {
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
 }
 
-std::unique_ptr<LoginItem> makeLoginItem() {
-    return std::make_unique<AutostartLoginItem>(AutostartPlaces::present());
-}
-
 } // namespace orvelle

@@ -1,4 +1,5 @@
-#include "shell/desktop.h"
+#include "shell/x11/single_instance.h"
+
 #include "shell/x11/x11_connection.h"
 
 namespace orvelle {
@@ -51,9 +52,7 @@ void announceAnotherStart(xcb_connection_t* connection, xcb_window_t owner, xcb_
 
 } // namespace
 
-// The server forgets the owner of a selection when that process ends in any way. Unlike a file, a selection
-// also distinguishes the desktops of one user.
-std::unique_ptr<SingleInstance> becomeSingleInstance() {
+std::unique_ptr<SingleInstance> becomeSingleX11Instance() {
     xcb_connection_t* connection = xcbConnection();
     const xcb_atom_t instance =
         connection != nullptr ? internAtom(connection, "_ORVELLE_INSTANCE") : xcb_atom_t{XCB_ATOM_NONE};

@@ -1,4 +1,6 @@
-#include "shell/desktop.h"
+#include "shell/x11/x11_desktop.h"
+
+#include "shell/painted/autostart.h"
 #include "shell/painted/bar_popups.h"
 #include "shell/painted/bar_window.h"
 #include "shell/painted/painted_settings_window.h"
@@ -7,6 +9,10 @@
 #include "shell/x11/bar_placement.h"
 #include "shell/x11/ewmh_hints.h"
 #include "shell/x11/popup_window.h"
+#include "shell/x11/single_instance.h"
+#include "shell/x11/xsettings_follower.h"
+
+#include <xcb/xcb.h>
 
 namespace orvelle {
 namespace {
@@ -46,41 +52,53 @@ private:
 
 } // namespace
 
-std::unique_ptr<StatusBar> makeStatusBar() {
-    return std::make_unique<X11StatusBar>();
-}
-
-std::unique_ptr<SettingsWindow> makeSettingsWindow(std::unique_ptr<QWindow> content) {
-    return std::make_unique<PaintedSettingsWindow>(std::move(content), openStateFile(), [](QWindow& window) {
-        if (const EwmhHints* hints = EwmhHints::shared())
-            hints->moveToPresentDesktop(static_cast<xcb_window_t>(window.winId()));
-    });
-}
-
-std::optional<QString> prepareDesktop() {
-    // A platform that was named on purpose is kept; off-screen, for one, needs no display.
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    // A session may ask all its programs for Wayland; its XWayland serves the bar.
-    const bool wantsX11 = platform.isEmpty() || platform.contains("xcb") || platform.startsWith("wayland");
-    if (!wantsX11)
-        return std::nullopt;
-    // Only X11 lets a program place a bar; Wayland sessions offer it through XWayland.
+std::optional<QString> x11Absence() {
     const QString display = qEnvironmentVariable("DISPLAY");
     if (display.isEmpty())
-        return QStringLiteral("Orvelle needs an X display, and DISPLAY names none.");
+        return QStringLiteral("DISPLAY names no X display");
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     const bool failed = xcb_connection_has_error(connection) != 0;
     xcb_disconnect(connection);
     if (failed)
-        return QStringLiteral("Orvelle cannot reach the X display \"%1\".").arg(display);
-    if (!platform.startsWith("xcb"))
+        return QStringLiteral("the X display \"%1\" cannot be reached").arg(display);
+    return std::nullopt;
+}
+
+void chooseX11() {
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
         qputenv("QT_QPA_PLATFORM", "xcb");
     // With shared pictures Qt asks the server before each repaint whether it has read the last one, which
     // wakes two threads. Few pixels change here, so sending them is cheaper: one wake-up per sample instead
     // of three.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
-    return std::nullopt;
+}
+
+std::unique_ptr<SingleInstance> X11Desktop::becomeSingleInstance() {
+    return becomeSingleX11Instance();
+}
+
+std::unique_ptr<StatusBar> X11Desktop::makeStatusBar() {
+    return std::make_unique<X11StatusBar>();
+}
+
+std::unique_ptr<SettingsWindow> X11Desktop::makeSettingsWindow(std::unique_ptr<QWindow> content) {
+    return std::make_unique<PaintedSettingsWindow>(std::move(content), openStateFile(), [](QWindow& window) {
+        if (const EwmhHints* hints = EwmhHints::shared())
+            hints->moveToPresentDesktop(static_cast<xcb_window_t>(window.winId()));
+    });
+}
+
+std::unique_ptr<QObject> X11Desktop::followReducedMotion(AnimationClock& clock) {
+    return followXSettingsMotion(clock);
+}
+
+std::unique_ptr<QObject> X11Desktop::followFonts() {
+    return followXSettingsFonts();
+}
+
+std::unique_ptr<LoginItem> X11Desktop::makeLoginItem() {
+    return std::make_unique<AutostartLoginItem>(AutostartPlaces::present());
 }
 
 } // namespace orvelle

@@ -1,9 +1,11 @@
+#include "shell/x11/xsettings_follower.h"
+
 #include "animation/animation_clock.h"
-#include "shell/desktop.h"
 #include "shell/x11/x11_connection.h"
 #include "shell/x11/xsettings.h"
 #include "theme/fonts.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -103,13 +105,13 @@ QString textOf(std::string_view settings, std::string_view name) {
 
 } // namespace
 
-std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) {
+std::unique_ptr<QObject> followXSettingsMotion(AnimationClock& clock) {
     return followXSettings([&clock](std::string_view settings) {
         clock.setReduced(integerSetting(settings, "Gtk/EnableAnimations") == 0);
     });
 }
 
-std::unique_ptr<QObject> followDesktopFonts() {
+std::unique_ptr<QObject> followXSettingsFonts() {
     return followXSettings([](std::string_view settings) {
         setDesktopFontNames({.proportional = textOf(settings, "Gtk/FontName"),
                              .monospaced = textOf(settings, "Gtk/MonospaceFontName")});

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace orvelle {
+
+/// The exit status of a program that was started with arguments that it does not know.
+inline constexpr int wrongUsageStatus = 2;
+
+/// What the user asks for when the program is started.
+struct CommandLine {
+    QString desktop; ///< `--desktop`, one of the known names
+    QString error;   ///< one line for the user when the arguments are not understood; else empty
+};
+
+/// Reads the arguments, the first of which is the program's name. `desktopNames` are the known desktops, the
+/// first of which is used when none is named. Needs no application object.
+[[nodiscard]] CommandLine parseCommandLine(const QStringList& arguments, const QStringList& desktopNames);
+
+} // namespace orvelle

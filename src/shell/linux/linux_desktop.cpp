@@ -1,0 +1,31 @@
+#include "shell/desktop.h"
+#include "shell/linux/desktop_choice.h"
+#include "shell/x11/x11_desktop.h"
+
+namespace orvelle {
+namespace {
+
+std::unique_ptr<Desktop> makeX11Desktop(SettingsStore& /*settings*/) {
+    return std::make_unique<X11Desktop>();
+}
+
+} // namespace
+
+QStringList desktopNames() {
+    return {QStringLiteral("auto"), QStringLiteral("wayland"), QStringLiteral("x11"), QStringLiteral("tray")};
+}
+
+DesktopChoice chooseDesktop(const QString& name) {
+    const auto notYet = [](const char* what) {
+        return [what] { return std::optional(QString::fromLatin1(what)); };
+    };
+    const DesktopFinding found =
+        findDesktop(name, qgetenv("QT_QPA_PLATFORM"), {notYet("wayland"), &x11Absence, notYet("tray")});
+    if (!found.kind)
+        return {{}, found.error};
+    if (found.kind == DesktopKind::x11)
+        chooseX11();
+    return {&makeX11Desktop, {}};
+}
+
+} // namespace orvelle

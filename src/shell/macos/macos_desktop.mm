@@ -1,0 +1,33 @@
+#include "shell/macos/macos_desktop.h"
+
+namespace orvelle {
+namespace {
+
+class MacosDesktop final : public Desktop {
+  public:
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override {
+        return becomeSingleMacosInstance();
+    }
+    [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override { return makeMacosStatusBar(); }
+    [[nodiscard]] std::unique_ptr<SettingsWindow>
+    makeSettingsWindow(std::unique_ptr<QWindow> content) override {
+        return makeMacosSettingsWindow(std::move(content));
+    }
+    [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) override {
+        return followReducedMacosMotion(clock);
+    }
+    /// The system has one font, which Qt knows.
+    [[nodiscard]] std::unique_ptr<QObject> followFonts() override { return nullptr; }
+    [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem() override { return makeMacosLoginItem(); }
+};
+
+} // namespace
+
+QStringList desktopNames() { return {QStringLiteral("auto")}; }
+
+/// A program is only ever started on a desktop that is there, and there is only one kind.
+DesktopChoice chooseDesktop(const QString& /*name*/) {
+    return {[](SettingsStore& /*settings*/) { return std::make_unique<MacosDesktop>(); }, {}};
+}
+
+} // namespace orvelle

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "shell/desktop.h"
+
+#include <optional>
+
+namespace orvelle {
+
+/// Why no X server can be reached by the environment; nothing when one answers. May be asked before the
+/// application object exists.
+[[nodiscard]] std::optional<QString> x11Absence();
+
+/// Has Qt, which reads the environment when the application object is made, talk to the X server.
+void chooseX11();
+
+/// A desktop with an X server, native or XWayland. Where Qt has another platform, which the user or a test
+/// chose, the bar is an ordinary window.
+class X11Desktop final : public Desktop {
+public:
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override;
+    [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override;
+    [[nodiscard]] std::unique_ptr<SettingsWindow>
+    makeSettingsWindow(std::unique_ptr<QWindow> content) override;
+    [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) override;
+    [[nodiscard]] std::unique_ptr<QObject> followFonts() override;
+    [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem() override;
+};
+
+} // namespace orvelle
