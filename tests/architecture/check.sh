@@ -39,7 +39,8 @@ room 'platform/replay/'    "$none"      'core/sources/|platform/replay/'
 room 'platform/[^/]*$'     "$none"      'core/sources/|platform/[^/]*$'
 room 'charts/'             "$gui"       "charts/|$looks"
 room 'shell/x11/'          "$gui"       "shell/([^/]*$|painted/|x11/)|$looks"
-room 'shell/linux/'        "$gui"       "shell/([^/]*$|linux/|x11/x11_desktop\.h)|$looks"
+room 'shell/wayland/'      "$gui"       "shell/([^/]*$|painted/|wayland/)|$looks"
+room 'shell/linux/'        "$gui"       "shell/([^/]*$|linux/|x11/x11_desktop\.h|wayland/wayland_[a-z]*\.h)|$looks"
 room 'shell/macos/'        "$gui"       "shell/([^/]*$|macos/)|$looks"
 room 'shell/painted/'      "$gui"       "shell/([^/]*$|painted/)|$looks"
 room 'shell/'              "$gui"       "shell/[^/]*$|$looks"

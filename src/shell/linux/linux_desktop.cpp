@@ -16,11 +16,9 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
-    const auto notYet = [](const char* what) {
-        return [what] { return std::optional(QString::fromLatin1(what)); };
-    };
+    const auto noneYet = [] { return std::optional(QStringLiteral("nothing else can be used yet")); };
     const DesktopFinding found =
-        findDesktop(name, qgetenv("QT_QPA_PLATFORM"), {notYet("wayland"), &x11Absence, notYet("tray")});
+        findDesktop(name, qgetenv("QT_QPA_PLATFORM"), {noneYet, &x11Absence, noneYet});
     if (!found.kind)
         return {{}, found.error};
     if (found.kind == DesktopKind::x11)
