@@ -52,6 +52,11 @@ QQuickItem* PanelFactory::createPanel(QQmlComponent& component) const {
     properties.insert(QStringLiteral("themeManager"), QVariant::fromValue(&m_context.themes));
     component.setInitialProperties(panel, onlyThoseOf(*panel, properties));
     component.completeCreate();
+    // A panel without a property that its view requires is created all the same, and would open half made.
+    if (component.isError()) {
+        delete panel;
+        return nullptr;
+    }
     return qobject_cast<QQuickItem*>(panel);
 }
 
