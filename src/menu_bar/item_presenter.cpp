@@ -51,7 +51,7 @@ std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from, 
 ItemPresenter::ItemPresenter(StatusItem& item, AnimationClock& clock)
     : m_item(item)
     , m_clock(clock)
-    , m_part(clock, [this](double seconds) { step(seconds); }) {
+    , m_easing(clock, [this](double seconds) { step(seconds); }) {
     m_item.setPaint(
         [this](QPainter& painter, const QRectF& bounds) { paintScene(painter, bounds, m_shown); });
 }
@@ -70,25 +70,25 @@ void ItemPresenter::show(const ItemScene& scene) {
     refresh();
 }
 
-void ItemPresenter::retarget(bool mayMove, double pixelsPerPoint) {
+void ItemPresenter::retarget(bool mayEase, double pixelsPerPoint) {
     const QList<Level> target = easingLevelsOf(m_scene.body);
     const QList<BarLook> looks = looksOf(target);
-    if (mayMove && looks == m_looks.target())
+    if (mayEase && looks == m_looks.target())
         return; // the levels are there or already move there
     const auto interval = easeInterval(easingLevelsOf(m_shown), target, pixelsPerPoint);
-    if (mayMove && interval) {
+    if (mayEase && interval) {
         m_looks.retarget(looks, miniBarSeconds, easeInOut());
-        m_part.start(*interval);
+        m_easing.start(*interval);
     } else {
         m_looks.jump(looks);
-        m_part.stop();
+        m_easing.stop();
     }
 }
 
 void ItemPresenter::step(double seconds) {
     m_looks.advance(seconds);
     if (m_looks.isSettled())
-        m_part.stop();
+        m_easing.stop();
     refresh();
 }
 

@@ -31,11 +31,9 @@ public:
     [[nodiscard]] const ItemScene& scene() const { return m_scene; }
     /// The current look of the item, which may still be easing to the newest scene.
     [[nodiscard]] const SceneNode& shown() const { return m_shown; }
-    /// Whether levels are easing.
-    [[nodiscard]] bool isMoving() const { return m_part.isRunning(); }
 
 private:
-    void retarget(bool mayMove, double pixelsPerPoint);
+    void retarget(bool mayEase, double pixelsPerPoint);
     void step(double seconds);
     void refresh();
     /// The levels of the newest scene as currently shown.
@@ -44,10 +42,10 @@ private:
     StatusItem& m_item;
     AnimationClock& m_clock;
     ItemScene m_scene; ///< the newest
-    SceneNode m_shown;
+    SceneNode m_shown; ///< what the item shows
     bool m_hasScene = false;
     Transition<QList<BarLook>> m_looks; ///< of those levels that ease
-    Animation m_part;
+    Animation m_easing;                 ///< runs while the shown levels ease
 };
 
 } // namespace orvelle
