@@ -62,6 +62,28 @@ standsUnderItem() {
         ((width >= $(pixels 320) - 1 && width <= $(pixels 320) + 1))
 }
 
+# Whether the panel becomes opaque within a second, which is before the program has more to say to the server.
+fadesInAtOnce() {
+    local panel=$1 deadline=$((${EPOCHREALTIME/[.,]/} + 1000000))
+    until [[ $(property "$panel" _NET_WM_WINDOW_OPACITY) == 4294967295 ]]; do
+        ((${EPOCHREALTIME/[.,]/} < deadline)) || return
+        sleep 0.02
+    done
+}
+
+testFades() {
+    local index opened=0 opaque=0
+    for index in "${!module_keys[@]}"; do
+        clickItem "$index"
+        waitUntil "a click opens the $(titleOf "$index") panel" panelIsShown "$(titleOf "$index")" || continue
+        opened=$((opened + 1))
+        ! fadesInAtOnce "$(panel "$(titleOf "$index")")" || opaque=$((opaque + 1))
+    done
+    clickItem "$index"
+    waitUntil "the last panel closes" noPanelIsShown
+    expectEqual "as many panels fade in within a second as open" "$opened" "$opaque"
+}
+
 testEachPanel() {
     local index title
     for index in "${!module_keys[@]}"; do
@@ -209,6 +231,7 @@ picom --backend xrender >/dev/null 2>&1 &
 compositorPid=$!
 ownedPids+=("$compositorPid")
 startOrvelle 1.5
+testFades
 testEachPanel
 testClosing
 endOrvelle

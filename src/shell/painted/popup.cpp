@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orvelle {
 namespace {
@@ -45,8 +46,9 @@ QRegion roundedRegion(const QSize& size, int radius) {
     return region;
 }
 
-WindowFade::WindowFade(QWindow& window, AnimationClock& clock)
+WindowFade::WindowFade(QWindow& window, std::function<void(double)> setOpacity, AnimationClock& clock)
     : m_window(window)
+    , m_setOpacity(std::move(setOpacity))
     , m_clock(clock)
     , m_animation(clock, [this](double seconds) { step(seconds); }) {}
 
@@ -72,12 +74,12 @@ void WindowFade::fadeTo(double opacity, std::chrono::milliseconds time) {
         m_opacity.retarget(opacity, std::chrono::duration<double>(time).count(), curve);
         m_animation.start(fadeStepTime);
     }
-    m_window.setOpacity(m_opacity.shown());
+    m_setOpacity(m_opacity.shown());
 }
 
 void WindowFade::step(double seconds) {
     m_opacity.advance(seconds);
-    m_window.setOpacity(m_opacity.shown());
+    m_setOpacity(m_opacity.shown());
     if (!m_opacity.isSettled())
         return;
     m_animation.stop();

@@ -43,8 +43,10 @@ public:
     static constexpr std::chrono::milliseconds inTime{120};
     static constexpr std::chrono::milliseconds outTime{90};
 
-    /// The window must outlive the object.
-    explicit WindowFade(QWindow& window, AnimationClock& clock = AnimationClock::shared());
+    /// `setOpacity` makes the desktop show the window with this opacity, without waiting for anything else
+    /// that the program does. The window must outlive the object.
+    WindowFade(QWindow& window, std::function<void(double)> setOpacity,
+               AnimationClock& clock = AnimationClock::shared());
 
     /// Shows the window; `softly` where the desktop respects the opacity of windows.
     void show(bool softly);
@@ -56,6 +58,7 @@ private:
     void step(double seconds);
 
     QWindow& m_window;
+    std::function<void(double)> m_setOpacity;
     AnimationClock& m_clock;
     Transition<double> m_opacity{1.0};
     Animation m_animation;

@@ -22,7 +22,7 @@ bool desktopComposesWindows() {
 
 PopupWindow::PopupWindow(QWindow& window)
     : m_window(window)
-    , m_fade(window) {
+    , m_fade(window, [this](double opacity) { setOpacity(opacity); }) {
     // Not Qt::Popup, whose grab would keep the closing click from what was clicked.
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     m_window.installEventFilter(this);
@@ -33,6 +33,14 @@ PopupWindow::PopupWindow(QWindow& window)
     });
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PopupWindow::close);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PopupWindow::close);
+}
+
+void PopupWindow::setOpacity(double opacity) {
+    m_window.setOpacity(opacity);
+    // Qt leaves the request with others that have not been sent yet. The last one of a fade would wait until
+    // the program has something else to say.
+    if (xcb_connection_t* connection = xcbConnection())
+        xcb_flush(connection);
 }
 
 bool PopupWindow::paintsItsCorners() const {

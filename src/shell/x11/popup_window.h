@@ -23,6 +23,7 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void pressed();
     void activeChanged();
+    void setOpacity(double opacity);
     [[nodiscard]] bool paintsItsCorners() const;
 
     QWindow& m_window;
