@@ -116,5 +116,32 @@ TEST(StrutFor, IsKeptWhenTwoScreensShowTheSame) {
     EXPECT_EQ(strutFor(QRect(0, 0, 1920, 22), fullHd, fullHd.size(), {fullHd}), (TopStrut{22, 0, 1919}));
 }
 
+TEST(StrutInUnits, IsInPointsWhereTheWindowManagerCountsInPoints) {
+    const TopStrut pixels{44, 0, 2559};
+    EXPECT_EQ(strutInUnitsOf(QSize(1280, 800), QSize(2560, 1600), pixels), (TopStrut{22, 0, 1279}));
+    // 1366 by 768 points at 1.25.
+    EXPECT_EQ(strutInUnitsOf(QSize(1366, 768), QSize(1708, 960), TopStrut{28, 0, 1707}),
+              (TopStrut{23, 0, 1365}));
+}
+
+TEST(StrutInUnits, CoversNoLessThanThePixels) {
+    EXPECT_EQ(strutInUnitsOf(QSize(1280, 800), QSize(1920, 1200), TopStrut{35, 961, 1000}),
+              (TopStrut{24, 640, 667}));
+}
+
+TEST(StrutInUnits, IsUnchangedWhereTheDesktopIsAsLargeAsTheRootWindow) {
+    const TopStrut pixels{44, 0, 2559};
+    EXPECT_EQ(strutInUnitsOf(QSize(2560, 1600), QSize(2560, 1600), pixels), pixels);
+    EXPECT_EQ(strutInUnitsOf(QSize(5120, 1600), QSize(2560, 1600), pixels), pixels);
+}
+
+TEST(StrutInUnits, IsUnchangedWhenTheDesktopsSizeMakesNoSense) {
+    const TopStrut pixels{44, 0, 2559};
+    for (const QSize& desktop : {QSize(0, 0), QSize(-1, -1), QSize(1280, 0), QSize(1280, 1600),
+                                 QSize(1280, 900), QSize(65535, 65535)})
+        EXPECT_EQ(strutInUnitsOf(desktop, QSize(2560, 1600), pixels), pixels) << desktop.width();
+    EXPECT_EQ(strutInUnitsOf(QSize(1280, 800), QSize(0, 0), pixels), pixels);
+}
+
 } // namespace
 } // namespace orvelle

@@ -25,6 +25,21 @@ Rows rowsOf(const TopDock& dock, const QRect& screen) {
 
 } // namespace
 
+TopStrut strutInUnitsOf(const QSize& desktop, const QSize& root, const TopStrut& strut) {
+    if (desktop.isEmpty() || desktop.width() >= root.width() || desktop.height() >= root.height())
+        return strut;
+    // Points keep the proportions, except that each length is rounded.
+    if (std::abs(desktop.width() * root.height() - desktop.height() * root.width()) >
+        root.width() + root.height())
+        return strut;
+    const double horizontal = static_cast<double>(desktop.width()) / root.width();
+    const double vertical = static_cast<double>(desktop.height()) / root.height();
+    const int endX = static_cast<int>(std::ceil((strut.endX + 1) * horizontal)) - 1;
+    return {.height = static_cast<int>(std::ceil(strut.height * vertical)),
+            .startX = static_cast<int>(std::floor(strut.startX * horizontal)),
+            .endX = std::min(endX, desktop.width() - 1)};
+}
+
 QRect screenPixels(const QRect& screenGeometry, double pixelsPerPoint) {
     return {screenGeometry.topLeft(), (QSizeF(screenGeometry.size()) * pixelsPerPoint).toSize()};
 }

@@ -21,6 +21,11 @@ struct TopStrut {
     bool operator==(const TopStrut&) const = default;
 };
 
+/// The strut in the units of a window manager whose desktop has the size `desktop`, where the root window has
+/// the size `root`, both in their own pixels. They differ where the window manager counts in points: KWin 5
+/// does when it leaves scaling to X11 programs. A desktop of several root windows makes no difference.
+[[nodiscard]] TopStrut strutInUnitsOf(const QSize& desktop, const QSize& root, const TopStrut& strut);
+
 /// A dock of another program that reserves space at the top, in pixels of the root window.
 struct TopDock {
     QRect window;

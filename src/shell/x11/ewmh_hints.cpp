@@ -16,6 +16,9 @@ int pixelCount(std::uint32_t value) {
     return static_cast<int>(std::min<std::uint32_t>(value, std::numeric_limits<std::uint16_t>::max()));
 }
 
+/// More screens or desktops than anybody has; one takes four numbers.
+constexpr std::uint32_t mostRootNumbers = 1024;
+
 /// The requests about one window, sent at once. Each reply must be taken.
 class DockQuestion {
 public:
@@ -106,10 +109,12 @@ void EwmhHints::setStrut(xcb_window_t window, const std::optional<TopStrut>& str
         xcb_delete_property(m_ewmh->connection, window, m_ewmh->_NET_WM_STRUT_PARTIAL);
         xcb_delete_property(m_ewmh->connection, window, m_ewmh->_NET_WM_STRUT);
     } else {
+        const QSize root = rootSize().value_or(QSize());
+        const TopStrut counted = strutInUnitsOf(desktopSize().value_or(root), root, *strut);
         xcb_ewmh_wm_strut_partial_t partial{};
-        partial.top = static_cast<std::uint32_t>(strut->height);
-        partial.top_start_x = static_cast<std::uint32_t>(strut->startX);
-        partial.top_end_x = static_cast<std::uint32_t>(strut->endX);
+        partial.top = static_cast<std::uint32_t>(counted.height);
+        partial.top_start_x = static_cast<std::uint32_t>(counted.startX);
+        partial.top_end_x = static_cast<std::uint32_t>(counted.endX);
         xcb_ewmh_set_wm_strut_partial(m_ewmh.get(), window, partial);
         xcb_ewmh_set_wm_strut(m_ewmh.get(), window, 0, 0, partial.top, 0);
     }
@@ -122,6 +127,22 @@ std::optional<QSize> EwmhHints::rootSize() const {
     if (!reply)
         return std::nullopt;
     return QSize(reply->width, reply->height);
+}
+
+std::vector<std::uint32_t> EwmhHints::rootNumbers(xcb_atom_t property) const {
+    xcb_connection_t* connection = m_ewmh->connection;
+    const auto reply = takeReply(xcb_get_property_reply(
+        connection, xcb_get_property(connection, 0, m_root, property, XCB_ATOM_CARDINAL, 0, mostRootNumbers),
+        nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto* numbers = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {numbers, numbers + reply->value_len};
+}
+
+std::optional<QSize> EwmhHints::desktopSize() const {
+    const std::vector<std::uint32_t> size = rootNumbers(m_ewmh->_NET_DESKTOP_GEOMETRY);
+    return size.size() == 2 ? std::optional(QSize(pixelCount(size[0]), pixelCount(size[1]))) : std::nullopt;
 }
 
 std::vector<xcb_window_t> EwmhHints::clients() const {

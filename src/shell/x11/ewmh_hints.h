@@ -20,7 +20,7 @@ public:
     /// window is hidden.
     void declareDock(xcb_window_t window) const;
 
-    /// Sets or, with nothing, removes the space that the window reserves.
+    /// Sets or, with nothing, removes the space that the window reserves, in pixels of the root window.
     void setStrut(xcb_window_t window, const std::optional<TopStrut>& strut) const;
 
     /// The size of the root window in pixels; nothing when the server does not answer.
@@ -50,6 +50,9 @@ private:
     /// Null when the server does not answer.
     [[nodiscard]] static Connection connect(xcb_connection_t* connection);
     [[nodiscard]] std::vector<xcb_window_t> clients() const;
+    /// The numbers in a property of the root window; none when it has another type.
+    [[nodiscard]] std::vector<std::uint32_t> rootNumbers(xcb_atom_t property) const;
+    [[nodiscard]] std::optional<QSize> desktopSize() const;
 
     Connection m_ewmh;
     int m_screen;
