@@ -1,10 +1,12 @@
 #include "shell/x11/ewmh_hints.h"
 
+#include "shell/x11/work_area.h"
 #include "shell/x11/x11_connection.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <string>
 
 namespace orvelle {
 namespace {
@@ -145,6 +147,34 @@ std::optional<QSize> EwmhHints::desktopSize() const {
     return size.size() == 2 ? std::optional(QSize(pixelCount(size[0]), pixelCount(size[1]))) : std::nullopt;
 }
 
+// A window manager that has ended leaves its properties behind, but not the window that this one names.
+bool EwmhHints::hasWindowManager() const {
+    const auto named = [this](xcb_window_t window) {
+        xcb_window_t manager = XCB_WINDOW_NONE;
+        const xcb_get_property_cookie_t cookie = xcb_ewmh_get_supporting_wm_check(m_ewmh.get(), window);
+        const bool isThere =
+            xcb_ewmh_get_supporting_wm_check_reply(m_ewmh.get(), cookie, &manager, nullptr) != 0;
+        return isThere ? manager : xcb_window_t{XCB_WINDOW_NONE};
+    };
+    const xcb_window_t manager = named(m_root);
+    return manager != XCB_WINDOW_NONE && named(manager) == manager;
+}
+
+std::vector<QRect> EwmhHints::workAreas() const {
+    if (!hasWindowManager())
+        return {};
+    const std::vector<std::uint32_t> current = rootNumbers(m_ewmh->_NET_CURRENT_DESKTOP);
+    const std::size_t desktop = current.size() == 1 ? current[0] : 0;
+    const xcb_atom_t ofScreens = internAtom(m_ewmh->connection, "_GTK_WORKAREAS_D" + std::to_string(desktop));
+    if (std::vector<QRect> areas = workAreasIn(rootNumbers(ofScreens)); !areas.empty())
+        return areas;
+    constexpr std::size_t numbersOfOne = 4;
+    const std::vector<std::uint32_t> ofDesktops = rootNumbers(m_ewmh->_NET_WORKAREA);
+    const bool hasThisDesktop = ofDesktops.size() / numbersOfOne > desktop;
+    const auto first = std::span(ofDesktops).subspan(hasThisDesktop ? desktop * numbersOfOne : 0);
+    return workAreasIn(first.first(std::min(first.size(), numbersOfOne)));
+}
+
 std::vector<xcb_window_t> EwmhHints::clients() const {
     xcb_ewmh_get_windows_reply_t reply{};
     const xcb_get_property_cookie_t cookie = xcb_ewmh_get_client_list(m_ewmh.get(), m_screen);
@@ -169,11 +199,17 @@ std::vector<TopDock> EwmhHints::otherTopDocks(xcb_window_t own) const {
     return docks;
 }
 
+bool EwmhHints::isManagerChange(const xcb_generic_event_t& event) const {
+    const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
+    return change != nullptr && change->window == m_root &&
+           (change->atom == m_ewmh->_NET_DESKTOP_GEOMETRY ||
+            change->atom == m_ewmh->_NET_SUPPORTING_WM_CHECK);
+}
+
 bool EwmhHints::isLayoutChange(const xcb_generic_event_t& event) const {
     const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
     return change != nullptr && change->window == m_root &&
-           (change->atom == m_ewmh->_NET_CLIENT_LIST || change->atom == m_ewmh->_NET_WORKAREA ||
-            change->atom == m_ewmh->_NET_SUPPORTING_WM_CHECK);
+           (change->atom == m_ewmh->_NET_CLIENT_LIST || change->atom == m_ewmh->_NET_WORKAREA);
 }
 
 void EwmhHints::moveToPresentDesktop(xcb_window_t window) const {

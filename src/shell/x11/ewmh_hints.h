@@ -29,8 +29,14 @@ public:
     /// The docks other than `own` that reserve space at the top, as far as a window manager lists them.
     [[nodiscard]] std::vector<TopDock> otherTopDocks(xcb_window_t own) const;
 
-    /// Whether the event says that windows came or went, that reserved space changed, or that another window
-    /// manager has taken over.
+    /// The work areas of the desktop that the user is on: of each screen where the window manager announces
+    /// them, else of all screens together. Empty without a window manager.
+    [[nodiscard]] std::vector<QRect> workAreas() const;
+
+    /// Whether the event says that another window manager has taken over, or that it counts in other units.
+    [[nodiscard]] bool isManagerChange(const xcb_generic_event_t& event) const;
+
+    /// Whether the event says that windows came or went, or that reserved space changed.
     [[nodiscard]] bool isLayoutChange(const xcb_generic_event_t& event) const;
 
     /// Asks the window manager to move a shown window to the desktop that the user is on. Nothing happens
@@ -50,6 +56,7 @@ private:
     /// Null when the server does not answer.
     [[nodiscard]] static Connection connect(xcb_connection_t* connection);
     [[nodiscard]] std::vector<xcb_window_t> clients() const;
+    [[nodiscard]] bool hasWindowManager() const;
     /// The numbers in a property of the root window; none when it has another type.
     [[nodiscard]] std::vector<std::uint32_t> rootNumbers(xcb_atom_t property) const;
     [[nodiscard]] std::optional<QSize> desktopSize() const;
