@@ -61,6 +61,7 @@ void PopupWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spa
     m_wasActive = false;
     m_presses = std::make_unique<PointerPresses>();
     connect(m_presses.get(), &PointerPresses::pressed, this, &PopupWindow::pressed);
+    m_cover = DesktopCover::makeIfNeeded();
     m_fade.show(desktopComposesWindows());
     m_window.requestActivate();
 }
@@ -69,6 +70,7 @@ void PopupWindow::close() {
     if (!isShown())
         return;
     m_presses.release()->deleteLater(); // it may be the caller
+    m_cover.reset();
     m_fade.hide(m_window.isVisible() && desktopComposesWindows());
     Q_EMIT closed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/painted/popup.h"
+#include "shell/x11/desktop_cover.h"
 #include "shell/x11/x11_input.h"
 
 namespace orvelle {
@@ -32,6 +33,7 @@ private:
     bool m_wasActive = false;
     bool m_isPainted = false;
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
+    std::unique_ptr<DesktopCover> m_cover;     ///< the same, where it is needed
 };
 
 } // namespace orvelle
