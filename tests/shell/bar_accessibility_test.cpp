@@ -51,6 +51,7 @@ TEST_F(BarAccessibilityTest, TheBarIsInvisibleWhileItIsHidden) {
     addCPU();
     EXPECT_TRUE(toolBar()->child(0)->state().invisible);
     window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_FALSE(toolBar()->state().invisible);
     EXPECT_FALSE(toolBar()->child(0)->state().invisible);
 }
@@ -188,6 +189,41 @@ TEST_F(BarAccessibilityTest, ItemsThatComeAndGoAreAnnounced) {
     EXPECT_EQ(Announcements::names(QAccessible::ObjectCreated).size(), 1);
     bar.removeItem(item);
     EXPECT_EQ(Announcements::names(QAccessible::ObjectDestroyed), QStringList{QStringLiteral("CPU")});
+}
+
+class AccessibleBarTest : public ::testing::Test {
+protected:
+    AccessibleBarTest() { bar.bar().addItem(QStringLiteral("cpu"), 60); }
+
+    BarPlace place{nullptr, QRect(100, 50, 400, barHeightPoints), 1, false};
+    AccessibleBar bar{[this] { return place; }};
+    QAccessibleInterface* toolBar = bar.accessibleRoot();
+};
+
+TEST_F(AccessibleBarTest, IsAToolBarOfTheApplicationWithoutEverBeingShown) {
+    QAccessibleInterface* application = QAccessible::queryAccessibleInterface(qGuiApp);
+    ASSERT_NE(toolBar, nullptr);
+    EXPECT_EQ(toolBar->role(), QAccessible::ToolBar);
+    EXPECT_EQ(toolBar->parent(), application);
+    ASSERT_GE(application->indexOfChild(toolBar), 0);
+    EXPECT_EQ(application->child(application->indexOfChild(toolBar)), toolBar);
+    EXPECT_EQ(bar.handle(), nullptr) << "a window was made";
+}
+
+TEST_F(AccessibleBarTest, TellsThePlaceOfItsBarAndNotOfItsWindow) {
+    bar.setGeometry(0, 0, 1, 1);
+    EXPECT_EQ(toolBar->rect(), place.geometry);
+    const QRect item = toolBar->child(0)->rect();
+    EXPECT_EQ(item, QRect(500 - 8 - 60, 50, 60, barHeightPoints));
+    EXPECT_EQ(toolBar->childAt(item.center().x(), item.center().y()), toolBar->child(0));
+}
+
+TEST_F(AccessibleBarTest, IsVisibleWhenItsBarIsOnTheScreen) {
+    EXPECT_TRUE(toolBar->state().invisible);
+    EXPECT_TRUE(toolBar->child(0)->state().invisible);
+    place.isOnScreen = true;
+    EXPECT_FALSE(toolBar->state().invisible);
+    EXPECT_FALSE(toolBar->child(0)->state().invisible);
 }
 
 TEST_F(BarAccessibilityTest, NoInterfaceIsMadeWhileNobodyListens) {

@@ -1,26 +1,20 @@
 #pragma once
 
-#include "shell/painted/bar.h"
+#include "shell/painted/accessible_bar.h"
 
 #include <QBackingStore>
-#include <QWindow>
 
 namespace orvelle {
 
-/// The bar as a window of Qt; the desktop decides its place. Assistive programs see a tool bar with a button
-/// for each item, named after its module and described by its values in words. Pressing the button is a left
-/// click, showing its menu a right one.
+/// The bar as a window of Qt that paints the items; the desktop decides its place.
 ///
 /// What changes is painted in the same turn of the event loop, which costs one wake-up of the process for
 /// each new sample. Qt's update requests would add a second one, because they wait for 5 ms.
-class BarWindow : public QWindow {
+class BarWindow final : public AccessibleBar {
     Q_OBJECT
 
 public:
     BarWindow();
-
-    [[nodiscard]] Bar& bar() { return m_bar; }
-    [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 Q_SIGNALS:
     /// A picture of the items has been handed to the screen.
@@ -39,9 +33,7 @@ private:
     void repaintSoon(const QRect& rectangle);
     void repaintPending();
     void repaint(const QRegion& region);
-    void announceItem(std::size_t index, QAccessible::Event type);
 
-    Bar m_bar;
     QBackingStore m_picture{this};
     QRegion m_pending;
 };

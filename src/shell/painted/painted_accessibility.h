@@ -85,7 +85,7 @@ public:
     [[nodiscard]] QWindow* window() const final;
     [[nodiscard]] QAccessibleInterface* parent() const final;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const final;
-    [[nodiscard]] QRect rect() const final;
+    [[nodiscard]] QRect rect() const override;
     [[nodiscard]] QAccessible::State state() const override;
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
 };
