@@ -7,7 +7,7 @@ build_packages=(
   qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
   "qt6-svg-dev|libqt6svg6-dev" libfmt-dev bootstrap-icons
   libxcb1-dev libxcb-ewmh-dev libxcb-xinput-dev
-  libwayland-dev
+  libwayland-dev wayland-protocols
 )
 # The program needs these to draw text and to use a display. A desktop may not provide them.
 desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)

@@ -1,0 +1,13 @@
+// The generated code is C. Its declarations come first, because constants of C++ are else private to this
+// file.
+#include <fractional-scale-v1-client-protocol.h>
+#include <viewporter-client-protocol.h>
+#include <wlr-layer-shell-unstable-v1-client-protocol.h>
+#include <xdg-shell-client-protocol.h>
+
+extern "C" {
+#include <fractional-scale-v1-protocol.c>
+#include <viewporter-protocol.c>
+#include <wlr-layer-shell-unstable-v1-protocol.c>
+#include <xdg-shell-protocol.c>
+}
