@@ -1,0 +1,98 @@
+#include "shell/painted/runtime_instance.h"
+#include "support/environment.h"
+#include "support/temporary_tree.h"
+#include "support/waiting.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace orvelle {
+namespace {
+
+class RuntimeInstance : public ::testing::Test {
+protected:
+    [[nodiscard]] QString file() const { return QString::fromStdString(tree.root() / "orvelle-wayland-1"); }
+
+    TemporaryTree tree;
+};
+
+TEST_F(RuntimeInstance, RefusesASecondProcessAndTellsTheFirst) {
+    const auto first = becomeSingleInstanceWith(file());
+    ASSERT_NE(first, nullptr);
+    QSignalSpy startedAgain(first.get(), &SingleInstance::startedAgain);
+    for (int start = 1; start <= 3; ++start) {
+        EXPECT_EQ(becomeSingleInstanceWith(file()), nullptr);
+        EXPECT_TRUE(waitUntil([&] { return startedAgain.count() == start; }));
+    }
+}
+
+TEST_F(RuntimeInstance, IsFreeAgainWhenTheFirstHasEnded) {
+    auto first = becomeSingleInstanceWith(file());
+    first.reset();
+    const auto second = becomeSingleInstanceWith(file());
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(becomeSingleInstanceWith(file()), nullptr);
+}
+
+TEST_F(RuntimeInstance, HearsNothingOfStartsBeforeItsOwn) {
+    auto first = becomeSingleInstanceWith(file());
+    EXPECT_EQ(becomeSingleInstanceWith(file()), nullptr);
+    first.reset();
+    const auto second = becomeSingleInstanceWith(file());
+    QSignalSpy startedAgain(second.get(), &SingleInstance::startedAgain);
+    QTest::qWait(50);
+    EXPECT_EQ(startedAgain.count(), 0);
+}
+
+TEST_F(RuntimeInstance, IsFreeAgainWhenTheFirstWasKilled) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const auto killed = becomeSingleInstanceWith(file());
+        ::raise(SIGKILL);
+    }
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    EXPECT_NE(becomeSingleInstanceWith(file()), nullptr);
+}
+
+TEST_F(RuntimeInstance, TellsDesktopsApart) {
+    const EnvironmentVariable folder("XDG_RUNTIME_DIR", QByteArray::fromStdString(tree.root()));
+    const auto first = becomeSingleInstanceWith(instanceFile(QStringLiteral("wayland-1")));
+    const auto second = becomeSingleInstanceWith(instanceFile(QStringLiteral("/elsewhere/wayland-1")));
+    const auto third = becomeSingleInstanceWith(instanceFile(QStringLiteral("/else/where/wayland-1")));
+    EXPECT_NE(first, nullptr);
+    EXPECT_NE(second, nullptr);
+    EXPECT_NE(third, nullptr);
+    EXPECT_EQ(becomeSingleInstanceWith(instanceFile(QStringLiteral("/elsewhere/wayland-1"))), nullptr);
+}
+
+TEST_F(RuntimeInstance, RunsWhereItsFileCannotBeUsed) {
+    const EnvironmentVariable folder("XDG_RUNTIME_DIR", std::nullopt);
+    EXPECT_NE(becomeSingleInstanceWith(instanceFile(QStringLiteral("wayland-1"))), nullptr);
+    EXPECT_NE(becomeSingleInstanceWith(QStringLiteral("/does/not/exist")), nullptr);
+    tree.write("orvelle-wayland-1", "an ordinary file");
+    EXPECT_NE(becomeSingleInstanceWith(file()), nullptr);
+    EXPECT_NE(becomeSingleInstanceWith(file()), nullptr);
+}
+
+TEST_F(RuntimeInstance, KeepsItsFileFromOtherUsers) {
+    const auto first = becomeSingleInstanceWith(file());
+    struct stat status{};
+    ASSERT_EQ(::stat(qPrintable(file()), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST_F(RuntimeInstance, SurvivesAPipeFullOfNotices) {
+    const auto first = becomeSingleInstanceWith(file());
+    QSignalSpy startedAgain(first.get(), &SingleInstance::startedAgain);
+    for (int start = 0; start < 70'000; ++start)
+        ASSERT_EQ(becomeSingleInstanceWith(file()), nullptr);
+    EXPECT_TRUE(waitUntil([&] { return startedAgain.count() > 0; }));
+}
+
+} // namespace
+} // namespace orvelle
