@@ -4,7 +4,7 @@
 
 build_packages=(
   g++ cmake ninja-build pkg-config
-  qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
+  qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools
   "qt6-svg-dev|libqt6svg6-dev" libfmt-dev bootstrap-icons
   libxcb1-dev libxcb-ewmh-dev libxcb-xinput-dev
   libwayland-dev wayland-protocols

@@ -1,0 +1,125 @@
+#include "shell/wayland/layer_role.h"
+
+#include "shell/wayland/qt_connection.h"
+
+#include <QPlatformSurfaceEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include <utility>
+#include <wayland-client.h>
+#include <wlr-layer-shell-unstable-v1-client-protocol.h>
+
+namespace orvelle {
+namespace {
+
+/// Compositors answer within a millisecond.
+constexpr std::chrono::milliseconds configurePatience{500};
+
+} // namespace
+
+const zwlr_layer_surface_v1_listener LayerRole::listener{
+    [](void* data, zwlr_layer_surface_v1* /*surface*/, std::uint32_t serial, std::uint32_t width,
+       std::uint32_t height) {
+        static_cast<LayerRole*>(data)->configure(serial, {static_cast<int>(width), static_cast<int>(height)});
+    },
+    [](void* data, zwlr_layer_surface_v1* /*surface*/) { Q_EMIT static_cast<LayerRole*>(data)->closed(); },
+};
+
+LayerRole::LayerRole(LayerShell& shell, QWindow& window)
+    : m_shell(shell)
+    , m_window(window) {
+    // With this hint Qt leaves the surface without a role.
+    m_window.setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    m_window.installEventFilter(this);
+    connect(&m_window, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible)
+            giveUpRole();
+    });
+    connect(&m_window, &QWindow::activeChanged, this, [this] {
+        if (m_window.isActive() && m_shell.hasKeyboardOnDemand())
+            setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND);
+    });
+}
+
+LayerRole::~LayerRole() {
+    hide();
+}
+
+bool LayerRole::show(QScreen& screen, const QRect& geometry) {
+    m_window.setScreen(&screen);
+    m_window.setGeometry(geometry);
+    m_window.show();
+    wl_surface* surface = qtSurface(m_window);
+    if (surface != nullptr)
+        m_surface = m_shell.makeOverlay(*surface, qtOutput(screen));
+    if (m_surface == nullptr) {
+        m_window.hide();
+        return false;
+    }
+    m_isConfigured = false;
+    zwlr_layer_surface_v1_add_listener(m_surface, &listener, this);
+    place(geometry.translated(-screen.geometry().topLeft()));
+    setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE);
+    return awaitConfiguration();
+}
+
+void LayerRole::place(const QRect& geometryOnScreen) {
+    zwlr_layer_surface_v1_set_size(m_surface, static_cast<std::uint32_t>(geometryOnScreen.width()),
+                                   static_cast<std::uint32_t>(geometryOnScreen.height()));
+    zwlr_layer_surface_v1_set_anchor(m_surface,
+                                     ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
+    zwlr_layer_surface_v1_set_margin(m_surface, geometryOnScreen.top(), 0, 0, geometryOnScreen.left());
+    constexpr std::int32_t countFromTheEdgeOfTheScreen = -1; // not from that of the space that bars leave
+    zwlr_layer_surface_v1_set_exclusive_zone(m_surface, countFromTheEdgeOfTheScreen);
+}
+
+/// Qt paints in the next turn of the event loop, and a picture before the compositor's answer would be an
+/// error that ends the connection.
+bool LayerRole::awaitConfiguration() {
+    if (!m_shell.waitUntil([this] { return m_isConfigured || m_surface == nullptr; }, configurePatience)) {
+        hide();
+        return false;
+    }
+    if (m_surface != nullptr)
+        m_shell.handToQt(*m_surface);
+    return m_surface != nullptr;
+}
+
+/// A compositor may repeat it, and leaves the size to the window with 0 x 0.
+void LayerRole::configure(std::uint32_t serial, const QSize& size) {
+    zwlr_layer_surface_v1_ack_configure(m_surface, serial);
+    m_isConfigured = true;
+    if (!size.isEmpty())
+        m_window.resize(size);
+}
+
+void LayerRole::setKeyboard(std::uint32_t interactivity) {
+    wl_surface* surface = qtSurface(m_window);
+    if (m_surface == nullptr || surface == nullptr)
+        return;
+    zwlr_layer_surface_v1_set_keyboard_interactivity(m_surface, interactivity);
+    wl_surface_commit(surface);
+}
+
+void LayerRole::hide() {
+    giveUpRole();
+    m_window.hide();
+}
+
+void LayerRole::giveUpRole() {
+    // Else a compositor may keep the keyboard for a surface that has gone.
+    setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
+    if (zwlr_layer_surface_v1* surface = std::exchange(m_surface, nullptr))
+        zwlr_layer_surface_v1_destroy(surface);
+}
+
+bool LayerRole::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PlatformSurface &&
+        static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+            QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
+        giveUpRole();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orvelle

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "shell/wayland/layer_shell.h"
+
+#include <QObject>
+#include <QRect>
+
+class QScreen;
+class QWindow;
+struct zwlr_layer_surface_v1_listener;
+
+namespace orvelle {
+
+/// Shows a window of Qt as a surface of the layer shell: over all windows, where the program wants it, and
+/// with the keyboard. The compositor gives the keyboard at once. Once it is there, the window has it as
+/// ordinary windows do, and loses it when the user turns to another one. Main thread only.
+class LayerRole final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both must outlive the object. The window must not have been shown.
+    LayerRole(LayerShell& shell, QWindow& window);
+    ~LayerRole() override;
+
+    /// Shows the window, which must be hidden. The geometry is in points of the desktop. Returns whether the
+    /// compositor accepted it; the window is hidden again when it did not.
+    [[nodiscard]] bool show(QScreen& screen, const QRect& geometry);
+    /// Hides the window; the compositor gives the keyboard back.
+    void hide();
+
+Q_SIGNALS:
+    /// The compositor has closed the surface, which must be hidden now.
+    void closed();
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void place(const QRect& geometryOnScreen);
+    [[nodiscard]] bool awaitConfiguration();
+    void configure(std::uint32_t serial, const QSize& size);
+    void setKeyboard(std::uint32_t interactivity);
+    /// The window's surface becomes an ordinary one again, which Qt can hide or destroy.
+    void giveUpRole();
+    static const zwlr_layer_surface_v1_listener listener;
+
+    LayerShell& m_shell;
+    QWindow& m_window;
+    zwlr_layer_surface_v1* m_surface = nullptr; ///< null while the window is hidden
+    bool m_isConfigured = false;
+};
+
+} // namespace orvelle
