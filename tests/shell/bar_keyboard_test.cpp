@@ -1,5 +1,5 @@
 #include "announcements.h"
-#include "shell/x11/bar_focus.h"
+#include "shell/x11/x11_bar_focus.h"
 #include "support/waiting.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ protected:
 
     BarWindow window;
     Bar& bar = window.bar();
-    BarFocus focus{window};
+    X11BarFocus focus{window};
     QStringList clicks;
 
 private:

@@ -100,6 +100,7 @@ void Bar::setFocusedItem(const QString& identifier) {
 }
 
 void Bar::pressMouse(const QPointF& position, Qt::MouseButton button) {
+    Q_EMIT pressed(position);
     if (m_pressedItem != nullptr || !clickButton(button))
         return;
     m_pressedItem = itemAt(position);

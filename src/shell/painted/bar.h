@@ -79,6 +79,9 @@ Q_SIGNALS:
     void itemAdded(std::size_t index);
     /// Keys act on this item from now on.
     void itemFocused(std::size_t index);
+    /// A button of the mouse was pressed at this position, in points from the bar's upper left corner, before
+    /// any item reacts.
+    void pressed(const QPointF& position);
     /// The rectangle, in points, looks different.
     void repaintWanted(const QRect& rectangle);
     /// The bar's place has changed; emitted by whatever shows the bar.

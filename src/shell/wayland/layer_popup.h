@@ -3,21 +3,9 @@
 #include "shell/painted/popup.h"
 #include "shell/painted/popup_events.h"
 #include "shell/wayland/layer_role.h"
+#include "shell/wayland/outside_presses.h"
 
 namespace orvelle {
-
-/// Reports presses that do not reach a popup, as long as it exists.
-class OutsidePresses : public QObject {
-    Q_OBJECT
-
-Q_SIGNALS:
-    void pressed();
-};
-
-/// Makes what reports presses anywhere but within both rectangles, which are in points of the desktop: that
-/// of a popup, and one in which a press does not close it.
-using MakeOutsidePresses =
-    std::function<std::unique_ptr<OutsidePresses>(const QRect& popup, const QRectF& spared)>;
 
 /// Opens a window as a popup on Wayland. It opens and closes at once, because Qt cannot fade a window there,
 /// and paints its corners itself. The press that closes it does not reach what was clicked, except for the

@@ -5,11 +5,11 @@
 #include "shell/painted/bar_window.h"
 #include "shell/painted/painted_settings_window.h"
 #include "shell/painted/window_frame.h"
-#include "shell/x11/bar_focus.h"
 #include "shell/x11/bar_placement.h"
 #include "shell/x11/ewmh_hints.h"
 #include "shell/x11/popup_window.h"
 #include "shell/x11/single_instance.h"
+#include "shell/x11/x11_bar_focus.h"
 #include "shell/x11/xsettings_follower.h"
 
 #include <xcb/xcb.h>
@@ -47,7 +47,7 @@ private:
     Bar& m_bar = m_window.bar();
     KeptPopovers m_keptPopovers;
     BarPlacement m_placement{m_window};
-    BarFocus m_focus{m_window};
+    X11BarFocus m_focus{m_window};
 };
 
 } // namespace

@@ -1,37 +1,34 @@
-#include "shell/x11/bar_focus.h"
+#include "shell/painted/bar_focus.h"
 
 namespace orvelle {
 
-BarFocus::BarFocus(BarWindow& window)
+BarFocus::BarFocus(AccessibleBar& window)
     : m_window(window)
     , m_keyboard(window.bar()) {
     m_window.installEventFilter(this);
+    connect(&m_window.bar(), &Bar::pressed, this, [this] { m_keyboard.forgetClick(); });
 }
 
 void BarFocus::take() {
-    if (!canTake())
+    if (m_window.bar().isEmpty() || !canTake())
         return;
     m_keyboard.forgetClick();
     m_isTaken = true;
-    m_focus.take(m_window.winId());
+    takeKeyboard();
     showFocus();
 }
 
 void BarFocus::resume() {
-    if (!m_keyboard.takeClick() || !canTake())
+    if (!m_keyboard.takeClick() || m_window.bar().isEmpty() || !canTake())
         return;
     m_isTaken = true;
-    m_focus.takeOver(m_window.winId());
+    takeKeyboardOver();
     showFocus();
 }
 
 void BarFocus::showFocus() {
     if (m_window.isActive()) // Qt reports nothing when the keyboard was away for a moment only
         m_keyboard.showFocus();
-}
-
-bool BarFocus::canTake() const {
-    return m_window.isExposed() && !m_window.bar().isEmpty();
 }
 
 bool BarFocus::eventFilter(QObject* watched, QEvent* event) {
@@ -42,12 +39,11 @@ bool BarFocus::eventFilter(QObject* watched, QEvent* event) {
             m_keyboard.showFocus();
         break;
     case QEvent::FocusOut:
-        // Qt reports it a tenth of a second late: the keyboard may have come back since.
-        if (!m_isTaken || !InputFocus::isIn(m_window.winId()))
+        // Qt may report it late: the keyboard may have come back since.
+        if (!m_isTaken || !hasKeyboard()) {
             forget();
-        break;
-    case QEvent::MouseButtonPress:
-        m_keyboard.forgetClick();
+            keyboardLost();
+        }
         break;
     case QEvent::KeyPress:
         return handleKey(*static_cast<QKeyEvent*>(event));
@@ -60,12 +56,15 @@ bool BarFocus::eventFilter(QObject* watched, QEvent* event) {
 bool BarFocus::handleKey(const QKeyEvent& event) {
     if (!m_isTaken || m_window.bar().isEmpty())
         return false;
-    if (m_keyboard.handleKey(event))
+    if (m_keyboard.handleKey(event)) {
+        if (m_keyboard.hasClicked())
+            itemClicked();
         return true;
+    }
     if (event.key() != Qt::Key_Escape)
         return false;
     forget();
-    m_focus.giveBack();
+    giveKeyboardBack();
     return true;
 }
 
