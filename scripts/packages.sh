@@ -10,7 +10,7 @@ build_packages=(
   libwayland-dev wayland-protocols
 )
 # The program needs these to draw text and to use a display. A desktop may not provide them.
-desktop_packages=(fonts-dejavu-core libxcb-cursor0 x11-utils)
+desktop_packages=(fonts-dejavu-core libxcb-cursor0 qt6-wayland x11-utils)
 # The modules that the windows' QML imports when they open.
 qml_packages=(
   qml6-module-qtquick qml6-module-qtquick-layouts qml6-module-qtquick-templates
@@ -26,6 +26,8 @@ test_packages=(
   dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
   # A session manager.
   libsm-dev libice-dev
+  # A Wayland compositor without a screen, and the names of keys for a keyboard on it.
+  sway libxkbcommon-dev wayland-protocols
   # A narrower font, for which the tests lay out the windows too.
   fonts-dejavu-extra
 )
