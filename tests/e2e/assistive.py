@@ -3,6 +3,8 @@
 Each check prints a line. `finish` exits with status 0 if all checks passed.
 """
 
+import os
+import subprocess
 import sys
 import time
 
@@ -94,6 +96,15 @@ def do(accessible, wanted):
     """Performs the action with the English name `wanted`; returns whether the program reports success."""
     names = [accessible.get_action_name(index) for index in range(accessible.get_n_actions())]
     return wanted in names and accessible.do_action(names.index(wanted))
+
+
+def press_key(name):
+    """Presses a key of the keyboard, under Wayland by the client that ORVELLE_WAYLAND_CLIENT names."""
+    client = os.environ.get("ORVELLE_WAYLAND_CLIENT")
+    if client is None:
+        subprocess.run(["xdotool", "key", name], check=True)
+    else:
+        subprocess.run([client, "seat"], input=f"key {name}\n", text=True, stdout=subprocess.DEVNULL, check=True)
 
 
 def connect():

@@ -1,10 +1,9 @@
 """An assistive program for the end-to-end test: finds the bar, uses it through AT-SPI alone, and ends Orvelle."""
 
 import os
-import subprocess
 
 from assistive import (Atspi, GLib, Role, State, children, connect, descendants, do, find_child, finish, has_state,
-                       report, shown_panel, wait_until)
+                       press_key, report, shown_panel, wait_until)
 
 ITEMS = os.environ["ORVELLE_MODULE_TITLES"].split("|")
 
@@ -72,7 +71,7 @@ def check_menu(program, bar):
     quit_entry = menu.get_child_at_index(2)
     report(quit_entry.get_key_binding(0) == "Ctrl+Q", "an entry tells its keys", quit_entry.get_key_binding(0))
     wait_until("the menu has the keyboard", lambda: has_state(menu, State.ACTIVE))
-    subprocess.run(["xdotool", "key", "Down"], check=True)
+    press_key("Down")
     wait_until("the focus is announced as the keys move it",
                lambda: ("object:state-changed:focused", "Settings...") in heard)
     report(has_state(menu.get_child_at_index(0), State.FOCUSED), "the current entry has the focus")
