@@ -21,7 +21,7 @@ part() { printf '%sx%s+%s+%s' "$(pixels "$1")" "$(pixels "$2")" "$(pixels "$3")"
 # Sets orvellePid.
 startOrvelle() {
     launch "$log" env QT_LOGGING_RULES=orvelle.open.debug=true "$orvelle"
-    expectBar || cat "$log"
+    expectBar || { cat "$log"; exit 1; }
 }
 
 # expectBar: waits for the bar's space and its pixels.
