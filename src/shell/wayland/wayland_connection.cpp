@@ -35,8 +35,10 @@ WaylandConnection::WaylandConnection(wl_display* display)
     m_writable.setEnabled(false);
     connect(&m_readable, &QSocketNotifier::activated, this, &WaylandConnection::read);
     connect(&m_writable, &QSocketNotifier::activated, this, &WaylandConnection::flush);
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
-            &WaylandConnection::flush);
+    const QAbstractEventDispatcher* loop = QAbstractEventDispatcher::instance();
+    connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &WaylandConnection::flush);
+    // A loop that never waits, because it is run bit by bit, reports no more than this.
+    connect(loop, &QAbstractEventDispatcher::awake, this, &WaylandConnection::flush);
 }
 
 WaylandConnection::~WaylandConnection() {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+struct wl_client;
+struct wl_global;
+struct wl_resource;
+
+/// How the fake compositor answers the requests of its client.
+namespace orvelle {
+
+class FakeCompositor;
+
+void offerCompositor(FakeCompositor& compositor, std::uint32_t version);
+void offerLayerShell(FakeCompositor& compositor, std::uint32_t version);
+void offerViewporter(FakeCompositor& compositor, std::uint32_t version);
+void offerFractionalScale(FakeCompositor& compositor, std::uint32_t version);
+
+/// For requests named `destroy` or `release`.
+void destroyResource(wl_client* client, wl_resource* resource);
+
+} // namespace orvelle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QPointF>
+
+#include <cstdint>
+#include <vector>
+
+struct wl_display;
+struct wl_global;
+struct wl_resource;
+
+namespace orvelle {
+
+struct FakeSurface;
+
+/// A pointer and a touch screen that a test moves.
+class FakeSeat {
+public:
+    FakeSeat(wl_display* display, std::uint32_t version);
+    ~FakeSeat();
+    FakeSeat(const FakeSeat&) = delete;
+    FakeSeat& operator=(const FakeSeat&) = delete;
+
+    void setCapabilities(bool hasPointer, bool hasTouch);
+    /// How many pointers the client has asked for and not released.
+    [[nodiscard]] std::size_t pointerCount() const { return m_pointers.size(); }
+    [[nodiscard]] std::size_t touchCount() const { return m_touches.size(); }
+    /// Whether the client has chosen a cursor.
+    [[nodiscard]] bool hasCursor() const { return m_hasCursor; }
+
+    void enter(const FakeSurface& surface, const QPointF& position);
+    void leave(const FakeSurface& surface);
+    void move(const QPointF& position);
+    /// With the kernel's number of the button.
+    void press(std::uint32_t button);
+    void release(std::uint32_t button);
+    void turnWheel();
+
+    void touch(const FakeSurface& surface, std::int32_t finger, const QPointF& position);
+    void moveFinger(std::int32_t finger, const QPointF& position);
+    void lift(std::int32_t finger);
+    void cancelTouch();
+
+    /// For the implementation.
+    std::vector<wl_resource*> m_seats;
+    std::vector<wl_resource*> m_pointers;
+    std::vector<wl_resource*> m_touches;
+    std::uint32_t m_capabilities = 0;
+    bool m_hasCursor = false;
+
+private:
+    void setButton(std::uint32_t button, std::uint32_t state);
+    void endPointerFrame();
+    [[nodiscard]] std::uint32_t nextSerial() const;
+
+    wl_display* m_display;
+    wl_global* m_global;
+};
+
+} // namespace orvelle
