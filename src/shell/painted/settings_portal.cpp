@@ -1,0 +1,84 @@
+#include "shell/painted/settings_portal.h"
+
+#include "animation/animation_clock.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+
+namespace orvelle {
+namespace {
+
+constexpr QLatin1StringView portalService("org.freedesktop.portal.Desktop");
+constexpr QLatin1StringView portalPath("/org/freedesktop/portal/desktop");
+constexpr QLatin1StringView portalInterface("org.freedesktop.portal.Settings");
+
+/// The keys and values of each namespace.
+using AllSettings = QMap<QString, QVariantMap>;
+
+AllSettings settingsIn(const QDBusMessage& answer) {
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QLatin1StringView("a{sa{sv}}"))
+        return {};
+    return qdbus_cast<AllSettings>(answer.arguments().constFirst());
+}
+
+} // namespace
+
+SettingsPortal::SettingsPortal(const QDBusConnection& bus)
+    : m_bus(bus) {
+    // Without the service's name, whose owner Qt would wait for.
+    m_bus.connect({}, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+                  SLOT(takeChange(QDBusMessage)));
+    auto* starts =
+        new QDBusServiceWatcher(portalService, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(starts, &QDBusServiceWatcher::serviceRegistered, this, &SettingsPortal::ask);
+    ask();
+}
+
+void SettingsPortal::ask() {
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, QStringLiteral("ReadAll"));
+    question.setArguments({PortalValues::namespaces()});
+    question.setAutoStartService(false);
+    auto* call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] { takeAnswer(*call); });
+}
+
+void SettingsPortal::takeAnswer(QDBusPendingCallWatcher& call) {
+    const AllSettings all = settingsIn(call.reply());
+    for (auto settings = all.begin(); settings != all.end(); ++settings) {
+        for (auto value = settings->begin(); value != settings->end(); ++value)
+            m_values.take(settings.key(), value.key(), value.value());
+    }
+    call.deleteLater();
+    Q_EMIT read();
+}
+
+void SettingsPortal::takeChange(const QDBusMessage& message) {
+    const QVariantList arguments = message.arguments();
+    if (message.signature() != QLatin1StringView("ssv"))
+        return;
+    m_values.take(arguments[0].toString(), arguments[1].toString(),
+                  arguments[2].value<QDBusVariant>().variant());
+    Q_EMIT read();
+}
+
+std::unique_ptr<QObject> followPortalMotion(AnimationClock& clock, const QDBusConnection& bus) {
+    auto portal = std::make_unique<SettingsPortal>(bus);
+    QObject::connect(portal.get(), &SettingsPortal::read, portal.get(), [&clock, &portal = *portal] {
+        if (const std::optional<bool> reduces = portal.values().reducesMotion())
+            clock.setReduced(*reduces);
+    });
+    return portal;
+}
+
+std::unique_ptr<QObject> followPortalFonts(const QDBusConnection& bus) {
+    auto portal = std::make_unique<SettingsPortal>(bus);
+    QObject::connect(portal.get(), &SettingsPortal::read, portal.get(),
+                     [&portal = *portal] { setDesktopFontNames(portal.values().fonts()); });
+    return portal;
+}
+
+} // namespace orvelle
