@@ -56,11 +56,8 @@ bool BarFocus::eventFilter(QObject* watched, QEvent* event) {
 bool BarFocus::handleKey(const QKeyEvent& event) {
     if (!m_isTaken || m_window.bar().isEmpty())
         return false;
-    if (m_keyboard.handleKey(event)) {
-        if (m_keyboard.hasClicked())
-            itemClicked();
+    if (m_keyboard.handleKey(event))
         return true;
-    }
     if (event.key() != Qt::Key_Escape)
         return false;
     forget();

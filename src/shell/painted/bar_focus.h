@@ -38,8 +38,6 @@ private:
     [[nodiscard]] virtual bool hasKeyboard() const = 0;
     /// The keyboard has left the window by itself.
     virtual void keyboardLost() {}
-    /// A key has clicked an item, and a window may be about to take the keyboard.
-    virtual void itemClicked() {}
 
     [[nodiscard]] bool handleKey(const QKeyEvent& event);
     void showFocus();

@@ -31,8 +31,7 @@ public:
     /// Moves to an item or clicks it, which may remove items. Returns whether the key was used.
     [[nodiscard]] bool handleKey(const QKeyEvent& event);
 
-    /// Whether a key has clicked an item since the last call of one of the two functions below.
-    [[nodiscard]] bool hasClicked() const { return m_hasClicked; }
+    /// Whether a key has clicked an item since the last call of this function or of the next one.
     [[nodiscard]] bool takeClick() { return std::exchange(m_hasClicked, false); }
     void forgetClick() { m_hasClicked = false; }
 

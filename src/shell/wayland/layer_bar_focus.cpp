@@ -13,7 +13,6 @@ constexpr QSize onePoint(1, 1);
 
 LayerBarFocus::LayerBarFocus(LayerShell& shell, AccessibleBar& window, MakeOutsidePresses makeOutsidePresses)
     : BarFocus(window)
-    , m_shell(shell)
     , m_role(shell, window)
     , m_picture(&window)
     , m_makeOutsidePresses(std::move(makeOutsidePresses)) {
@@ -30,7 +29,9 @@ void LayerBarFocus::takeKeyboard() {
     const BarPlace place = window().bar().place();
     m_presses = m_makeOutsidePresses({}, place.geometry);
     connect(m_presses.get(), &OutsidePresses::pressed, this, &LayerBarFocus::giveKeyboardBack);
-    if (!m_role.show(*place.screen, {place.geometry.topLeft(), onePoint}))
+    if (m_role.show(*place.screen, {place.geometry.topLeft(), onePoint}))
+        paint(); // at once, before a window that has the keyboard now closes and another program gets it
+    else
         giveKeyboardBack();
 }
 
@@ -39,12 +40,6 @@ void LayerBarFocus::giveKeyboardBack() {
         return;
     m_presses.release()->deleteLater(); // it may be the caller
     m_role.hide();
-}
-
-/// Without a keyboard on demand, two windows would hold on to it.
-void LayerBarFocus::itemClicked() {
-    if (!m_shell.hasKeyboardOnDemand())
-        giveKeyboardBack();
 }
 
 bool LayerBarFocus::eventFilter(QObject* watched, QEvent* event) {

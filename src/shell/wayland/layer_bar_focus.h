@@ -17,6 +17,10 @@ public:
     /// All must outlive the object. The window must not have been shown.
     LayerBarFocus(LayerShell& shell, AccessibleBar& window, MakeOutsidePresses makeOutsidePresses);
 
+    /// To be called when another window of the program that wants the keyboard is on the screen. Some
+    /// compositors leave the keyboard where it is until the bar gives it up.
+    void yield() { giveKeyboardBack(); }
+
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     [[nodiscard]] bool canTake() const override { return window().bar().place().isOnScreen; }
@@ -25,10 +29,8 @@ private:
     void giveKeyboardBack() override;
     [[nodiscard]] bool hasKeyboard() const override { return window().isActive(); }
     void keyboardLost() override { giveKeyboardBack(); }
-    void itemClicked() override;
     void paint();
 
-    LayerShell& m_shell;
     LayerRole m_role;
     QBackingStore m_picture;
     MakeOutsidePresses m_makeOutsidePresses;
