@@ -99,6 +99,18 @@ TEST_F(PopupWindowTest, ClosesOnceWhenItsWindowIsClosed) {
     EXPECT_EQ(closedCount, 1);
 }
 
+TEST_F(PopupWindowTest, ReturnsOnceWhenTheWindowManagerMovesIt) {
+    for (int round = 0; round < 2; ++round) {
+        show();
+        window.setPosition(102, 50);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window.position() == QPoint(100, 30); }));
+        window.setPosition(102, 50);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window.position(), QPoint(102, 50)) << "it insists";
+        popup.close();
+    }
+}
+
 TEST_F(PopupWindowTest, OpensAgain) {
     for (int round = 1; round <= 3; ++round) {
         show();

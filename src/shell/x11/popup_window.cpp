@@ -3,8 +3,6 @@
 #include "shell/x11/ewmh_hints.h"
 
 #include <QCursor>
-#include <QGuiApplication>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
 
@@ -22,17 +20,23 @@ bool desktopComposesWindows() {
 
 PopupWindow::PopupWindow(QWindow& window)
     : m_window(window)
-    , m_fade(window, [this](double opacity) { setOpacity(opacity); }) {
+    , m_fade(window, [this](double opacity) { setOpacity(opacity); })
+    , m_events(window) {
     // Not Qt::Popup, whose grab would keep the closing click from what was clicked.
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    m_window.installEventFilter(this);
-    connect(&m_window, &QWindow::activeChanged, this, &PopupWindow::activeChanged);
-    connect(&m_window, &QWindow::visibleChanged, this, [this](bool visible) {
-        if (!visible)
+    connect(&m_events, &PopupEvents::painted, this, &Popup::painted);
+    connect(&m_events, &PopupEvents::escapePressed, this, &PopupWindow::dismiss);
+    connect(&m_events, &PopupEvents::pressedOutside, this, &PopupWindow::close);
+    connect(&m_events, &PopupEvents::hidden, this, &PopupWindow::close);
+    connect(&m_events, &PopupEvents::screensChanged, this, &PopupWindow::close);
+    connect(&m_events, &PopupEvents::keyboardLost, this, [this] {
+        // Qt reports a lost keyboard late: it may have come back since, for example when a window manager
+        // first gave it to a window that was about to close.
+        if (!InputFocus::isIn(m_window.winId()))
             close();
     });
-    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PopupWindow::close);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PopupWindow::close);
+    connect(&m_window, &QWindow::xChanged, this, &PopupWindow::keepPlace);
+    connect(&m_window, &QWindow::yChanged, this, &PopupWindow::keepPlace);
 }
 
 void PopupWindow::setOpacity(double opacity) {
@@ -49,16 +53,16 @@ bool PopupWindow::paintsItsCorners() const {
 
 void PopupWindow::show(QScreen& screen, const QRect& geometry, const QRectF& spared) {
     m_spared = spared;
-    m_isPainted = m_window.isExposed();
+    m_place = geometry.topLeft();
+    m_wasMoved = false;
+    m_events.begin(screen);
     m_window.setScreen(&screen);
-    connect(&screen, &QScreen::geometryChanged, this, &PopupWindow::close, Qt::UniqueConnection);
     // Sizes are offered to the window manager in steps that count from the base size; at a scale of 1.5 a
     // step is 2 pixels.
     m_window.setBaseSize(geometry.size());
     m_window.setGeometry(geometry);
     m_window.setMask(paintsItsCorners() ? QRegion()
                                         : roundedRegion(geometry.size(), popupCornerRadiusPoints));
-    m_wasActive = false;
     m_presses = std::make_unique<PointerPresses>();
     connect(m_presses.get(), &PointerPresses::pressed, this, &PopupWindow::pressed);
     m_cover = DesktopCover::makeIfNeeded();
@@ -81,25 +85,18 @@ void PopupWindow::pressed() {
         close();
 }
 
-void PopupWindow::activeChanged() {
-    // Qt reports a lost keyboard late: it may have come back since, for example when a window manager first
-    // gave it to a window that was about to close.
-    if (m_window.isActive())
-        m_wasActive = true;
-    else if (m_wasActive && !InputFocus::isIn(m_window.winId()))
-        close();
+void PopupWindow::keepPlace() {
+    // i3 moves a window by the width of the frame that it then does not draw. A window manager that insists
+    // has its way.
+    if (!isShown() || !m_window.isExposed() || m_window.position() == m_place)
+        return;
+    if (!std::exchange(m_wasMoved, true))
+        m_window.setPosition(m_place);
 }
 
-bool PopupWindow::eventFilter(QObject* watched, QEvent* event) {
-    // The window paints when it handles the event, which is after this filter.
-    if (event->type() == QEvent::Expose && m_window.isExposed() && !std::exchange(m_isPainted, true))
-        QMetaObject::invokeMethod(this, &PopupWindow::painted, Qt::QueuedConnection);
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        Q_EMIT dismissed();
-        close();
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
+void PopupWindow::dismiss() {
+    Q_EMIT dismissed();
+    close();
 }
 
 } // namespace orvelle

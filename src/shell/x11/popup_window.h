@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/painted/popup.h"
+#include "shell/painted/popup_events.h"
 #include "shell/x11/desktop_cover.h"
 #include "shell/x11/x11_input.h"
 
@@ -21,17 +22,18 @@ public:
     [[nodiscard]] bool isShown() const override { return m_presses != nullptr; }
 
 private:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void dismiss();
     void pressed();
-    void activeChanged();
+    void keepPlace();
     void setOpacity(double opacity);
     [[nodiscard]] bool paintsItsCorners() const;
 
     QWindow& m_window;
     WindowFade m_fade;
+    PopupEvents m_events;
     QRectF m_spared;
-    bool m_wasActive = false;
-    bool m_isPainted = false;
+    QPoint m_place;          ///< where the window was asked to open, in points of the desktop
+    bool m_wasMoved = false; ///< back to its place, since it opened
     std::unique_ptr<PointerPresses> m_presses; ///< exists while the window is shown
     std::unique_ptr<DesktopCover> m_cover;     ///< the same, where it is needed
 };
