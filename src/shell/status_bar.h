@@ -66,6 +66,10 @@ public:
     /// A menu, not shown yet, for the items of this bar, which must outlive it.
     [[nodiscard]] virtual std::unique_ptr<ContextMenu> makeContextMenu() = 0;
 
+    /// Sets what the desktop's own menu of the items offers. Nothing happens on a desktop that asks for the
+    /// menu with a click.
+    virtual void setMenu(std::vector<MenuEntry> /*entries*/) {}
+
     /// Moves the keyboard to the items, so that keys choose one and open it. Nothing happens on a desktop
     /// that has a key of its own for that.
     virtual void takeKeyboard() {}

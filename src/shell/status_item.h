@@ -10,6 +10,14 @@ namespace orvelle {
 /// The button of a mouse that a click is made with; others are ignored.
 enum class ClickButton { left, right };
 
+/// An item where the desktop has room for a square picture alone, and perhaps for a short text beside it.
+struct ItemIcon {
+    /// Paints the picture within a square in points, 22 points wide. Its surroundings may be dark or light.
+    std::function<void(QPainter&, const QRectF& square)> paint;
+    QString label;       ///< the value in a few characters, empty for none
+    QString widestLabel; ///< at least as wide as any label of the item, for which the desktop keeps space
+};
+
 /// One entry of the desktop's status bar: a picture of fixed length. The bar owns it. It does not know what
 /// the picture shows.
 class StatusItem {
@@ -32,6 +40,12 @@ public:
     /// Sets what assistive programs say: the item's subject, for example "CPU", and its value in words, for
     /// example "CPU 12%".
     virtual void setWords(const QString& name, const QString& text) = 0;
+
+    /// Whether the desktop shows the item's icon. Else there is no need to set one.
+    [[nodiscard]] virtual bool showsIcon() const { return false; }
+
+    /// Sets the icon. One that looks like the last may be set again.
+    virtual void setIcon(ItemIcon /*icon*/) {}
 
     /// Device pixels that one point covers while the item is on the screen; 0 while it is not.
     [[nodiscard]] virtual double visiblePixelsPerPoint() const = 0;

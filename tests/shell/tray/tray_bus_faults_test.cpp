@@ -1,0 +1,111 @@
+#include "shell/tray/tray_icon.h"
+#include "shell/tray/tray_presence.h"
+#include "support/manual_clock.h"
+#include "tray_double.h"
+
+#include <QCoreApplication>
+
+namespace orvelle {
+namespace {
+
+class TrayBusFaultsTest : public ::testing::Test {
+protected:
+    void makeIcon(const QString& address) {
+        TrayBus found{.address = address, .retryInterval = std::chrono::milliseconds(20)};
+        found.trayMissing = [this](const QString& reason) { missing.append(reason); };
+        icon.emplace(
+            QStringLiteral("orvelle"), [] { return TrayContent(); },
+            TrayActions{[this](const QPoint&) { ++opened; }, [](const QPoint&) {}}, found, time.clock);
+    }
+
+    PrivateBus bus;
+    ManualClock time;
+    QStringList missing;
+    int opened = 0;
+    std::optional<TrayIcon> icon;
+};
+
+TEST_F(TrayBusFaultsTest, WaitsForATrayThatComesLater) {
+    makeIcon(bus.address());
+    EXPECT_TRUE(waitUntil([this] { return missing.size() == 1; }));
+    TrayDouble tray(bus.address());
+    EXPECT_TRUE(tray.waitForIcons(1));
+    EXPECT_EQ(tray.registered[0], icon->serviceName());
+}
+
+TEST_F(TrayBusFaultsTest, RegistersAgainWhenTheTrayComesBack) {
+    auto tray = std::make_unique<TrayDouble>(bus.address());
+    makeIcon(bus.address());
+    ASSERT_TRUE(tray->waitForIcons(1));
+    tray.reset();
+    tray = std::make_unique<TrayDouble>(bus.address());
+    EXPECT_TRUE(tray->waitForIcons(1));
+    EXPECT_EQ(tray->registered, QStringList{icon->serviceName()});
+}
+
+TEST_F(TrayBusFaultsTest, TellsWhyItWasNotTaken) {
+    TrayDouble tray(bus.address());
+    tray.answersWithError = true;
+    makeIcon(bus.address());
+    ASSERT_TRUE(waitUntil([this] { return !missing.isEmpty(); }));
+    EXPECT_TRUE(missing[0].contains(QStringLiteral("no room"))) << qPrintable(missing[0]);
+    EXPECT_EQ(tray.registered.size(), 1) << "it does not ask again and again";
+}
+
+TEST_F(TrayBusFaultsTest, LooksForABusThatIsNotThereNowAndThen) {
+    bus.stop();
+    makeIcon(bus.address());
+    EXPECT_EQ(missing.size(), 1);
+    EXPECT_TRUE(waitUntil([this] { return missing.size() >= 3; }));
+    bus.start();
+    TrayDouble tray(bus.address());
+    EXPECT_TRUE(tray.waitForIcons(1));
+}
+
+TEST_F(TrayBusFaultsTest, MovesToTheBusThatReplacesADeadOne) {
+    {
+        TrayDouble tray(bus.address());
+        makeIcon(bus.address());
+        ASSERT_TRUE(tray.waitForIcons(1));
+        bus.stop();
+        ASSERT_TRUE(waitUntil([this] { return !missing.isEmpty(); }));
+    }
+    icon->update(); // without a bus
+    time.pass(3);
+    bus.start();
+    TrayDouble tray(bus.address());
+    ASSERT_TRUE(tray.waitForIcons(1));
+    EXPECT_EQ(tray.callItem(tray.registered[0], QStringLiteral("Activate"), {1, 1}).type(),
+              QDBusMessage::ReplyMessage);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(TrayBusFaultsTest, SurvivesAnAddressThatMeansNothing) {
+    for (const char* address : {"nonsense", "unix:path=/nowhere/at/all", "tcp:host=,port=0", ";;;"}) {
+        missing.clear();
+        makeIcon(QString::fromLatin1(address));
+        EXPECT_EQ(missing.size(), 1) << address;
+    }
+}
+
+TEST_F(TrayBusFaultsTest, LeavesTheBusWithItsIcon) {
+    TrayDouble tray(bus.address());
+    makeIcon(bus.address());
+    ASSERT_TRUE(tray.waitForIcons(1));
+    icon.reset();
+    EXPECT_TRUE(waitUntil([&tray] {
+        return tray.callItem(tray.registered[0], QStringLiteral("Activate"), {1, 1}).type() ==
+               QDBusMessage::ErrorMessage;
+    }));
+}
+
+TEST_F(TrayBusFaultsTest, FindsATrayBeforeThereIsAnIcon) {
+    EXPECT_FALSE(isTrayThere(bus.address(), patience));
+    TrayDouble tray(bus.address());
+    EXPECT_TRUE(isTrayThere(bus.address(), patience));
+    bus.stop();
+    EXPECT_FALSE(isTrayThere(bus.address(), patience));
+}
+
+} // namespace
+} // namespace orvelle
