@@ -32,6 +32,7 @@ void AppDelegate::applicationDidFinishLaunching() {
         m_monitor.restart();
         startRefreshTimer();
     });
+    m_dependencies.statusBar.setMenu(contextMenuEntries([this] { openSettings(); }, &AppDelegate::quitApp));
     setupStatusItems();
     snapshotVisibility();
     startRefreshTimer();
@@ -90,8 +91,12 @@ void AppDelegate::subscribe() {
 }
 
 void AppDelegate::redraw() {
-    for (const ShownModule& shown : m_shownModules)
-        shown.presenter->show(makeScene(shown.module, {m_monitor, m_settings, m_themes}));
+    const ModuleContext context{m_monitor, m_settings, m_themes};
+    for (const ShownModule& shown : m_shownModules) {
+        shown.presenter->show(makeScene(shown.module, context));
+        if (shown.presenter->showsIcon())
+            shown.presenter->showIcon(makeIcon(shown.module, context));
+    }
 }
 
 void AppDelegate::statusItemClicked(const StatusItem& item, ClickButton button) {

@@ -28,6 +28,20 @@ ItemScene BatteryMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene BatteryMenuBarItem::icon() const {
+    const BatteryInfo& battery = m_monitor.battery();
+    if (!battery.isPresent)
+        return {.body = iconSymbol(QStringLiteral("powerplug"), SystemColors::green)};
+    const QColor color = batteryColor(battery.currentCapacity, battery.isCharging, moduleColor());
+    std::vector<SceneNode> parts = {
+        {BatteryShape{.charge = chargedFraction(battery.currentCapacity), .color = color}}};
+    if (battery.isCharging)
+        parts.push_back(symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow));
+    return {.body = column(parts, batterySpacing, ColumnAlignment::center),
+            .label = chargeText(battery),
+            .widestLabel = widestPercent()};
+}
+
 QString BatteryMenuBarItem::accessibleText() const {
     const BatteryInfo& battery = m_monitor.battery();
     if (!battery.isPresent)

@@ -14,6 +14,8 @@ public:
 
     /// The current values in the user's style.
     [[nodiscard]] ItemScene body() const;
+    /// The current values in a square.
+    [[nodiscard]] IconScene icon() const;
 
 private:
     [[nodiscard]] SceneNode picture() const;

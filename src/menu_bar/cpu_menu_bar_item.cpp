@@ -24,6 +24,18 @@ ItemScene CPUMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene CPUMenuBarItem::icon() const {
+    QList<double> loads;
+    for (const CPUMonitor::CoreUsage& core : m_monitor.coreUsages())
+        loads.append(coreLoad(core));
+    const bool showsBars =
+        m_settings.cpuDisplayMode() == SettingsStore::CPUDisplayMode::barChart && !loads.isEmpty();
+    return {.body = showsBars ? iconBars(loads, moduleColor())
+                              : iconDigitsAndLevel(m_monitor.totalUsage(), moduleColor()),
+            .label = formatPercent(m_monitor.totalUsage()),
+            .widestLabel = widestPercent()};
+}
+
 QString CPUMenuBarItem::accessibleText() const {
     return QStringLiteral("CPU %1").arg(formatPercent(m_monitor.totalUsage()));
 }

@@ -17,6 +17,16 @@ ItemScene DiskMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene DiskMenuBarItem::icon() const {
+    const QString symbol = QStringLiteral("internaldrive");
+    const std::optional<double> fraction = used();
+    if (!fraction)
+        return {.body = iconSymbol(symbol, moduleColor())};
+    return {.body = iconSymbolAndLevel(symbol, *fraction, moduleColor()),
+            .label = formatPercent(*fraction),
+            .widestLabel = widestPercent()};
+}
+
 QString DiskMenuBarItem::accessibleText() const {
     const std::optional<double> fraction = used();
     const QString usedText = fraction ? QStringLiteral(" %1").arg(formatPercent(*fraction)) : QString();

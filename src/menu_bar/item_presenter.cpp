@@ -70,6 +70,15 @@ void ItemPresenter::show(const ItemScene& scene) {
     refresh();
 }
 
+void ItemPresenter::showIcon(const IconScene& icon) {
+    if (m_icon == icon)
+        return;
+    m_icon = icon;
+    m_item.setIcon(
+        {[body = icon.body](QPainter& painter, const QRectF& square) { paintIcon(painter, square, body); },
+         icon.label, icon.widestLabel});
+}
+
 void ItemPresenter::retarget(bool mayEase, double pixelsPerPoint) {
     const QList<Level> target = easingLevelsOf(m_scene.body);
     const QList<BarLook> looks = looksOf(target);

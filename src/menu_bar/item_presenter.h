@@ -2,6 +2,7 @@
 
 #include "animation/animation_clock.h"
 #include "animation/transition.h"
+#include "menu_bar/icon_scene.h"
 #include "menu_bar/item_scene.h"
 #include "shell/status_item.h"
 
@@ -28,6 +29,11 @@ public:
     /// Replaces the scene. The first scene appears without motion, as does an item that is off the screen.
     void show(const ItemScene& scene);
 
+    /// Whether the item has an icon, which is shown by `showIcon`.
+    [[nodiscard]] bool showsIcon() const { return m_item.showsIcon(); }
+    /// Replaces the icon, without motion.
+    void showIcon(const IconScene& icon);
+
     [[nodiscard]] const ItemScene& scene() const { return m_scene; }
     /// The current look of the item, which may still be easing to the newest scene.
     [[nodiscard]] const SceneNode& shown() const { return m_shown; }
@@ -44,6 +50,7 @@ private:
     ItemScene m_scene; ///< the newest
     SceneNode m_shown; ///< what the item shows
     bool m_hasScene = false;
+    std::optional<IconScene> m_icon;    ///< the newest
     Transition<QList<BarLook>> m_looks; ///< of those levels that ease
     Animation m_easing;                 ///< runs while the shown levels ease
 };

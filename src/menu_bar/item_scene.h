@@ -45,6 +45,7 @@ struct Level {
 /// Bars side by side that grow from the bottom, one for each processor core.
 struct CoreBarsShape {
     QList<Level> levels;
+    QSizeF frame = {}; ///< of all bars; an empty one gives each bar the width that it has in the menu bar
 
     bool operator==(const CoreBarsShape&) const = default;
 };

@@ -21,6 +21,13 @@ ItemScene MemoryMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene MemoryMenuBarItem::icon() const {
+    const double used = usedFraction(m_monitor.info());
+    return {.body = iconSymbolAndLevel(QStringLiteral("memorychip"), used, moduleColor()),
+            .label = formatPercent(used),
+            .widestLabel = widestPercent()};
+}
+
 QString MemoryMenuBarItem::accessibleText() const {
     return QStringLiteral("Memory %1").arg(formatPercent(usedFraction(m_monitor.info())));
 }

@@ -51,6 +51,10 @@ SceneNode historyNode(const QList<double>& history, const QColor& color, double 
                           .height = size.height()}};
 }
 
+QString widestPercent() {
+    return QStringLiteral("100%");
+}
+
 QList<double> recentSamples(const QList<double>& history) {
     return history.last(std::min(history.size(), recentSampleCount));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "menu_bar/item_scene.h"
+#include "menu_bar/icon_scene.h"
 #include "settings/module_table.h"
 #include "settings/settings_store.h"
 #include "theme/theme_manager.h"
@@ -20,6 +20,11 @@ public:
         : m_monitor(monitor)
         , m_settings(settings)
         , m_themes(themes) {}
+
+    /// The item as a square: the module's symbol, unless the item has a better one.
+    [[nodiscard]] IconScene icon() const {
+        return {.body = iconSymbol(QString(moduleInfo(module).symbol), moduleColor())};
+    }
 
 protected:
     ~MenuBarItem() = default;
@@ -61,6 +66,9 @@ inline constexpr double smallValueFontSize = 10;
 /// The sparkline of one module's history in the module's colour; `maxValue` 0 scales to the samples.
 [[nodiscard]] SceneNode historyNode(const QList<double>& history, const QColor& color, double maxValue,
                                     const QSizeF& size);
+
+/// The widest text of `formatPercent`.
+[[nodiscard]] QString widestPercent();
 
 /// The number of history samples that the menu bar draws.
 inline constexpr qsizetype recentSampleCount = 20;

@@ -10,15 +10,29 @@
 
 namespace orvelle {
 
-ItemScene makeScene(ModuleId module, const ModuleContext& context) {
+namespace {
+
+/// Calls `use` with the module's status item.
+template <class Use>
+auto withItem(ModuleId module, const ModuleContext& context, Use use) {
     switch (module) {
 #define ORVELLE_MODULE(id, Type, ...)                                                                        \
     case ModuleId::id:                                                                                       \
-        return Type##MenuBarItem(context.monitor.id(), context.settings, context.themes).body();
+        return use(Type##MenuBarItem(context.monitor.id(), context.settings, context.themes));
         ORVELLE_MODULES(ORVELLE_MODULE)
 #undef ORVELLE_MODULE
     }
-    return {};
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+ItemScene makeScene(ModuleId module, const ModuleContext& context) {
+    return withItem(module, context, [](const auto& item) { return item.body(); });
+}
+
+IconScene makeIcon(ModuleId module, const ModuleContext& context) {
+    return withItem(module, context, [](const auto& item) { return item.icon(); });
 }
 
 } // namespace orvelle

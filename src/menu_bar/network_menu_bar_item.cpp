@@ -33,6 +33,21 @@ ItemScene NetworkMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene NetworkMenuBarItem::icon() const {
+    constexpr double arrowFontSize = 8;
+    const auto arrow = [](const QString& name, double bytesPerSecond, const QColor& color) {
+        return symbolNode(name, arrowFontSize, activityDotColor(bytesPerSecond, color));
+    };
+    const AppTheme& theme = m_themes.currentTheme();
+    return {
+        .body = row(
+            {arrow(QStringLiteral("arrow.down"), m_monitor.totalDownloadSpeed(), theme.networkDownloadColor),
+             arrow(QStringLiteral("arrow.up"), m_monitor.totalUploadSpeed(), theme.networkUploadColor)},
+            0),
+        .label = formatRateCompact(m_monitor.totalDownloadSpeed()),
+        .widestLabel = QStringLiteral("1023M")};
+}
+
 QString NetworkMenuBarItem::accessibleText() const {
     return QStringLiteral("Network download %1, upload %2")
         .arg(formatRate(m_monitor.totalDownloadSpeed()), formatRate(m_monitor.totalUploadSpeed()));

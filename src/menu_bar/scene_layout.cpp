@@ -25,9 +25,7 @@ struct Measurer {
         return rigid({side, side});
     }
     Extent operator()(const TextShape& text) const { return {textExtent(text).size, 0}; }
-    Extent operator()(const CoreBarsShape& bars) const {
-        return rigid({coreBarsWidth(bars.levels.size()), coreBarsHeight});
-    }
+    Extent operator()(const CoreBarsShape& bars) const { return rigid(coreBarsFrame(bars)); }
     Extent operator()(const LevelBarShape& bar) const { return rigid(bar.size); }
     Extent operator()(const DotsShape& dots) const {
         const auto count = static_cast<double>(dots.colors.size());
@@ -91,13 +89,17 @@ double coreBarsWidth(qsizetype coreCount) {
     return static_cast<double>(std::min(coreCount, widestCoreCount)) * widthPerCore;
 }
 
-QList<QRectF> coreBarSlots(qsizetype coreCount) {
+QSizeF coreBarsFrame(const CoreBarsShape& bars) {
+    return bars.frame.isEmpty() ? QSizeF(coreBarsWidth(bars.levels.size()), coreBarsHeight) : bars.frame;
+}
+
+QList<QRectF> coreBarSlots(qsizetype coreCount, const QSizeF& frame) {
     const auto count = static_cast<double>(coreCount);
-    const double spacing = std::min(1.0, coreBarsWidth(coreCount) / (2 * count - 1));
-    const double barWidth = (coreBarsWidth(coreCount) - spacing * (count - 1)) / count;
+    const double spacing = std::min(1.0, frame.width() / (2 * count - 1));
+    const double barWidth = (frame.width() - spacing * (count - 1)) / count;
     QList<QRectF> bars;
     for (qsizetype core = 0; core < coreCount; ++core)
-        bars.append(QRectF(static_cast<double>(core) * (barWidth + spacing), 0, barWidth, coreBarsHeight));
+        bars.append(QRectF(static_cast<double>(core) * (barWidth + spacing), 0, barWidth, frame.height()));
     return bars;
 }
 

@@ -35,14 +35,18 @@ struct TextExtent {
 /// Text sizes are cached while the texts recur, because measuring a text costs as much as painting it.
 [[nodiscard]] const TextExtent& textExtent(const TextShape& text);
 
+/// Height of the cores' bars in the menu bar.
 inline constexpr double coreBarsHeight = 14;
 
 /// Width of the frame for all cores' bars: 3.5 per core, for at most 12 cores.
 [[nodiscard]] double coreBarsWidth(qsizetype coreCount);
 
+/// The frame for all cores' bars.
+[[nodiscard]] QSizeF coreBarsFrame(const CoreBarsShape& bars);
+
 /// The slots of the cores' bars from left to right in a frame at the origin. Gaps are 1 wide. If a bar would
 /// become narrower than its gap, both get the same width.
-[[nodiscard]] QList<QRectF> coreBarSlots(qsizetype coreCount);
+[[nodiscard]] QList<QRectF> coreBarSlots(qsizetype coreCount, const QSizeF& frame);
 
 /// The gap between the dots of a row.
 inline constexpr double dotSpacing = 2;

@@ -52,7 +52,7 @@ void paintShape(QPainter& painter, const QRectF& frame, const TextShape& text) {
 }
 
 void paintShape(QPainter& painter, const QRectF& frame, const CoreBarsShape& bars) {
-    const QList<QRectF> places = coreBarSlots(bars.levels.size());
+    const QList<QRectF> places = coreBarSlots(bars.levels.size(), coreBarsFrame(bars));
     const double gap = places.size() > 1 ? places.at(1).left() - places.at(0).right() : 1;
     for (qsizetype core = 0; core < places.size(); ++core) {
         const QRectF place = places.at(core).translated(frame.topLeft());

@@ -20,6 +20,16 @@ ItemScene SensorMenuBarItem::body() const {
     return scene(picture(), accessibleText());
 }
 
+IconScene SensorMenuBarItem::icon() const {
+    const double celsius = m_monitor.cpuTemperature();
+    const QColor color =
+        celsius > 0 ? temperatureColor(celsius, moduleColor()) : QColor(LabelColors::secondary);
+    const QFont font = monospacedSystemFont(valueFontSize, QFont::Bold);
+    return {.body = textNode(temperatureText(celsius), font, color),
+            .label = temperatureText(celsius),
+            .widestLabel = QStringLiteral("100°")};
+}
+
 QString SensorMenuBarItem::accessibleText() const {
     const double celsius = m_monitor.cpuTemperature();
     return celsius > 0 ? QStringLiteral("Sensors %1").arg(formatTemperature(celsius, false))

@@ -10,6 +10,11 @@
 namespace orvelle {
 namespace {
 
+/// The slots of so many cores in the menu bar.
+QList<QRectF> slotsOf(qsizetype coreCount) {
+    return coreBarSlots(coreCount, {coreBarsWidth(coreCount), coreBarsHeight});
+}
+
 constexpr double cpuLength = 60;
 
 class CPUMenuBarItemTest : public ItemFixture {
@@ -177,7 +182,7 @@ TEST(CoreBars, TakeThreeAndAHalfPointsEachUpToTwelveCores) {
 }
 
 TEST(CoreBars, AreOneForEachCoreOnePointApart) {
-    const QList<QRectF> bars = coreBarSlots(16);
+    const QList<QRectF> bars = slotsOf(16);
     ASSERT_EQ(bars.size(), 16);
     EXPECT_DOUBLE_EQ(bars.at(1).left() - bars.at(0).right(), 1);
     EXPECT_DOUBLE_EQ(bars.at(0).width(), 27.0 / 16);
@@ -186,16 +191,16 @@ TEST(CoreBars, AreOneForEachCoreOnePointApart) {
 }
 
 TEST(CoreBars, OfOneCoreFillTheFrame) {
-    EXPECT_EQ(coreBarSlots(1), QList<QRectF>({QRectF(0, 0, 3.5, 14)}));
+    EXPECT_EQ(slotsOf(1), QList<QRectF>({QRectF(0, 0, 3.5, 14)}));
 }
 
 TEST(CoreBars, AreNoneWithoutCores) {
-    EXPECT_TRUE(coreBarSlots(0).isEmpty());
+    EXPECT_TRUE(slotsOf(0).isEmpty());
 }
 
 TEST(CoreBars, OfVeryManyCoresStayWithinTheFrameAndAreAsWideAsTheirGaps) {
     for (const qsizetype count : {22, 43, 128, 1024}) {
-        const QList<QRectF> bars = coreBarSlots(count);
+        const QList<QRectF> bars = slotsOf(count);
         ASSERT_EQ(bars.size(), count);
         EXPECT_NEAR(bars.last().right(), 42, 1e-9);
         EXPECT_NEAR(bars.at(1).left() - bars.at(0).right(), bars.at(0).width(), 1e-9);

@@ -1,8 +1,5 @@
 #include "shell/tray/plain_popup.h"
 
-#include <QGuiApplication>
-#include <QKeyEvent>
-
 #include <utility>
 
 namespace orvelle {
@@ -12,20 +9,20 @@ PlainPopup::PlainPopup(QWindow& window, PopupKeyboard keyboard)
     , m_takesKeyboard(keyboard == PopupKeyboard::takes) {
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     m_window.setFlag(Qt::WindowDoesNotAcceptFocus, !m_takesKeyboard);
-    m_window.installEventFilter(this);
-    connect(&m_window, &QWindow::activeChanged, this, &PlainPopup::activeChanged);
-    connect(&m_window, &QWindow::visibleChanged, this, [this](bool visible) {
-        if (!visible)
-            close();
+    connect(&m_events, &PopupEvents::painted, this, &Popup::painted);
+    connect(&m_events, &PopupEvents::hidden, this, &PlainPopup::close);
+    connect(&m_events, &PopupEvents::screensChanged, this, &PlainPopup::close);
+    connect(&m_events, &PopupEvents::escapePressed, this, [this] {
+        Q_EMIT dismissed();
+        close();
     });
-    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &PlainPopup::close);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PlainPopup::close);
+    if (m_takesKeyboard)
+        connect(&m_events, &PopupEvents::keyboardLost, this, &PlainPopup::close);
 }
 
 void PlainPopup::show(QScreen& screen, const QRect& geometry, const QRectF& /*spared*/) {
     m_isShown = true;
-    m_wasActive = false;
-    m_isPainted = m_window.isExposed();
+    m_events.begin(screen);
     m_window.setScreen(&screen);
     m_window.setGeometry(geometry);
     if (!m_window.requestedFormat().hasAlpha())
@@ -40,25 +37,6 @@ void PlainPopup::close() {
         return;
     m_window.hide();
     Q_EMIT closed();
-}
-
-void PlainPopup::activeChanged() {
-    if (m_window.isActive())
-        m_wasActive = true;
-    else if (m_wasActive && m_takesKeyboard)
-        close();
-}
-
-bool PlainPopup::eventFilter(QObject* watched, QEvent* event) {
-    // The window paints when it handles the event, which is after this filter.
-    if (event->type() == QEvent::Expose && m_window.isExposed() && !std::exchange(m_isPainted, true))
-        QMetaObject::invokeMethod(this, &PlainPopup::painted, Qt::QueuedConnection);
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        Q_EMIT dismissed();
-        close();
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 } // namespace orvelle

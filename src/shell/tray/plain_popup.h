@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/painted/popup.h"
+#include "shell/painted/popup_events.h"
 
 #include <QWindow>
 
@@ -24,14 +25,10 @@ public:
     [[nodiscard]] bool isShown() const override { return m_isShown; }
 
 private:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void activeChanged();
-
     QWindow& m_window;
+    PopupEvents m_events{m_window};
     bool m_takesKeyboard;
     bool m_isShown = false;
-    bool m_wasActive = false;
-    bool m_isPainted = false;
 };
 
 } // namespace orvelle

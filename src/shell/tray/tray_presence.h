@@ -3,12 +3,15 @@
 #include <QString>
 
 #include <chrono>
+#include <optional>
 
 namespace orvelle {
 
-/// Whether the desktop has a tray, by asking the bus at this address, empty for that of the user's session.
-/// It needs no application object. No when the answer takes longer than `patience`.
-[[nodiscard]] bool isTrayThere(const QString& busAddress = {},
-                               std::chrono::milliseconds patience = std::chrono::milliseconds(500));
+/// Why the desktop has no tray, by asking the bus at this address, empty for that of the user's session;
+/// nothing when it has one. May be asked before the application object exists. A bus that does not answer
+/// within `patience` counts as none.
+[[nodiscard]] std::optional<QString>
+trayAbsence(const QString& busAddress = {},
+            std::chrono::milliseconds patience = std::chrono::milliseconds(500));
 
 } // namespace orvelle

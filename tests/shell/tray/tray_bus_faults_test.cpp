@@ -100,11 +100,11 @@ TEST_F(TrayBusFaultsTest, LeavesTheBusWithItsIcon) {
 }
 
 TEST_F(TrayBusFaultsTest, FindsATrayBeforeThereIsAnIcon) {
-    EXPECT_FALSE(isTrayThere(bus.address(), patience));
+    EXPECT_TRUE(trayAbsence(bus.address(), patience));
     TrayDouble tray(bus.address());
-    EXPECT_TRUE(isTrayThere(bus.address(), patience));
+    EXPECT_FALSE(trayAbsence(bus.address(), patience));
     bus.stop();
-    EXPECT_FALSE(isTrayThere(bus.address(), patience));
+    EXPECT_TRUE(trayAbsence(bus.address(), patience));
 }
 
 } // namespace
