@@ -31,6 +31,8 @@ test_packages=(
   # A narrower font, for which the tests lay out the windows too.
   fonts-dejavu-extra
 )
+# Compositors for `./test desktops`: what they need to run without a screen, to be asked, and to show a Wayland window.
+compositor_packages=(kwin-wayland gnome-shell xwayland python3-dbusmock libglib2.0-bin foot)
 # Static checks; ./lint explains the versions.
 lint_packages=(clang-format-19 clang-tidy-19 shellcheck pylint)
 
