@@ -34,16 +34,17 @@ ItemScene NetworkMenuBarItem::body() const {
 }
 
 IconScene NetworkMenuBarItem::icon() const {
-    constexpr double arrowFontSize = 8;
+    constexpr double iconArrowFontSize = 10;
+    constexpr double iconArrowSpacing = -5; // the arrows leave much of their squares empty
     const auto arrow = [](const QString& name, double bytesPerSecond, const QColor& color) {
-        return symbolNode(name, arrowFontSize, activityDotColor(bytesPerSecond, color));
+        return symbolNode(name, iconArrowFontSize, activityDotColor(bytesPerSecond, color));
     };
     const AppTheme& theme = m_themes.currentTheme();
     return {
         .body = row(
             {arrow(QStringLiteral("arrow.down"), m_monitor.totalDownloadSpeed(), theme.networkDownloadColor),
              arrow(QStringLiteral("arrow.up"), m_monitor.totalUploadSpeed(), theme.networkUploadColor)},
-            0),
+            iconArrowSpacing),
         .label = formatRateCompact(m_monitor.totalDownloadSpeed()),
         .widestLabel = QStringLiteral("1023M")};
 }

@@ -22,8 +22,9 @@ ItemScene SensorMenuBarItem::body() const {
 
 IconScene SensorMenuBarItem::icon() const {
     const double celsius = m_monitor.cpuTemperature();
+    // Opaque, because a translucent number this small is hard to read.
     const QColor color =
-        celsius > 0 ? temperatureColor(celsius, moduleColor()) : QColor(LabelColors::secondary);
+        celsius > 0 ? QColor(temperatureColor(celsius, moduleColor()).rgb()) : LabelColors::secondary;
     const QFont font = monospacedSystemFont(valueFontSize, QFont::Bold);
     return {.body = textNode(temperatureText(celsius), font, color),
             .label = temperatureText(celsius),

@@ -68,5 +68,12 @@ TEST_P(GoldenPictures, OfTheMenuBarOfABareComputer) {
     expectGoldenItems(ExampleMachine::bareComputer, QStringLiteral("-bare"));
 }
 
+TEST_P(GoldenPictures, OfTheIconsInALightTray) {
+    const auto monitor = exampleMonitor(ExampleMachine::laptop, settings.store);
+    Sheet sheet = trayIconSheet(*monitor, settings);
+    sheet.backgrounds = {SheetBackground::light};
+    expectGoldenPicture(sheetImage(sheet, GetParam()), sheetFileName(sheet.name, GetParam()));
+}
+
 } // namespace
 } // namespace orvelle

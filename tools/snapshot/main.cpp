@@ -60,7 +60,8 @@ int paintSheets(const SnapshotArguments& arguments) {
     }
     FreshSettings inAnyTheme;
     const QList<Sheet> sheets = chartSheets()
-                                << menuBarItemSheet(monitor, settings) << themeSheet(monitor, inAnyTheme);
+                                << menuBarItemSheet(monitor, settings) << trayIconSheet(monitor, inAnyTheme)
+                                << themeSheet(monitor, inAnyTheme);
     if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
         return fail(*error, exitFailed);
     return 0;

@@ -16,7 +16,8 @@ namespace {
 
 constexpr double barHeight = 22;
 constexpr double barPadding = 8; ///< before the first and after the last item
-constexpr double panelGap = 6;   ///< between the bar and a panel
+constexpr double iconSide = 22;
+constexpr double panelGap = 6; ///< between the bar and a panel
 constexpr int themesPerRow = 4;
 constexpr QColor barBackground(255, 255, 255, 15); ///< a little lighter than the sheet
 
@@ -61,7 +62,31 @@ SheetCell themeCell(const AppTheme& theme, const QImage& panel, SystemMonitor& m
             .paint = paint};
 }
 
+SheetRow iconRow(const QString& title, const QString& theme, SettingsStore::CPUDisplayMode mode,
+                 SystemMonitor& monitor, FreshSettings& settings) {
+    SheetRow row{.title = title, .cells = {}};
+    for (const ModuleInfo& module : moduleTable) {
+        const auto paint = [=, &module, &monitor, &settings](QPainter& painter, const QRectF& frame) {
+            settings.store.setSelectedThemeId(theme);
+            settings.store.setCpuDisplayMode(mode);
+            paintIcon(painter, frame, makeIcon(module.id, {monitor, settings.store, settings.themes}).body);
+        };
+        row.cells.append({.caption = module.key, .size = {iconSide, iconSide}, .paint = paint});
+    }
+    return row;
+}
+
 } // namespace
+
+Sheet trayIconSheet(SystemMonitor& monitor, FreshSettings& settings) {
+    Sheet sheet{.name = QStringLiteral("tray-icons"), .rows = {}};
+    for (const auto mode : everyCase<SettingsStore::CPUDisplayMode>())
+        sheet.rows.append(iconRow(caseName(mode), settings.store.selectedThemeId(), mode, monitor, settings));
+    for (const AppTheme& theme : builtInThemes())
+        sheet.rows.append(
+            iconRow(theme.name, theme.id, SettingsStore::CPUDisplayMode::barChart, monitor, settings));
+    return sheet;
+}
 
 Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings) {
     Sheet sheet{.name = QStringLiteral("menu-bar-items"), .rows = {}, .backgrounds = {SheetBackground::dark}};

@@ -46,6 +46,10 @@ template <typename Style>
 /// the sheet as `monitor` must.
 [[nodiscard]] Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings);
 
+/// The icons of all modules in the tray, once for each way to show the CPU, and in each theme. Painting the
+/// sheet changes both in `settings`, which must outlive the sheet as `monitor` must.
+[[nodiscard]] Sheet trayIconSheet(SystemMonitor& monitor, FreshSettings& settings);
+
 /// The bar with all modules above the CPU panel, in each theme. Painting the sheet changes the theme in
 /// `settings`, which must outlive the sheet as `monitor` must.
 [[nodiscard]] Sheet themeSheet(SystemMonitor& monitor, FreshSettings& settings);
