@@ -30,10 +30,11 @@ QList<QRect> usableScreens() {
 
 PaintedSettingsWindow::PaintedSettingsWindow(std::unique_ptr<QWindow> content,
                                              std::unique_ptr<SettingsStorage> storage,
-                                             std::function<void(QWindow&)> bringToUser)
+                                             std::function<void(QWindow&)> bringToUser, Placing placing)
     : m_content(std::move(content))
     , m_storage(std::move(storage))
-    , m_bringToUser(std::move(bringToUser)) {
+    , m_bringToUser(std::move(bringToUser))
+    , m_placing(placing) {
     m_content->setTitle(QStringLiteral("Orvelle Settings"));
     m_content->setIcon(programIcon());
     m_content->setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -96,7 +97,8 @@ void PaintedSettingsWindow::place() {
     const QRect placed = frame ? frameOnScreens(*frame, screens, m_content->minimumSize())
                                : centredFrame(m_content->size(), screens.first());
     m_content->resize(placed.size());
-    m_content->setFramePosition(placed.topLeft());
+    if (m_placing == Placing::byProgram)
+        m_content->setFramePosition(placed.topLeft());
     m_remembered = frame.value_or(QRect());
 }
 
@@ -104,7 +106,9 @@ void PaintedSettingsWindow::remember() {
     // A window that is minimized or maximized is not where the user put it.
     if (!m_content->isVisible() || m_content->windowStates() != Qt::WindowNoState)
         return;
-    const QRect frame(m_content->framePosition(), m_content->size());
+    const QPoint position =
+        m_placing == Placing::byProgram ? m_content->framePosition() : m_remembered.topLeft();
+    const QRect frame(position, m_content->size());
     if (frame != m_remembered && m_storage->write({{frameKey(), frameText(frame)}}) == SaveResult::saved)
         m_remembered = frame;
 }

@@ -27,7 +27,7 @@ void LayerBarFocus::takeKeyboard() {
     if (m_presses != nullptr)
         return; // it is there, or on its way
     const BarPlace place = window().bar().place();
-    m_presses = m_makeOutsidePresses({}, place.geometry);
+    m_presses = m_makeOutsidePresses(place.geometry);
     connect(m_presses.get(), &OutsidePresses::pressed, this, &LayerBarFocus::giveKeyboardBack);
     if (m_role.show(*place.screen, {place.geometry.topLeft(), onePoint}))
         paint(); // at once, before a window that has the keyboard now closes and another program gets it

@@ -20,7 +20,7 @@ LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, MakeOutsidePresses ma
 }
 
 void LayerPopup::show(QScreen& screen, const QRect& geometry, const QRectF& spared) {
-    m_presses = m_makeOutsidePresses(geometry, spared);
+    m_presses = m_makeOutsidePresses(spared);
     connect(m_presses.get(), &OutsidePresses::pressed, this, &LayerPopup::close);
     m_events.begin(screen);
     if (!m_role.show(screen, geometry))

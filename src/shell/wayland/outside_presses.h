@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QObject>
-#include <QRect>
+#include <QRectF>
 
 #include <functional>
 #include <memory>
@@ -16,9 +16,8 @@ Q_SIGNALS:
     void pressed();
 };
 
-/// Makes what reports presses anywhere but within both rectangles, which are in points of the desktop: that
-/// of a window, and one in which a press does not close it.
-using MakeOutsidePresses =
-    std::function<std::unique_ptr<OutsidePresses>(const QRect& window, const QRectF& spared)>;
+/// Makes what reports presses anywhere but in the program's own windows and in `spared`, which is in points
+/// of the desktop.
+using MakeOutsidePresses = std::function<std::unique_ptr<OutsidePresses>(const QRectF& spared)>;
 
 } // namespace orvelle

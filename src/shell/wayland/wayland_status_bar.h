@@ -1,0 +1,42 @@
+#pragma once
+
+#include "shell/painted/bar_popups.h"
+#include "shell/wayland/layer_bar_focus.h"
+#include "shell/wayland/wayland_strip.h"
+
+namespace orvelle {
+
+/// The strip on a Wayland desktop with its popovers and menu. Main thread only.
+class WaylandStatusBar final : public StatusBar {
+    Q_OBJECT
+
+public:
+    /// The shell must outlive the object.
+    WaylandStatusBar(LayerShell& shell, std::unique_ptr<WaylandConnection> connection);
+
+    [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
+        return m_bar.addItem(identifier, length);
+    }
+    void removeItem(StatusItem& item) override { m_bar.removeItem(item); }
+    [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
+    [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
+    void takeKeyboard() override { m_focus.take(); }
+
+Q_SIGNALS:
+    /// The compositor has ended or has refused a request.
+    void lost(const QString& reason);
+    /// Another window of the program is about to open.
+    void closePopups();
+
+private:
+    [[nodiscard]] std::unique_ptr<Popup> makePopup(QWindow& window);
+
+    LayerShell& m_shell;
+    WaylandStrip m_strip;
+    Bar& m_bar = m_strip.bar();
+    KeptPopovers m_keptPopovers;
+    MakeOutsidePresses m_makeOutsidePresses;
+    LayerBarFocus m_focus;
+};
+
+} // namespace orvelle
