@@ -12,7 +12,8 @@ readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # a shorter time is convenient 
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 
 workDirectory=$(mktemp -d)
-export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory
+export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory/runtime
+mkdir -m 700 "$XDG_RUNTIME_DIR"
 # These belong to the desktop that starts the test.
 unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 export QT_FORCE_STDERR_LOGGING=1

@@ -57,11 +57,27 @@ itemMiddle() { echo $((left + width - module_middles[$1])); }
 # clickItem NUMBER [BUTTON [COUNT PER_SECOND]]
 clickItem() { seat click "${2:-1}" "$(itemMiddle "$1")" 11 "${@:3}"; }
 
-# Everything below the bar, without the last points, where the mouse may be: panels, the menu and windows.
+# Everything below the bar, without the last points, where the mouse is: panels, the menu and windows.
 belowBar() { part "$width" $((height - 22 - 10)) 0 22; }
-nothingIsShown() { isBare "$output" "$(belowBar)"; }
+nothingIsShown() {
+    lookAway
+    isBare "$output" "$(belowBar)"
+}
 # shownPlace: prints LEFT,TOP WIDTHxHEIGHT of what is shown below the bar, in pixels from the bar's lower left corner.
-shownPlace() { shownBox "$output" "$(belowBar)"; }
+shownPlace() {
+    lookAway
+    shownBox "$output" "$(belowBar)"
+}
+
+# showWindowBelowBar: shows the other window. From now on popups are recognised by what is shown beside it.
+showWindowBelowBar() {
+    showOtherWindow
+    waitUntil "the other window is on the screen" windowIsPainted
+    windowPlace=$(shownPlace)
+}
+windowIsPainted() { [[ $(shownPlace) == *" 400x300" ]]; }
+onlyWindowIsShown() { [[ $(shownPlace) == "$windowPlace" ]]; }
+popupIsShown() { ! onlyWindowIsShown; }
 
 # Whether this panel was opened last, by the program's own account. It may be closed again.
 isLastPanel() {

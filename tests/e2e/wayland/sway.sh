@@ -31,7 +31,7 @@ runSway() {
     export SWAYSOCK=$swayFolder/$1.socket
     rm -f "$SWAYSOCK"
     "${asSwayUser[@]}" env HOME="$swayFolder" XDG_RUNTIME_DIR="$swayFolder" WLR_BACKENDS="$2" WLR_RENDERER=pixman \
-        WLR_LIBINPUT_NO_DEVICES=1 WLR_WL_OUTPUTS="${outputCount:-1}" LSAN_OPTIONS='' \
+        WLR_LIBINPUT_NO_DEVICES=1 WLR_WL_OUTPUTS="${outputCount:-1}" \
         sway --config "$swayFolder/$1" >"$workDirectory/$1.log" 2>&1 &
     swayPids+=("$!")
     ownedPids+=("$!")
@@ -41,7 +41,7 @@ runSway() {
         [[ $display == *.lock || " $before " == *" $display "* ]] || export WAYLAND_DISPLAY=$display
     done
     # The program insists on a folder of its own user.
-    ln -sf "$swayFolder/$WAYLAND_DISPLAY" "$workDirectory/$WAYLAND_DISPLAY"
+    ln -sf "$swayFolder/$WAYLAND_DISPLAY" "$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY"
 }
 
 # writeSettings NAME LINE...
@@ -75,6 +75,8 @@ startSwayWithCables() {
 unplug() { swaymsg -q -s "$cablesSocket" "[title=\"$1\"] kill" || fail "unplugging $1"; }
 plug() { onSway create_output; } # the next number
 
+# shellcheck disable=SC2034 # some of the tests that source this file use it
+windowColor=3070A0 # of the other window
 otherWindowSettings=(
     'for_window [app_id="other"] floating enable, resize set 400 300, move absolute position 100 300'
 )
@@ -98,8 +100,8 @@ startSeat() {
     "${client:?}" seat <"$workDirectory/commands" >"$workDirectory/answers" &
     ownedPids+=("$!")
     exec {seatCommands}>"$workDirectory/commands" {seatAnswers}<"$workDirectory/answers"
-    seat move 0 799 # most pictures are without this corner
-    bareColor=$(colors "$1" 1x1+0+0) # sway paints it where nothing else is
+    lookAway
+    bareColor=$(colors "$1" 1x1+0+0) # sway paints it where nothing else is; the versions differ
 }
 
 # seat COMMAND...: moves, clicks or types; returns when sway has handled it. client/seat_commands.h tells the commands.
@@ -109,6 +111,9 @@ seat() {
     read -r -t "$patienceSeconds" -u "$seatAnswers" answer
     [[ $answer == "done" ]] || fail "seat $*: $answer"
 }
+
+# Moves the mouse to the left lower corner, because pictures show its arrow.
+lookAway() { seat move 0 10000; }
 
 # onSway COMMAND...: sends a command in the language of sway's settings.
 onSway() { swaymsg -q -- "$*" || fail "sway: $*"; }
@@ -144,11 +149,11 @@ shownBox() {
 # keepPicture NAME OUTPUT: saves a picture if ORVELLE_PICTURES names a folder.
 keepPicture() { [[ -z $ORVELLE_PICTURES ]] || picture "$2" | convert ppm:- "$ORVELLE_PICTURES/sway-$1.png"; }
 
-# showOtherWindow: shows a window of another program and waits until it has the keyboard. Sets windowPid. The file
-# "window" records the window's events.
+# showOtherWindow: shows a window of another program at 100,300 and waits until it has the keyboard. Sets windowPid. The
+# file "window" records the window's events. With `otherProgram` set to a name, the window fills the free space.
 showOtherWindow() {
     rm -f "$workDirectory/window" # of an earlier window
-    "$client" window >"$workDirectory/window" &
+    "$client" window "${otherProgram:-other}" >>"$workDirectory/window" &
     windowPid=$!
     ownedPids+=("$windowPid")
     waitUntil "another window opens" grep -qs shown "$workDirectory/window"

@@ -34,7 +34,8 @@ def print_state(what, *names):
         print(*(geometry(space) for space in ask("get_workspaces") if space["visible"] and space["output"] == names[0]))
     elif what == "output":
         output = next(output for output in ask("get_outputs") if output["name"] == names[0])
-        print(output["rect"]["x"], output["rect"]["width"], output["rect"]["height"], output["scale"])
+        print(output["rect"]["x"], output["rect"]["width"], output["rect"]["height"],
+              f"{output['scale']:g}")
     elif what == "outputs":
         active = [output for output in ask("get_outputs") if output["active"]]
         print(*(output["name"] for output in sorted(active, key=lambda output: output["rect"]["x"])))

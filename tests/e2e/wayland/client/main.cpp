@@ -1,7 +1,7 @@
 // The hands and eyes of the end-to-end tests under a Wayland compositor, and another program on its desktop.
 //
 //   wayland_client seat                    a mouse and a keyboard, see seat_commands.h
-//   wayland_client window                  an ordinary window, see other_window.h
+//   wayland_client window [PROGRAM]        an ordinary window, see other_window.h
 //   wayland_client picture OUTPUT [PART]   the pixels of an output as a portable pixmap, or of the part
 //                                          WIDTHxHEIGHT+LEFT+TOP of it
 //   wayland_client interfaces              what the compositor announces, one a line
@@ -36,6 +36,8 @@ int main(int argumentCount, char** arguments) {
             obeySeatCommands(compositor, std::cin, std::cout);
         } else if (task == "window" && argumentCount == 2) {
             showOtherWindow(compositor);
+        } else if (task == "window" && argumentCount == 3) {
+            showOtherWindow(compositor, arguments[2]);
         } else if (task == "interfaces" && argumentCount == 2) {
             for (const std::string& interface : compositor.interfaces)
                 std::cout << interface << '\n';

@@ -133,7 +133,7 @@ const xdg_toplevel_listener toplevelListener{
 
 } // namespace
 
-void showOtherWindow(Compositor& compositor) {
+void showOtherWindow(Compositor& compositor, const char* programName) {
     OtherWindow window{compositor};
     wl_seat_add_listener(compositor.bindSeat(), &seatListener, &window);
     window.surface = wl_compositor_create_surface(compositor.surfaces);
@@ -142,7 +142,7 @@ void showOtherWindow(Compositor& compositor) {
     xdg_toplevel* toplevel = xdg_surface_get_toplevel(surface);
     xdg_toplevel_add_listener(toplevel, &toplevelListener, &window);
     xdg_toplevel_set_title(toplevel, "Other window");
-    xdg_toplevel_set_app_id(toplevel, "other");
+    xdg_toplevel_set_app_id(toplevel, programName);
     wl_surface_commit(window.surface);
     while (!window.isClosed && compositor.handleEvents()) {
     }
