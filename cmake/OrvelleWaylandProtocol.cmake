@@ -8,6 +8,7 @@ set(ORVELLE_PROTOCOLS
   xdg-shell ${ORVELLE_WAYLAND_PROTOCOLS}/stable/xdg-shell/xdg-shell.xml
   viewporter ${ORVELLE_WAYLAND_PROTOCOLS}/stable/viewporter/viewporter.xml
   fractional-scale-v1 ${ORVELLE_WAYLAND_PROTOCOLS}/staging/fractional-scale/fractional-scale-v1.xml
+  xdg-output-unstable-v1 ${ORVELLE_WAYLAND_PROTOCOLS}/unstable/xdg-output/xdg-output-unstable-v1.xml
   wlr-layer-shell-unstable-v1
   ${CMAKE_SOURCE_DIR}/src/shell/wayland/protocols/wlr-layer-shell-unstable-v1.xml)
 

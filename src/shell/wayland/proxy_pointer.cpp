@@ -5,6 +5,7 @@
 #include <wayland-client.h>
 #include <wayland-cursor.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
+#include <xdg-output-unstable-v1-client-protocol.h>
 
 namespace orvelle {
 
@@ -89,6 +90,14 @@ void EndProxy::operator()(zwlr_layer_shell_v1* shell) const {
 
 void EndProxy::operator()(zwlr_layer_surface_v1* surface) const {
     zwlr_layer_surface_v1_destroy(surface);
+}
+
+void EndProxy::operator()(zxdg_output_manager_v1* manager) const {
+    zxdg_output_manager_v1_destroy(manager);
+}
+
+void EndProxy::operator()(zxdg_output_v1* output) const {
+    zxdg_output_v1_destroy(output);
 }
 
 } // namespace orvelle

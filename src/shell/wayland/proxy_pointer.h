@@ -19,6 +19,8 @@ struct wp_viewport;
 struct wp_viewporter;
 struct zwlr_layer_shell_v1;
 struct zwlr_layer_surface_v1;
+struct zxdg_output_manager_v1;
+struct zxdg_output_v1;
 
 namespace orvelle {
 
@@ -41,6 +43,8 @@ struct EndProxy {
     void operator()(wp_viewporter* viewporter) const;
     void operator()(zwlr_layer_shell_v1* shell) const;
     void operator()(zwlr_layer_surface_v1* surface) const;
+    void operator()(zxdg_output_manager_v1* manager) const;
+    void operator()(zxdg_output_v1* output) const;
 };
 
 /// Owns an object of a Wayland connection, which must outlive it.

@@ -27,8 +27,9 @@ const wp_fractional_scale_v1_listener SurfaceScale::listener = [] {
 SurfaceScale::SurfaceScale(const WaylandGlobals& globals, wl_surface* surface, const WaylandOutput& output)
     : m_surface(surface)
     , m_output(output) {
-    if (globals.viewporter() != nullptr && globals.fractionalScales() != nullptr) {
+    if (globals.viewporter() != nullptr)
         m_viewport.reset(wp_viewporter_get_viewport(globals.viewporter(), surface));
+    if (m_viewport && globals.fractionalScales() != nullptr) {
         m_preferred.reset(
             wp_fractional_scale_manager_v1_get_fractional_scale(globals.fractionalScales(), surface));
         wp_fractional_scale_v1_add_listener(m_preferred.get(), &listener, this);
@@ -40,9 +41,11 @@ SurfaceScale::SurfaceScale(const WaylandGlobals& globals, wl_surface* surface, c
 void SurfaceScale::followOutput() {
     if (m_hasPreferred)
         return;
-    const bool canScale =
-        m_viewport || wl_surface_get_version(m_surface) >= WL_SURFACE_SET_BUFFER_SCALE_SINCE_VERSION;
-    set(canScale ? m_output.scale() : 1);
+    if (m_viewport)
+        set(m_output.pixelsPerPoint());
+    else
+        set(wl_surface_get_version(m_surface) >= WL_SURFACE_SET_BUFFER_SCALE_SINCE_VERSION ? m_output.scale()
+                                                                                           : 1);
 }
 
 void SurfaceScale::handlePreferredScale(std::uint32_t scale) {

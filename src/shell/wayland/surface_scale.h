@@ -9,7 +9,8 @@ struct wp_fractional_scale_v1_listener;
 namespace orvelle {
 
 /// How many pixels of a surface's picture cover a point, so that each becomes one pixel of the screen: the
-/// scale that the compositor prefers, which may be a fraction, or else the whole scale of the screen.
+/// scale that the compositor prefers, or else that of the screen. It is a whole number where the compositor
+/// cannot scale pictures by fractions.
 class SurfaceScale final : public QObject {
     Q_OBJECT
 
@@ -35,7 +36,7 @@ private:
     wl_surface* m_surface;
     const WaylandOutput& m_output;
     ProxyPointer<wp_viewport> m_viewport;             ///< null where scales are whole
-    ProxyPointer<wp_fractional_scale_v1> m_preferred; ///< null where scales are whole
+    ProxyPointer<wp_fractional_scale_v1> m_preferred; ///< null where the compositor prefers none
     bool m_hasPreferred = false;
     double m_pixelsPerPoint = 1;
 };

@@ -7,6 +7,7 @@
 #include <viewporter-client-protocol.h>
 #include <wayland-client.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
+#include <xdg-output-unstable-v1-client-protocol.h>
 
 namespace orvelle {
 
@@ -43,6 +44,7 @@ void WaylandGlobals::handleGlobal(std::uint32_t name, const char* interface, std
     take(m_layerShell, global, zwlr_layer_shell_v1_interface, 4);
     take(m_viewporter, global, wp_viewporter_interface, 1);
     take(m_fractionalScales, global, wp_fractional_scale_manager_v1_interface, 1);
+    take(m_screenSizes, global, zxdg_output_manager_v1_interface, 3);
     Q_EMIT announced(global);
 }
 

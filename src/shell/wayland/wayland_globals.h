@@ -34,6 +34,8 @@ public:
     [[nodiscard]] wp_fractional_scale_manager_v1* fractionalScales() const {
         return m_fractionalScales.get();
     }
+    /// Tells the sizes of screens in points.
+    [[nodiscard]] zxdg_output_manager_v1* screenSizes() const { return m_screenSizes.get(); }
     /// Whether all that a strip cannot do without is there.
     [[nodiscard]] bool canShowStrip() const { return m_compositor && m_shm && m_layerShell; }
 
@@ -68,6 +70,7 @@ private:
     ProxyPointer<zwlr_layer_shell_v1> m_layerShell;
     ProxyPointer<wp_viewporter> m_viewporter;
     ProxyPointer<wp_fractional_scale_manager_v1> m_fractionalScales;
+    ProxyPointer<zxdg_output_manager_v1> m_screenSizes;
 };
 
 } // namespace orvelle

@@ -6,7 +6,9 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <wayland-client.h>
+#include <xdg-output-unstable-v1-client-protocol.h>
 
 namespace orvelle {
 namespace {
@@ -27,10 +29,40 @@ const wl_output_listener WaylandOutput::listener = [] {
     return events;
 }();
 
+const zxdg_output_v1_listener WaylandOutput::sizeListener = [] {
+    zxdg_output_v1_listener events{};
+    events.logical_position = ignoredEvent;
+    events.logical_size = onEvent<&WaylandOutput::handleSize>;
+    events.done = onEvent<&WaylandOutput::handleSizeDone>;
+    events.name = onEvent<&WaylandOutput::handleName>;
+    events.description = ignoredEvent;
+    return events;
+}();
+
+double screenScale(int wholeScale, const QSize& pixels, const QSize& points) {
+    if (pixels.isEmpty() || points.isEmpty())
+        return wholeScale;
+    constexpr double partsPerPixel = 120;
+    // The longer side has the smaller error, because points are whole numbers too. It also is the longer one
+    // of a screen that is turned.
+    const double exact = std::max(pixels.width(), pixels.height()) /
+                         static_cast<double>(std::max(points.width(), points.height()));
+    const double scale = std::round(exact * partsPerPixel) / partsPerPixel;
+    return std::ceil(scale) == wholeScale ? scale : wholeScale;
+}
+
 WaylandOutput::WaylandOutput(const WaylandGlobals& globals, const WaylandGlobal& global)
     : m_output(globals.bind<wl_output>(global, wl_output_interface, outputVersion))
     , m_globalName(global.name) {
     wl_output_add_listener(m_output.get(), &listener, this);
+    askSize(globals);
+}
+
+void WaylandOutput::askSize(const WaylandGlobals& globals) {
+    if (m_size || globals.screenSizes() == nullptr)
+        return;
+    m_size.reset(zxdg_output_manager_v1_get_xdg_output(globals.screenSizes(), m_output.get()));
+    zxdg_output_v1_add_listener(m_size.get(), &sizeListener, this);
 }
 
 void WaylandOutput::handleGeometry(int x, int y, int /*widthMillimetres*/, int /*heightMillimetres*/,
@@ -39,7 +71,9 @@ void WaylandOutput::handleGeometry(int x, int y, int /*widthMillimetres*/, int /
     m_position = QPoint(x, y);
 }
 
-void WaylandOutput::handleMode(std::uint32_t /*flags*/, int /*width*/, int /*height*/, int /*refresh*/) {
+void WaylandOutput::handleMode(std::uint32_t flags, int width, int height, int /*refresh*/) {
+    if ((flags & WL_OUTPUT_MODE_CURRENT) != 0)
+        m_pixels = QSize(width, height);
     // The first version has no event that ends a description.
     if (wl_output_get_version(m_output.get()) < WL_OUTPUT_DONE_SINCE_VERSION)
         handleDone();
@@ -48,6 +82,16 @@ void WaylandOutput::handleMode(std::uint32_t /*flags*/, int /*width*/, int /*hei
 void WaylandOutput::handleDone() {
     m_isKnown = true;
     Q_EMIT changed();
+}
+
+void WaylandOutput::handleSizeDone() {
+    // Later versions end a description with the event of the screen itself.
+    if (m_isKnown)
+        Q_EMIT changed();
+}
+
+double WaylandOutput::pixelsPerPoint() const {
+    return screenScale(m_scale, m_pixels, m_points);
 }
 
 void WaylandOutput::handleScale(int scale) {
@@ -73,6 +117,7 @@ WaylandOutputs::WaylandOutputs(const WaylandGlobals& globals)
     : m_globals(globals) {
     connect(&globals, &WaylandGlobals::announced, this, &WaylandOutputs::add);
     connect(&globals, &WaylandGlobals::removed, this, &WaylandOutputs::remove);
+    connect(&globals, &WaylandGlobals::changed, this, &WaylandOutputs::askSizes);
 }
 
 std::vector<const WaylandOutput*> WaylandOutputs::known() const {
@@ -89,6 +134,11 @@ void WaylandOutputs::add(const WaylandGlobal& global) {
         return;
     m_outputs.push_back(std::make_unique<WaylandOutput>(m_globals, global));
     connect(m_outputs.back().get(), &WaylandOutput::changed, this, &WaylandOutputs::changed);
+}
+
+void WaylandOutputs::askSizes() {
+    for (const auto& output : m_outputs)
+        output->askSize(m_globals);
 }
 
 void WaylandOutputs::remove(std::uint32_t name) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <fractional-scale-v1-server-protocol.h>
 #include <sys/socket.h>
 #include <wayland-server.h>
@@ -29,8 +30,8 @@ void describe(wl_resource* resource, const FakeOutput& output) {
         wl_output_send_scale(resource, output.scale);
     if (version >= WL_OUTPUT_NAME_SINCE_VERSION)
         wl_output_send_name(resource, qPrintable(output.name));
-    wl_output_send_mode(resource, WL_OUTPUT_MODE_CURRENT, output.size.width() * output.scale,
-                        output.size.height() * output.scale, 60'000);
+    const QSize pixels = (QSizeF(output.size) * output.pixelsPerPoint).toSize();
+    wl_output_send_mode(resource, WL_OUTPUT_MODE_CURRENT, pixels.width(), pixels.height(), 60'000);
     if (version >= WL_OUTPUT_DONE_SINCE_VERSION)
         wl_output_send_done(resource);
 }
@@ -57,6 +58,7 @@ FakeCompositor::FakeCompositor(const FakeOffers& offers)
     offerLayerShell(*this, offers.layerShell);
     offerViewporter(*this, offers.viewporter);
     offerFractionalScale(*this, offers.fractionalScale);
+    offerXdgOutput(*this, offers.xdgOutput);
     connect(&m_readable, &QSocketNotifier::activated, this, &FakeCompositor::dispatch);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             [this] { wl_display_flush_clients(m_display); });
@@ -90,12 +92,13 @@ void FakeCompositor::postError(const FakeSurface& surface, std::uint32_t code) {
     wl_resource_post_error(surface.layerResource, code, "a rule is broken");
 }
 
-FakeOutput& FakeCompositor::addOutput(const QString& name, const QSize& size, int scale) {
+FakeOutput& FakeCompositor::addOutput(const QString& name, const QSize& size, double pixelsPerPoint) {
     m_outputs.push_back(std::make_unique<FakeOutput>());
     FakeOutput& output = *m_outputs.back();
     output.name = name;
     output.size = size;
-    output.scale = scale;
+    output.pixelsPerPoint = pixelsPerPoint;
+    output.scale = static_cast<int>(std::ceil(pixelsPerPoint));
     output.global = wl_global_create(m_display, &wl_output_interface, static_cast<int>(m_outputVersion),
                                      &output, bindOutput);
     return output;
@@ -110,15 +113,21 @@ void FakeCompositor::removeOutput(FakeOutput& output) {
         }
     }
     wl_global_destroy(output.global);
-    for (wl_resource* resource : output.resources) {
+    std::vector<wl_resource*> resources = output.resources;
+    resources.insert(resources.end(), output.sizeResources.begin(), output.sizeResources.end());
+    for (wl_resource* resource : resources) {
         wl_resource_set_destructor(resource, nullptr);
         wl_resource_set_user_data(resource, nullptr);
     }
     std::erase_if(m_outputs, [&output](const auto& present) { return present.get() == &output; });
 }
 
-void FakeCompositor::setScale(FakeOutput& output, int scale) const {
-    output.scale = scale;
+void FakeCompositor::setScale(FakeOutput& output, double pixelsPerPoint) {
+    output.size = (QSizeF(output.size) * output.pixelsPerPoint / pixelsPerPoint).toSize();
+    output.pixelsPerPoint = pixelsPerPoint;
+    output.scale = static_cast<int>(std::ceil(pixelsPerPoint));
+    for (wl_resource* resource : output.sizeResources)
+        describeSize(resource, output);
     for (wl_resource* resource : output.resources)
         describe(resource, output);
 }

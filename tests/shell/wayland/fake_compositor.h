@@ -25,6 +25,7 @@ struct FakeOffers {
     std::uint32_t layerShell = 4;
     std::uint32_t viewporter = 1;
     std::uint32_t fractionalScale = 1;
+    std::uint32_t xdgOutput = 3;
 };
 
 struct FakeOutput {
@@ -33,6 +34,8 @@ struct FakeOutput {
     QString name;
     QSize size; ///< in points
     int scale = 1;
+    double pixelsPerPoint = 1;
+    std::vector<wl_resource*> sizeResources;
 };
 
 /// A compositor in the event loop of the test, which shows nothing but remembers what its clients ask for.
@@ -51,9 +54,9 @@ public:
     /// Has the client's surface break a rule of its role.
     static void postError(const FakeSurface& surface, std::uint32_t code);
 
-    FakeOutput& addOutput(const QString& name, const QSize& size, int scale = 1);
+    FakeOutput& addOutput(const QString& name, const QSize& size, double pixelsPerPoint = 1);
     void removeOutput(FakeOutput& output);
-    void setScale(FakeOutput& output, int scale) const;
+    static void setScale(FakeOutput& output, double pixelsPerPoint);
 
     [[nodiscard]] FakeSeat& seat() { return *m_seat; }
     void removeSeat();

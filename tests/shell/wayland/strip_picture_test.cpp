@@ -10,7 +10,7 @@ protected:
     explicit StripPictureTest(const FakeOffers& offers = {})
         : StripTest(offers) {}
 
-    void startOn(int outputScale) {
+    void startOn(double outputScale) {
         compositor.addOutput(QStringLiteral("HDMI-A-1"), QSize(401, 300), outputScale);
         start();
         ASSERT_TRUE(waitForStrip());
@@ -154,20 +154,42 @@ protected:
 TEST_F(WithoutFractionsTest, TheStripTakesTheWholeScaleOfItsScreen) {
     startOn(2);
     expectPictureAt(2, QSize(802, 44));
-    EXPECT_EQ(compositor.strip()->bufferScale, 2);
-    EXPECT_FALSE(compositor.strip()->destination.isValid());
+    EXPECT_EQ(compositor.strip()->destination, QSize(401, 22));
+}
+
+TEST_F(WithoutFractionsTest, TheStripIsCrispAtTheFractionThatTheSizesOfItsScreenTell) {
+    startOn(1.5);
+    expectPictureAt(1.5, QSize(602, 33));
+    EXPECT_EQ(compositor.strip()->destination, QSize(401, 22));
+    EXPECT_EQ(compositor.strip()->pictures, 1);
 }
 
 TEST_F(WithoutFractionsTest, TheStripFollowsTheScaleOfItsScreen) {
     FakeOutput& output = compositor.addOutput(QStringLiteral("HDMI-A-1"), QSize(400, 300));
     start();
     ASSERT_TRUE(waitForStrip());
-    compositor.setScale(output, 2);
-    ASSERT_TRUE(waitUntil([this] { return compositor.strip()->bufferScale == 2; }));
-    expectPictureAt(2, QSize(800, 44));
-    compositor.setScale(output, 1);
-    ASSERT_TRUE(waitUntil([this] { return compositor.strip()->bufferScale == 1; }));
-    expectPictureAt(1, QSize(400, 22));
+    for (const double pixelsPerPoint : {2.0, 1.25, 1.0}) {
+        FakeCompositor::setScale(output, pixelsPerPoint);
+        const QSize points(output.size.width(), barHeightPoints);
+        compositor.configure(*compositor.strip(), points);
+        EXPECT_TRUE(waitUntil([&] {
+            return compositor.strip()->destination == points &&
+                   strip->bar().place().pixelsPerPoint == pixelsPerPoint && showsTheBar();
+        })) << "at "
+            << pixelsPerPoint;
+    }
+}
+
+class WithoutSizesTest : public StripPictureTest {
+protected:
+    WithoutSizesTest()
+        : StripPictureTest({.fractionalScale = 0, .xdgOutput = 0}) {}
+};
+
+TEST_F(WithoutSizesTest, TheStripTakesTheWholeScaleOfItsScreen) {
+    startOn(1.5);
+    expectPictureAt(2, QSize(802, 44));
+    EXPECT_EQ(compositor.strip()->destination, QSize(401, 22));
 }
 
 class WithoutViewportsTest : public StripPictureTest {
@@ -178,9 +200,25 @@ protected:
 
 TEST_F(WithoutViewportsTest, TheStripTakesTheWholeScaleOfItsScreen) {
     compositor.scaleParts = wholeScaleParts * 3 / 2;
-    startOn(2);
+    startOn(1.5);
     expectPictureAt(2, QSize(802, 44));
     EXPECT_EQ(compositor.strip()->bufferScale, 2);
+}
+
+TEST(ScreenScaleTest, IsTheFractionThatTheSizesTell) {
+    EXPECT_EQ(screenScale(1, QSize(1280, 800), QSize(1280, 800)), 1);
+    EXPECT_EQ(screenScale(2, QSize(1280, 800), QSize(853, 533)), 1.5);
+    EXPECT_EQ(screenScale(2, QSize(1280, 800), QSize(533, 853)), 1.5) << "of a screen that is turned";
+    EXPECT_EQ(screenScale(2, QSize(1366, 768), QSize(1092, 614)), 1.25);
+    EXPECT_EQ(screenScale(2, QSize(3840, 2160), QSize(1920, 1080)), 2);
+    EXPECT_EQ(screenScale(1, QSize(1000, 800), QSize(2000, 1600)), 0.5);
+}
+
+TEST(ScreenScaleTest, IsWholeWhereTheSizesTellNothingOrSomethingElse) {
+    EXPECT_EQ(screenScale(2, QSize(), QSize(853, 533)), 2);
+    EXPECT_EQ(screenScale(2, QSize(1280, 800), QSize()), 2);
+    EXPECT_EQ(screenScale(2, QSize(1280, 800), QSize(1280, 800)), 2);
+    EXPECT_EQ(screenScale(1, QSize(1280, 800), QSize(1, 1)), 1);
 }
 
 } // namespace

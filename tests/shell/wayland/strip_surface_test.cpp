@@ -122,7 +122,8 @@ protected:
                             .seat = 1,
                             .layerShell = 1,
                             .viewporter = 1,
-                            .fractionalScale = 0}) {}
+                            .fractionalScale = 0,
+                            .xdgOutput = 1}) {}
 };
 
 TEST_F(OldCompositorTest, ShowsTheBarAndHearsClicks) {

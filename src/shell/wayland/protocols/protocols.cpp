@@ -3,11 +3,13 @@
 #include <fractional-scale-v1-client-protocol.h>
 #include <viewporter-client-protocol.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
+#include <xdg-output-unstable-v1-client-protocol.h>
 #include <xdg-shell-client-protocol.h>
 
 extern "C" {
 #include <fractional-scale-v1-protocol.c>
 #include <viewporter-protocol.c>
 #include <wlr-layer-shell-unstable-v1-protocol.c>
+#include <xdg-output-unstable-v1-protocol.c>
 #include <xdg-shell-protocol.c>
 }
