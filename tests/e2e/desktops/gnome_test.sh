@@ -19,8 +19,9 @@ evaluate() {
     local answer
     answer=$(gdbus call --session --dest org.gnome.Shell --object-path /org/gnome/Shell \
         --method org.gnome.Shell.Eval "$1" 2>/dev/null)
-    [[ $answer == "(true, "* ]] || return
-    sed "s/^(true, '\(.*\)')\$/\1/" <<<"$answer"
+    [[ $answer == "(true, '"*"')" ]] || return
+    answer=${answer#"(true, '"}
+    echo "${answer%"')"}"
 }
 
 shellHasStarted() { [[ $(evaluate 'Main.layoutManager._startingUp') == false ]]; }
@@ -58,6 +59,7 @@ pressPointer() {
     done
 }
 
+# shellcheck disable=SC2016 # the code is JavaScript
 windowPlaces() {
     evaluate 'const place = it => `${it.x},${it.y} ${it.width}x${it.height}`;
         ["area " + place(Main.layoutManager.getWorkAreaForMonitor(0)),
@@ -66,9 +68,11 @@ windowPlaces() {
         sed 's/^"\(.*\)"$/\1/' | tr '|' '\n'
 }
 
-takePicture() {
-    gdbus call --session --dest org.gnome.Shell.Screenshot --object-path /org/gnome/Shell/Screenshot \
-        --method org.gnome.Shell.Screenshot.Screenshot false false "$1" >/dev/null
+# keepPicture NAME: saves a picture of the whole desktop if ORVELLE_PICTURES names a folder.
+keepPicture() {
+    [[ -z $ORVELLE_PICTURES ]] ||
+        gdbus call --session --dest org.gnome.Shell.Screenshot --object-path /org/gnome/Shell/Screenshot \
+            --method org.gnome.Shell.Screenshot.Screenshot false false "$ORVELLE_PICTURES/$1.png" >/dev/null
 }
 
 testPressInAWaylandWindow() {

@@ -21,6 +21,7 @@ onKWin() {
     printf '[Xwayland]\nScale=%s\n' "${2:-1}" >"$XDG_CONFIG_HOME/kwinrc"
     rm -f "$workDirectory/display"
     # KWin starts this program when its X server is ready.
+    # shellcheck disable=SC2016 # that program expands it
     printf '#!/bin/sh\necho "$DISPLAY" >"%s"\n' "$workDirectory/display" >"$workDirectory/started"
     chmod +x "$workDirectory/started"
     KWIN_COMPOSE=O2 KWIN_WAYLAND_NO_PERMISSION_CHECKS=1 QT_LOGGING_RULES="js.debug=true;kwin_scripting.debug=true" \

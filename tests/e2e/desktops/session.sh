@@ -4,7 +4,9 @@
 #   windowPlaces           prints a line "window X,Y WIDTHxHEIGHT TITLE" for each window and a line
 #                          "area X,Y WIDTHxHEIGHT" for the work area, in points, as the compositor knows them
 #   pressPointer X Y       presses the left button of the compositor's pointer there, in points
-
+#
+# It sets orvelle and client to the paths of both programs first.
+# shellcheck disable=SC2154 # they, and the arrays of scripts/modules.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop.sh"
 
 export HOME=$workDirectory XDG_CACHE_HOME=$workDirectory/cache XDG_DATA_HOME=$workDirectory/data
@@ -94,9 +96,6 @@ testPressInAnotherX11Window() {
     waitUntil "and reaches that window" otherWindowWasClicked
     closeOtherWindow
 }
-
-# keepPicture NAME: saves a picture if ORVELLE_PICTURES names a folder and the compositor takes pictures.
-keepPicture() { [[ -z $ORVELLE_PICTURES ]] || takePicture "$ORVELLE_PICTURES/$1.png"; }
 
 finish() {
     echo "$failures failures in $SECONDS seconds"
