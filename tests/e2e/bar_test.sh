@@ -133,12 +133,39 @@ testPrimaryScreen() {
     expectBar "0,0 1280x22" 22 1279
 }
 
-testWindowManagerRestart() {
+# restartWindowManager [OPTION...]
+restartWindowManager() {
     kill "$window_manager_process"
     wait "$window_manager_process"
-    start_window_manager
+    start_window_manager openbox --sm-disable "$@"
+}
+
+testWindowManagerRestart() {
+    restartWindowManager
     expectBar "0,0 1280x22" 22 1279
     waitUntil "a new window manager reserves the space" workAreaIs "0, 22, 1280, 778"
+}
+
+# configureMargin HEIGHT: lets openbox keep that much free at the top, as desktops do for panels that are no X windows.
+configureMargin() {
+    echo '<openbox_config xmlns="http://openbox.org/3.4/rc"><margins><top>'"$1"'</top></margins></openbox_config>' \
+        >"$workDirectory/openbox.xml"
+}
+
+testSpaceReservedWithoutAWindow() {
+    configureMargin 40
+    restartWindowManager --config-file "$workDirectory/openbox.xml"
+    expectBar "0,40 1280x22" 62 1279
+    waitUntil "the space of both is reserved" workAreaIs "0, 62, 1280, 738"
+    configureMargin 70
+    openbox --reconfigure
+    expectBar "0,70 1280x22" 92 1279
+    waitUntil "the space of both is reserved" workAreaIs "0, 92, 1280, 708"
+    sleep 0.5 # a bar that takes its own space for that of others would move down again and again
+    expectBar "0,70 1280x22" 92 1279
+    restartWindowManager
+    expectBar "0,0 1280x22" 22 1279
+    waitUntil "only the bar's space is reserved" workAreaIs "0, 22, 1280, 778"
 }
 
 testSecondStart() {
@@ -214,6 +241,7 @@ testPanelAbove
 testScreenSize
 testPrimaryScreen
 testWindowManagerRestart
+testSpaceReservedWithoutAWindow
 testSecondStart
 testClosedByTheWindowManager
 endOrvelle TERM
