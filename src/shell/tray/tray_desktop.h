@@ -5,6 +5,9 @@
 
 namespace orvelle {
 
+/// Makes a popup of the tabs that any desktop shows which lets a program place its windows.
+[[nodiscard]] std::unique_ptr<Popup> makePassivePopup(QWindow& window);
+
 /// A desktop whose tray holds the items. Everything else is made by another one.
 class TrayDesktop final : public Desktop {
 public:

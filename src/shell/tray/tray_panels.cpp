@@ -124,6 +124,7 @@ bool TrayPanels::hasShownPopup() const {
 void TrayPanels::updateStrip() {
     m_isUpdateDue = false;
     const QRect strip = places(panelSize).strip;
+    m_strip.select(shownItem());
     if (hasShownPopup() && !strip.isEmpty())
         m_strip.show(screen(), strip);
     else

@@ -13,12 +13,17 @@ TrayStrip::TrayStrip(const MakePopup& makePopup) {
 }
 
 QSize TrayStrip::wantedSize() const {
-    if (m_popup == nullptr || bar().isEmpty())
+    if (m_popup == nullptr || bar().items().size() < 2)
         return {};
     double width = 2 * barRightMarginPoints;
     for (const auto& item : bar().items())
         width += item->length();
     return {static_cast<int>(std::ceil(width)), barHeightPoints};
+}
+
+void TrayStrip::select(const QString& identifier) {
+    for (const auto& item : bar().items())
+        item->setHighlighted(item->identifier() == identifier);
 }
 
 void TrayStrip::show(QScreen& screen, const QRect& geometry) {

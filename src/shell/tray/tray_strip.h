@@ -14,9 +14,12 @@ public:
     explicit TrayStrip(const MakePopup& makePopup);
 
     [[nodiscard]] Bar& bar() const { return m_bar; }
-    /// The size at which every item fits; empty where there are no tabs.
+    /// The size at which every item fits; empty where there are no tabs, because there is no choice or no
+    /// place for them.
     [[nodiscard]] QSize wantedSize() const;
 
+    /// Marks the tab of this item; none when it is empty.
+    void select(const QString& identifier);
     /// Shows the strip there, or moves it.
     void show(QScreen& screen, const QRect& geometry);
     void hide();

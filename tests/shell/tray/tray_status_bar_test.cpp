@@ -5,6 +5,7 @@
 #include "support/temporary_settings.h"
 #include "tray_double.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QRasterWindow>
 #include <QTest>
@@ -74,6 +75,17 @@ protected:
             panels[identifier]->close();
         else
             panels[identifier]->show(*items[identifier]);
+    }
+    /// The tab under which there is a plate.
+    [[nodiscard]] static QString selectedTab() {
+        const QWindow* window = shownWindow(QStringLiteral("Orvelle tabs"));
+        QAccessibleInterface* strip = QAccessible::queryAccessibleInterface(const_cast<QWindow*>(window));
+        QStringList selected;
+        for (int index = 0; strip != nullptr && index < strip->childCount(); ++index) {
+            if (strip->child(index)->state().pressed)
+                selected.append(strip->child(index)->text(QAccessible::Name));
+        }
+        return selected.join(QLatin1Char(' '));
     }
     /// Activates an icon, and handles what follows.
     void activate(qsizetype icon, int x = 10, int y = 10) {
@@ -205,10 +217,19 @@ TEST_F(TrayStatusBarTest, ChangesThePanelByATab) {
     QCoreApplication::processEvents();
     EXPECT_EQ(shownPanels(), QStringLiteral("memory"));
     EXPECT_TRUE(hasTabs());
+    EXPECT_EQ(selectedTab(), QStringLiteral("Memory"));
     activate(0);
     EXPECT_EQ(shownPanels(), QString());
     activate(0);
     EXPECT_EQ(shownPanels(), QStringLiteral("memory")) << "the one that was open last";
+}
+
+TEST_F(TrayStatusBarTest, HasNoTabsWhereThereIsNoChoice) {
+    removeItem(QStringLiteral("memory"));
+    ASSERT_TRUE(tray.waitForIcons(1));
+    activate(0);
+    EXPECT_EQ(shownPanels(), QStringLiteral("cpu"));
+    EXPECT_FALSE(hasTabs());
 }
 
 TEST_F(TrayStatusBarTest, ChangesThePanelByKeys) {
