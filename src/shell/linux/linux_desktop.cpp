@@ -1,7 +1,12 @@
 #include "shell/desktop.h"
 #include "shell/linux/desktop_choice.h"
+#include "shell/tray/tray_desktop.h"
+#include "shell/tray/tray_presence.h"
 #include "shell/wayland/wayland_desktop.h"
 #include "shell/x11/x11_desktop.h"
+
+#include <QCursor>
+#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -20,6 +25,20 @@ std::unique_ptr<Desktop> makeWaylandDesktop(SettingsStore& /*settings*/) {
     return desktop;
 }
 
+/// Qt takes X11 where it has no plugin for Wayland, which is better than nothing unless the user wants
+/// Wayland.
+std::unique_ptr<Desktop> makeBestDesktop(SettingsStore& settings) {
+    return QGuiApplication::platformName() == QLatin1StringView("xcb") ? makeX11Desktop(settings)
+                                                                       : makeWaylandDesktop(settings);
+}
+
+/// The tray's windows are placed by the X server.
+std::unique_ptr<Desktop> makeTrayDesktop(SettingsStore& settings) {
+    return std::make_unique<TrayDesktop>(
+        settings, std::make_unique<X11Desktop>(),
+        TrayWindows{&makeX11Popup, &makePassivePopup, [] { return std::optional(QCursor::pos()); }});
+}
+
 } // namespace
 
 QStringList desktopNames() {
@@ -27,16 +46,23 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
-    const auto noneYet = [] { return std::optional(QStringLiteral("nothing else can be used yet")); };
     const DesktopFinding found =
-        findDesktop(name, qgetenv("QT_QPA_PLATFORM"), {&waylandDesktopAbsence, &x11Absence, noneYet});
+        findDesktop(name, qgetenv("QT_QPA_PLATFORM"),
+                    {&waylandDesktopAbsence, &x11Absence, [] { return trayAbsence(); }});
     if (!found.kind)
         return {{}, found.error};
-    if (found.kind == DesktopKind::x11)
-        chooseX11();
-    if (found.kind == DesktopKind::wayland) {
+    switch (*found.kind) {
+    case DesktopKind::wayland:
         chooseWayland();
-        return {&makeWaylandDesktop, {}};
+        return {name == desktopNames().first() ? &makeBestDesktop : &makeWaylandDesktop, {}};
+    case DesktopKind::tray:
+        chooseX11();
+        return {&makeTrayDesktop, {}};
+    case DesktopKind::x11:
+        chooseX11();
+        break;
+    case DesktopKind::foreign:
+        break;
     }
     return {&makeX11Desktop, {}};
 }

@@ -17,10 +17,6 @@
 namespace orvelle {
 namespace {
 
-std::unique_ptr<Popup> makePopup(QWindow& window) {
-    return std::make_unique<PopupWindow>(window);
-}
-
 /// X11 desktops have no status bar for items of any width, so the program paints its own.
 class X11StatusBar final : public StatusBar {
 public:
@@ -34,11 +30,11 @@ public:
     }
     void removeItem(StatusItem& item) override { m_bar.removeItem(item); }
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override {
-        return std::make_unique<BarPopover>(m_bar, m_keptPopovers, makePopup, std::move(makeContent),
+        return std::make_unique<BarPopover>(m_bar, m_keptPopovers, makeX11Popup, std::move(makeContent),
                                             [this] { m_focus.resume(); });
     }
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override {
-        return std::make_unique<BarContextMenu>(m_bar, makePopup, [this] { m_focus.resume(); });
+        return std::make_unique<BarContextMenu>(m_bar, makeX11Popup, [this] { m_focus.resume(); });
     }
     void takeKeyboard() override { m_focus.take(); }
 
@@ -51,6 +47,10 @@ private:
 };
 
 } // namespace
+
+std::unique_ptr<Popup> makeX11Popup(QWindow& window) {
+    return std::make_unique<PopupWindow>(window);
+}
 
 std::optional<QString> x11Absence() {
     const QString display = qEnvironmentVariable("DISPLAY");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/desktop.h"
+#include "shell/painted/popup.h"
 
 #include <optional>
 
@@ -12,6 +13,9 @@ namespace orvelle {
 
 /// Has Qt, which reads the environment when the application object is made, talk to the X server.
 void chooseX11();
+
+/// Opens a window as a popup of X11. The window must outlive the result and must not have been shown.
+[[nodiscard]] std::unique_ptr<Popup> makeX11Popup(QWindow& window);
 
 /// A desktop with an X server, native or XWayland. Where Qt has another platform, which the user or a test
 /// chose, the bar is an ordinary window.
