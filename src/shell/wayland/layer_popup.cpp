@@ -6,8 +6,9 @@
 
 namespace orvelle {
 
-LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, MakeOutsidePresses makeOutsidePresses)
-    : m_role(shell, window)
+LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight,
+                       MakeOutsidePresses makeOutsidePresses)
+    : m_role(shell, window, ownBarHeight)
     , m_events(window)
     , m_makeOutsidePresses(std::move(makeOutsidePresses)) {
     connect(&m_role, &LayerRole::closed, this, &LayerPopup::close);

@@ -14,8 +14,8 @@ class LayerPopup final : public Popup {
     Q_OBJECT
 
 public:
-    /// All must outlive the object. The window must not have been shown.
-    LayerPopup(LayerShell& shell, QWindow& window, MakeOutsidePresses makeOutsidePresses);
+    /// All must outlive the object. The window must not have been shown. `ownBarHeight` as in LayerRole.
+    LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight, MakeOutsidePresses makeOutsidePresses);
 
     void show(QScreen& screen, const QRect& geometry, const QRectF& spared) override;
     void close() override;

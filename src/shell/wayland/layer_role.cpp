@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 #include <wayland-client.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
@@ -26,9 +27,11 @@ const zwlr_layer_surface_v1_listener LayerRole::listener{
     [](void* data, zwlr_layer_surface_v1* /*surface*/) { Q_EMIT static_cast<LayerRole*>(data)->closed(); },
 };
 
-LayerRole::LayerRole(LayerShell& shell, QWindow& window)
+LayerRole::LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight, LayerKeyboard keyboard)
     : m_shell(shell)
-    , m_window(window) {
+    , m_window(window)
+    , m_ownBarHeight(ownBarHeight)
+    , m_keyboard(keyboard) {
     // With this hint Qt leaves the surface without a role.
     m_window.setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     m_window.installEventFilter(this);
@@ -37,7 +40,7 @@ LayerRole::LayerRole(LayerShell& shell, QWindow& window)
             giveUpRole();
     });
     connect(&m_window, &QWindow::activeChanged, this, [this] {
-        if (m_window.isActive() && m_shell.hasKeyboardOnDemand())
+        if (m_keyboard == LayerKeyboard::takes && m_window.isActive() && m_shell.hasKeyboardOnDemand())
             setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND);
     });
 }
@@ -60,7 +63,8 @@ bool LayerRole::show(QScreen& screen, const QRect& geometry) {
     m_isConfigured = false;
     zwlr_layer_surface_v1_add_listener(m_surface, &listener, this);
     place(geometry.translated(-screen.geometry().topLeft()));
-    setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE);
+    setKeyboard(m_keyboard == LayerKeyboard::takes ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
+                                                   : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
     return awaitConfiguration();
 }
 
@@ -69,9 +73,10 @@ void LayerRole::place(const QRect& geometryOnScreen) {
                                    static_cast<std::uint32_t>(geometryOnScreen.height()));
     zwlr_layer_surface_v1_set_anchor(m_surface,
                                      ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
-    zwlr_layer_surface_v1_set_margin(m_surface, geometryOnScreen.top(), 0, 0, geometryOnScreen.left());
-    constexpr std::int32_t countFromTheEdgeOfTheScreen = -1; // not from that of the space that bars leave
-    zwlr_layer_surface_v1_set_exclusive_zone(m_surface, countFromTheEdgeOfTheScreen);
+    zwlr_layer_surface_v1_set_margin(m_surface, std::max(geometryOnScreen.top() - m_ownBarHeight, 0), 0, 0,
+                                     geometryOnScreen.left());
+    constexpr std::int32_t clearOfBars = 0;
+    zwlr_layer_surface_v1_set_exclusive_zone(m_surface, clearOfBars);
 }
 
 /// Qt paints in the next turn of the event loop, and a picture before the compositor's answer would be an

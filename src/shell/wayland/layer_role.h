@@ -11,19 +11,29 @@ struct zwlr_layer_surface_v1_listener;
 
 namespace orvelle {
 
-/// Shows a window of Qt as a surface of the layer shell: over all windows, where the program wants it, and
-/// with the keyboard. The compositor gives the keyboard at once. Once it is there, the window has it as
-/// ordinary windows do, and loses it when the user turns to another one. Main thread only.
+/// Whether a window gets the keyboard when it opens.
+enum class LayerKeyboard {
+    takes, ///< at once; then it keeps it as ordinary windows do, and loses it when the user turns to another
+    leaves ///< never
+};
+
+/// Shows a window of Qt as a surface of the layer shell: over all windows, and where the program wants it.
+///
+/// No program learns where on the screen its own bar is, because bars of others may be above it. So the place
+/// counts from the upper left corner of what all bars leave free. Main thread only.
 class LayerRole final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive the object. The window must not have been shown.
-    LayerRole(LayerShell& shell, QWindow& window);
+    /// Both must outlive the object. The window must not have been shown. `ownBarHeight` is that of the bar
+    /// above the window which belongs to the program, in points; 0 when it has none.
+    LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight,
+              LayerKeyboard keyboard = LayerKeyboard::takes);
     ~LayerRole() override;
 
-    /// Shows the window, which must be hidden. The geometry is in points of the desktop. Returns whether the
-    /// compositor accepted it; the window is hidden again when it did not.
+    /// Shows the window, which must be hidden. The geometry is in points of the desktop, as if there were no
+    /// other bar than the program's own. Returns whether the compositor accepted it; the window is hidden
+    /// again when it did not.
     [[nodiscard]] bool show(QScreen& screen, const QRect& geometry);
     /// Hides the window; the compositor gives the keyboard back.
     void hide();
@@ -44,6 +54,8 @@ private:
 
     LayerShell& m_shell;
     QWindow& m_window;
+    int m_ownBarHeight;
+    LayerKeyboard m_keyboard;
     zwlr_layer_surface_v1* m_surface = nullptr; ///< null while the window is hidden
     bool m_isConfigured = false;
 };

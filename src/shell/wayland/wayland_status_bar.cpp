@@ -27,7 +27,7 @@ std::unique_ptr<ContextMenu> WaylandStatusBar::makeContextMenu() {
 }
 
 std::unique_ptr<Popup> WaylandStatusBar::makePopup(QWindow& window) {
-    auto popup = std::make_unique<LayerPopup>(m_shell, window, m_makeOutsidePresses);
+    auto popup = std::make_unique<LayerPopup>(m_shell, window, barHeightPoints, m_makeOutsidePresses);
     connect(popup.get(), &Popup::painted, &m_focus, &LayerBarFocus::yield);
     connect(this, &WaylandStatusBar::closePopups, popup.get(), &Popup::close);
     return popup;
