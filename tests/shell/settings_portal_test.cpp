@@ -1,13 +1,19 @@
 #include "animation/animation_clock.h"
 #include "shell/painted/settings_portal.h"
+#include "support/environment.h"
 #include "support/private_bus.h"
 #include "support/waiting.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVirtualObject>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace orvelle {
 namespace {
@@ -187,6 +193,41 @@ TEST_F(SettingsPortalTest, StartsWithoutWaitingForTheAnswer) {
     EXPECT_TRUE(waitUntil([this] { return portal.questionCount == 1; }));
     portal.change(false);
     EXPECT_TRUE(becomesReduced(true));
+}
+
+/// Takes connections and never answers.
+class HangingBus {
+public:
+    HangingBus() {
+        const std::string path = (m_tree.root() / "bus").string();
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.copy(static_cast<char*>(address.sun_path), sizeof(address.sun_path) - 1);
+        EXPECT_EQ(::bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+        EXPECT_EQ(::listen(m_socket, 8), 0);
+    }
+    ~HangingBus() { ::close(m_socket); }
+    HangingBus(const HangingBus&) = delete;
+    HangingBus& operator=(const HangingBus&) = delete;
+
+    [[nodiscard]] QByteArray address() const {
+        return "unix:path=" + QByteArray::fromStdString((m_tree.root() / "bus").string());
+    }
+
+private:
+    TemporaryTree m_tree;
+    int m_socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+};
+
+TEST(SettingsPortalStart, DoesNotWaitForABusThatDoesNotAnswer) {
+    AnimationClock clock;
+    const HangingBus bus;
+    const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    QElapsedTimer time;
+    time.start();
+    const auto follower = followPortalMotion(clock);
+    QTest::qWait(50);
+    EXPECT_LT(time.elapsed(), 5000);
 }
 
 TEST_F(SettingsPortalTest, SurvivesTheEndOfTheBus) {

@@ -7,6 +7,10 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QThread>
+
+#include <functional>
+#include <utility>
 
 namespace orvelle {
 namespace {
@@ -23,6 +27,34 @@ AllSettings settingsIn(const QDBusMessage& answer) {
         return {};
     return qdbus_cast<AllSettings>(answer.arguments().constFirst());
 }
+
+/// Hands what the portal tells to a function.
+class PortalFollower final : public QObject {
+public:
+    PortalFollower(const std::optional<QDBusConnection>& bus, std::function<void(const PortalValues&)> apply)
+        : m_apply(std::move(apply)) {
+        if (bus)
+            follow(*bus);
+        else
+            openSessionBus();
+    }
+
+private:
+    /// In a thread, because a bus that does not answer holds up whoever connects to it.
+    void openSessionBus() {
+        QThread* thread = QThread::create([] { static_cast<void>(QDBusConnection::sessionBus()); });
+        connect(thread, &QThread::finished, this, [this] { follow(QDBusConnection::sessionBus()); });
+        connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+        thread->start();
+    }
+    void follow(const QDBusConnection& bus) {
+        m_portal = std::make_unique<SettingsPortal>(bus);
+        connect(m_portal.get(), &SettingsPortal::read, this, [this] { m_apply(m_portal->values()); });
+    }
+
+    std::function<void(const PortalValues&)> m_apply;
+    std::unique_ptr<SettingsPortal> m_portal; ///< null while there is no bus
+};
 
 } // namespace
 
@@ -65,20 +97,17 @@ void SettingsPortal::takeChange(const QDBusMessage& message) {
     Q_EMIT read();
 }
 
-std::unique_ptr<QObject> followPortalMotion(AnimationClock& clock, const QDBusConnection& bus) {
-    auto portal = std::make_unique<SettingsPortal>(bus);
-    QObject::connect(portal.get(), &SettingsPortal::read, portal.get(), [&clock, &portal = *portal] {
-        if (const std::optional<bool> reduces = portal.values().reducesMotion())
+std::unique_ptr<QObject> followPortalMotion(AnimationClock& clock,
+                                            const std::optional<QDBusConnection>& bus) {
+    return std::make_unique<PortalFollower>(bus, [&clock](const PortalValues& values) {
+        if (const std::optional<bool> reduces = values.reducesMotion())
             clock.setReduced(*reduces);
     });
-    return portal;
 }
 
-std::unique_ptr<QObject> followPortalFonts(const QDBusConnection& bus) {
-    auto portal = std::make_unique<SettingsPortal>(bus);
-    QObject::connect(portal.get(), &SettingsPortal::read, portal.get(),
-                     [&portal = *portal] { setDesktopFontNames(portal.values().fonts()); });
-    return portal;
+std::unique_ptr<QObject> followPortalFonts(const std::optional<QDBusConnection>& bus) {
+    return std::make_unique<PortalFollower>(
+        bus, [](const PortalValues& values) { setDesktopFontNames(values.fonts()); });
 }
 
 } // namespace orvelle

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class QDBusMessage;
 class QDBusPendingCallWatcher;
@@ -42,11 +43,13 @@ private:
 };
 
 /// Keeps the clock's motion reduced when the user asks the desktop for that, as long as the result lives.
+/// Without a bus it is the session's, which is opened without waiting for it.
 [[nodiscard]] std::unique_ptr<QObject>
-followPortalMotion(AnimationClock& clock, const QDBusConnection& bus = QDBusConnection::sessionBus());
+followPortalMotion(AnimationClock& clock, const std::optional<QDBusConnection>& bus = std::nullopt);
 
 /// Keeps the fonts of theme/fonts.h equal to those that the portal names, as long as the result lives.
+/// Without a bus it is the session's, which is opened without waiting for it.
 [[nodiscard]] std::unique_ptr<QObject>
-followPortalFonts(const QDBusConnection& bus = QDBusConnection::sessionBus());
+followPortalFonts(const std::optional<QDBusConnection>& bus = std::nullopt);
 
 } // namespace orvelle
