@@ -29,10 +29,10 @@ expectBar() {
     expectFreeSpace "$output" "$left,22 ${width}x$((height - 22))" && waitUntil "the bar is painted" barIsPainted
 }
 barIsPainted() { colorsAre "$output" "$(part 100 4 0 0)" 1E1E20; }
-barIsGone() { isBare "$output" "$(part "$width" 22 0 0)"; }
 programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
 
-complaints() { grep -v '^orvelle.open: ' "$log"; }
+# The test asked for the first kind of lines. Qt prints the second one when the last output goes.
+complaints() { grep -v -e '^orvelle.open: ' -e 'Creating a fake screen in order for Qt not to crash' "$log"; }
 # endOrvelle: expects a clean end.
 endOrvelle() {
     kill -TERM "$orvellePid"

@@ -23,13 +23,13 @@ openByMenu() {
     seat key Down Return
     expectWindow "the menu opens the settings"
 }
-# The gear stands in the right upper corner of a panel.
+# The gear is in the right lower corner of a panel.
 openByPanel() {
-    local start top wide
+    local start top wide high
     clickItem 0
     expectPanel 0 "a panel opens"
-    IFS=', x' read -r start top wide _ < <(shownPlace)
-    seat click 1 $((left + start + wide - 24)) $((22 + top + 24))
+    IFS=', x' read -r start top wide high < <(shownPlace)
+    seat click 1 $((left + start + wide - 24)) $((22 + top + high - 21))
     expectWindow "the panel's button opens the settings"
 }
 
@@ -55,7 +55,7 @@ testChanges() {
     seat key space
     waitUntil "and stored again" grep -q '^showMemory=true' "$settingsFile"
     storeVisibility false
-    waitUntil "hiding every module elsewhere takes the bar away" barIsGone
+    expectFreeSpace "$output" "0,0 1280x800"
     seat key Escape
     waitUntil "Escape closes the window" windowIsGone
     startAgain "$orvelle" 2>/dev/null
