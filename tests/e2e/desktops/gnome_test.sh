@@ -5,8 +5,7 @@
 
 orvelle=$1
 client=$2
-folder=$(dirname "$0")
-source "$folder/session.sh"
+source "$(dirname "$0")/session.sh"
 requireTools gnome-shell Xwayland dbus-daemon gdbus foot xprop xwininfo xdotool
 # The module is installed for the system's own Python, which need not be the first one.
 python=/usr/bin/python3
