@@ -40,7 +40,7 @@ room 'platform/[^/]*$'     "$none"      'core/sources/|platform/[^/]*$'
 room 'charts/'             "$gui"       "charts/|$looks"
 room 'shell/x11/'          "$gui"       "shell/([^/]*$|painted/|x11/)|$looks"
 room 'shell/wayland/'      "$gui"       "shell/([^/]*$|painted/|wayland/)|$looks"
-room 'shell/linux/'        "$gui"       "shell/([^/]*$|linux/|x11/x11_desktop\.h|wayland/wayland_[a-z]*\.h|tray/tray_(desktop|presence)\.h)|$looks"
+room 'shell/linux/'        "$gui"       "shell/([^/]*$|linux/|painted/|x11/|wayland/|tray/)|$looks"
 room 'shell/tray/'         "$gui|DBus"  "shell/([^/]*$|painted/|tray/)|$looks"
 room 'shell/macos/'        "$gui"       "shell/([^/]*$|macos/)|$looks"
 room 'shell/painted/'      "$gui|DBus"  "shell/([^/]*$|painted/)|$looks"

@@ -1,11 +1,9 @@
 #include "shell/desktop.h"
 #include "shell/linux/desktop_choice.h"
-#include "shell/tray/tray_desktop.h"
-#include "shell/tray/tray_presence.h"
+#include "shell/linux/tray_choice.h"
 #include "shell/wayland/wayland_desktop.h"
 #include "shell/x11/x11_desktop.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -32,13 +30,6 @@ std::unique_ptr<Desktop> makeBestDesktop(SettingsStore& settings) {
                                                                        : makeWaylandDesktop(settings);
 }
 
-/// The tray's windows are placed by the X server.
-std::unique_ptr<Desktop> makeTrayDesktop(SettingsStore& settings) {
-    return std::make_unique<TrayDesktop>(
-        settings, std::make_unique<X11Desktop>(),
-        TrayWindows{&makeX11Popup, &makePassivePopup, [] { return std::optional(QCursor::pos()); }});
-}
-
 } // namespace
 
 QStringList desktopNames() {
@@ -46,9 +37,8 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
-    const DesktopFinding found =
-        findDesktop(name, qgetenv("QT_QPA_PLATFORM"),
-                    {&waylandDesktopAbsence, &x11Absence, [] { return trayAbsence(); }});
+    const DesktopFinding found = findDesktop(name, qgetenv("QT_QPA_PLATFORM"),
+                                             {&waylandDesktopAbsence, &x11Absence, &trayDesktopAbsence});
     if (!found.kind)
         return {{}, found.error};
     switch (*found.kind) {
@@ -56,8 +46,7 @@ DesktopChoice chooseDesktop(const QString& name) {
         chooseWayland();
         return {name == desktopNames().first() ? &makeBestDesktop : &makeWaylandDesktop, {}};
     case DesktopKind::tray:
-        chooseX11();
-        return {&makeTrayDesktop, {}};
+        return {chooseTray(), {}};
     case DesktopKind::x11:
         chooseX11();
         break;

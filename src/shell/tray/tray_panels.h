@@ -17,7 +17,7 @@ struct TrayWindows {
     MakePopup makePopup; ///< of panels and menus
     /// Of the tabs above a panel: must leave the keyboard where it is. Empty where the desktop places windows
     /// itself; there are no tabs then.
-    MakePopup makeStrip;
+    MakePopup makeStrip = {};
     /// Where the mouse is; nothing where the desktop does not tell.
     std::function<std::optional<QPoint>()> cursorPosition = [] { return std::nullopt; };
 };

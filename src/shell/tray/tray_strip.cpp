@@ -27,7 +27,9 @@ void TrayStrip::select(const QString& identifier) {
 }
 
 void TrayStrip::show(QScreen& screen, const QRect& geometry) {
-    if (m_popup != nullptr && !(isShown() && m_window.geometry() == geometry))
+    const bool isThere = isShown() && m_geometry == geometry;
+    m_geometry = geometry;
+    if (m_popup != nullptr && !isThere)
         m_popup->show(screen, geometry, {});
 }
 

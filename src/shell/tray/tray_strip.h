@@ -29,6 +29,7 @@ private:
     BarWindow m_window;
     Bar& m_bar = m_window.bar();
     std::unique_ptr<Popup> m_popup;
+    QRect m_geometry; ///< wanted last; not all desktops tell where a window is
 };
 
 } // namespace orvelle

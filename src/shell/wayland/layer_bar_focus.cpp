@@ -13,7 +13,7 @@ constexpr QSize onePoint(1, 1);
 
 LayerBarFocus::LayerBarFocus(LayerShell& shell, AccessibleBar& window, MakeOutsidePresses makeOutsidePresses)
     : BarFocus(window)
-    , m_role(shell, window, barHeightPoints)
+    , m_role(shell, window, barHeightPoints, LayerKeyboard::takes)
     , m_picture(&window)
     , m_makeOutsidePresses(std::move(makeOutsidePresses)) {
     QSurfaceFormat translucent = window.requestedFormat();

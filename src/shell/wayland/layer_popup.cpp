@@ -6,9 +6,9 @@
 
 namespace orvelle {
 
-LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight,
+LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight, LayerKeyboard keyboard,
                        MakeOutsidePresses makeOutsidePresses)
-    : m_role(shell, window, ownBarHeight)
+    : m_role(shell, window, ownBarHeight, keyboard)
     , m_events(window)
     , m_makeOutsidePresses(std::move(makeOutsidePresses)) {
     connect(&m_role, &LayerRole::closed, this, &LayerPopup::close);

@@ -15,7 +15,8 @@ class LayerPopup final : public Popup {
 
 public:
     /// All must outlive the object. The window must not have been shown. `ownBarHeight` as in LayerRole.
-    LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight, MakeOutsidePresses makeOutsidePresses);
+    LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight, LayerKeyboard keyboard,
+               MakeOutsidePresses makeOutsidePresses);
 
     void show(QScreen& screen, const QRect& geometry, const QRectF& spared) override;
     void close() override;

@@ -50,6 +50,7 @@ LayerRole::~LayerRole() {
 }
 
 bool LayerRole::show(QScreen& screen, const QRect& geometry) {
+    hide(); // a surface that is shown cannot get another role
     m_window.setScreen(&screen);
     m_window.setGeometry(geometry);
     m_window.show();

@@ -27,11 +27,10 @@ class LayerRole final : public QObject {
 public:
     /// Both must outlive the object. The window must not have been shown. `ownBarHeight` is that of the bar
     /// above the window which belongs to the program, in points; 0 when it has none.
-    LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight,
-              LayerKeyboard keyboard = LayerKeyboard::takes);
+    LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight, LayerKeyboard keyboard);
     ~LayerRole() override;
 
-    /// Shows the window, which must be hidden. The geometry is in points of the desktop, as if there were no
+    /// Shows the window, or moves it by showing it anew. The geometry is in points of the desktop, as if there were no
     /// other bar than the program's own. Returns whether the compositor accepted it; the window is hidden
     /// again when it did not.
     [[nodiscard]] bool show(QScreen& screen, const QRect& geometry);

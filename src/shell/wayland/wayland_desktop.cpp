@@ -90,6 +90,10 @@ std::unique_ptr<SingleInstance> WaylandDesktop::becomeSingleInstance() {
 }
 
 std::unique_ptr<StatusBar> WaylandDesktop::makeStatusBar() {
+    return makeStrip();
+}
+
+std::unique_ptr<WaylandStatusBar> WaylandDesktop::makeStrip() {
     auto bar = std::make_unique<WaylandStatusBar>(*m_shell, std::move(m_connection));
     QObject::connect(bar.get(), &WaylandStatusBar::lost, bar.get(), &endProgram);
     m_statusBar = bar.get();

@@ -31,6 +31,9 @@ public:
     [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override;
     /// There is only one, as there is only one strip.
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override;
+    /// The same by its own name. Left empty, it opens the windows of a desktop that shows its items
+    /// elsewhere.
+    [[nodiscard]] std::unique_ptr<WaylandStatusBar> makeStrip();
     [[nodiscard]] std::unique_ptr<SettingsWindow>
     makeSettingsWindow(std::unique_ptr<QWindow> content) override;
     [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) override;

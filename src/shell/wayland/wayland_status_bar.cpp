@@ -27,10 +27,16 @@ std::unique_ptr<ContextMenu> WaylandStatusBar::makeContextMenu() {
 }
 
 std::unique_ptr<Popup> WaylandStatusBar::makePopup(QWindow& window) {
-    auto popup = std::make_unique<LayerPopup>(m_shell, window, barHeightPoints, m_makeOutsidePresses);
+    auto popup =
+        std::make_unique<LayerPopup>(m_shell, window, height(), LayerKeyboard::takes, m_makeOutsidePresses);
     connect(popup.get(), &Popup::painted, &m_focus, &LayerBarFocus::yield);
     connect(this, &WaylandStatusBar::closePopups, popup.get(), &Popup::close);
     return popup;
+}
+
+std::unique_ptr<Popup> WaylandStatusBar::makePassivePopup(QWindow& window) {
+    return std::make_unique<LayerPopup>(m_shell, window, height(), LayerKeyboard::leaves,
+                                        [](const QRectF&) { return std::make_unique<OutsidePresses>(); });
 }
 
 } // namespace orvelle

@@ -22,6 +22,12 @@ public:
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
     void takeKeyboard() override { m_focus.take(); }
 
+    /// Opens a window below the bar, or, while that is empty, in the upper corner that all bars leave free.
+    /// The window must outlive the result and must not have been shown.
+    [[nodiscard]] std::unique_ptr<Popup> makePopup(QWindow& window);
+    /// The same for a window that leaves the keyboard where it is, and closes only when it is told to.
+    [[nodiscard]] std::unique_ptr<Popup> makePassivePopup(QWindow& window);
+
 Q_SIGNALS:
     /// The compositor has ended or has refused a request.
     void lost(const QString& reason);
@@ -29,7 +35,7 @@ Q_SIGNALS:
     void closePopups();
 
 private:
-    [[nodiscard]] std::unique_ptr<Popup> makePopup(QWindow& window);
+    [[nodiscard]] int height() const { return m_bar.isEmpty() ? 0 : barHeightPoints; }
 
     LayerShell& m_shell;
     WaylandStrip m_strip;
