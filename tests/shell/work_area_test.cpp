@@ -68,15 +68,22 @@ TEST(HeightAboveWorkArea, IsNothingWhenTheWorkAreaMakesNoSense) {
 
 TEST(ReservedByDocks, IsAWorkAreaThatBeginsAtADocksLowerEdge) {
     const TopDock panel{QRect(0, 0, 1920, 30), {30, 0, 1919}};
-    EXPECT_TRUE(isReservedByDocks(30, fullHd, {panel}));
-    EXPECT_FALSE(isReservedByDocks(32, fullHd, {panel}));
-    EXPECT_FALSE(isReservedByDocks(30, fullHd, {}));
+    EXPECT_TRUE(isReservedByDocks(fullHd, {QRect(0, 30, 1920, 1050)}, {panel}));
+    EXPECT_FALSE(isReservedByDocks(fullHd, {QRect(0, 32, 1920, 1048)}, {panel}));
+    EXPECT_FALSE(isReservedByDocks(fullHd, {QRect(0, 30, 1920, 1050)}, {}));
 }
 
-TEST(ReservedByDocks, IsNoneByADockOfAnotherScreen) {
+TEST(ReservedByDocks, IsNoneByADockOfAnotherScreenWhereEachHasItsWorkArea) {
     const TopDock panel{QRect(1920, 0, 1280, 30), {30, 1920, 3199}};
-    EXPECT_FALSE(isReservedByDocks(30, fullHd, {panel}));
-    EXPECT_TRUE(isReservedByDocks(30, rightOfIt, {panel}));
+    const std::vector<QRect> areas{QRect(0, 30, 1920, 1050), QRect(1920, 30, 1280, 994)};
+    EXPECT_FALSE(isReservedByDocks(fullHd, areas, {panel}));
+    EXPECT_TRUE(isReservedByDocks(rightOfIt, areas, {panel}));
+}
+
+TEST(ReservedByDocks, IsTheWorkAreaOfAllScreensByADockOfAnyScreen) {
+    const TopDock panel{QRect(1920, 0, 1280, 30), {30, 1920, 3199}};
+    EXPECT_TRUE(isReservedByDocks(fullHd, {QRect(0, 30, 3200, 1050)}, {panel}));
+    EXPECT_FALSE(isReservedByDocks(fullHd, {QRect(0, 40, 3200, 1040)}, {panel}));
 }
 
 class TopStripTest : public ::testing::Test {

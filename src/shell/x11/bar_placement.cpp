@@ -138,8 +138,9 @@ void BarPlacement::placeAmongDocks(const QScreen& screen) {
 }
 
 void BarPlacement::measureStrip(const QRect& screen, const std::vector<TopDock>& docks) {
-    const int height = heightAboveWorkArea(screen, m_hints->workAreas());
-    const TopStrip::Announcement announced{height, isReservedByDocks(height, screen, docks)};
+    const std::vector<QRect> areas = m_hints->workAreas();
+    const TopStrip::Announcement announced{.height = heightAboveWorkArea(screen, areas),
+                                           .isReservedByDocks = isReservedByDocks(screen, areas, docks)};
     if (std::exchange(m_mustMeasure, false))
         withdrawStrut(screen, std::nullopt);
     else if (!m_strip.isMeasuring() && m_strip.isRefutedBy(announced, reservedHeight(m_strut, screen)))

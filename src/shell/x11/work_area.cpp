@@ -45,10 +45,13 @@ int heightAboveWorkArea(const QRect& screen, const std::vector<QRect>& areas) {
     return most.width() >= screen.width() / 2 && height <= screen.height() / 2 ? height : 0;
 }
 
-bool isReservedByDocks(int height, const QRect& screen, const std::vector<TopDock>& docks) {
+bool isReservedByDocks(const QRect& screen, const std::vector<QRect>& areas,
+                       const std::vector<TopDock>& docks) {
+    const int bottom = screen.top() + heightAboveWorkArea(screen, areas);
+    const bool isOfAllScreens = areas.size() == 1 && !screen.contains(areas.front());
     return std::ranges::any_of(docks, [&](const TopDock& dock) {
-        return dock.strut.startX <= screen.right() && dock.strut.endX >= screen.left() &&
-               dock.strut.height >= screen.top() + height;
+        const bool isOnScreen = dock.strut.startX <= screen.right() && dock.strut.endX >= screen.left();
+        return (isOnScreen || isOfAllScreens) && dock.strut.height >= bottom;
     });
 }
 

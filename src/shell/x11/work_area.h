@@ -19,9 +19,10 @@ namespace orvelle {
 /// with the screen. 0 when none covers half of the screen's columns or the upper half of it lies above.
 [[nodiscard]] int heightAboveWorkArea(const QRect& screen, const std::vector<QRect>& areas);
 
-/// Whether the docks, which are X windows, are reason enough for a work area that begins so many pixels below
-/// the screen's upper edge.
-[[nodiscard]] bool isReservedByDocks(int height, const QRect& screen, const std::vector<TopDock>& docks);
+/// Whether the docks, which are X windows, are reason enough for what lies above the screen's work area.
+/// Docks of other screens are when only the work area of all screens together is known.
+[[nodiscard]] bool isReservedByDocks(const QRect& screen, const std::vector<QRect>& areas,
+                                     const std::vector<TopDock>& docks);
 
 /// Finds the height of the strip, in pixels. What the bar reserves itself is part of the work area as well,
 /// so the bar measures while it reserves nothing.
