@@ -24,6 +24,7 @@ constexpr QSizeF levelSize(16, 3);
 constexpr double levelRadius = 1.5;
 constexpr qsizetype mostBars = 6;
 constexpr double barsWidth = 17;
+constexpr double widestBar = 5;
 constexpr double barsHeight = 16;
 
 SceneNode aboveLevel(const SceneNode& node, double fraction, const QColor& color) {
@@ -60,7 +61,7 @@ SceneNode iconDigitsAndLevel(double fraction, const QColor& color) {
 SceneNode iconBars(const QList<double>& loads, const QColor& color) {
     const QList<double> shown = groupMeans(loads, mostBars);
     const auto count = static_cast<double>(shown.size());
-    const double barWidth = std::floor((barsWidth + 1) / std::max(1.0, count)) - 1;
+    const double barWidth = std::min(widestBar, std::floor((barsWidth + 1) / std::max(1.0, count)) - 1);
     CoreBarsShape bars{.levels = {}, .frame = QSizeF(count * (barWidth + 1) - 1, barsHeight)};
     for (const double load : shown)
         bars.levels.append({.look = MiniBar{.value = load, .color = color}.look(), .fullLength = barsHeight});

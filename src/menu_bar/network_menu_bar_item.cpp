@@ -35,9 +35,11 @@ ItemScene NetworkMenuBarItem::body() const {
 
 IconScene NetworkMenuBarItem::icon() const {
     constexpr double iconArrowFontSize = 10;
-    constexpr double iconArrowSpacing = -5; // the arrows leave much of their squares empty
+    constexpr double iconArrowSpacing = -6; // the arrows leave much of their squares empty
+    constexpr double idleOpacity = 0.4;
     const auto arrow = [](const QString& name, double bytesPerSecond, const QColor& color) {
-        return symbolNode(name, iconArrowFontSize, activityDotColor(bytesPerSecond, color));
+        return symbolNode(name, iconArrowFontSize,
+                          isActive(bytesPerSecond) ? color : withOpacity(color, idleOpacity));
     };
     const AppTheme& theme = m_themes.currentTheme();
     return {

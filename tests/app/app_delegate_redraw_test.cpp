@@ -36,6 +36,20 @@ TEST_F(AppDelegateRedrawTest, ShowsEachSample) {
     EXPECT_EQ(memoryText(), QStringLiteral("Memory 42%"));
 }
 
+TEST_F(AppDelegateRedrawTest, ShowsEachSampleInTheIconWhereItemsHaveOne) {
+    bar.hasIcons = true;
+    delegate.applicationDidFinishLaunching();
+    sample(42);
+    EXPECT_EQ(item(QStringLiteral("memory")).icon.label, QStringLiteral("42%"));
+    EXPECT_TRUE(item(QStringLiteral("memory")).icon.paint);
+}
+
+TEST_F(AppDelegateRedrawTest, MakesNoIconsForADesktopThatShowsNone) {
+    delegate.applicationDidFinishLaunching();
+    sample(42);
+    EXPECT_FALSE(item(QStringLiteral("memory")).icon.paint);
+}
+
 TEST_F(AppDelegateRedrawTest, RedrawsAtMostOnceInTwoSeconds) {
     QElapsedTimer clock;
     delegate.applicationDidFinishLaunching();

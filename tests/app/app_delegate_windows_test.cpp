@@ -136,6 +136,13 @@ TEST_F(AppDelegateWindowsTest, EndsTheProgramFromTheMenu) {
     EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
+TEST_F(AppDelegateWindowsTest, GivesTheDesktopTheMenuThatItShowsItself) {
+    delegate.applicationDidFinishLaunching();
+    ASSERT_EQ(bar.desktopMenu.size(), 3U);
+    QTimer::singleShot(0, &bar, bar.desktopMenu.back().action);
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
 TEST(ContextMenuEntries, AreSettingsASeparatorAndQuit) {
     QStringList calls;
     const std::vector<MenuEntry> entries =

@@ -34,7 +34,11 @@ public:
         void setClickHandler(std::function<void(ClickButton)> handler) override {
             click = std::move(handler);
         }
+        [[nodiscard]] bool showsIcon() const override { return hasIcon; }
+        void setIcon(ItemIcon newIcon) override { icon = std::move(newIcon); }
 
+        bool hasIcon = false;
+        ItemIcon icon;
         std::function<void(ClickButton)> click;
         std::function<void(QPainter&, const QRectF&)> paint;
         int repaintCount = 0;
@@ -92,6 +96,7 @@ public:
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
         calls.append(QStringLiteral("add ") + identifier);
         items.push_back(std::make_unique<Item>(identifier, length));
+        items.back()->hasIcon = hasIcons;
         return *items.back();
     }
     void removeItem(StatusItem& item) override {
@@ -106,6 +111,8 @@ public:
         return std::make_unique<Menu>(*this);
     }
 
+    void setMenu(std::vector<MenuEntry> entries) override { desktopMenu = std::move(entries); }
+
     void takeKeyboard() override { calls.append(QStringLiteral("keyboard")); }
 
     [[nodiscard]] QStringList identifiers() const {
@@ -117,6 +124,8 @@ public:
 
     std::vector<std::unique_ptr<Item>> items; ///< the present items, from left to right
     std::vector<MenuEntry> menuEntries;       ///< of the visible menu
+    bool hasIcons = false;                    ///< of the items that are added next
+    std::vector<MenuEntry> desktopMenu;       ///< that the desktop shows
     QStringList calls;
 };
 

@@ -23,10 +23,13 @@ public:
     void setWords(const QString& name, const QString& text) override { words.append(name + u'|' + text); }
     [[nodiscard]] double visiblePixelsPerPoint() const override { return isOnScreen ? 1 : 0; }
     void setClickHandler(std::function<void(ClickButton)> /*handler*/) override {}
+    [[nodiscard]] bool showsIcon() const override { return true; }
+    void setIcon(ItemIcon icon) override { icons.append(icon); }
 
     std::function<void(QPainter&, const QRectF&)> paint;
     int repaints = 0;
     QStringList words;
+    QList<ItemIcon> icons;
     bool isOnScreen = true;
 
 private:
@@ -198,6 +201,24 @@ TEST(EaseInterval, FollowsTheBarWithTheLongestDistance) {
 
 TEST(EaseInterval, IsShortWhenAColorFades) {
     EXPECT_EQ(easeInterval(levels({{0.499, Qt::blue}}), levels({{0.501, Qt::yellow}}), 1), 33ms);
+}
+
+TEST_F(ItemPresenterTest, SetsAnIconThatLooksOrReadsOtherwise) {
+    IconScene icon{.body = iconSymbol(QStringLiteral("cpu"), Qt::blue),
+                   .label = QStringLiteral("1%"),
+                   .widestLabel = {}};
+    presenter.showIcon(icon);
+    presenter.showIcon(icon);
+    ASSERT_EQ(item.icons.size(), 1);
+    icon.label = QStringLiteral("2%");
+    presenter.showIcon(icon);
+    ASSERT_EQ(item.icons.size(), 2);
+    EXPECT_EQ(item.icons[1].label, QStringLiteral("2%"));
+    const auto paint = [](const auto& with) {
+        return paintedImage({22, 22}, 1, [&with](QPainter& painter) { with(painter); });
+    };
+    EXPECT_EQ(paint([this](QPainter& painter) { item.icons[1].paint(painter, {0, 0, 22, 22}); }),
+              paint([&icon](QPainter& painter) { paintIcon(painter, {0, 0, 22, 22}, icon.body); }));
 }
 
 } // namespace
