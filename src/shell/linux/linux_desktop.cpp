@@ -37,8 +37,11 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
-    const DesktopFinding found = findDesktop(name, qgetenv("QT_QPA_PLATFORM"),
-                                             {&waylandDesktopAbsence, &x11Absence, &trayDesktopAbsence});
+    const TrayPatience patience =
+        name == QLatin1StringView("tray") ? TrayPatience::waits : TrayPatience::none;
+    const DesktopFinding found = findDesktop(
+        name, qgetenv("QT_QPA_PLATFORM"),
+        {&waylandDesktopAbsence, &x11Absence, [patience] { return trayDesktopAbsence(patience); }});
     if (!found.kind)
         return {{}, found.error};
     switch (*found.kind) {

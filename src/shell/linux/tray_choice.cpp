@@ -81,9 +81,11 @@ std::unique_ptr<Desktop> makeLayerTray(SettingsStore& settings) {
 
 } // namespace
 
-std::optional<QString> trayDesktopAbsence() {
-    if (std::optional<QString> absence = trayAbsence())
-        return absence;
+std::optional<QString> trayDesktopAbsence(TrayPatience patience) {
+    if (patience == TrayPatience::none) {
+        if (std::optional<QString> absence = trayAbsence())
+            return absence;
+    }
     if (waylandAbsence({}) && x11Absence())
         return QStringLiteral("the tray's windows need a display");
     return std::nullopt;
