@@ -1,6 +1,5 @@
 # Turns descriptions of Wayland protocols into code.
 
-find_package(PkgConfig REQUIRED)
 pkg_get_variable(ORVELLE_WAYLAND_SCANNER wayland-scanner wayland_scanner)
 pkg_get_variable(ORVELLE_WAYLAND_PROTOCOLS wayland-protocols pkgdatadir)
 # Each with its description. The layer shell is in no package.
