@@ -49,24 +49,36 @@ LayerRole::~LayerRole() {
     hide();
 }
 
+// Newer versions of Qt paint while they show a window, older ones in the next turn of the event loop. A
+// picture before the compositor's answer would be an error that ends the connection.
 bool LayerRole::show(QScreen& screen, const QRect& geometry) {
     hide(); // a surface that is shown cannot get another role
+    m_isConfigured = false;
+    m_opening.emplace(Opening{screen, geometry.translated(-screen.geometry().topLeft())});
+    // Qt 6.11 overlooks that a window loses the keyboard when it hides, and then that it gets it again.
+    if (m_window.isActive())
+        m_window.destroy();
     m_window.setScreen(&screen);
     m_window.setGeometry(geometry);
     m_window.show();
+    takeRole();
+    if (!m_isConfigured)
+        hide();
+    return m_isConfigured && m_surface != nullptr;
+}
+
+void LayerRole::takeRole() {
     wl_surface* surface = qtSurface(m_window);
-    if (surface != nullptr)
-        m_surface = m_shell.makeOverlay(*surface, qtOutput(screen));
-    if (m_surface == nullptr) {
-        m_window.hide();
-        return false;
-    }
-    m_isConfigured = false;
+    if (!m_opening || surface == nullptr)
+        return;
+    const Opening opening = *m_opening;
+    m_opening.reset();
+    m_surface = m_shell.makeOverlay(*surface, qtOutput(opening.screen));
     zwlr_layer_surface_v1_add_listener(m_surface, &listener, this);
-    place(geometry.translated(-screen.geometry().topLeft()));
+    place(opening.geometryOnScreen);
     setKeyboard(m_keyboard == LayerKeyboard::takes ? ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE
                                                    : ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_NONE);
-    return awaitConfiguration();
+    awaitConfiguration();
 }
 
 void LayerRole::place(const QRect& geometryOnScreen) {
@@ -80,23 +92,18 @@ void LayerRole::place(const QRect& geometryOnScreen) {
     zwlr_layer_surface_v1_set_exclusive_zone(m_surface, clearOfBars);
 }
 
-/// Qt paints in the next turn of the event loop, and a picture before the compositor's answer would be an
-/// error that ends the connection.
-bool LayerRole::awaitConfiguration() {
-    if (!m_shell.waitUntil([this] { return m_isConfigured || m_surface == nullptr; }, configurePatience)) {
-        hide();
-        return false;
-    }
-    if (m_surface != nullptr)
+void LayerRole::awaitConfiguration() {
+    if (!m_shell.waitUntil([this] { return m_isConfigured || m_surface == nullptr; }, configurePatience))
+        giveUpRole();
+    else if (m_surface != nullptr)
         m_shell.handToQt(*m_surface);
-    return m_surface != nullptr;
 }
 
 /// A compositor may repeat it, and leaves the size to the window with 0 x 0.
 void LayerRole::configure(std::uint32_t serial, const QSize& size) {
     zwlr_layer_surface_v1_ack_configure(m_surface, serial);
     m_isConfigured = true;
-    if (!size.isEmpty())
+    if (!size.isEmpty() && size != m_window.size())
         m_window.resize(size);
 }
 
@@ -109,6 +116,7 @@ void LayerRole::setKeyboard(std::uint32_t interactivity) {
 }
 
 void LayerRole::hide() {
+    m_opening.reset();
     giveUpRole();
     m_window.hide();
 }
@@ -125,6 +133,8 @@ bool LayerRole::eventFilter(QObject* watched, QEvent* event) {
         static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
             QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
         giveUpRole();
+    if (event->type() == QEvent::Expose && m_window.isExposed())
+        takeRole();
     return QObject::eventFilter(watched, event);
 }
 

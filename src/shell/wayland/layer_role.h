@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QRect>
 
+#include <optional>
+
 class QScreen;
 class QWindow;
 struct zwlr_layer_surface_v1_listener;
@@ -43,8 +45,10 @@ Q_SIGNALS:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Gives the window that is being shown its role, and waits for the compositor's answer.
+    void takeRole();
     void place(const QRect& geometryOnScreen);
-    [[nodiscard]] bool awaitConfiguration();
+    void awaitConfiguration();
     void configure(std::uint32_t serial, const QSize& size);
     void setKeyboard(std::uint32_t interactivity);
     /// The window's surface becomes an ordinary one again, which Qt can hide or destroy.
@@ -55,6 +59,11 @@ private:
     QWindow& m_window;
     int m_ownBarHeight;
     LayerKeyboard m_keyboard;
+    struct Opening {
+        QScreen& screen;
+        QRect geometryOnScreen;
+    };
+    std::optional<Opening> m_opening;           ///< while the window is being shown and has no role yet
     zwlr_layer_surface_v1* m_surface = nullptr; ///< null while the window is hidden
     bool m_isConfigured = false;
 };
