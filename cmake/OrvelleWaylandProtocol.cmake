@@ -13,6 +13,7 @@ set(ORVELLE_PROTOCOLS
 
 # orvelle_wayland_code(TARGET KIND SUFFIX): generates code of one kind, such as `client-header`, for all protocols, in
 # files named after the protocol with this suffix. The target includes them as system headers, which give no warnings.
+# They are there before anything is built, for checks that do not build.
 function(orvelle_wayland_code target kind suffix)
   set(folder ${CMAKE_CURRENT_BINARY_DIR}/protocols)
   file(MAKE_DIRECTORY ${folder})
@@ -20,11 +21,10 @@ function(orvelle_wayland_code target kind suffix)
   while(descriptions)
     list(POP_FRONT descriptions name description)
     set(code ${folder}/${name}${suffix})
-    add_custom_command(OUTPUT ${code}
-      COMMAND ${ORVELLE_WAYLAND_SCANNER} ${kind} ${description} ${code}
-      DEPENDS ${description} VERBATIM)
-    set_source_files_properties(${code} PROPERTIES HEADER_FILE_ONLY ON)
-    target_sources(${target} PRIVATE ${code})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${description})
+    if(${description} IS_NEWER_THAN ${code}) # or the code is missing
+      execute_process(COMMAND ${ORVELLE_WAYLAND_SCANNER} ${kind} ${description} ${code} COMMAND_ERROR_IS_FATAL ANY)
+    endif()
   endwhile()
   target_include_directories(${target} SYSTEM PUBLIC ${folder})
 endfunction()

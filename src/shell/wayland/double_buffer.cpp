@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvelle {
@@ -31,11 +32,9 @@ DoubleBuffer::Side* DoubleBuffer::freeSide() {
     // The present picture needs no copy.
     if (m_front != nullptr && isUsable(*m_front))
         return m_front;
-    for (Side& side : m_sides) {
-        if (&side != m_front && isUsable(side))
-            return &side;
-    }
-    return nullptr;
+    const auto other =
+        std::ranges::find_if(m_sides, [this](Side& side) { return &side != m_front && isUsable(side); });
+    return other == m_sides.end() ? nullptr : &*other;
 }
 
 ShmBuffer* DoubleBuffer::beginPaint(const QRegion& damage) {
