@@ -54,8 +54,8 @@ ShmBuffer* DoubleBuffer::beginPaint(const QRegion& damage) {
 
 void DoubleBuffer::copyStale(Side& side) const {
     QImage& image = side.buffer->image();
+    QImage& present = m_front->buffer->image();
     image.setDevicePixelRatio(1);
-    QImage present = m_front->buffer->image();
     present.setDevicePixelRatio(1);
     QPainter painter(&image);
     for (const QRect& rectangle : side.stale)

@@ -52,6 +52,8 @@ void WaylandStrip::updateSoon() {
 void WaylandStrip::update() {
     m_closed.reset();
     const WaylandOutput* output = wantedOutput();
+    if (output != nullptr)
+        m_cursor.setScale(output->scale());
     if (bar().isEmpty() || output == nullptr || !m_globals.canShowStrip() || m_connection->isLost())
         hide();
     else if (!m_surface || &m_surface->output() != output)
@@ -71,7 +73,6 @@ void WaylandStrip::showOn(const WaylandOutput& output) {
     hide();
     m_surface = std::make_unique<StripSurface>(m_globals, output, bar());
     m_life.start();
-    m_cursor.setScale(output.scale());
     connect(m_surface.get(), &StripSurface::closed, this, &WaylandStrip::handleClosed);
     connect(m_surface.get(), &StripSurface::painted, this, [this] {
         if (!std::exchange(m_wasPainted, true))

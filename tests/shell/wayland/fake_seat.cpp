@@ -15,7 +15,11 @@ FakeSeat& seatOf(wl_resource* resource) {
 const struct wl_pointer_interface pointerFunctions = [] {
     struct wl_pointer_interface functions{};
     functions.set_cursor = [](wl_client*, wl_resource* resource, std::uint32_t, wl_resource* surface, int,
-                              int) { seatOf(resource).m_hasCursor = surface != nullptr; };
+                              int) {
+        const auto* cursor =
+            surface == nullptr ? nullptr : static_cast<FakeSurface*>(wl_resource_get_user_data(surface));
+        seatOf(resource).m_cursorScale = cursor == nullptr ? 0 : cursor->bufferScale;
+    };
     functions.release = destroyResource;
     return functions;
 }();

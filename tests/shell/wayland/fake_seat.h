@@ -25,8 +25,8 @@ public:
     /// How many pointers the client has asked for and not released.
     [[nodiscard]] std::size_t pointerCount() const { return m_pointers.size(); }
     [[nodiscard]] std::size_t touchCount() const { return m_touches.size(); }
-    /// Whether the client has chosen a cursor.
-    [[nodiscard]] bool hasCursor() const { return m_hasCursor; }
+    /// The pixels of a point in the cursor that the client has chosen; 0 when it has chosen none.
+    [[nodiscard]] int cursorScale() const { return m_cursorScale; }
 
     void enter(const FakeSurface& surface, const QPointF& position);
     void leave(const FakeSurface& surface);
@@ -46,7 +46,7 @@ public:
     std::vector<wl_resource*> m_pointers;
     std::vector<wl_resource*> m_touches;
     std::uint32_t m_capabilities = 0;
-    bool m_hasCursor = false;
+    int m_cursorScale = 0;
 
 private:
     void setButton(std::uint32_t button, std::uint32_t state);

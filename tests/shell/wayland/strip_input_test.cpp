@@ -7,7 +7,7 @@ namespace {
 
 class StripInputTest : public StripTest {
 protected:
-    StripInputTest() { compositor.addOutput(QStringLiteral("HDMI-A-1"), QSize(400, 300)); }
+    StripInputTest() { output = &compositor.addOutput(QStringLiteral("HDMI-A-1"), QSize(400, 300)); }
 
     void SetUp() override {
         start();
@@ -29,6 +29,7 @@ protected:
         EXPECT_TRUE(clicks.isEmpty());
     }
 
+    FakeOutput* output;
     using Clicks = QList<std::pair<QString, ClickButton>>;
     static inline const QString cpuName = QStringLiteral("cpu");
     static inline const QString memoryName = QStringLiteral("memory");
@@ -45,7 +46,15 @@ TEST_F(StripInputTest, AClickReachesTheItemUnderThePointerWithItsButton) {
     const Clicks expected{{cpuName, ClickButton::left}, {memoryName, ClickButton::right}};
     ASSERT_TRUE(waitUntil([this] { return clicks.size() == 2; }));
     EXPECT_EQ(clicks, expected);
-    EXPECT_TRUE(waitUntil([this] { return seat().hasCursor(); }));
+    EXPECT_TRUE(waitUntil([this] { return seat().cursorScale() == 1; }));
+}
+
+TEST_F(StripInputTest, TheCursorHasTheScaleOfTheScreen) {
+    FakeCompositor::setScale(*output, 2);
+    ASSERT_TRUE(waitUntil([this] { return strip->bar().place().pixelsPerPoint == 2; }));
+    settleBoth();
+    seat().enter(surface(), middle(*cpu));
+    EXPECT_TRUE(waitUntil([this] { return seat().cursorScale() == 2; }));
 }
 
 TEST_F(StripInputTest, FourHundredClicksAreFourHundredClicks) {

@@ -1,0 +1,63 @@
+"""Faults in the bar on Wayland."""
+
+from planting import Fault
+
+CONNECTION = "src/shell/wayland/wayland_connection.cpp"
+STRIP = "src/shell/wayland/wayland_strip.cpp"
+SURFACE = "src/shell/wayland/strip_surface.cpp"
+BUFFERS = "src/shell/wayland/double_buffer.cpp"
+SCALE = "src/shell/wayland/surface_scale.cpp"
+OUTPUT = "src/shell/wayland/wayland_output.cpp"
+POINTER = "src/shell/wayland/pointer_input.cpp"
+TOUCH = "src/shell/wayland/touch_input.cpp"
+CATCHER = "src/shell/wayland/press_catcher.cpp"
+RETRY = "src/shell/wayland/retry_delay.cpp"
+TEST = "test_wayland"
+
+WAYLAND_FAULTS = [
+    Fault("the strip reserves no space", SURFACE,
+          "zwlr_layer_surface_v1_set_exclusive_zone(m_layerSurface.get(), barHeightPoints);", "", TEST),
+    Fault("the strip is painted again at every configuration", SURFACE,
+          "if (std::exchange(m_size, size) != size)", "m_size = size;", TEST),
+    Fault("the strip is painted at no width", SURFACE, "if (width == 0 || width > largestWidth)",
+          "if (width > largestWidth)", TEST),
+    Fault("everything is painted for a change", SURFACE, "const QRegion region = m_pending & QRect(QPoint(0, 0), m_size);",
+          "const QRegion region = QRect(QPoint(0, 0), m_size);", TEST),
+    Fault("the strip is not painted when a buffer is released", SURFACE,
+          "connect(&m_buffers, &DoubleBuffer::freed, this, &StripSurface::repaintPending);", "", TEST),
+    Fault("damage is told in points where pixels are meant", SURFACE, "for (const QRect& changed : pixels)",
+          "for (const QRect& changed : region)", TEST),
+    Fault("the second buffer misses earlier changes", BUFFERS, "copyStale(*side);", "static_cast<void>(0);", TEST),
+    Fault("a buffer is painted while the compositor reads it", BUFFERS, "return !side.buffer->isInUse();",
+          "return true;", TEST),
+    Fault("the picture of a fraction has no viewport", SCALE,
+          "wp_viewport_set_destination(m_viewport.get(), points.width(), points.height());", "", TEST),
+    Fault("a preferred scale of 0 is taken", SCALE,
+          "if (pixelsPerPoint < smallestScale || pixelsPerPoint > largestFraction)", "if (pixelsPerPoint < 0)", TEST),
+    Fault("sizes that contradict the scale are believed", OUTPUT,
+          "return std::ceil(scale) == wholeScale ? scale : wholeScale;", "return scale;", TEST),
+    Fault("the first version of a screen is never known", OUTPUT,
+          "if (wl_output_get_version(m_output.get()) < WL_OUTPUT_DONE_SINCE_VERSION)", "if (m_scale > 99)", TEST),
+    Fault("a closed strip comes back at once", RETRY, "return std::exchange(m_next, std::min(m_next * 2, longest));",
+          "return {};", TEST),
+    Fault("a closed strip insists on its screen", STRIP, "m_refusing = &m_surface->output();", "", TEST),
+    Fault("the strip stays on a screen that has gone", STRIP,
+          "if (m_surface && &m_surface->output() == &output)", "if (m_refusing == &output)", TEST),
+    Fault("the strip of an empty bar stays", STRIP, "if (bar().isEmpty() || output", "if (output", TEST),
+    Fault("the cursor keeps its first scale", STRIP, "m_cursor.setScale(output->scale());", "static_cast<void>(0);",
+          TEST),
+    Fault("a press lasts when the pointer leaves", POINTER, "Q_EMIT m_target->cancelled();", "static_cast<void>(0);", TEST),
+    Fault("a finger that stays is a left click", TOUCH, "Q_EMIT target->pressed(m_position, Qt::RightButton);",
+          "Q_EMIT target->pressed(m_position, Qt::LeftButton);", TEST),
+    Fault("a finger that moves away stays", TOUCH, "> steadyDistance", "> 10'000", TEST),
+    Fault("every finger counts", TOUCH, "    if (m_finger)\n        return;\n", "", TEST),
+    Fault("presses are heard on the strip's screen across panels", CATCHER,
+          "hasStrip ? besidePanels : acrossPanels", "acrossPanels", TEST),
+    Fault("a screen that comes later is not covered", CATCHER,
+          "connect(&outputs, &WaylandOutputs::changed, this, &PressCatcher::cover);", "", TEST),
+    Fault("a lost connection is watched for ever", CONNECTION,
+          "    // A closed socket is readable for ever.\n    m_readable.setEnabled(false);\n", "", TEST),
+    Fault("what a full socket did not take is forgotten", CONNECTION, "m_writable.setEnabled(error == EAGAIN);", "",
+          TEST),
+    Fault("a broken rule is not named", CONNECTION, "if (error != EPROTO)", "if (error != 0)", TEST),
+]
