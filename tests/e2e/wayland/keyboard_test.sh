@@ -11,9 +11,11 @@ source "$(dirname "$0")/bar_on_sway.sh"
 panelIsShown() { popupIsShown && isLastPanel "$1"; }
 
 startOnceMore() {
-    local message
+    local message status
     message=$(startAgain "$orvelle" 2>&1)
-    expectEqual "another start ends with status" 0 $?
+    status=$?
+    expectEqual "another start ends with status" 0 "$status"
+    [[ $status == 0 ]] || echo "$message"
     [[ $message == *"already running"* ]] || fail "another start says that the program runs, not: $message"
     waitUntil "and takes the keyboard from the other window" otherWindowHasNoKeyboard
 }
