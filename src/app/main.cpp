@@ -27,5 +27,10 @@ int main(int argumentCount, char** arguments) {
     const std::unique_ptr<orvelle::Desktop> desktop = choice.make(settings);
     if (desktop == nullptr)
         return EXIT_FAILURE;
-    return orvelle::OrvelleApp(settings, *desktop, sinceStart).run();
+    const std::unique_ptr<orvelle::SingleInstance> instance = desktop->becomeSingleInstance();
+    if (instance == nullptr) {
+        std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
+        return EXIT_SUCCESS;
+    }
+    return orvelle::OrvelleApp(settings, *desktop, *instance, sinceStart).run();
 }

@@ -7,9 +7,6 @@
 #include <QLoggingCategory>
 #include <QSessionManager>
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace orvelle {
 namespace {
 
@@ -21,7 +18,8 @@ Q_LOGGING_CATEGORY(fontLog, "orvelle.fonts", QtInfoMsg)
 
 } // namespace
 
-OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer sinceStart)
+OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance& instance,
+                       QElapsedTimer sinceStart)
     : m_sinceStart(sinceStart)
     , m_settings(settings)
     , m_desktop(desktop)
@@ -42,6 +40,8 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer 
     QObject::connect(&m_terminationSignals, &TerminationSignals::received, qGuiApp, &QGuiApplication::quit);
     QObject::connect(qGuiApp, &QGuiApplication::aboutToQuit, &m_delegate,
                      &AppDelegate::applicationWillTerminate);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &m_delegate,
+                     &AppDelegate::applicationShouldHandleReopen);
     leaveLoginToItsSwitch();
     logStart();
     logSamples();
@@ -50,13 +50,6 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer 
 }
 
 int OrvelleApp::run() {
-    m_singleInstance = m_desktop.becomeSingleInstance();
-    if (m_singleInstance == nullptr) {
-        std::fprintf(stderr, "Orvelle is already running on this desktop.\n");
-        return EXIT_SUCCESS;
-    }
-    QObject::connect(m_singleInstance.get(), &SingleInstance::startedAgain, &m_delegate,
-                     &AppDelegate::applicationShouldHandleReopen);
     m_delegate.applicationDidFinishLaunching();
     m_launchAtLogin.start();
     return QGuiApplication::exec();

@@ -16,12 +16,11 @@ namespace orvelle {
 /// The program: owns and connects everything that lives as long as the process.
 class OrvelleApp {
 public:
-    /// The application object exists. `sinceStart` started when the process entered main(). The settings and
-    /// the desktop must outlive the object.
-    OrvelleApp(SettingsStore& settings, Desktop& desktop, QElapsedTimer sinceStart);
+    /// The application object exists. `sinceStart` started when the process entered main(). The references
+    /// must outlive the object.
+    OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance& instance, QElapsedTimer sinceStart);
 
-    /// Runs until the program quits; returns its exit status. Returns at once, with success, if the program
-    /// already runs on this desktop.
+    /// Runs until the program quits; returns its exit status.
     [[nodiscard]] int run();
 
 private:
@@ -42,7 +41,6 @@ private:
     std::unique_ptr<QObject> m_reducedMotion; ///< null where the desktop does not report it
     std::unique_ptr<QObject> m_desktopFonts;  ///< null where Qt knows the fonts
     std::unique_ptr<StatusBar> m_statusBar;
-    std::unique_ptr<SingleInstance> m_singleInstance; ///< null before run()
     LaunchAtLogin m_launchAtLogin;
     AppDelegate m_delegate;
 };
