@@ -16,8 +16,9 @@ from bar_faults import BAR_FAULTS
 from chart_faults import CHART_FAULTS
 from core_faults import CORE_FAULTS
 from panel_faults import PANEL_FAULTS
-from wayland_faults import WAYLAND_FAULTS
 from planting import plant
+from wayland_faults import WAYLAND_FAULTS
+from x11_faults import X11_FAULTS
 
 CHECKOUT = Path(__file__).resolve().parents[2]
 
@@ -28,7 +29,8 @@ def main():
     arguments.add_argument("--folder", default=CHECKOUT / "build" / "planted-faults")
     arguments.add_argument("words", nargs="*")
     chosen = arguments.parse_args()
-    faults = [fault for fault in CORE_FAULTS + CHART_FAULTS + BAR_FAULTS + PANEL_FAULTS + WAYLAND_FAULTS
+    everything = CORE_FAULTS + CHART_FAULTS + BAR_FAULTS + PANEL_FAULTS + WAYLAND_FAULTS + X11_FAULTS
+    faults = [fault for fault in everything
               if not chosen.words or any(word in fault.what or word in fault.file for word in chosen.words)]
     return 1 if plant(CHECKOUT, chosen.folder, faults) else 0
 

@@ -48,6 +48,11 @@ TEST(HeightAboveWorkArea, IsThatOfTheScreenAmongSeveral) {
     EXPECT_EQ(heightAboveWorkArea(rightOfIt, areas), 0);
 }
 
+TEST(HeightAboveWorkArea, IsThatOfTheAreaThatSharesMostWithTheScreen) {
+    const QRect slightlyWithin(1910, 0, 1280, 1024);
+    EXPECT_EQ(heightAboveWorkArea(fullHd, {slightlyWithin, QRect(0, 32, 1920, 1048)}), 32);
+}
+
 TEST(HeightAboveWorkArea, CountsFromTheScreensOwnUpperEdge) {
     EXPECT_EQ(heightAboveWorkArea(QRect(0, 1080, 1920, 1080), {QRect(0, 1110, 1920, 1050)}), 30);
     EXPECT_EQ(heightAboveWorkArea(QRect(0, 200, 1920, 1080), {QRect(0, 32, 3840, 1248)}), 0);
