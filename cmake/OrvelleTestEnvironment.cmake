@@ -78,3 +78,17 @@ function(orvelle_test_in_other_fonts program filter)
     orvelle_test_has_fonts(${test} ${fonts})
   endforeach()
 endfunction()
+
+# Qt keeps objects of its connection to a Wayland compositor until the process ends. The sanitizer's short stacks end in
+# the library that allocates them. The tests of the program's own connection look for leaks there.
+set(usual_leaks ${CMAKE_SOURCE_DIR}/tests/leaks.supp)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${usual_leaks})
+file(READ ${usual_leaks} leaks)
+set(ORVELLE_WAYLAND_LEAKS ${CMAKE_BINARY_DIR}/wayland-leaks.supp)
+file(CONFIGURE OUTPUT ${ORVELLE_WAYLAND_LEAKS} CONTENT "${leaks}leak:libwayland-client.so\n" @ONLY)
+
+# orvelle_test_keeps_wayland_objects(TEST): Qt is a client of a Wayland compositor in the test.
+function(orvelle_test_keeps_wayland_objects test)
+  set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT_MODIFICATION
+    LSAN_OPTIONS=set:suppressions=${ORVELLE_WAYLAND_LEAKS}:print_suppressions=0)
+endfunction()

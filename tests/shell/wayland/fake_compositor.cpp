@@ -159,11 +159,19 @@ FakeSurface* FakeCompositor::strip() const {
 }
 
 void FakeCompositor::remove(const FakeSurface& surface) {
+    if (surface.layerResource != nullptr)
+        ++bereftRoleCount;
     for (wl_resource* resource : {surface.layerResource, surface.fractionalScale}) {
         if (resource != nullptr)
             wl_resource_set_destructor(resource, nullptr);
     }
     std::erase_if(m_surfaces, [&surface](const auto& present) { return present.get() == &surface; });
+}
+
+void FakeCompositor::endRole(FakeSurface& surface) {
+    surface.layerResource = nullptr;
+    if (m_seat && m_seat->isFocused(surface))
+        m_seat->focus(nullptr);
 }
 
 void FakeCompositor::commit(FakeSurface& surface) {
@@ -187,6 +195,11 @@ void FakeCompositor::takePicture(FakeSurface& surface) {
     wl_shm_buffer_end_access(buffer);
     surface.damage = std::exchange(surface.pendingDamage, {});
     ++surface.pictures;
+    if (surface.layerResource != nullptr && surface.acknowledged == 0)
+        surface.wasPaintedTooEarly = true;
+    if (givesKeyboard && surface.pictures == 1 &&
+        surface.keyboard == ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE)
+        m_seat->focus(&surface);
     if (keepsBuffers)
         m_keptBuffers.push_back(wl_resource_get_id(resource));
     else

@@ -76,12 +76,15 @@ public:
     std::function<void(FakeSurface&)> answer = [this](FakeSurface& surface) { configureToOutput(surface); };
     bool keepsBuffers = false;     ///< until releaseBuffers()
     bool repeatsConfigure = false; ///< after each picture
+    bool givesKeyboard = false;    ///< to each surface that asks for it, with its first picture
     std::uint32_t scaleParts = 0;  ///< sent to every surface that asks for its scale; 0 for none
     int layerSurfaceCount = 0;     ///< how many have ever been made
+    int bereftRoleCount = 0;       ///< roles whose surface went first, which ends a real connection
 
     /// For the implementation.
     void add(std::unique_ptr<FakeSurface> surface) { m_surfaces.push_back(std::move(surface)); }
     void remove(const FakeSurface& surface);
+    void endRole(FakeSurface& surface);
     void commit(FakeSurface& surface);
     [[nodiscard]] FakeOutput* outputOf(wl_resource* resource) const;
     [[nodiscard]] wl_display* display() const { return m_display; }

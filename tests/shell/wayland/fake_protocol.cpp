@@ -105,7 +105,9 @@ const struct zwlr_layer_surface_v1_interface layerSurfaceFunctions = [] {
     functions.set_exclusive_zone = [](wl_client*, wl_resource* resource, std::int32_t zone) {
         surfaceOf(resource).exclusiveZone = zone;
     };
-    functions.set_margin = [](wl_client*, wl_resource*, int, int, int, int) {};
+    functions.set_margin = [](wl_client*, wl_resource* resource, int top, int right, int bottom, int left) {
+        surfaceOf(resource).margins = QMargins(left, top, right, bottom);
+    };
     functions.set_keyboard_interactivity = [](wl_client*, wl_resource* resource, std::uint32_t keyboard) {
         surfaceOf(resource).keyboard = keyboard;
     };
@@ -127,9 +129,9 @@ const struct zwlr_layer_shell_v1_interface layerShellFunctions = [] {
                                      const char* name) {
         FakeSurface& surface = surfaceOf(wlSurface);
         FakeCompositor& compositor = compositorOf(resource);
-        surface.layerResource =
-            makeResource(client, resource, zwlr_layer_surface_v1_interface, id, &layerSurfaceFunctions,
-                         &surface, [](wl_resource* ended) { surfaceOf(ended).layerResource = nullptr; });
+        surface.layerResource = makeResource(
+            client, resource, zwlr_layer_surface_v1_interface, id, &layerSurfaceFunctions, &surface,
+            [](wl_resource* ended) { surfaceOf(ended).compositor->endRole(surfaceOf(ended)); });
         surface.output = compositor.outputOf(output);
         surface.layer = layer;
         surface.name = QString::fromUtf8(name);

@@ -30,6 +30,8 @@ const struct wl_touch_interface touchFunctions = [] {
     return functions;
 }();
 
+const struct wl_keyboard_interface keyboardFunctions{destroyResource};
+
 const struct wl_seat_interface seatFunctions = [] {
     struct wl_seat_interface functions{};
     functions.get_pointer = [](wl_client* client, wl_resource* seat, std::uint32_t id) {
@@ -47,6 +49,14 @@ const struct wl_seat_interface seatFunctions = [] {
             std::erase(seatOf(ended).m_touches, ended);
         });
         seatOf(seat).m_touches.push_back(resource);
+    };
+    functions.get_keyboard = [](wl_client* client, wl_resource* seat, std::uint32_t id) {
+        wl_resource* resource =
+            wl_resource_create(client, &wl_keyboard_interface, wl_resource_get_version(seat), id);
+        wl_resource_set_implementation(resource, &keyboardFunctions, &seatOf(seat), [](wl_resource* ended) {
+            std::erase(seatOf(ended).m_keyboards, ended);
+        });
+        seatOf(seat).m_keyboards.push_back(resource);
     };
     functions.release = destroyResource;
     return functions;
@@ -74,17 +84,42 @@ FakeSeat::FakeSeat(wl_display* display, std::uint32_t version)
 
 FakeSeat::~FakeSeat() {
     wl_global_destroy(m_global);
-    for (const auto* resources : {&m_seats, &m_pointers, &m_touches}) {
+    for (const auto* resources : {&m_seats, &m_pointers, &m_touches, &m_keyboards}) {
         for (wl_resource* resource : *resources)
             wl_resource_set_destructor(resource, nullptr);
     }
 }
 
-void FakeSeat::setCapabilities(bool hasPointer, bool hasTouch) {
+void FakeSeat::setCapabilities(bool hasPointer, bool hasTouch, bool hasKeyboard) {
     m_capabilities = (hasPointer ? std::uint32_t{WL_SEAT_CAPABILITY_POINTER} : 0) |
-                     (hasTouch ? std::uint32_t{WL_SEAT_CAPABILITY_TOUCH} : 0);
+                     (hasTouch ? std::uint32_t{WL_SEAT_CAPABILITY_TOUCH} : 0) |
+                     (hasKeyboard ? std::uint32_t{WL_SEAT_CAPABILITY_KEYBOARD} : 0);
     for (wl_resource* resource : m_seats)
         wl_seat_send_capabilities(resource, m_capabilities);
+}
+
+void FakeSeat::focus(const FakeSurface* surface) {
+    wl_array keysDown;
+    wl_array_init(&keysDown);
+    for (wl_resource* keyboard : m_keyboards) {
+        if (m_focused != nullptr)
+            wl_keyboard_send_leave(keyboard, nextSerial(), m_focused);
+        if (surface != nullptr)
+            wl_keyboard_send_enter(keyboard, nextSerial(), surface->resource, &keysDown);
+    }
+    m_focused = surface == nullptr ? nullptr : surface->resource;
+    wl_array_release(&keysDown);
+}
+
+bool FakeSeat::isFocused(const FakeSurface& surface) const {
+    return m_focused == surface.resource;
+}
+
+void FakeSeat::pressKey(std::uint32_t key) {
+    for (wl_resource* keyboard : m_keyboards) {
+        wl_keyboard_send_key(keyboard, nextSerial(), noTime, key, WL_KEYBOARD_KEY_STATE_PRESSED);
+        wl_keyboard_send_key(keyboard, nextSerial(), noTime, key, WL_KEYBOARD_KEY_STATE_RELEASED);
+    }
 }
 
 std::uint32_t FakeSeat::nextSerial() const {

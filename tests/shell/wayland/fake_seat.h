@@ -21,7 +21,7 @@ public:
     FakeSeat(const FakeSeat&) = delete;
     FakeSeat& operator=(const FakeSeat&) = delete;
 
-    void setCapabilities(bool hasPointer, bool hasTouch);
+    void setCapabilities(bool hasPointer, bool hasTouch, bool hasKeyboard = false);
     /// How many pointers the client has asked for and not released.
     [[nodiscard]] std::size_t pointerCount() const { return m_pointers.size(); }
     [[nodiscard]] std::size_t touchCount() const { return m_touches.size(); }
@@ -41,10 +41,17 @@ public:
     void lift(std::int32_t finger);
     void cancelTouch();
 
+    /// Gives the keyboard to a surface; null takes it away.
+    void focus(const FakeSurface* surface);
+    [[nodiscard]] bool isFocused(const FakeSurface& surface) const;
+    /// Presses and releases the key with the kernel's number.
+    void pressKey(std::uint32_t key);
+
     /// For the implementation.
     std::vector<wl_resource*> m_seats;
     std::vector<wl_resource*> m_pointers;
     std::vector<wl_resource*> m_touches;
+    std::vector<wl_resource*> m_keyboards;
     std::uint32_t m_capabilities = 0;
     int m_cursorScale = 0;
 
@@ -54,6 +61,7 @@ private:
     [[nodiscard]] std::uint32_t nextSerial() const;
 
     wl_display* m_display;
+    wl_resource* m_focused = nullptr; ///< the surface with the keyboard
     wl_global* m_global;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QMargins>
 #include <QRegion>
 #include <QSize>
 #include <QString>
@@ -40,9 +41,11 @@ struct FakeSurface {
     std::uint32_t layer = 0;
     QSize requestedSize;
     std::uint32_t anchor = 0;
+    QMargins margins;
     std::int32_t exclusiveZone = 0;
     std::uint32_t keyboard = 0;
-    std::uint32_t acknowledged = 0; ///< serial number
+    std::uint32_t acknowledged = 0;  ///< serial number
+    bool wasPaintedTooEarly = false; ///< before it acknowledged its size, which ends a real connection
 
     // What the next commit makes true.
     wl_resource* pendingBuffer = nullptr;
