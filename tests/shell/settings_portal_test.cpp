@@ -1,6 +1,7 @@
 #include "animation/animation_clock.h"
 #include "shell/painted/settings_portal.h"
 #include "support/environment.h"
+#include "support/hanging_bus.h"
 #include "support/private_bus.h"
 #include "support/waiting.h"
 
@@ -10,10 +11,6 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace orvelle {
 namespace {
@@ -194,30 +191,6 @@ TEST_F(SettingsPortalTest, StartsWithoutWaitingForTheAnswer) {
     portal.change(false);
     EXPECT_TRUE(becomesReduced(true));
 }
-
-/// Takes connections and never answers.
-class HangingBus {
-public:
-    HangingBus() {
-        const std::string path = (m_tree.root() / "bus").string();
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        path.copy(static_cast<char*>(address.sun_path), sizeof(address.sun_path) - 1);
-        EXPECT_EQ(::bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
-        EXPECT_EQ(::listen(m_socket, 8), 0);
-    }
-    ~HangingBus() { ::close(m_socket); }
-    HangingBus(const HangingBus&) = delete;
-    HangingBus& operator=(const HangingBus&) = delete;
-
-    [[nodiscard]] QByteArray address() const {
-        return "unix:path=" + QByteArray::fromStdString((m_tree.root() / "bus").string());
-    }
-
-private:
-    TemporaryTree m_tree;
-    int m_socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-};
 
 TEST(SettingsPortalStart, DoesNotWaitForABusThatDoesNotAnswer) {
     AnimationClock clock;

@@ -6,6 +6,8 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QPointer>
+#include <QThread>
 
 #include <utility>
 
@@ -18,6 +20,20 @@ QString nextServiceName() {
     return QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
         .arg(QCoreApplication::applicationPid())
         .arg(++count);
+}
+
+struct Opening {
+    bool isOpen = false;
+    QString error; ///< why it is not
+};
+
+/// Opens the connection with this name, which Qt keeps until it is told otherwise.
+Opening open(const QString& address, const QString& name) {
+    const QDBusConnection connection = openBus(address, name);
+    if (connection.isConnected())
+        return {true, {}};
+    QDBusConnection::disconnectFromBus(name);
+    return {false, connection.lastError().message()};
 }
 
 void requestName(const QDBusConnection& connection, const QString& name) {
@@ -56,20 +72,37 @@ TrayConnection::~TrayConnection() {
 }
 
 void TrayConnection::leaveBus() {
+    if (m_trayWatcher == nullptr)
+        return; // asking Qt for the connection would wait for the thread that opens it
     m_trayWatcher.reset();
     // The tray notices that the name has gone.
     QDBusConnection::disconnectFromBus(m_serviceName);
 }
 
 void TrayConnection::connectToBus() {
-    QDBusConnection connection = openBus(m_bus.address, m_serviceName);
-    if (!connection.isConnected()) {
-        const QString reason = connection.lastError().message();
-        leaveBus();
-        m_retry.start();
-        m_bus.trayMissing(QStringLiteral("there is no session bus (%1)").arg(reason));
-        return;
-    }
+    const auto opening = std::make_shared<Opening>();
+    QThread* thread = QThread::create(
+        [opening, address = m_bus.address, name = m_serviceName] { *opening = open(address, name); });
+    connect(thread, &QThread::finished, thread,
+            [self = QPointer(this), thread, opening, name = m_serviceName] {
+                thread->deleteLater();
+                if (!opening->isOpen && self)
+                    self->reportAndRetry(QStringLiteral("there is no session bus (%1)").arg(opening->error));
+                else if (opening->isOpen && self)
+                    self->useConnection();
+                else if (opening->isOpen)
+                    QDBusConnection::disconnectFromBus(name);
+            });
+    thread->start();
+}
+
+void TrayConnection::reportAndRetry(const QString& reason) {
+    m_retry.start();
+    m_bus.trayMissing(reason);
+}
+
+void TrayConnection::useConnection() {
+    QDBusConnection connection(m_serviceName);
     connection.registerObject(itemPath, &m_item);
     connection.registerObject(TrayMenu::path, &m_menu);
     connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
@@ -82,8 +115,7 @@ void TrayConnection::connectToBus() {
 
 void TrayConnection::handleDisconnect() {
     leaveBus();
-    m_retry.start();
-    m_bus.trayMissing(QStringLiteral("the session bus has ended"));
+    reportAndRetry(QStringLiteral("the session bus has ended"));
 }
 
 void TrayConnection::watchTray(const QDBusConnection& connection) {

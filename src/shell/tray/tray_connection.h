@@ -28,8 +28,8 @@ struct TrayBus {
 };
 
 /// The connection of one icon to the bus, its own because trays find the objects of an icon by the name of
-/// its connection. It registers the icon with the tray, and again when the tray or the bus comes back. Asking
-/// never waits for an answer. Main thread only.
+/// its connection. It registers the icon with the tray, and again when the tray or the bus comes back.
+/// Nothing here waits for the bus or the tray. Main thread only.
 class TrayConnection final : public QObject {
     Q_OBJECT
 
@@ -49,7 +49,10 @@ private Q_SLOTS:
     void handleDisconnect();
 
 private:
+    /// Opens the connection in a thread, because a bus that does not answer holds up whoever connects to it.
     void connectToBus();
+    void useConnection();
+    void reportAndRetry(const QString& reason);
     void leaveBus();
     void watchTray(const QDBusConnection& connection);
     void registerItem();
@@ -58,7 +61,7 @@ private:
     QObject& m_menu;
     TrayBus m_bus;
     QString m_serviceName;
-    std::unique_ptr<QDBusServiceWatcher> m_trayWatcher; ///< null without a bus
+    std::unique_ptr<QDBusServiceWatcher> m_trayWatcher; ///< null without a connection
     QTimer m_retry;
 };
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "private_bus.h"
+#include "bus_connection.h"
 #include "shell/tray/status_notifier_item.h"
 #include "shell/tray/tray_connection.h"
 #include "shell/tray/tray_menu.h"
+#include "support/private_bus.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>
