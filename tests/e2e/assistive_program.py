@@ -31,18 +31,21 @@ def check_bar(program):
 
 
 def visible_parts(panel):
-    return [part for part in descendants(panel) if has_state(part, State.VISIBLE)]
+    """The role, the role's name and the name of each visible part. Starts again when the panel replaces a part meanwhile,
+    as it does with the processes that it lists."""
+    return wait_until("the panel's parts can be read", lambda: [
+        (part.get_role(), part.get_role_name(), part.get_name())
+        for part in descendants(panel) if has_state(part, State.VISIBLE)]) or []
 
 
 def check_names(panel, title):
     parts = visible_parts(panel)
-    nameless = [part.get_role_name() for part in parts
-                if not part.get_name() and part.get_role() not in CONTAINERS]
+    nameless = [role_name for role, role_name, name in parts if not name and role not in CONTAINERS]
     report(not nameless, f"everything in the {title} panel has a name", nameless)
-    names = [part.get_name() for part in parts]
+    names = [name for _, _, name in parts]
     report(any(any(sign.isdigit() for sign in name) for name in names), f"the {title} panel says values")
-    report(any(part.get_role() == Role.PUSH_BUTTON and part.get_name() == "Open Orvelle Settings"
-               for part in parts), f"the {title} panel has the button for the settings", names)
+    report((Role.PUSH_BUTTON, "Open Orvelle Settings") in [(role, name) for role, _, name in parts],
+           f"the {title} panel has the button for the settings", names)
 
 
 def check_panels(program, bar):
