@@ -65,7 +65,7 @@ private:
     }
 
     std::function<void(const PortalValues&)> m_apply;
-    QThread* m_thread = nullptr;              ///< null when the bus was given
+    QPointer<QThread> m_thread;               ///< null when it has ended, or the bus was given
     std::unique_ptr<SettingsPortal> m_portal; ///< null while there is no bus
 };
 
