@@ -12,7 +12,10 @@ POINTER = "src/shell/wayland/pointer_input.cpp"
 TOUCH = "src/shell/wayland/touch_input.cpp"
 CATCHER = "src/shell/wayland/press_catcher.cpp"
 RETRY = "src/shell/wayland/retry_delay.cpp"
+ROLE = "src/shell/wayland/layer_role.cpp"
+INSTANCE = "src/shell/painted/runtime_instance.cpp"
 TEST = "test_wayland"
+WINDOWS_TEST = "test_wayland_windows"
 
 WAYLAND_FAULTS = [
     Fault("the strip reserves no space", SURFACE,
@@ -60,4 +63,14 @@ WAYLAND_FAULTS = [
     Fault("what a full socket did not take is forgotten", CONNECTION, "m_writable.setEnabled(error == EAGAIN);", "",
           TEST),
     Fault("a broken rule is not named", CONNECTION, "if (error != EPROTO)", "if (error != 0)", TEST),
+    Fault("a panel is painted before the compositor has answered", ROLE,
+          "if (!m_shell.waitUntil([this] { return m_isConfigured || m_surface == nullptr; }, configurePatience))",
+          "if (m_isConfigured = true; false)", WINDOWS_TEST),
+    Fault("a panel keeps the keyboard to itself", ROLE,
+          "if (m_keyboard == LayerKeyboard::takes && m_window.isActive() && m_shell.hasKeyboardOnDemand())",
+          "if (false)", WINDOWS_TEST),
+    Fault("a window that hides keeps its role", ROLE, "if (!visible)\n            giveUpRole();",
+          "static_cast<void>(visible);", WINDOWS_TEST),
+    Fault("another start does not tell the first", INSTANCE, "::write(pipe.number(), &anything, 1)",
+          "static_cast<ssize_t>(anything)", "test_shell"),
 ]

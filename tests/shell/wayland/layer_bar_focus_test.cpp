@@ -77,6 +77,13 @@ TEST_F(LayerBarFocusTest, ComesBackToTheItemThatAKeyClicked) {
     EXPECT_FALSE(surface().has_value());
 }
 
+TEST_F(LayerBarFocusTest, GivesUpItsRoleBeforeItsSurface) {
+    ASSERT_TRUE(takesTheKeyboard());
+    window.hide();
+    EXPECT_TRUE(waitUntil([this] { return !surface(); }));
+    EXPECT_EQ(bereftRoleCount(), 0);
+}
+
 TEST_F(LayerBarFocusTest, TakesNothingWhileTheBarIsNotOnTheScreen) {
     isOnScreen = false;
     focus.take();
