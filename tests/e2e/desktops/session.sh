@@ -13,6 +13,9 @@ export HOME=$workDirectory XDG_CACHE_HOME=$workDirectory/cache XDG_DATA_HOME=$wo
 export NO_AT_BRIDGE=1
 unset DISPLAY XAUTHORITY XDG_SESSION_ID XDG_SESSION_TYPE XDG_CURRENT_DESKTOP
 
+# Compositors expect the folder of the X servers' sockets, which a machine without a display may lack.
+[[ -d /tmp/.X11-unix ]] || mkdir -m 1777 /tmp/.X11-unix
+
 # startBus NAME: starts a private message bus, whose address is in the file of that name.
 startBus() {
     dbus-daemon --session --nofork --print-address=3 3>"$workDirectory/$1" >/dev/null 2>&1 &
