@@ -1,17 +1,16 @@
 #include "shell/painted/settings_portal.h"
 
 #include "animation/animation_clock.h"
+#include "shell/painted/bus_opening.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
-#include <QPointer>
-#include <QThread>
 
-#include <chrono>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace orvelle {
@@ -20,8 +19,6 @@ namespace {
 constexpr QLatin1StringView portalService("org.freedesktop.portal.Desktop");
 constexpr QLatin1StringView portalPath("/org/freedesktop/portal/desktop");
 constexpr QLatin1StringView portalInterface("org.freedesktop.portal.Settings");
-
-constexpr std::chrono::milliseconds longestWait{500};
 
 /// The keys and values of each namespace.
 using AllSettings = QMap<QString, QVariantMap>;
@@ -42,22 +39,11 @@ public:
         else
             openSessionBus();
     }
-    /// Waits for the thread, because Qt must not connect while the process ends. A bus that does not answer
-    /// must not keep the process from ending either: the thread is stuck then, and does nothing.
-    ~PortalFollower() override {
-        if (m_thread && m_thread->wait(QDeadlineTimer(longestWait)))
-            delete m_thread;
-    }
-    PortalFollower(const PortalFollower&) = delete;
-    PortalFollower& operator=(const PortalFollower&) = delete;
 
 private:
-    /// In a thread, because a bus that does not answer holds up whoever connects to it.
     void openSessionBus() {
-        m_thread = QThread::create([] { static_cast<void>(QDBusConnection::sessionBus()); });
-        connect(m_thread, &QThread::finished, this, [this] { follow(QDBusConnection::sessionBus()); });
-        connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
-        m_thread->start();
+        m_opening.emplace();
+        connect(&*m_opening, &BusOpening::opened, this, [this] { follow(QDBusConnection::sessionBus()); });
     }
     void follow(const QDBusConnection& bus) {
         m_portal = std::make_unique<SettingsPortal>(bus);
@@ -65,7 +51,7 @@ private:
     }
 
     std::function<void(const PortalValues&)> m_apply;
-    QPointer<QThread> m_thread;               ///< null when it has ended, or the bus was given
+    std::optional<BusOpening> m_opening;      ///< nothing when the bus was given
     std::unique_ptr<SettingsPortal> m_portal; ///< null while there is no bus
 };
 

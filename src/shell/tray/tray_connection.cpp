@@ -6,8 +6,6 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QPointer>
-#include <QThread>
 
 #include <utility>
 
@@ -20,20 +18,6 @@ QString nextServiceName() {
     return QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
         .arg(QCoreApplication::applicationPid())
         .arg(++count);
-}
-
-struct Opening {
-    bool isOpen = false;
-    QString error; ///< why it is not
-};
-
-/// Opens the connection with this name, which Qt keeps until it is told otherwise.
-Opening open(const QString& address, const QString& name) {
-    const QDBusConnection connection = openBus(address, name);
-    if (connection.isConnected())
-        return {true, {}};
-    QDBusConnection::disconnectFromBus(name);
-    return {false, connection.lastError().message()};
 }
 
 void requestName(const QDBusConnection& connection, const QString& name) {
@@ -49,11 +33,6 @@ void requestName(const QDBusConnection& connection, const QString& name) {
 
 QString trayService() {
     return QStringLiteral("org.kde.StatusNotifierWatcher");
-}
-
-QDBusConnection openBus(const QString& address, const QString& name) {
-    return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)
-                             : QDBusConnection::connectToBus(address, name);
 }
 
 TrayConnection::TrayConnection(QObject& item, QObject& menu, TrayBus bus)
@@ -80,20 +59,11 @@ void TrayConnection::leaveBus() {
 }
 
 void TrayConnection::connectToBus() {
-    const auto opening = std::make_shared<Opening>();
-    QThread* thread = QThread::create(
-        [opening, address = m_bus.address, name = m_serviceName] { *opening = open(address, name); });
-    connect(thread, &QThread::finished, thread,
-            [self = QPointer(this), thread, opening, name = m_serviceName] {
-                thread->deleteLater();
-                if (!opening->isOpen && self)
-                    self->reportAndRetry(QStringLiteral("there is no session bus (%1)").arg(opening->error));
-                else if (opening->isOpen && self)
-                    self->useConnection();
-                else if (opening->isOpen)
-                    QDBusConnection::disconnectFromBus(name);
-            });
-    thread->start();
+    m_opening.emplace(m_serviceName, m_bus.address);
+    connect(&*m_opening, &BusOpening::opened, this, &TrayConnection::useConnection);
+    connect(&*m_opening, &BusOpening::failed, this, [this](const QString& reason) {
+        reportAndRetry(QStringLiteral("there is no session bus (%1)").arg(reason));
+    });
 }
 
 void TrayConnection::reportAndRetry(const QString& reason) {

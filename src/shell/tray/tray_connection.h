@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "shell/painted/bus_opening.h"
+
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QTimer>
@@ -8,14 +9,12 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace orvelle {
 
 /// The name of the tray on the bus.
 [[nodiscard]] QString trayService();
-
-/// A connection with this name to the bus at an address, empty for that of the user's session.
-[[nodiscard]] QDBusConnection openBus(const QString& address, const QString& name);
 
 /// Which bus to use, and what to do without it.
 struct TrayBus {
@@ -49,7 +48,6 @@ private Q_SLOTS:
     void handleDisconnect();
 
 private:
-    /// Opens the connection in a thread, because a bus that does not answer holds up whoever connects to it.
     void connectToBus();
     void useConnection();
     void reportAndRetry(const QString& reason);
@@ -63,6 +61,7 @@ private:
     QString m_serviceName;
     std::unique_ptr<QDBusServiceWatcher> m_trayWatcher; ///< null without a connection
     QTimer m_retry;
+    std::optional<BusOpening> m_opening; ///< the last one
 };
 
 } // namespace orvelle

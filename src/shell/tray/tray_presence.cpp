@@ -1,5 +1,6 @@
 #include "shell/tray/tray_presence.h"
 
+#include "shell/painted/bus_opening.h"
 #include "shell/tray/tray_connection.h"
 
 #include <QDBusMessage>
@@ -15,7 +16,7 @@ namespace {
 class TemporaryConnection {
 public:
     explicit TemporaryConnection(const QString& address)
-        : m_connection(openBus(address, name())) {}
+        : m_connection(openBus(name(), address)) {}
     ~TemporaryConnection() { QDBusConnection::disconnectFromBus(name()); }
     TemporaryConnection(const TemporaryConnection&) = delete;
     TemporaryConnection& operator=(const TemporaryConnection&) = delete;
