@@ -104,13 +104,13 @@ FakeOutput& FakeCompositor::addOutput(const QString& name, const QSize& size, do
     return output;
 }
 
-void FakeCompositor::removeOutput(FakeOutput& output) {
+void FakeCompositor::removeOutput(FakeOutput& output, bool closesSurfaces) {
     for (const auto& surface : m_surfaces) {
-        if (surface->output == &output) {
-            surface->output = nullptr;
-            if (surface->layerResource != nullptr)
-                close(*surface);
-        }
+        if (surface->output != &output)
+            continue;
+        surface->output = nullptr;
+        if (surface->layerResource != nullptr && closesSurfaces)
+            close(*surface);
     }
     wl_global_destroy(output.global);
     std::vector<wl_resource*> resources = output.resources;

@@ -55,7 +55,7 @@ public:
     static void postError(const FakeSurface& surface, std::uint32_t code);
 
     FakeOutput& addOutput(const QString& name, const QSize& size, double pixelsPerPoint = 1);
-    void removeOutput(FakeOutput& output);
+    void removeOutput(FakeOutput& output, bool closesSurfaces = true);
     static void setScale(FakeOutput& output, double pixelsPerPoint);
 
     [[nodiscard]] FakeSeat& seat() { return *m_seat; }

@@ -149,9 +149,11 @@ TEST_F(StripInputTest, AClickMayEmptyTheBar) {
     EXPECT_TRUE(waitUntil([this] { return compositor.layerSurfaces().empty(); }));
 }
 
+// Nothing waits between a touch and what ends it, because a busy machine may take longer than a finger that
+// stays.
+
 TEST_F(StripInputTest, ATapIsALeftClick) {
     seat().touch(surface(), 0, middle(*memory));
-    ASSERT_TRUE(waitForHighlight(*memory, true));
     seat().lift(0);
     ASSERT_TRUE(waitUntil([this] { return !clicks.isEmpty(); }));
     EXPECT_EQ(clicks, (Clicks{{memoryName, ClickButton::left}}));
@@ -178,27 +180,25 @@ TEST_F(StripInputTest, OnlyTheFirstFingerCounts) {
     seat().touch(surface(), 0, middle(*memory));
     seat().touch(surface(), 1, middle(*cpu));
     seat().lift(1);
-    expectNoClick();
     seat().lift(0);
     ASSERT_TRUE(waitUntil([this] { return !clicks.isEmpty(); }));
+    settleBoth();
     EXPECT_EQ(clicks, (Clicks{{memoryName, ClickButton::left}}));
 }
 
 TEST_F(StripInputTest, ATouchIsTakenBackWhenTheCompositorTakesIt) {
     seat().touch(surface(), 0, middle(*memory));
-    ASSERT_TRUE(waitForHighlight(*memory, true));
     seat().cancelTouch();
-    ASSERT_TRUE(waitForHighlight(*memory, false));
     QTest::qWait(static_cast<int>(TouchInput::holdTime.count()) + 100);
     expectNoClick();
+    EXPECT_FALSE(memory->isHighlighted());
 }
 
 TEST_F(StripInputTest, ATouchIsTakenBackWhenTheScreenIsUnplugged) {
     seat().touch(surface(), 0, middle(*memory));
-    ASSERT_TRUE(waitForHighlight(*memory, true));
     seat().setCapabilities(true, false);
-    ASSERT_TRUE(waitForHighlight(*memory, false));
     EXPECT_TRUE(waitUntil([this] { return seat().touchCount() == 0; }));
+    EXPECT_FALSE(memory->isHighlighted());
     expectNoClick();
 }
 

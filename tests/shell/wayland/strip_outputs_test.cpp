@@ -45,6 +45,16 @@ TEST_F(StripOutputsTest, MovesWhenItsScreenGoes) {
     EXPECT_EQ(compositor.layerSurfaceCount, 2);
 }
 
+TEST_F(StripOutputsTest, MovesWhenItsScreenGoesWithoutClosingIt) {
+    FakeOutput& first = add(QStringLiteral("HDMI-A-1"));
+    const FakeOutput& second = add(QStringLiteral("HDMI-A-2"));
+    start();
+    ASSERT_TRUE(waitForStripOn(first));
+    compositor.removeOutput(first, false);
+    ASSERT_TRUE(waitForStripOn(second));
+    EXPECT_EQ(compositor.layerSurfaces().size(), 1U);
+}
+
 TEST_F(StripOutputsTest, StaysWhenAnotherScreenGoes) {
     const FakeOutput& first = add(QStringLiteral("HDMI-A-1"));
     FakeOutput& second = add(QStringLiteral("HDMI-A-2"));

@@ -84,6 +84,15 @@ TEST_F(StripPictureTest, RepaintsOnlyWhatHasChanged) {
     EXPECT_TRUE(compositor.strip()->isDamageInPixels);
 }
 
+TEST_F(StripPictureTest, DamageIsToldInPixelsOfThePicture) {
+    compositor.scaleParts = wholeScaleParts * 2;
+    startOn(2);
+    memory->repaint();
+    ASSERT_TRUE(waitUntil([this] { return compositor.strip()->pictures == 2; }));
+    const QRect points = memory->bounds().toAlignedRect();
+    EXPECT_EQ(compositor.strip()->damage, QRect(points.topLeft() * 2, points.size() * 2));
+}
+
 TEST_F(StripPictureTest, PaintsSeveralChangesOfATurnAtOnce) {
     startOn(1);
     memory->repaint();
