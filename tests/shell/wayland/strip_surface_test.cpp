@@ -82,7 +82,7 @@ TEST_F(StripSurfaceTest, WaitsForARealSize) {
 }
 
 TEST_F(StripSurfaceTest, IgnoresAnImpossibleSize) {
-    compositor.answer = [this](FakeSurface& surface) { compositor.configure(surface, QSize(-1, -1)); };
+    compositor.answer = [this](FakeSurface& surface) { compositor.configure(surface, QSize(100'000, -1)); };
     start();
     ASSERT_TRUE(waitUntil([this] { return !compositor.layerSurfaces().empty(); }));
     settleBoth();
