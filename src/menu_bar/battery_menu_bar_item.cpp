@@ -22,6 +22,11 @@ QString chargeText(const BatteryInfo& battery) {
     return QString::number(battery.currentCapacity) + QLatin1Char('%');
 }
 
+/// Beside or below the picture of a battery that charges.
+SceneNode chargingMark() {
+    return symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow);
+}
+
 } // namespace
 
 ItemScene BatteryMenuBarItem::body() const {
@@ -36,7 +41,7 @@ IconScene BatteryMenuBarItem::icon() const {
     std::vector<SceneNode> parts = {
         {BatteryShape{.charge = chargedFraction(battery.currentCapacity), .color = color}}};
     if (battery.isCharging)
-        parts.push_back(symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow));
+        parts.push_back(chargingMark());
     return {.body = column(parts, batterySpacing, ColumnAlignment::center),
             .label = chargeText(battery),
             .widestLabel = widestPercent()};
@@ -76,7 +81,7 @@ SceneNode BatteryMenuBarItem::picture() const {
 SceneNode BatteryMenuBarItem::charge(double fontSize) const {
     std::vector<SceneNode> parts = {valueNode(chargeText(m_monitor.battery()), fontSize)};
     if (m_monitor.battery().isCharging)
-        parts.push_back(symbolNode(QStringLiteral("bolt.fill"), chargingMarkFontSize, SystemColors::yellow));
+        parts.push_back(chargingMark());
     return row(parts, batterySpacing);
 }
 
