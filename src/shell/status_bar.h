@@ -68,7 +68,7 @@ public:
 
     /// Sets what the desktop's own menu of the items offers. Nothing happens on a desktop that asks for the
     /// menu with a click.
-    virtual void setMenu(std::vector<MenuEntry> /*entries*/) {}
+    virtual void setMenu(const std::vector<MenuEntry>& /*entries*/) {}
 
     /// Moves the keyboard to the items, so that keys choose one and open it. Nothing happens on a desktop
     /// that has a key of its own for that.

@@ -45,7 +45,7 @@ public:
     [[nodiscard]] virtual bool showsIcon() const { return false; }
 
     /// Sets the icon. One that looks like the last may be set again.
-    virtual void setIcon(ItemIcon /*icon*/) {}
+    virtual void setIcon(const ItemIcon& /*icon*/) {}
 
     /// Device pixels that one point covers while the item is on the screen; 0 while it is not.
     [[nodiscard]] virtual double visiblePixelsPerPoint() const = 0;

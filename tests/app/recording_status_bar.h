@@ -35,7 +35,7 @@ public:
             click = std::move(handler);
         }
         [[nodiscard]] bool showsIcon() const override { return hasIcon; }
-        void setIcon(ItemIcon newIcon) override { icon = std::move(newIcon); }
+        void setIcon(const ItemIcon& newIcon) override { icon = newIcon; }
 
         bool hasIcon = false;
         ItemIcon icon;
@@ -111,7 +111,7 @@ public:
         return std::make_unique<Menu>(*this);
     }
 
-    void setMenu(std::vector<MenuEntry> entries) override { desktopMenu = std::move(entries); }
+    void setMenu(const std::vector<MenuEntry>& entries) override { desktopMenu = entries; }
 
     void takeKeyboard() override { calls.append(QStringLiteral("keyboard")); }
 

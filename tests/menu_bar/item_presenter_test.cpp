@@ -24,7 +24,7 @@ public:
     [[nodiscard]] double visiblePixelsPerPoint() const override { return isOnScreen ? 1 : 0; }
     void setClickHandler(std::function<void(ClickButton)> /*handler*/) override {}
     [[nodiscard]] bool showsIcon() const override { return true; }
-    void setIcon(ItemIcon icon) override { icons.append(icon); }
+    void setIcon(const ItemIcon& icon) override { icons.append(icon); }
 
     std::function<void(QPainter&, const QRectF&)> paint;
     int repaints = 0;

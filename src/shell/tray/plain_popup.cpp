@@ -24,6 +24,9 @@ void PlainPopup::show(QScreen& screen, const QRect& geometry, const QRectF& /*sp
     m_isShown = true;
     m_events.begin(screen);
     m_window.setScreen(&screen);
+    // A tiling compositor lets a window float that has one size.
+    m_window.setMinimumSize(geometry.size());
+    m_window.setMaximumSize(geometry.size());
     m_window.setGeometry(geometry);
     if (!m_window.requestedFormat().hasAlpha())
         m_window.setMask(roundedRegion(geometry.size(), popupCornerRadiusPoints));

@@ -74,8 +74,8 @@ std::unique_ptr<ContextMenu> TrayStatusBar::makeContextMenu() {
     return m_panels.makeContextMenu();
 }
 
-void TrayStatusBar::setMenu(std::vector<MenuEntry> entries) {
-    m_menu = std::move(entries);
+void TrayStatusBar::setMenu(const std::vector<MenuEntry>& entries) {
+    m_menu = entries;
     updateIconsSoon();
 }
 

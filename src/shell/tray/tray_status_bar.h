@@ -23,7 +23,7 @@ public:
     void removeItem(StatusItem& item) override;
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
-    void setMenu(std::vector<MenuEntry> entries) override;
+    void setMenu(const std::vector<MenuEntry>& entries) override;
     /// Opens the panel that was open last.
     void takeKeyboard() override;
 

@@ -27,8 +27,8 @@ void TrayStatusItem::setWords(const QString& name, const QString& text) {
     m_changed();
 }
 
-void TrayStatusItem::setIcon(ItemIcon icon) {
-    m_icon = std::move(icon);
+void TrayStatusItem::setIcon(const ItemIcon& icon) {
+    m_icon = icon;
     m_changed();
 }
 

@@ -16,7 +16,7 @@ public:
     void repaint() override { m_tab.repaint(); }
     void setWords(const QString& name, const QString& text) override;
     [[nodiscard]] bool showsIcon() const override { return true; }
-    void setIcon(ItemIcon icon) override;
+    void setIcon(const ItemIcon& icon) override;
     [[nodiscard]] double visiblePixelsPerPoint() const override { return m_tab.visiblePixelsPerPoint(); }
     void setClickHandler(std::function<void(ClickButton)> handler) override;
 
