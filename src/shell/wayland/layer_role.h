@@ -32,9 +32,9 @@ public:
     LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight, LayerKeyboard keyboard);
     ~LayerRole() override;
 
-    /// Shows the window, or moves it by showing it anew. The geometry is in points of the desktop, as if there were no
-    /// other bar than the program's own. Returns whether the compositor accepted it; the window is hidden
-    /// again when it did not.
+    /// Shows the window, or moves it by showing it anew. The geometry is in points of the desktop, as if
+    /// there were no other bar than the program's own. Returns whether the compositor accepted it; the window
+    /// is hidden again when it did not.
     [[nodiscard]] bool show(QScreen& screen, const QRect& geometry);
     /// Hides the window; the compositor gives the keyboard back.
     void hide();
