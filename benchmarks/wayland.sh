@@ -10,10 +10,10 @@ exec {table}>&1 1>&2 # what the tests' functions say is no part of the table
 source "$(dirname "$(readlink -f "$0")")/../tests/e2e/wayland/bar_on_sway.sh"
 
 milliseconds() { date +%s%3N; }
-voluntary_switches() { cat "/proc/$orvellePid"/task/*/status | awk '/^voluntary/ {sum += $2} END {print sum}'; }
+# One line for each thread: its id and its voluntary context switches.
+voluntary_switches() { cat "/proc/$orvellePid"/task/*/status | awk '/^Pid:/ {id = $2} /^voluntary/ {print id, $2}' | sort; }
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$orvellePid/stat"; }
 memory_kilobytes() { awk -v name="$1:" '$1 == name {print $2}' "/proc/$orvellePid/smaps_rollup"; }
-per_second() { awk -v count="$1" -v seconds="$2" 'BEGIN {printf "%.2f", count / seconds}'; }
 maximum() { sort -n | tail -1; }
 opening_times() { sed -n 's/.*panel was painted \([0-9.]*\) ms.*/\1/p' "$log"; }
 
@@ -30,7 +30,7 @@ start_program() {
 
 end_program() {
   kill "$orvellePid"
-  wait "$orvellePid"
+  wait "$orvellePid" || fail "the program ends with status $?"
 }
 
 # measure_idle SECONDS: sets `switches` and `percent`, the wake-ups per second and the CPU time of all threads.
@@ -39,7 +39,9 @@ measure_idle() {
   before_switches=$(voluntary_switches)
   before_ticks=$(cpu_ticks)
   sleep "$1"
-  switches=$(per_second $(($(voluntary_switches) - before_switches)) "$1")
+  # A thread that has ended meanwhile counts for nothing.
+  switches=$(join <(echo "$before_switches") <(voluntary_switches) | awk -v seconds="$1" \
+    '{sum += $3 - $2} END {printf "%.2f", sum / seconds}')
   percent=$(awk -v ticks=$(($(cpu_ticks) - before_ticks)) -v seconds="$1" -v hertz="$(getconf CLK_TCK)" \
     'BEGIN {printf "%.2f", ticks / seconds * 100 / hertz}')
 }
