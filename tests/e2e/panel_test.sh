@@ -182,8 +182,9 @@ testManyRounds() {
 }
 
 testManyClicks() {
-    xdotool mousemove "$(pixels "$(itemMiddle 3)")" "$(pixels 11)" click --repeat 400 --delay 5 1
-    clickItem 0
+    # In one process: the server may still have clicks of an ended one to handle, where the next one moves the mouse.
+    xdotool mousemove "$(pixels "$(itemMiddle 3)")" "$(pixels 11)" click --repeat 400 --delay 5 1 \
+        mousemove "$(pixels "$(itemMiddle 0)")" "$(pixels 11)" click 1
     waitUntil "200 clicks a second leave the program at work" panelIsShown CPU
     waitUntil "with one panel" onePanelIsShown
     clickItem 0
