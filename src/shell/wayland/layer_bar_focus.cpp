@@ -45,6 +45,8 @@ void LayerBarFocus::giveKeyboardBack() {
 bool LayerBarFocus::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && window().isExposed())
         paint();
+    if (event->type() == QEvent::FocusOut && m_role.keepsKeyboard())
+        return false;
     return BarFocus::eventFilter(watched, event);
 }
 

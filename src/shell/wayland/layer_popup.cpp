@@ -15,7 +15,10 @@ LayerPopup::LayerPopup(LayerShell& shell, QWindow& window, int ownBarHeight, Lay
     connect(&m_events, &PopupEvents::painted, this, &Popup::painted);
     connect(&m_events, &PopupEvents::escapePressed, this, &LayerPopup::dismiss);
     connect(&m_events, &PopupEvents::pressedOutside, this, &LayerPopup::close);
-    connect(&m_events, &PopupEvents::keyboardLost, this, &LayerPopup::close);
+    connect(&m_events, &PopupEvents::keyboardLost, this, [this] {
+        if (!m_role.keepsKeyboard())
+            close();
+    });
     connect(&m_events, &PopupEvents::hidden, this, &LayerPopup::close);
     connect(&m_events, &PopupEvents::screensChanged, this, &LayerPopup::close);
 }

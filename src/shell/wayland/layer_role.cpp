@@ -17,6 +17,9 @@ namespace {
 /// Compositors answer within a millisecond.
 constexpr std::chrono::milliseconds configurePatience{500};
 
+/// So soon nobody turns to another window.
+constexpr std::chrono::milliseconds promptly{500};
+
 } // namespace
 
 const zwlr_layer_surface_v1_listener LayerRole::listener{
@@ -40,8 +43,10 @@ LayerRole::LayerRole(LayerShell& shell, QWindow& window, int ownBarHeight, Layer
             giveUpRole();
     });
     connect(&m_window, &QWindow::activeChanged, this, [this] {
-        if (m_keyboard == LayerKeyboard::takes && m_window.isActive() && m_shell.hasKeyboardOnDemand())
-            setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND);
+        if (m_keyboard != LayerKeyboard::takes || !m_window.isActive() || !m_shell.hasKeyboardOnDemand())
+            return;
+        setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_ON_DEMAND);
+        m_sinceOnDemand.start();
     });
 }
 
@@ -54,6 +59,7 @@ LayerRole::~LayerRole() {
 bool LayerRole::show(QScreen& screen, const QRect& geometry) {
     hide(); // a surface that is shown cannot get another role
     m_isConfigured = false;
+    m_sinceOnDemand.invalidate();
     m_opening.emplace(Opening{screen, geometry.translated(-screen.geometry().topLeft())});
     // Qt 6.11 overlooks that a window loses the keyboard when it hides, and then that it gets it again.
     if (m_window.isActive())
@@ -119,6 +125,15 @@ void LayerRole::hide() {
     m_opening.reset();
     giveUpRole();
     m_window.hide();
+}
+
+bool LayerRole::keepsKeyboard() {
+    if (m_surface == nullptr || !m_sinceOnDemand.isValid() || m_sinceOnDemand.hasExpired(promptly.count()))
+        return false;
+    m_sinceOnDemand.invalidate();
+    m_shell.forgoKeyboardOnDemand();
+    setKeyboard(ZWLR_LAYER_SURFACE_V1_KEYBOARD_INTERACTIVITY_EXCLUSIVE);
+    return true;
 }
 
 void LayerRole::giveUpRole() {

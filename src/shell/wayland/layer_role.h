@@ -2,6 +2,7 @@
 
 #include "shell/wayland/layer_shell.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QRect>
 
@@ -39,6 +40,10 @@ public:
     /// Hides the window; the compositor gives the keyboard back.
     void hide();
 
+    /// To be called when the window has lost the keyboard. Returns whether it will have it again: newer
+    /// versions of sway take it away when a surface is content with having it as ordinary windows do.
+    [[nodiscard]] bool keepsKeyboard();
+
 Q_SIGNALS:
     /// The compositor has closed the surface, which must be hidden now.
     void closed();
@@ -66,6 +71,7 @@ private:
     std::optional<Opening> m_opening;           ///< while the window is being shown and has no role yet
     zwlr_layer_surface_v1* m_surface = nullptr; ///< null while the window is hidden
     bool m_isConfigured = false;
+    QElapsedTimer m_sinceOnDemand; ///< valid from the moment on that the window has the keyboard on demand
 };
 
 } // namespace orvelle

@@ -31,7 +31,9 @@ public:
     [[nodiscard]] zwlr_layer_surface_v1* makeOverlay(wl_surface& surface, wl_output* output) const;
 
     /// Whether the compositor can give a surface the keyboard as it does to ordinary windows.
-    [[nodiscard]] bool hasKeyboardOnDemand() const { return m_version >= 4; }
+    [[nodiscard]] bool hasKeyboardOnDemand() const { return m_version >= 4 && m_keepsKeyboardOnDemand; }
+    /// To be called when the compositor has taken the keyboard from a surface for asking for it on demand.
+    void forgoKeyboardOnDemand() { m_keepsKeyboardOnDemand = false; }
 
     /// Handles the events of surfaces that have not been handed to Qt, until `holds` returns true. False when
     /// it does not in time. Qt's own events wait meanwhile.
@@ -51,6 +53,7 @@ private:
     wl_registry* m_registry = nullptr;
     zwlr_layer_shell_v1* m_shell = nullptr;
     std::uint32_t m_version = 0;
+    bool m_keepsKeyboardOnDemand = true; ///< as far as is known
 };
 
 } // namespace orvelle

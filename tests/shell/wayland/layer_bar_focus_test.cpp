@@ -59,7 +59,7 @@ TEST_F(LayerBarFocusTest, GivesTheKeyboardBackWithAPressElsewhere) {
 
 TEST_F(LayerBarFocusTest, ForgetsTheKeyboardThatTheCompositorTakesAway) {
     ASSERT_TRUE(takesTheKeyboard());
-    compositor.tell([](FakeCompositor& fake) { fake.seat().focus(nullptr); });
+    ASSERT_TRUE(takeKeyboardAway(window));
     EXPECT_TRUE(waitUntil([this] { return !surface() && window.bar().focusedItem().isEmpty(); }));
 }
 

@@ -39,6 +39,25 @@ protected:
     void pressKey(std::uint32_t key) {
         compositor.tell([key](FakeCompositor& fake) { fake.seat().pressKey(key); });
     }
+    /// Takes the keyboard from the only surface. Where that has it on demand it asks for it once more, as
+    /// newer versions of sway require, and then loses it for good. Returns whether all that happened.
+    [[nodiscard]] bool takeKeyboardAway(const QWindow& window) {
+        const auto asksFor = [this](std::uint32_t keyboard) {
+            return waitUntil([this, keyboard] { return surface() && surface()->keyboard == keyboard; });
+        };
+        if (shell->hasKeyboardOnDemand()) {
+            if (!asksFor(keyboardOnDemand))
+                return false;
+            compositor.tell([](FakeCompositor& fake) { fake.seat().focus(nullptr); });
+            if (!asksFor(exclusiveKeyboard) || !waitUntil([&window] { return !window.isActive(); }))
+                return false;
+            compositor.tell([](FakeCompositor& fake) { fake.seat().focus(fake.layerSurfaces().front()); });
+            if (!waitUntil([&window] { return window.isActive(); }))
+                return false;
+        }
+        compositor.tell([](FakeCompositor& fake) { fake.seat().focus(nullptr); });
+        return true;
+    }
     [[nodiscard]] int bereftRoleCount() {
         return compositor.ask([](FakeCompositor& fake) { return fake.bereftRoleCount; });
     }

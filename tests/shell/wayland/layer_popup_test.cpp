@@ -107,7 +107,7 @@ TEST_F(LayerPopupTest, ClosesWithEscape) {
 
 TEST_F(LayerPopupTest, ClosesWhenTheKeyboardLeaves) {
     ASSERT_TRUE(opens());
-    compositor.tell([](FakeCompositor& fake) { fake.seat().focus(nullptr); });
+    ASSERT_TRUE(takeKeyboardAway(window));
     EXPECT_TRUE(waitUntil([this] { return !popup.isShown(); }));
     EXPECT_EQ(closed.count(), 1);
 }
