@@ -65,6 +65,7 @@ SettingsPortal::SettingsPortal(const QDBusConnection& bus)
     auto* starts =
         new QDBusServiceWatcher(portalService, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
     connect(starts, &QDBusServiceWatcher::serviceRegistered, this, &SettingsPortal::ask);
+    // It belongs to this object. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     ask();
 }
 
@@ -75,6 +76,7 @@ void SettingsPortal::ask() {
     question.setAutoStartService(false);
     auto* call = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] { takeAnswer(*call); });
+    // It belongs to this object. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
 }
 
 void SettingsPortal::takeAnswer(QDBusPendingCallWatcher& call) {

@@ -69,7 +69,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuLayoutNode& n
     argument.beginStructure();
     argument >> node.id >> node.properties >> node.children;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): what QtDBus asks for
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuItemProperties& item) {
@@ -83,7 +83,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemPropertie
     argument.beginStructure();
     argument >> item.id >> item.properties;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): what QtDBus asks for
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuEvent& event) {
@@ -97,7 +97,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent& event)
     argument.beginStructure();
     argument >> event.id >> event.event >> event.data >> event.timestamp;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): what QtDBus asks for
 }
 
 } // namespace orvelle

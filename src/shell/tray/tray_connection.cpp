@@ -116,6 +116,7 @@ void TrayConnection::registerItem() {
         m_bus.trayMissing(hasNoTray ? QStringLiteral("this desktop has none")
                                     : QStringLiteral("it answered: %1").arg(error.message()));
     });
+    // It belongs to the watcher of the tray. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
 }
 
 } // namespace orvelle

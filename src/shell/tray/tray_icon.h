@@ -26,7 +26,8 @@ public:
     void update();
     void setMenu(std::vector<MenuEntry> entries) { m_menu.setEntries(std::move(entries)); }
 
-    [[nodiscard]] const QString& serviceName() const { return m_connection->serviceName(); }
+    /// Its name on the bus.
+    [[nodiscard]] const QString& serviceName() const { return m_connection.value().serviceName(); }
 
 private:
     void publish();

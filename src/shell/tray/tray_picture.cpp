@@ -43,7 +43,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayPicture& pict
     argument.beginStructure();
     argument >> picture.width >> picture.height >> picture.bytes;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): what QtDBus asks for
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayToolTip& toolTip) {
@@ -59,7 +59,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayToolTip& tool
     argument.beginStructure();
     argument >> iconName >> pictures >> toolTip.title >> toolTip.text;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): what QtDBus asks for
 }
 
 } // namespace orvelle

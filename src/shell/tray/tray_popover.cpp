@@ -35,7 +35,7 @@ void StagedPopup::handleClosed() {
 }
 
 TrayPopover::TrayPopover(TrayStage& stage, Bar& tabs, KeptPopovers& kept, const MakePopup& makePopup,
-                         PopoverContent makeContent, Events events)
+                         const PopoverContent& makeContent, Events events)
     : m_stage(stage)
     , m_events(std::move(events))
     , m_popover(
@@ -44,7 +44,7 @@ TrayPopover::TrayPopover(TrayStage& stage, Bar& tabs, KeptPopovers& kept, const 
               return std::make_unique<StagedPopup>(m_stage, makePopup(window),
                                                    [this] { m_events.vanished(m_identifier); });
           },
-          std::move(makeContent)) {
+          makeContent) {
     m_stage.add(*this);
 }
 

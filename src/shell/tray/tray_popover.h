@@ -62,7 +62,7 @@ public:
         std::function<void(const QString&)> vanished;
     };
     TrayPopover(TrayStage& stage, Bar& tabs, KeptPopovers& kept, const MakePopup& makePopup,
-                PopoverContent makeContent, Events events);
+                const PopoverContent& makeContent, Events events);
     ~TrayPopover() override;
 
     [[nodiscard]] bool isShown() const override { return m_popover.isShown(); }

@@ -52,10 +52,11 @@ testPixels() {
     onOutput "$output"
     expectBar
     thick=$(pixels 22)
-    waitUntil "at scale $1 the bar ends with a line of one pixel" columnIs "1x$((thick + 2))+5+0" \
-        "$((thick - 1))x1E1E20 1x000000 2x$windowColor" || columnRuns "1x$((thick + 2))+5+0"
+    waitUntil "at scale $1 the bar ends with a line of one pixel" columnIs "1x$thick+5+0" \
+        "$((thick - 1))x1E1E20 1x000000" || columnRuns "1x$((thick + 2))+5+0"
     waitUntil "the line is as wide as the output" colorsAre "$output" "1280x1+0+$((thick - 1))" 000000
-    waitUntil "the other window fills the rest" colorsAre "$output" "1280x20+0+$thick" "$windowColor"
+    # At fractions newer versions of sway mix the edges of a window with what is beside it.
+    waitUntil "the other window fills the rest" colorsAre "$output" "1279x20+0+$((thick + 1))" "$windowColor"
     keepPicture "strip-$1" "$output"
 }
 

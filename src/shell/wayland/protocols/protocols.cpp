@@ -6,6 +6,7 @@
 #include <xdg-output-unstable-v1-client-protocol.h>
 #include <xdg-shell-client-protocol.h>
 
+// NOLINTBEGIN(bugprone-suspicious-include): see above
 extern "C" {
 #include <fractional-scale-v1-protocol.c>
 #include <viewporter-protocol.c>
@@ -13,3 +14,4 @@ extern "C" {
 #include <xdg-output-unstable-v1-protocol.c>
 #include <xdg-shell-protocol.c>
 }
+// NOLINTEND(bugprone-suspicious-include)
