@@ -54,9 +54,9 @@ testSingleInstance() {
     kill -0 "$orvellePid" || fail "the program starts again after an unexpected end"
 }
 
-# The settings change at the last moment.
+# The settings change shortly before.
 testEndOfSway() {
-    local start took
+    local start took status
     clickItem 0 3
     waitUntil "the menu opens" menuIsOpen
     seat key Down Return
@@ -67,12 +67,15 @@ testEndOfSway() {
     seat key Escape
     waitUntil "and closes" settingsAreShown
     seat key Tab Tab space
+    sleep 0.3 # newer versions of Qt drop the keys that came with the end of the connection
     kill -KILL "${swayPids[0]}"
     start=$(milliseconds)
     waitUntil "the end of sway ends the program" programIsGone
     took=$(($(milliseconds) - start))
     wait "$orvellePid"
-    expectEqual "with status" 1 $?
+    status=$?
+    # From 6.5 on Qt ends the process with 255 when it notices before the bar does.
+    ((status == 1 || status == 255)) || fail "with status 1, not $status"
     ((took < 1500)) || fail "it took $took ms"
     [[ -n $(complaints) ]] || fail "it says why it ends"
     expectEqual "it has no findings of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$log")"

@@ -8,6 +8,12 @@ orvelle=$1
 client=$2
 source "$(dirname "$0")/bar_on_sway.sh"
 
+# Qt, which shows the panels, hears of outputs on a connection of its own, and a panel closes when it does.
+expectBarAndScreens() {
+    expectBar
+    sleep 0.5
+}
+
 outputsAre() { [[ $(swayState outputs) == "$1" ]]; }
 awaitOutputs() { waitUntil "the outputs are: $1" outputsAre "$1" || swayState outputs; }
 noBarOn() { isBare "$1" 100x20+0+0; }
@@ -28,7 +34,7 @@ testSecondOutput() {
     plug
     awaitOutputs "WL-1 WL-2"
     waitUntil "a second output gets no bar" noBarOn WL-2
-    expectBar
+    expectBarAndScreens
     clickItem 1
     expectPanel 1 "a panel opens"
     seat click 1 1500 500
@@ -38,17 +44,17 @@ testSecondOutput() {
 testScaleOfOutput() {
     onSway output WL-1 scale 2
     onOutput WL-1
-    expectBar
+    expectBarAndScreens
     testPanels
     clickItem 2
     expectPanel 2 "a panel opens"
     onSway output WL-1 scale 1
     onOutput WL-1
-    expectBar
+    expectBarAndScreens
     waitUntil "a panel closes when the scale changes" nothingIsShown
     onSway output WL-1 mode 1100x640
     onOutput WL-1
-    expectBar
+    expectBarAndScreens
     testPanels
 }
 
@@ -58,7 +64,7 @@ testLostOutput() {
     unplug WL-1
     awaitOutputs "WL-2"
     onOutput WL-2
-    expectBar
+    expectBarAndScreens
     waitUntil "the panel is closed when its output goes" nothingIsShown
     testPanels
     unplug WL-2
@@ -68,7 +74,7 @@ testLostOutput() {
     plug
     awaitOutputs "WL-3"
     onOutput WL-3
-    expectBar
+    expectBarAndScreens
     testPanels
 }
 

@@ -56,7 +56,8 @@ testPixels() {
         "$((thick - 1))x1E1E20 1x000000" || columnRuns "1x$((thick + 2))+5+0"
     waitUntil "the line is as wide as the output" colorsAre "$output" "1280x1+0+$((thick - 1))" 000000
     # At fractions newer versions of sway mix the edges of a window with what is beside it.
-    waitUntil "the other window fills the rest" colorsAre "$output" "1279x20+0+$((thick + 1))" "$windowColor"
+    [[ $1 == *.* ]] ||
+        waitUntil "the other window fills the rest" colorsAre "$output" "1280x20+0+$thick" "$windowColor"
     keepPicture "strip-$1" "$output"
 }
 

@@ -61,6 +61,10 @@ startSway() {
 # startSwayWithCables COUNT: starts a desktop with the outputs WL-1 of 1280x800 pixels, WL-2 of 1000x700 pixels and so
 # on, side by side. They are windows of another sway, because an output without a screen cannot be unplugged.
 startSwayWithCables() {
+    if [[ $(sway --version) != *" 1.7"* ]]; then
+        echo "SKIPPED: newer versions of sway do not draw an output whose window another one covers"
+        exit "$skipped"
+    fi
     local number outputs=('output WL-1 mode 1280x800 position 0 0')
     for number in 2 3 4 5 6 7 8 9; do
         outputs+=("output WL-$number mode 1000x700 position $((1280 + 1000 * (number - 2))) 0")
@@ -113,7 +117,8 @@ seat() {
 }
 
 # Moves the mouse to the left lower corner, because pictures show its arrow.
-lookAway() { seat move 0 10000; }
+# Each time to another place, because an output that is a window of another sway may wait for a change to be drawn.
+lookAway() { seat move $((RANDOM % 5)) 10000; }
 
 # onSway COMMAND...: sends a command in the language of sway's settings.
 onSway() { swaymsg -q -- "$*" || fail "sway: $*"; }
