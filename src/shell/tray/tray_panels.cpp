@@ -111,6 +111,10 @@ QRect TrayPanels::sparedRectangle() const {
     return places(panelSize).strip;
 }
 
+void TrayPanels::popupOpens() {
+    updateStrip(); // the tabs before the panel, which takes the keyboard
+}
+
 void TrayPanels::popupChanged() {
     if (!std::exchange(m_isUpdateDue, true)) // later, because one panel may be closing for another
         QMetaObject::invokeMethod(this, &TrayPanels::updateStrip, Qt::QueuedConnection);

@@ -61,6 +61,7 @@ private:
     [[nodiscard]] QScreen& screen() const override;
     [[nodiscard]] QRect placeOf(const QRect& wanted) const override;
     [[nodiscard]] QRect sparedRectangle() const override;
+    void popupOpens() override;
     void popupChanged() override;
     void add(TrayPopover& popover) override { m_popovers.push_back(&popover); }
     void remove(TrayPopover& popover) override;

@@ -18,6 +18,7 @@ StagedPopup::StagedPopup(TrayStage& stage, std::unique_ptr<Popup> popup, std::fu
 
 void StagedPopup::show(QScreen& /*screen*/, const QRect& geometry, const QRectF& /*spared*/) {
     m_isToldToClose = false;
+    m_stage.popupOpens();
     m_popup->show(m_stage.screen(), m_stage.placeOf(geometry), m_stage.sparedRectangle());
     m_stage.popupChanged();
 }
@@ -55,7 +56,6 @@ TrayPopover::~TrayPopover() {
 void TrayPopover::show(const StatusItem& item) {
     m_identifier = item.identifier();
     m_events.shown(m_identifier);
-    m_stage.popupChanged(); // the tabs before the panel, which takes the keyboard
     m_popover.show(static_cast<const TrayStatusItem&>(item).tab());
 }
 

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] virtual QRect placeOf(const QRect& wanted) const = 0;
     /// A press there does not close the window.
     [[nodiscard]] virtual QRect sparedRectangle() const = 0;
+    /// A popup is about to open.
+    virtual void popupOpens() = 0;
     /// A popup has opened or closed.
     virtual void popupChanged() = 0;
 
