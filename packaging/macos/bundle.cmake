@@ -1,6 +1,7 @@
 # Builds the program as Orvelle.app, and lets `cpack` write a disk image with it and the parts of Qt that it needs.
 
-# The sources use a name for the I/O Kit port that macOS 12 introduced.
+# What the sources ask for: a name for the I/O Kit port that macOS 12 introduced. The libraries in the finished bundle may
+# need a newer system; finish_bundle.sh then states that one.
 set(ORVELLE_OLDEST_MACOS 12.0)
 if(CMAKE_OSX_DEPLOYMENT_TARGET)
   set(ORVELLE_OLDEST_MACOS ${CMAKE_OSX_DEPLOYMENT_TARGET})
@@ -36,16 +37,28 @@ endif()
 install(TARGETS orvelle BUNDLE DESTINATION .)
 find_program(ORVELLE_MACDEPLOYQT macdeployqt HINTS ${QT6_INSTALL_PREFIX}/bin DOC "Copies Qt into a bundle")
 if(ORVELLE_MACDEPLOYQT)
-  # A changed program must be signed again to start. Without an identity the signature is valid on this machine only.
+  file(TO_CMAKE_PATH "$ENV{CMAKE_PREFIX_PATH}" library_folders)
+  list(APPEND library_folders ${CMAKE_PREFIX_PATH} ${QT6_INSTALL_PREFIX})
+  list(REMOVE_DUPLICATES library_folders)
+  list(TRANSFORM library_folders REPLACE "^(.+)$" "\"\\1/lib\"")
+  list(JOIN library_folders " " library_folders)
   install(CODE "execute_process(
-    COMMAND \"${ORVELLE_MACDEPLOYQT}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Orvelle.app\"
-      \"-qmldir=${CMAKE_SOURCE_DIR}/src\" -codesign=-
+    COMMAND ${CMAKE_CURRENT_LIST_DIR}/finish_bundle.sh \"${ORVELLE_MACDEPLOYQT}\"
+      \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Orvelle.app\" \"${CMAKE_SOURCE_DIR}/src\" ${library_folders}
     COMMAND_ERROR_IS_FATAL ANY)")
 endif()
+
+# The name says which Macs the image is for.
+set(processors ${CMAKE_OSX_ARCHITECTURES})
+if(NOT processors)
+  set(processors ${CMAKE_SYSTEM_PROCESSOR})
+endif()
+list(JOIN processors "-" processors)
 
 set(CPACK_GENERATOR DragNDrop)
 set(CPACK_PACKAGE_NAME Orvelle)
 set(CPACK_PACKAGE_VENDOR Orvelle)
-set(CPACK_PACKAGE_FILE_NAME Orvelle-${PROJECT_VERSION})
+set(CPACK_PACKAGE_FILE_NAME Orvelle-${PROJECT_VERSION}-${processors})
 set(CPACK_DMG_VOLUME_NAME Orvelle)
+set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/notarize.cmake)
 include(CPack)
