@@ -112,18 +112,22 @@ TEST_F(FailingCallsTest, Volumes) {
     const MountedVolume root{
         .path = "/", .name = "Macintosh HD", .isLocal = true, .totalBytes = 500, .freeBytes = 200};
     const MountedVolume share{.path = "/Volumes/Share", .name = "Share", .totalBytes = 900, .freeBytes = 100};
+    MountedVolume rootWithoutPurgeable = root;
+    rootWithoutPurgeable.freeBytes = 150;
     MountedVolume namelessRoot = root;
     namelessRoot.name.reset();
     MountedVolume namelessShare = share;
     namelessShare.name.reset();
-    const std::string values = "resourceValues name total free local internal";
+    const std::string values = "resourceValues name total available local internal";
     failEachCallOf<Answer>(
         {.ask = [](MachineSources& sources) { return sources.disk->readVolumes(); },
          .whole = {{root, share}},
-         .whenFailing = {{"mountedVolumeURLs name total free local internal", std::nullopt},
+         .whenFailing = {{"mountedVolumeURLs name total available local internal", std::nullopt},
                          {values, {{share}}},
                          {"UTF8String /", {{share}}},
                          {"UTF8String Macintosh HD", {{namelessRoot, share}}},
+                         {"resourceValues important", {{rootWithoutPurgeable, share}}},
+                         {"importantUsage of /", {{rootWithoutPurgeable, share}}},
                          {values + " (2)", {{root}}},
                          {"UTF8String /Volumes/Share", {{root}}},
                          {"UTF8String Share", {{root, namelessShare}}}}});

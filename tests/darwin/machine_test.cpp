@@ -48,7 +48,8 @@ TEST_F(DarwinMachineTest, EveryCycleMakesTheSameNumberOfCallsAndHoldsNothingBetw
     BatteryMonitor battery(*sources.battery);
     ProcessMonitor process(*sources.process, sources.now);
     SensorMonitor sensor(*sources.sensor);
-    sensor.update(); // connects to the controller
+    sensor.update();      // connects to the controller
+    disk.updateVolumes(); // asks for the purgeable space
     static_cast<void>(takeSystemCalls());
     for (int cycle = 0; cycle < 3; ++cycle) {
         cpu.updateUsage();

@@ -51,10 +51,16 @@ TEST_F(DarwinMemorySourceTest, NoSwapInUseIsZeros) {
     EXPECT_EQ(host().memory->read()->swapUsed, 0u);
 }
 
-TEST_F(DarwinMemorySourceTest, ANegativeMemorySizeStopsTheProcessInTheMonitor) {
+TEST_F(DarwinMemorySourceTest, AMemorySizeBelowZeroKeepsWhatIsPublished) {
+    MemoryMonitor monitor(*host().memory);
+    monitor.update();
     machine().setSysctl(simulated::physicalMemoryName, std::int64_t{-1});
-    EXPECT_EQ(host().memory->read()->physicalMemory, -1);
-    EXPECT_DEATH(MemoryMonitor(*host().memory).update(), "conversion out of range");
+    machine().pages.active = 6000;
+    EXPECT_FALSE(host().memory->read());
+    monitor.update();
+    EXPECT_EQ(monitor.info().total, 8 * gibibyte);
+    EXPECT_EQ(monitor.info().active, std::uint64_t{5000} * 16384);
+    EXPECT_EQ(monitor.pressureHistory().size(), 1);
 }
 
 TEST_F(DarwinMemorySourceTest, TheLargestCountersDoNotReachTheMonitorsLimits) {

@@ -1,6 +1,8 @@
 #include "core/cpu_monitor.h"
 #include "darwin/typical_machine.h"
 
+#include <limits>
+
 namespace orvelle {
 namespace {
 
@@ -47,18 +49,20 @@ TEST_F(DarwinProcessorSourceTest, WordsBeyondTheLastProcessorAreNotReadButReleas
     EXPECT_EQ(readTicks()->size(), 2u);
 }
 
-TEST_F(DarwinProcessorSourceTest, TheLargestCounterIsStillACounter) {
-    machine().processors = {.count = 1, .words = {0x7fffffff, 0, 0x7fffffff, 0x7fffffff}};
-    EXPECT_EQ(readTicks()->at(0), (CoreTicks{.user = 0x7fffffff, .idle = 0x7fffffff, .nice = 0x7fffffff}));
+TEST_F(DarwinProcessorSourceTest, ACounterHasThirtyTwoBitsAndNoSign) {
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    machine().processors = {.count = 1, .words = {0x7fffffff, least, -1, -2}};
+    EXPECT_EQ(readTicks()->at(0),
+              (CoreTicks{.user = 0x7fffffff, .system = 0x80000000, .idle = 0xffffffff, .nice = 0xfffffffe}));
 }
 
-TEST_F(DarwinProcessorSourceTest, ACounterThatWrappedBelowZeroStopsTheProcess) {
-    for (const std::size_t counter : {0u, 1u, 2u, 3u, 7u}) {
-        machine() = simulated::Machine(typicalMachine());
-        machine().processors.words[counter] = -1;
-        EXPECT_DEATH(static_cast<void>(readTicks()), "tick counter is negative");
-        EXPECT_DEATH(CPUMonitor(*host().processor, host().now), "tick counter is negative");
-    }
+TEST_F(DarwinProcessorSourceTest, AStateOf248DaysIsMeasuredAsBefore) {
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    machine().processors = {.count = 1, .words = {0, 0, 0x7fffffff - 49, 0}};
+    CPUMonitor monitor(*host().processor, host().now);
+    machine().processors = {.count = 1, .words = {100, 0, least + 250, 0}};
+    monitor.updateUsage();
+    EXPECT_EQ(monitor.coreUsages().at(0), (CPUCoreUsage{.id = 0, .user = 0.25, .system = 0, .idle = 0.75}));
 }
 
 TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorUnchanged) {
@@ -70,7 +74,7 @@ TEST_F(DarwinProcessorSourceTest, ACounterThatWentBackwardsReachesTheMonitorUnch
 }
 
 TEST_F(DarwinProcessorSourceTest, ACounterThatBeganAnewAddsNothingOnce) {
-    machine().processors = {.count = 1, .words = {0, 0x7ffffff0, 1000, 0}};
+    machine().processors = {.count = 1, .words = {0, -16, 1000, 0}};
     CPUMonitor monitor(*host().processor, host().now);
     machine().processors = {.count = 1, .words = {50, 10, 1150, 0}};
     monitor.updateUsage();

@@ -256,11 +256,24 @@ TEST_F(SMCHelperTest, FansThatStandStillOrFailGiveAnEmptyListRatherThanZeros) {
     EXPECT_TRUE(SMCHelper(client).readFanSpeeds().empty());
 }
 
-TEST_F(SMCHelperTest, AFanSpeedThatNoIntegerCanHoldStopsTheProcess) {
-    client.setFloat("F0Ac", std::numeric_limits<float>::infinity());
-    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "no integer can hold a fan's speed");
-    client.setFloat("F0Ac", 1e19F);
-    EXPECT_DEATH(static_cast<void>(SMCHelper(client).readFanSpeeds()), "no integer can hold a fan's speed");
+TEST_F(SMCHelperTest, AFanSpeedThatNoIntegerCanHoldIsLeftOut) {
+    client.setFloat("F1Ac", 2400);
+    for (const float speed : {std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN(),
+                              1e19F, 9223372036854775808.0F}) {
+        client.setFloat("F0Ac", speed);
+        EXPECT_EQ(SMCHelper(client).readFanSpeeds(), std::vector<std::int64_t>{2400}) << speed;
+    }
+}
+
+TEST_F(SMCHelperTest, NoSpeedWrittenTheOtherWayAroundStopsTheProcess) {
+    for (std::uint32_t speed = 0; speed < 10'000; ++speed) {
+        const auto bits = std::bit_cast<std::uint32_t>(static_cast<float>(speed) + 0.373F);
+        std::vector<std::uint8_t> bytes;
+        for (unsigned int shift = 0; shift < 32; shift += 8)
+            bytes.push_back(static_cast<std::uint8_t>(bits >> shift));
+        client.set("F0Ac", "flt ", 4, bytes);
+        ASSERT_LE(SMCHelper(client).readFanSpeeds().size(), 1u) << speed;
+    }
 }
 
 } // namespace

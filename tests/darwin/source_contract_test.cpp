@@ -77,7 +77,7 @@ TEST_F(DarwinSourceContractTest, HoldsForOddInterfaces) {
 TEST_F(DarwinSourceContractTest, HoldsForOddVolumesAndTheLargestCounters) {
     machine().volumes->push_back(
         {.path = "/Volumes/" + oddName,
-         .values = {{{"name", oddName}, {"total", largestInteger - 1}, {"free", largestInteger}}}});
+         .values = {{{"name", oddName}, {"total", largestInteger - 1}, {"available", largestInteger}}}});
     const Service driver{.properties = Properties{{"Statistics", Properties{{"Bytes (Read)", largestInteger},
                                                                             {"Bytes (Write)", -1}}}}};
     machine().services["IOBlockStorageDriver"] = {driver, driver};
@@ -91,7 +91,7 @@ TEST_F(DarwinSourceContractTest, HoldsForLoadAveragesThatAreNotNumbers) {
 }
 
 TEST_F(DarwinSourceContractTest, HoldsForTheLargestTicks) {
-    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t most = -1; // the counters have no sign
     machine().processors = {.count = 1, .words = {most, most, most, most}};
     expectKeepsContract(host());
 }

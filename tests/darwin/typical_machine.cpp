@@ -77,9 +77,14 @@ Machine typicalMachine() {
     machine.services["AppleSMC"] = {{}};
     machine.powerSources = PropertyList{powerSource()};
     machine.volumes = {
-        {.path = "/", .values = {{{"name", "Macintosh HD"}, {"total", 500}, {"free", 200}, {"local", true}}}},
+        {.path = "/",
+         .values = {{{"name", "Macintosh HD"},
+                     {"total", 500},
+                     {"available", 150},
+                     {"important", 200},
+                     {"local", true}}}},
         {.path = "/Volumes/Share",
-         .values = {{{"name", "Share"}, {"total", 900}, {"free", 100}, {"local", false}}}}};
+         .values = {{{"name", "Share"}, {"total", 900}, {"available", 100}, {"local", false}}}}};
     machine.controllerKeys["Tp09"] = {.type = "flt ", .size = 4, .bytes = {0x42, 0x48, 0, 0}};
     machine.controllerKeys["F0Ac"] = {.type = "ui16", .size = 2, .bytes = {0x07, 0xd0}};
     return machine;

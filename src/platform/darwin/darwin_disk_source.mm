@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 // Compiled with manual reference counting.
 namespace orvelle::darwin_platform {
@@ -36,7 +37,17 @@ std::optional<std::string> stringIn(NSDictionary* values, NSString* key) {
     return text != nullptr ? std::optional<std::string>(readableName(text)) : std::nullopt;
 }
 
-std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
+/// The bytes that the system would delete for a file of the user. A file system other than the system's own
+/// answers 0 for what is available to such a file.
+std::int64_t askForPurgeableBytes(NSURL* url, std::int64_t available) {
+    const id key = NSURLVolumeAvailableCapacityForImportantUsageKey;
+    NSDictionary* const values = [url resourceValuesForKeys:[NSArray arrayWithObjects:&key count:1]
+                                                      error:nullptr];
+    const std::int64_t important = [numberIn(values, key) longLongValue];
+    return important > available ? important - std::max<std::int64_t>(available, 0) : 0;
+}
+
+std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys, PurgeableSpace& purgeable) {
     NSDictionary* const values = [url resourceValuesForKeys:keys error:nullptr];
     const char* const path = [[url path] UTF8String];
     if (values == nil || path == nullptr)
@@ -46,11 +57,14 @@ std::optional<MountedVolume> mountedVolume(NSURL* url, NSArray* keys) {
     volume.path = readableName(path);
     volume.name = stringIn(values, NSURLVolumeNameKey);
     volume.isLocal = [numberIn(values, NSURLVolumeIsLocalKey) boolValue];
-    volume.totalBytes = [numberIn(values, NSURLVolumeTotalCapacityKey) longLongValue];
-    // What can be purged counts as free, and by another account than the capacity.
-    const std::int64_t freeBytes =
-        [numberIn(values, NSURLVolumeAvailableCapacityForImportantUsageKey) longLongValue];
-    volume.freeBytes = std::min(freeBytes, volume.totalBytes);
+    volume.totalBytes =
+        std::max<std::int64_t>([numberIn(values, NSURLVolumeTotalCapacityKey) longLongValue], 0);
+    const std::int64_t available = [numberIn(values, NSURLVolumeAvailableCapacityKey) longLongValue];
+    std::int64_t purgeableBytes = 0;
+    if (volume.isLocal && volume.totalBytes > 0)
+        purgeableBytes =
+            purgeable.bytesOn(path, volume.totalBytes, std::bind_front(askForPurgeableBytes, url, available));
+    volume.freeBytes = freeBytes(available, purgeableBytes, volume.totalBytes);
     return volume;
 }
 
@@ -69,12 +83,21 @@ std::optional<DiskCounters> countersOf(const OwnedIOObject& driver) {
                         .bytesWritten = counterIn(statistics, CFSTR("Bytes (Write)"))};
 }
 
+bool fitSums(const std::vector<DiskCounters>& disks) {
+    DiskCounters sum;
+    return std::ranges::all_of(disks, [&sum](const DiskCounters& disk) {
+        return !__builtin_add_overflow(sum.bytesRead, disk.bytesRead, &sum.bytesRead) &&
+               !__builtin_add_overflow(sum.bytesWritten, disk.bytesWritten, &sum.bytesWritten);
+    });
+}
+
 } // namespace
 
 std::optional<std::vector<MountedVolume>> DarwinDiskSource::readVolumes() {
     const ReleasePool pool;
+    // The list would compute each value for each volume, so what needs another process is not among them.
     const std::array<id, 5> keyList{NSURLVolumeNameKey, NSURLVolumeTotalCapacityKey,
-                                    NSURLVolumeAvailableCapacityForImportantUsageKey, NSURLVolumeIsLocalKey,
+                                    NSURLVolumeAvailableCapacityKey, NSURLVolumeIsLocalKey,
                                     NSURLVolumeIsInternalKey};
     NSArray* const keys = [NSArray arrayWithObjects:keyList.data() count:keyList.size()];
     NSArray* const urls = [[NSFileManager defaultManager]
@@ -82,9 +105,11 @@ std::optional<std::vector<MountedVolume>> DarwinDiskSource::readVolumes() {
                                                 options:NSVolumeEnumerationSkipHiddenVolumes];
     if (urls == nil)
         return std::nullopt;
+    m_purgeable.beginList();
     std::vector<MountedVolume> volumes;
     for (NSUInteger index = 0; index < [urls count]; ++index) {
-        if (std::optional<MountedVolume> volume = mountedVolume([urls objectAtIndex:index], keys))
+        if (std::optional<MountedVolume> volume =
+                mountedVolume([urls objectAtIndex:index], keys, m_purgeable))
             volumes.push_back(*std::move(volume));
     }
     return volumes;
@@ -99,7 +124,7 @@ std::optional<std::vector<DiskCounters>> DarwinDiskSource::readCounters() {
         if (const std::optional<DiskCounters> counters = countersOf(driver))
             disks.push_back(*counters);
     }
-    return disks;
+    return fitSums(disks) ? std::optional(std::move(disks)) : std::nullopt;
 }
 
 } // namespace orvelle::darwin_platform

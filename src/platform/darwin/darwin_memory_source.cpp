@@ -48,7 +48,7 @@ std::optional<MemoryReading> DarwinMemorySource::read() {
     reading.pageSize = vm_kernel_page_size;
     reading.physicalMemory = readSysctl<std::int64_t>(CTL_HW, HW_MEMSIZE).value_or(0);
     const std::optional<vm_statistics64_data_t> statistics = readStatistics(m_host.get());
-    if (!statistics)
+    if (!statistics || reading.physicalMemory < 0)
         return std::nullopt;
     reading.freePages = statistics->free_count;
     reading.activePages = statistics->active_count;

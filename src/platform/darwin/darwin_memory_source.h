@@ -13,7 +13,8 @@ namespace orvelle::darwin_platform {
 /// over as the kernel gives them.
 class DarwinMemorySource final : public MemorySource {
 public:
-    /// Physical memory and swap are 0 where only they cannot be read; nothing when the page counters cannot.
+    /// Physical memory and swap are 0 where only they cannot be read; nothing when the page counters cannot,
+    /// or for a memory size below 0.
     [[nodiscard]] std::optional<MemoryReading> read() override;
 
 private:

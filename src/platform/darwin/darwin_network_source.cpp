@@ -1,6 +1,5 @@
 #include "platform/darwin/darwin_network_source.h"
 
-#include "platform/darwin/kernel_answers.h"
 #include "platform/readable_name.h"
 
 #include <array>
@@ -39,9 +38,8 @@ void takeCounters(InterfaceEntry& entry, const void* data) {
     entry.bytesOut = counters->ifi_obytes;
 }
 
+/// Of an entry that has a name and an address.
 InterfaceEntry interfaceEntry(const ifaddrs& source) {
-    if (source.ifa_name == nullptr || source.ifa_addr == nullptr)
-        stopForContradiction("an entry of the interface list has no name or no address");
     InterfaceEntry entry;
     entry.name = readableName(source.ifa_name);
     entry.isUp = (source.ifa_flags & IFF_UP) != 0;
@@ -73,6 +71,8 @@ std::optional<std::vector<InterfaceEntry>> DarwinNetworkSource::read() {
     const InterfaceList list(first);
     std::vector<InterfaceEntry> entries;
     for (const ifaddrs* source = list.get(); source != nullptr; source = source->ifa_next) {
+        if (source->ifa_name == nullptr || source->ifa_addr == nullptr)
+            continue;
         InterfaceEntry entry = interfaceEntry(*source);
         if (!entry.name.empty())
             entries.push_back(std::move(entry));

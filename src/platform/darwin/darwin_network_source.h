@@ -9,7 +9,7 @@ namespace orvelle::darwin_platform {
 class DarwinNetworkSource final : public NetworkSource {
 public:
     /// An entry of a loopback or of an interface that is down has no address and no bytes, because no monitor
-    /// uses them. An entry without a name or an address stops the process.
+    /// uses them. An entry without a name or without an address, such as some tunnels have, is left out.
     [[nodiscard]] std::optional<std::vector<InterfaceEntry>> read() override;
 };
 

@@ -10,10 +10,9 @@
 namespace orvelle::darwin_platform {
 namespace {
 
+/// The counters are declared as signed numbers and counted as unsigned ones.
 std::uint64_t ticksOf(integer_t counter) {
-    if (counter < 0)
-        stopForContradiction("a processor's tick counter is negative");
-    return static_cast<std::uint64_t>(counter);
+    return static_cast<natural_t>(counter);
 }
 
 CoreTicks coreTicks(const integer_t* counters) {

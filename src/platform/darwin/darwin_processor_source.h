@@ -8,9 +8,8 @@ namespace orvelle::darwin_platform {
 /// Answers from the host's processor statistics, the load averages and {CTL_KERN, KERN_BOOTTIME}.
 class DarwinProcessorSource final : public ProcessorSource {
 public:
-    /// The four counters of each processor in the kernel's order. They are signed 32-bit numbers that never
-    /// should be negative: one that is (at 100 ticks a second a state needs 248 days to get there) stops the
-    /// process.
+    /// The four counters of each processor in the kernel's order. They have 32 bits: at 100 ticks a second a
+    /// state begins anew at 0 after 497 days.
     [[nodiscard]] std::optional<std::vector<CoreTicks>> readTicks() override;
     /// An average that the system leaves out is 0.
     [[nodiscard]] std::optional<std::array<double, 3>> readLoadAverages() override;

@@ -9,11 +9,6 @@
 
 namespace orvelle::darwin_platform {
 
-/// Ends the process with a message on standard error. Only for an answer of the system that contradicts what
-/// it documents, where going on would publish a wrong value as a plausible one; a call that fails is no such
-/// answer.
-[[noreturn]] void stopForContradiction(const char* contradiction);
-
 /// The value of a two-level name of the management information base, such as {CTL_HW, HW_MEMSIZE}; nothing
 /// when the call fails or the answer is not of the size of `Value`.
 template <class Value>

@@ -1,7 +1,5 @@
 #include "platform/darwin/smc_helper.h"
 
-#include "platform/darwin/kernel_answers.h"
-
 #include <array>
 
 namespace orvelle::darwin_platform {
@@ -44,11 +42,11 @@ constexpr std::array namedKeys{
     NamedKey{"TB0T", "Battery"},
 };
 
-std::int64_t truncatedSpeed(double speed) {
+/// Whether it can be the speed of a fan that turns. A controller that stores numbers the other way around can
+/// answer anything, also what no integer holds.
+bool isSpeed(double value) {
     constexpr double limit = 9223372036854775808.0; // 2^63, the first double beyond the range
-    if (!(speed < limit))
-        stopForContradiction("no integer can hold a fan's speed");
-    return static_cast<std::int64_t>(speed);
+    return value > 0 && value < limit;
 }
 
 } // namespace
@@ -151,8 +149,8 @@ std::vector<std::int64_t> SMCHelper::readFanSpeeds() {
     std::vector<std::int64_t> speeds;
     for (const std::string_view key : fanSpeedKeys) {
         const std::optional<double> speed = readKey(key);
-        if (speed && *speed > 0)
-            speeds.push_back(truncatedSpeed(*speed));
+        if (speed && isSpeed(*speed))
+            speeds.push_back(static_cast<std::int64_t>(*speed));
     }
     return speeds;
 }

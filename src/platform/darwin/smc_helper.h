@@ -38,8 +38,8 @@ public:
     [[nodiscard]] std::optional<double> readGPUTemperature() override;
     /// The keys that have a name and read plausibly, in the order of the program's table.
     [[nodiscard]] std::vector<NamedTemperature> readSensors() override;
-    /// A fan that stands still or does not answer leaves no gap: its successor takes its position. A speed
-    /// that no integer can hold stops the process.
+    /// A fan that stands still, does not answer or answers a speed that no integer can hold leaves no gap:
+    /// its successor takes its position.
     [[nodiscard]] std::vector<std::int64_t> readFanSpeeds() override;
 
 private:

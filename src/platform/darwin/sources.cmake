@@ -8,7 +8,7 @@ set(ORVELLE_DARWIN_SOURCES
   darwin_process_source.cpp
   darwin_processor_source.cpp
   darwin_sensor_source.cpp
-  kernel_answers.cpp
+  purgeable_space.cpp
   smc_helper.cpp
   smc_user_client.cpp
   system_objects.cpp)

@@ -14,7 +14,7 @@ using NamedObjects = std::map<const void*, id>;
 struct Key {
     const char* name;
 };
-extern const Key nameKey, totalKey, freeKey, localKey, internalKey;
+extern const Key nameKey, totalKey, availableKey, importantKey, localKey, internalKey;
 
 } // namespace orvelle::simulated
 

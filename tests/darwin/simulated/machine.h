@@ -54,7 +54,7 @@ struct Service {
 
 struct Volume {
     std::optional<std::string> path{};
-    std::optional<Properties> values{}; ///< by short key: name, total, free, local; none: cannot be read
+    std::optional<Properties> values{}; ///< by the short names of their keys; none: cannot be read
 };
 
 /// A key of the System Management Controller.

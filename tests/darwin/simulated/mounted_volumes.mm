@@ -5,7 +5,8 @@ using namespace orvelle::simulated;
 
 namespace orvelle::simulated {
 
-const Key nameKey{"name"}, totalKey{"total"}, freeKey{"free"}, localKey{"local"}, internalKey{"internal"};
+const Key nameKey{"name"}, totalKey{"total"}, availableKey{"available"}, importantKey{"important"},
+    localKey{"local"}, internalKey{"internal"};
 
 } // namespace orvelle::simulated
 
@@ -15,14 +16,26 @@ namespace {
 // NOLINTBEGIN(bugprone-casting-through-void): there is no other cast between a structure and an object
 NSString* keyObject(const Key& key) { return (NSString*)(void*)&key; }
 
+const Key& keyAt(NSArray* keys, NSUInteger index) { return *(const Key*)(void*)[keys objectAtIndex:index]; }
+
 /// The names of the keys, as they were given.
 std::string namesOf(NSArray* keys) {
     std::string names;
     for (NSUInteger index = 0; index < [keys count]; ++index)
-        names += std::string(" ") + ((const Key*)(void*)[keys objectAtIndex:index])->name;
+        names += std::string(" ") + keyAt(keys, index).name;
     return names;
 }
 // NOLINTEND(bugprone-casting-through-void)
+
+/// Only another process knows what could be deleted: whoever asks for this value of a volume waits for its
+/// answer. Asking for it with the list of volumes asks for that of every volume.
+bool canAskForImportantUsage(NSArray* keys, const Volume& volume) {
+    for (NSUInteger index = 0; index < [keys count]; ++index) {
+        if (&keyAt(keys, index) == &importantKey)
+            return kernel().arrives("importantUsage of " + volume.path.value_or("no path"));
+    }
+    return true;
+}
 
 id makeObject(const Property& property) {
     if (const auto* text = std::get_if<std::string>(&property))
@@ -36,7 +49,8 @@ id makeObject(const Property& property) {
 
 NSString* const NSURLVolumeNameKey = keyObject(nameKey);
 NSString* const NSURLVolumeTotalCapacityKey = keyObject(totalKey);
-NSString* const NSURLVolumeAvailableCapacityForImportantUsageKey = keyObject(freeKey);
+NSString* const NSURLVolumeAvailableCapacityKey = keyObject(availableKey);
+NSString* const NSURLVolumeAvailableCapacityForImportantUsageKey = keyObject(importantKey);
 NSString* const NSURLVolumeIsLocalKey = keyObject(localKey);
 NSString* const NSURLVolumeIsInternalKey = keyObject(internalKey);
 
@@ -54,11 +68,13 @@ NSString* const NSURLVolumeIsInternalKey = keyObject(internalKey);
     const auto* volume = static_cast<const Volume*>(m_volume);
     if (!kernel().arrives("resourceValues" + namesOf(keys)) || !volume->values)
         return nil;
+    const bool hasImportantUsage = canAskForImportantUsage(keys, *volume);
     NamedObjects objects;
-    for (const Key* key : {&nameKey, &totalKey, &freeKey, &localKey}) {
-        const auto value = volume->values->find(key->name);
-        if (value != volume->values->end())
-            objects[key] = makeObject(value->second);
+    for (NSUInteger index = 0; index < [keys count]; ++index) {
+        const Key& key = keyAt(keys, index);
+        const auto value = volume->values->find(key.name);
+        if (value != volume->values->end() && (&key != &importantKey || hasImportantUsage))
+            objects[&key] = makeObject(value->second);
     }
     return [[[NSDictionary alloc] initWithNamedObjects:objects] autorelease];
 }
@@ -81,8 +97,10 @@ NSString* const NSURLVolumeIsInternalKey = keyObject(internalKey);
     if (!kernel().arrives("mountedVolumeURLs" + namesOf(keys)) || !volumes)
         return nil;
     Objects urls;
-    for (const Volume& volume : *volumes)
+    for (const Volume& volume : *volumes) {
+        static_cast<void>(canAskForImportantUsage(keys, volume));
         urls.push_back([[NSURL alloc] initWithVolume:&volume]);
+    }
     return [[[NSArray alloc] initWithObjects:urls] autorelease];
 }
 @end

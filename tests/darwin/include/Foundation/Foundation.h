@@ -73,6 +73,7 @@ static const NSVolumeEnumerationOptions NSVolumeEnumerationSkipHiddenVolumes = 2
 extern "C" {
 extern NSString* const NSURLVolumeNameKey;
 extern NSString* const NSURLVolumeTotalCapacityKey;
+extern NSString* const NSURLVolumeAvailableCapacityKey;
 extern NSString* const NSURLVolumeAvailableCapacityForImportantUsageKey;
 extern NSString* const NSURLVolumeIsLocalKey;
 extern NSString* const NSURLVolumeIsInternalKey;
