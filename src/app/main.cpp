@@ -1,5 +1,6 @@
 #include "app/command_line.h"
 #include "app/orvelle_app.h"
+#include "settings/user_settings.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,6 +2,7 @@
 
 #include "settings/ini_text.h"
 #include "settings/shared_file.h"
+#include "settings/watched_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -72,7 +73,13 @@ SettingsFile::SettingsFile(QString filePath)
 
 SettingsFile::~SettingsFile() = default;
 
+void SettingsFile::watch(const QStringList& /*keys*/, std::function<void()> changed) {
+    m_watch = std::make_unique<WatchedFile>(m_filePath, std::move(changed));
+}
+
 std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
+    if (m_watch)
+        m_watch->renew();
     const std::optional<QByteArray> stored = text();
     if (!stored)
         return std::nullopt;
@@ -84,6 +91,13 @@ std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
 }
 
 SaveResult SettingsFile::write(const StoredValues& values) {
+    const SaveResult result = merge(values);
+    if (m_watch)
+        m_watch->renew();
+    return result;
+}
+
+SaveResult SettingsFile::merge(const StoredValues& values) {
     QDir().mkpath(QFileInfo(m_filePath).path());
     if (!pathFault(m_filePath).isEmpty())
         return SaveResult::failed;

@@ -4,12 +4,14 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
 namespace orvelle {
 
 class AtomicFile;
+class WatchedFile;
 
 /// Stored values by their keys.
 using StoredValues = QHash<QString, QVariant>;
@@ -35,8 +37,9 @@ public:
     [[nodiscard]] virtual SaveResult write(const StoredValues& values) = 0;
     /// Why the last `write` did not save, in a few words for the user.
     [[nodiscard]] virtual QString failureReason() const = 0;
-    /// The file behind the storage, which changes when another program stores something.
-    [[nodiscard]] virtual QString filePath() const = 0;
+    /// Calls `changed` on the main thread soon after the stored values of `keys` may have changed, whoever
+    /// stored them. To be called once, before the first reading; lasts until the end of the storage.
+    virtual void watch(const QStringList& keys, std::function<void()> changed) = 0;
 };
 
 /// Settings in a file of ini text (see `IniText`). A write takes a lock, reads the file again, merges the
@@ -51,9 +54,12 @@ public:
     [[nodiscard]] std::optional<StoredValues> read(const QStringList& keys) override;
     [[nodiscard]] SaveResult write(const StoredValues& values) override;
     [[nodiscard]] QString failureReason() const override;
-    [[nodiscard]] QString filePath() const override { return m_filePath; }
+    /// Hears of every change of the file, and of anything else in its folder, which is created.
+    void watch(const QStringList& keys, std::function<void()> changed) override;
+    [[nodiscard]] const QString& filePath() const { return m_filePath; }
 
 private:
+    [[nodiscard]] SaveResult merge(const StoredValues& values);
     /// The file that the path leads to, by links or directly.
     [[nodiscard]] AtomicFile& target();
     /// The file's text, empty when it is missing. Nothing when it cannot be read.
@@ -62,10 +68,7 @@ private:
     const QString m_filePath;
     QString m_targetPath;
     std::unique_ptr<AtomicFile> m_target;
+    std::unique_ptr<WatchedFile> m_watch;
 };
-
-/// Where this operating system keeps the program's settings: in the user's usual place, or below `folder`
-/// where one is named, which tests use to leave the user's settings alone.
-[[nodiscard]] std::unique_ptr<SettingsStorage> openUserSettings(const QString& folder = {});
 
 } // namespace orvelle

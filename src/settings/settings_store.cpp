@@ -3,8 +3,6 @@
 #include "settings/settings_storage.h"
 
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <thread>
@@ -44,15 +42,11 @@ SettingsStore::SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* 
     m_retryDelay.setObjectName(QStringLiteral("retryDelay"));
     m_retryDelay.setSingleShot(true);
     connect(&m_retryDelay, &QTimer::timeout, this, &SettingsStore::save);
-    // Not started anew by each event: a folder that is never at rest would keep the file from being read.
-    const auto startDelay = [this] {
+    // Not started anew by each change: a storage that is never at rest would not be read.
+    m_storage->watch(keys(), [this] {
         if (!m_reloadDelay.isActive())
             m_reloadDelay.start();
-    };
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, startDelay);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, startDelay);
-    // A folder that is missing cannot be watched.
-    QDir().mkpath(QFileInfo(m_storage->filePath()).path());
+    });
     reload();
 }
 
@@ -110,7 +104,6 @@ void SettingsStore::save() {
     else
         m_lockedTries = 0;
     updateSaveError();
-    watch();
 }
 
 SaveResult SettingsStore::store() {
@@ -144,12 +137,15 @@ void SettingsStore::updateSaveError() {
         Q_EMIT saveErrorChanged();
 }
 
-void SettingsStore::reload() {
-    watch();
+QStringList SettingsStore::keys() const {
     QStringList keys;
     for (const AnySetting* setting : m_settings)
         keys.append(setting->key());
-    const std::optional<StoredValues> stored = m_storage->read(keys);
+    return keys;
+}
+
+void SettingsStore::reload() {
+    const std::optional<StoredValues> stored = m_storage->read(keys());
     if (!stored)
         return;
 
@@ -164,20 +160,6 @@ void SettingsStore::reload() {
         Q_EMIT(this->*setting->changedSignal())();
     if (!changedSettings.empty())
         Q_EMIT changed();
-}
-
-/// Watches the file and its folder: the file for writes in place, the folder because editors and this program
-/// replace the file. The watch on the file is renewed, because the old file may live on elsewhere, still
-/// watched.
-void SettingsStore::watch() {
-    const QString filePath = m_storage->filePath();
-    const QString folder = QFileInfo(filePath).path();
-    if (!m_watcher.directories().contains(folder) && QFileInfo(folder).isDir())
-        m_watcher.addPath(folder);
-    if (m_watcher.files().contains(filePath))
-        m_watcher.removePath(filePath);
-    if (QFileInfo(filePath).isFile())
-        m_watcher.addPath(filePath);
 }
 
 } // namespace orvelle

@@ -5,7 +5,6 @@
 #include "settings/settings_storage.h"
 #include "settings/styles.h"
 
-#include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
 
@@ -78,7 +77,7 @@ public:
     enum class ColorTheme { standard, monochrome, neon };
     Q_ENUM(ColorTheme)
 
-    /// Settings in this storage; the user's own is `openUserSettings()`.
+    /// Settings in this storage; the user's own is that of `openUserSettings()`.
     explicit SettingsStore(std::unique_ptr<SettingsStorage> storage, QObject* parent = nullptr);
     /// Settings in an ini file at this path.
     explicit SettingsStore(const QString& filePath, QObject* parent = nullptr);
@@ -126,10 +125,9 @@ private:
     void updateSaveError();
     /// Reads the storage and announces the differences. An unreadable storage changes nothing.
     void reload();
-    void watch();
+    [[nodiscard]] QStringList keys() const;
 
     std::unique_ptr<SettingsStorage> m_storage;
-    QFileSystemWatcher m_watcher;
     QTimer m_reloadDelay{this};
     QTimer m_tuningDelay{this}; ///< runs after a value of a drag was saved
     QTimer m_retryDelay{this};  ///< runs while another program locks the storage

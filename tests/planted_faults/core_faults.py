@@ -6,7 +6,6 @@ MONITOR = "src/core/system_monitor.cpp"
 SMC = "src/platform/darwin/smc_helper.cpp"
 DELEGATE = "src/app/app_delegate.cpp"
 ORDER = ("test_core", "SystemMonitor*")
-DARWIN = ("test_darwin", "*Darwin*:SMCHelper*:PurgeableSpace*:FailingCalls*")
 
 CORE_FAULTS = [
     Fault("stopping forgets how many cycles there were", MONITOR,
@@ -45,25 +44,6 @@ CORE_FAULTS = [
     Fault("the controller's result byte decides on the key", SMC,
           "    // The second answer is decoded", "    if (output.result != 0)\n        return std::nullopt;\n"
           "    // The second answer is decoded", "test_darwin", "SMCHelper*"),
-    Fault("a fan's speed is not looked at before it becomes a number", SMC,
-          "value > 0 && value < limit", "value > 0 && (value < limit || true)", *DARWIN),
-    Fault("a tick counter has a sign", "src/platform/darwin/darwin_processor_source.cpp",
-          "static_cast<natural_t>(counter)", "static_cast<std::uint64_t>(counter)", *DARWIN),
-    Fault("an interface needs no address", "src/platform/darwin/darwin_network_source.cpp",
-          "source->ifa_name == nullptr || source->ifa_addr == nullptr", "source->ifa_name == nullptr", *DARWIN),
-    Fault("an interface needs no name", "src/platform/darwin/darwin_network_source.cpp",
-          "source->ifa_name == nullptr || source->ifa_addr == nullptr", "source->ifa_addr == nullptr", *DARWIN),
-    Fault("a memory size may be negative", "src/platform/darwin/darwin_memory_source.cpp",
-          "!statistics || reading.physicalMemory < 0", "!statistics", *DARWIN),
-    Fault("the sums of disk counters are not looked at", "src/platform/darwin/darwin_disk_source.mm",
-          "return fitSums(disks) ?", "return fitSums(disks) || true ?", *DARWIN),
-    Fault("each cycle asks for purgeable space", "src/platform/darwin/purgeable_space.cpp",
-          "askedAt < lifetime", "askedAt < lifetime && false", *DARWIN),
-    Fault("the list of volumes asks for purgeable space", "src/platform/darwin/darwin_disk_source.mm",
-          "NSURLVolumeAvailableCapacityKey, NSURLVolumeIsLocalKey",
-          "NSURLVolumeAvailableCapacityForImportantUsageKey, NSURLVolumeIsLocalKey", *DARWIN),
-    Fault("a share on the network is asked for purgeable space", "src/platform/darwin/darwin_disk_source.mm",
-          "volume.isLocal && volume.totalBytes > 0", "volume.totalBytes > 0", *DARWIN),
     Fault("the visibility is looked at once", DELEGATE,
           "    m_refreshTimer->callOnTimeout(",
           "    m_refreshTimer->setSingleShot(true);\n    m_refreshTimer->callOnTimeout(", "test_app", "AppDelegate*"),

@@ -238,14 +238,6 @@ TEST_F(SettingsStoreTest, NumbersDoNotFollowTheLocale) {
         GTEST_SKIP() << "de_DE.UTF-8 is not installed: checked under Qt's German locale only";
 }
 
-TEST_F(SettingsStoreTest, ThePlaceOfTheUsersSettingsKeepsThem) {
-    const auto open = [this] { return openUserSettings(settings.folderPath()); };
-    ASSERT_TRUE(open()->filePath().startsWith(settings.folderPath())) << "a test leaves the user's own alone";
-    SettingsStore(open()).setShowDisk(true);
-    EXPECT_TRUE(SettingsStore(open()).showDisk());
-    EXPECT_TRUE(QFile::exists(open()->filePath()));
-}
-
 TEST_F(SettingsStoreTest, AFailedSaveKeepsTheValueAndIsSavedWithTheNextThatSucceeds) {
     ASSERT_TRUE(QDir().mkpath(settings.path())); // a folder stands in the file's place
     SettingsStore store(settings.path());

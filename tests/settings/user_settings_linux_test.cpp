@@ -1,5 +1,7 @@
-#include "settings/settings_storage.h"
+#include "settings/settings_store.h"
+#include "settings/user_settings.h"
 #include "support/environment.h"
+#include "support/temporary_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -8,15 +10,29 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+QString userSettingsPath() {
+    const std::unique_ptr<SettingsStorage> storage = openUserSettings();
+    const auto* const file = dynamic_cast<const SettingsFile*>(storage.get());
+    return file != nullptr ? file->filePath() : QString();
+}
+
 TEST(UserSettingsOnLinux, AreInTheFolderThatTheEnvironmentNames) {
     const EnvironmentVariable folder("XDG_CONFIG_HOME", "/somewhere/else");
-    EXPECT_EQ(openUserSettings()->filePath(), u"/somewhere/else/orvelle/orvelle.conf"_s);
+    EXPECT_EQ(userSettingsPath(), u"/somewhere/else/orvelle/orvelle.conf"_s);
 }
 
 TEST(UserSettingsOnLinux, AreInTheHomeFolderWhenTheEnvironmentNamesNone) {
     const EnvironmentVariable folder("XDG_CONFIG_HOME", {});
     const EnvironmentVariable home("HOME", "/home/somebody");
-    EXPECT_EQ(openUserSettings()->filePath(), u"/home/somebody/.config/orvelle/orvelle.conf"_s);
+    EXPECT_EQ(userSettingsPath(), u"/home/somebody/.config/orvelle/orvelle.conf"_s);
+}
+
+TEST(UserSettingsOnLinux, AreKept) {
+    const TemporarySettings settings;
+    const EnvironmentVariable folder("XDG_CONFIG_HOME", settings.folderPath().toLocal8Bit());
+    SettingsStore(openUserSettings()).setShowDisk(true);
+    EXPECT_TRUE(SettingsStore(openUserSettings()).showDisk());
+    EXPECT_TRUE(QFile::exists(userSettingsPath()));
 }
 
 } // namespace

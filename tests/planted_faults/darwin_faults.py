@@ -1,0 +1,55 @@
+"""Faults in the sources for macOS and in its settings, which the tests notice on a simulated system."""
+
+from planting import Fault
+
+DEFAULTS = "src/settings/user_settings_darwin.mm"
+DARWIN = ("test_darwin", "*Darwin*:SMCHelper*:PurgeableSpace*:FailingCalls*")
+SETTINGS = ("test_user_defaults",)
+
+DARWIN_FAULTS = [
+    Fault("a fan's speed is not looked at before it becomes a number", "src/platform/darwin/smc_helper.cpp",
+          "value > 0 && value < limit", "value > 0 && (value < limit || true)", *DARWIN),
+    Fault("a tick counter has a sign", "src/platform/darwin/darwin_processor_source.cpp",
+          "static_cast<natural_t>(counter)", "static_cast<std::uint64_t>(counter)", *DARWIN),
+    Fault("an interface needs no address", "src/platform/darwin/darwin_network_source.cpp",
+          "source->ifa_name == nullptr || source->ifa_addr == nullptr", "source->ifa_name == nullptr", *DARWIN),
+    Fault("an interface needs no name", "src/platform/darwin/darwin_network_source.cpp",
+          "source->ifa_name == nullptr || source->ifa_addr == nullptr", "source->ifa_addr == nullptr", *DARWIN),
+    Fault("a memory size may be negative", "src/platform/darwin/darwin_memory_source.cpp",
+          "!statistics || reading.physicalMemory < 0", "!statistics", *DARWIN),
+    Fault("the sums of disk counters are not looked at", "src/platform/darwin/darwin_disk_source.mm",
+          "return fitSums(disks) ?", "return fitSums(disks) || true ?", *DARWIN),
+    Fault("each cycle asks for purgeable space", "src/platform/darwin/purgeable_space.cpp",
+          "askedAt < lifetime", "askedAt < lifetime && false", *DARWIN),
+    Fault("the list of volumes asks for purgeable space", "src/platform/darwin/darwin_disk_source.mm",
+          "NSURLVolumeAvailableCapacityKey, NSURLVolumeIsLocalKey",
+          "NSURLVolumeAvailableCapacityForImportantUsageKey, NSURLVolumeIsLocalKey", *DARWIN),
+    Fault("a share on the network is asked for purgeable space", "src/platform/darwin/darwin_disk_source.mm",
+          "volume.isLocal && volume.totalBytes > 0", "volume.totalBytes > 0", *DARWIN),
+    Fault("the settings are the standard ones of any program", DEFAULTS,
+          "    return [[NSUserDefaults alloc] initWithSuiteName:identifier];",
+          "    return [[NSUserDefaults standardUserDefaults] retain];", *SETTINGS),
+    Fault("the bundle names its own user defaults", DEFAULTS,
+          "isEqualToString:identifier])", "isEqualToString:identifier] && false)", *SETTINGS),
+    Fault("changes are told on the thread that hears of them", DEFAULTS,
+          "[self performSelectorOnMainThread:@selector(tellChange) withObject:nil waitUntilDone:NO];",
+          "[self tellChange];", *SETTINGS),
+    Fault("the end of the settings leaves its observers", DEFAULTS,
+          "            [m_defaults removeObserver:m_observer forKeyPath:systemText(key)];", "            static_cast<void>(key);",
+          *SETTINGS),
+    Fault("a change that waits is told after the end", DEFAULTS,
+          "            m_observer->m_changed = nullptr;", "            static_cast<void>(0);", *SETTINGS),
+    Fault("a failed write leaves its values", DEFAULTS,
+          "            [m_defaults setObject:value forKey:key];\n        return SaveResult::failed;",
+          "            static_cast<void>(key), static_cast<void>(value);\n        return SaveResult::failed;", *SETTINGS),
+    Fault("a failed write passes for a success", DEFAULTS,
+          "return SaveResult::failed;", "return SaveResult::saved;", *SETTINGS),
+    Fault("a boolean is a number", DEFAULTS,
+          "CFGetTypeID((CFTypeRef)value) == CFBooleanGetTypeID()", "false", *SETTINGS),
+    Fault("a value of another type is a text", DEFAULTS,
+          "[value isKindOfClass:[NSString class]]", "![value isKindOfClass:[NSNumber class]] && value != nil", *SETTINGS),
+    Fault("nothing is observed", DEFAULTS,
+          "            [m_defaults addObserver:", "            if (false)\n                [m_defaults addObserver:", *SETTINGS),
+    Fault("the previous value may be gone when it is written back", DEFAULTS,
+          "[[[m_defaults objectForKey:key] retain] autorelease]", "[m_defaults objectForKey:key]", *SETTINGS),
+]
