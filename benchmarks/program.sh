@@ -7,7 +7,7 @@ orvelle=$1
 source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
 settings=$(mktemp -d)
 unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_RUNTIME_DIR=$settings
+export XDG_RUNTIME_DIR=$settings XDG_STATE_HOME=$settings
 process=""
 finish() {
   [ -z "$process" ] || end_program

@@ -1,11 +1,42 @@
 # Gives tests the same environment for every user and on every desktop: fixed settings for drawing text, only the fonts
-# that ./test installs, and private folders in place of the user's.
+# that ./test installs, private folders in place of the user's, and no way to the user's desktop.
 
 set(ORVELLE_TEST_HOME ${CMAKE_BINARY_DIR}/test-home)
 foreach(folder IN ITEMS config data cache state runtime)
   file(MAKE_DIRECTORY ${ORVELLE_TEST_HOME}/${folder})
 endforeach()
 file(CHMOD ${ORVELLE_TEST_HOME}/runtime DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
+set(ORVELLE_PRIVATE_FOLDERS
+  HOME=${ORVELLE_TEST_HOME}
+  CFFIXED_USER_HOME=${ORVELLE_TEST_HOME} # the home folder of macOS
+  XDG_CONFIG_HOME=${ORVELLE_TEST_HOME}/config
+  XDG_DATA_HOME=${ORVELLE_TEST_HOME}/data
+  XDG_CACHE_HOME=${ORVELLE_TEST_HOME}/cache
+  XDG_STATE_HOME=${ORVELLE_TEST_HOME}/state
+  XDG_RUNTIME_DIR=${ORVELLE_TEST_HOME}/runtime)
+# Where programs find the user's windows, panels, settings, session and assistive programs.
+set(ORVELLE_DESKTOP_ADDRESSES
+  DISPLAY XAUTHORITY WAYLAND_DISPLAY WAYLAND_SOCKET DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS SESSION_MANAGER SWAYSOCK
+  I3SOCK XDG_ACTIVATION_TOKEN DESKTOP_STARTUP_ID)
+
+# Every test program sets the same before its `main`, for those who run it by hand. The list of these variables in C++:
+list(TRANSFORM ORVELLE_PRIVATE_FOLDERS REPLACE "([^=]*)=(.*)" "{\"\\1\", \"\\2\"}" OUTPUT_VARIABLE folders)
+list(JOIN folders ", " folders)
+list(TRANSFORM ORVELLE_DESKTOP_ADDRESSES REPLACE "(.+)" "\"\\1\"" OUTPUT_VARIABLE addresses)
+list(JOIN addresses ", " addresses)
+file(CONFIGURE OUTPUT ${ORVELLE_TEST_HOME}/private_folders_list.h CONTENT "#pragma once
+namespace orvelle {
+struct PrivateFolder {
+    const char* name;
+    const char* folder;
+};
+constexpr PrivateFolder privateFolders[]{@folders@};
+constexpr const char* addressesOfTheDesktop[]{@addresses@};
+}
+" @ONLY)
+add_library(orvelle_private_folders OBJECT ${CMAKE_SOURCE_DIR}/tests/support/private_folders.cpp)
+target_include_directories(orvelle_private_folders PRIVATE ${ORVELLE_TEST_HOME})
 
 # orvelle_test_fonts(NAME FONT SANS_SERIF FILE...): writes a font configuration that contains only these files, through
 # links in a private folder. SANS_SERIF becomes the desktop's font. FONT is the resulting family and style of that font.
@@ -36,6 +67,7 @@ set(desktop_choices
   QT_ENABLE_HIGHDPI_SCALING QT_SCALE_FACTOR_ROUNDING_POLICY QT_USE_PHYSICAL_DPI
   XDG_CURRENT_DESKTOP XDG_SESSION_DESKTOP DESKTOP_SESSION KDE_FULL_SESSION GNOME_DESKTOP_SESSION_ID
   FREETYPE_PROPERTIES FONTCONFIG_PATH FONTCONFIG_SYSROOT)
+list(APPEND desktop_choices ${ORVELLE_DESKTOP_ADDRESSES})
 list(TRANSFORM desktop_choices APPEND "=unset:" OUTPUT_VARIABLE ORVELLE_WITHOUT_DESKTOP_CHOICES)
 
 # Every test runs off-screen and under one locale.
@@ -44,12 +76,7 @@ function(orvelle_test_environment name)
   set_property(TEST ${name} PROPERTY ENVIRONMENT
     QT_QPA_PLATFORM=offscreen
     LC_ALL=C.UTF-8
-    HOME=${ORVELLE_TEST_HOME}
-    XDG_CONFIG_HOME=${ORVELLE_TEST_HOME}/config
-    XDG_DATA_HOME=${ORVELLE_TEST_HOME}/data
-    XDG_CACHE_HOME=${ORVELLE_TEST_HOME}/cache
-    XDG_STATE_HOME=${ORVELLE_TEST_HOME}/state
-    XDG_RUNTIME_DIR=${ORVELLE_TEST_HOME}/runtime
+    ${ORVELLE_PRIVATE_FOLDERS}
     UBSAN_OPTIONS=print_stacktrace=1
     LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0)
   set_property(TEST ${name} PROPERTY ENVIRONMENT_MODIFICATION ${ORVELLE_WITHOUT_DESKTOP_CHOICES})

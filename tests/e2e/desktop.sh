@@ -12,10 +12,11 @@ readonly patienceSeconds=${ORVELLE_PATIENCE:-60} # a shorter time is convenient 
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 
 workDirectory=$(mktemp -d)
+export HOME=$workDirectory XDG_CACHE_HOME=$workDirectory/cache XDG_DATA_HOME=$workDirectory/data
 export XDG_CONFIG_HOME=$workDirectory/config XDG_STATE_HOME=$workDirectory/state XDG_RUNTIME_DIR=$workDirectory/runtime
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 # These belong to the desktop that starts the test.
-unset "${!QT_@}" WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
+unset "${!QT_@}" DISPLAY XAUTHORITY WAYLAND_DISPLAY SWAYSOCK SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 export QT_FORCE_STDERR_LOGGING=1
 ownedPids=()
 failures=0

@@ -44,6 +44,8 @@ CORE_FAULTS = [
     Fault("the controller's result byte decides on the key", SMC,
           "    // The second answer is decoded", "    if (output.result != 0)\n        return std::nullopt;\n"
           "    // The second answer is decoded", "test_darwin", "SMCHelper*"),
+    Fault("a test program that is run by hand has the user's folders", "cmake/OrvelleTargets.cmake",
+          "${support} orvelle_private_folders)", "${support})", "test_environment", "*ByHand*"),
     Fault("the visibility is looked at once", DELEGATE,
           "    m_refreshTimer->callOnTimeout(",
           "    m_refreshTimer->setSingleShot(true);\n    m_refreshTimer->callOnTimeout(", "test_app", "AppDelegate*"),

@@ -1,6 +1,11 @@
+#include "private_folders_list.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace orvelle {
@@ -29,6 +34,30 @@ TEST(TestEnvironment, UsesPrivateFoldersInPlaceOfTheUsers) {
             << folder.toStdString();
     }
     EXPECT_TRUE(qEnvironmentVariable("XDG_STATE_HOME").startsWith(QStringLiteral(ORVELLE_TEST_HOME)));
+}
+
+TEST(TestEnvironment, HasNoWayToTheUsersDesktop) {
+    for (const char* const name : addressesOfTheDesktop)
+        EXPECT_FALSE(qEnvironmentVariableIsSet(name)) << name;
+}
+
+TEST(TestEnvironment, IsThatOfAProgramThatIsRunByHandToo) {
+    const QTemporaryDir usersHome;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& [name, folder] : privateFolders)
+        environment.insert(QLatin1String(name), usersHome.path());
+    for (const char* const name : addressesOfTheDesktop)
+        environment.insert(QLatin1String(name), QStringLiteral("the user's"));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--gtest_filter=TestEnvironment.UsesPrivateFoldersInPlaceOfTheUsers:"
+                                  "TestEnvironment.HasNoWayToTheUsersDesktop")});
+    ASSERT_TRUE(program.waitForFinished());
+    const QByteArray output = program.readAll();
+    EXPECT_EQ(program.exitCode(), 0) << output.toStdString();
+    EXPECT_TRUE(output.contains("2 tests ran") || output.contains("2 tests from")) << output.toStdString();
+    EXPECT_TRUE(QDir(usersHome.path()).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden));
 }
 
 } // namespace

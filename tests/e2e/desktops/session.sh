@@ -9,9 +9,8 @@
 # shellcheck disable=SC2154 # they, and the arrays of scripts/modules.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop.sh"
 
-export HOME=$workDirectory XDG_CACHE_HOME=$workDirectory/cache XDG_DATA_HOME=$workDirectory/data
 export NO_AT_BRIDGE=1
-unset DISPLAY XAUTHORITY XDG_SESSION_ID XDG_SESSION_TYPE XDG_CURRENT_DESKTOP
+unset XDG_SESSION_ID XDG_SESSION_TYPE XDG_CURRENT_DESKTOP
 
 # Compositors expect the folder of the X servers' sockets, which a machine without a display may lack.
 [[ -d /tmp/.X11-unix ]] || mkdir -m 1777 /tmp/.X11-unix
