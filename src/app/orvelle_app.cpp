@@ -42,6 +42,9 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance
                      &AppDelegate::applicationWillTerminate);
     QObject::connect(&instance, &SingleInstance::startedAgain, &m_delegate,
                      &AppDelegate::applicationShouldHandleReopen);
+    // The user may come back from the settings where a login item is approved.
+    QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_launchAtLogin,
+                     &LaunchAtLogin::checkApproval);
     leaveLoginToItsSwitch();
     logStart();
     logSamples();

@@ -26,16 +26,26 @@ public:
     virtual void bringForward() = 0;
 };
 
+/// What the desktop will do at the next login.
+enum class LoginItemState {
+    off,
+    on,
+    needsApproval ///< it would start the program if the user allowed that in the desktop's own settings
+};
+
 /// Whether the desktop starts the program when the user logs in. Main thread only.
 class LoginItem {
 public:
     virtual ~LoginItem() = default;
 
-    /// Whether the desktop will start the program at the next login.
-    [[nodiscard]] virtual bool isEnabled() const = 0;
-    /// Returns whether the desktop accepted it. Switching on again makes it start this program, in case the
-    /// program has moved.
+    [[nodiscard]] virtual LoginItemState state() const = 0;
+    [[nodiscard]] bool isEnabled() const { return state() == LoginItemState::on; }
+    /// Returns whether the desktop accepted it, subject to the user's approval. Switching on again makes it
+    /// start this program, in case the program has moved.
     [[nodiscard]] virtual bool setEnabled(bool enabled) = 0;
+    /// Opens the desktop's settings where the user gives the approval. Nothing happens on a desktop that asks
+    /// for none.
+    virtual void askForApproval() {}
     /// Makes an enabled item start this program when the program that it would start is gone.
     virtual void repair() = 0;
 };

@@ -20,7 +20,7 @@ struct WindowContext {
     ThemeManager& themes;
     std::function<void()> openSettings;
     std::function<void()> quitApp;
-    /// Null, or an object with a text property `error`: why the program could not be made to start at login.
+    /// Null, or the object that reports on launching at login, see `SettingsContext`.
     QObject* launchAtLogin = nullptr;
 };
 

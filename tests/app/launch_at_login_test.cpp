@@ -11,7 +11,9 @@ namespace {
 
 struct ItemState {
     bool isEnabled = false;
+    bool isForbidden = false; ///< an enabled one waits for the user's approval
     bool isWritable = true;
+    int requests = 0;
     int repairs = 0;
     int writes = 0;
 };
@@ -20,7 +22,12 @@ class ScriptedItem final : public LoginItem {
 public:
     explicit ScriptedItem(ItemState& state)
         : m_state(state) {}
-    [[nodiscard]] bool isEnabled() const override { return m_state.isEnabled; }
+    [[nodiscard]] LoginItemState state() const override {
+        if (m_state.isEnabled && m_state.isForbidden)
+            return LoginItemState::needsApproval;
+        return m_state.isEnabled ? LoginItemState::on : LoginItemState::off;
+    }
+    void askForApproval() override { ++m_state.requests; }
     [[nodiscard]] bool setEnabled(bool enabled) override {
         ++m_state.writes;
         if (m_state.isWritable)
@@ -89,6 +96,58 @@ TEST_F(LaunchAtLoginTest, RevertsTheSettingAndReportsWhyUntilItSucceeds) {
     settings.setLaunchAtLogin(false);
     EXPECT_TRUE(settings.launchAtLogin());
     EXPECT_EQ(launch.error(), QStringLiteral("Orvelle could not be kept from starting at login."));
+}
+
+TEST_F(LaunchAtLoginTest, StaysSwitchedOnWhileItWaitsForTheUsersApproval) {
+    launch.start();
+    const QSignalSpy changes(&launch, &LaunchAtLogin::needsApprovalChanged);
+    state.isForbidden = true;
+    settings.setLaunchAtLogin(true);
+    EXPECT_TRUE(settings.launchAtLogin());
+    EXPECT_TRUE(launch.needsApproval());
+    EXPECT_EQ(launch.error(), QString());
+    launch.askForApproval();
+    EXPECT_EQ(state.requests, 1);
+
+    launch.checkApproval();
+    EXPECT_TRUE(launch.needsApproval()) << "nothing has happened";
+    state.isForbidden = false;
+    launch.checkApproval();
+    EXPECT_FALSE(launch.needsApproval());
+    EXPECT_TRUE(settings.launchAtLogin());
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(LaunchAtLoginTest, NeedsNoApprovalOnceItIsSwitchedOff) {
+    launch.start();
+    state.isForbidden = true;
+    settings.setLaunchAtLogin(true);
+    settings.setLaunchAtLogin(false);
+    EXPECT_FALSE(launch.needsApproval());
+    EXPECT_FALSE(state.isEnabled);
+}
+
+TEST_F(LaunchAtLoginTest, KeepsTheUsersWishWhenItStartsWithoutApproval) {
+    state = {.isEnabled = true, .isForbidden = true};
+    launch.start();
+    EXPECT_FALSE(settings.launchAtLogin()) << "an item that was never wished for";
+    EXPECT_FALSE(launch.needsApproval());
+    settings.setLaunchAtLogin(true);
+    EXPECT_TRUE(launch.needsApproval());
+    LaunchAtLogin next(settings, std::make_unique<ScriptedItem>(state));
+    next.start();
+    EXPECT_TRUE(settings.launchAtLogin());
+    EXPECT_TRUE(next.needsApproval());
+}
+
+TEST_F(LaunchAtLoginTest, FollowsTheUserWhoRemovesTheWaitingItem) {
+    launch.start();
+    state.isForbidden = true;
+    settings.setLaunchAtLogin(true);
+    state.isEnabled = false;
+    launch.checkApproval();
+    EXPECT_FALSE(settings.launchAtLogin());
+    EXPECT_FALSE(launch.needsApproval());
 }
 
 } // namespace

@@ -12,11 +12,14 @@ protected:
 };
 
 TEST_F(LoginItemTest, ReportsTheStateThatTheSystemKeeps) {
-    EXPECT_FALSE(login->isEnabled());
-    desktop().script.loginStatus = 1;
-    EXPECT_TRUE(login->isEnabled());
-    desktop().script.loginStatus = 2; // waits for the user's approval
-    EXPECT_FALSE(login->isEnabled());
+    const std::map<long, LoginItemState> states{{0, LoginItemState::off},
+                                                {1, LoginItemState::on},
+                                                {2, LoginItemState::needsApproval},
+                                                {3, LoginItemState::off}};
+    for (const auto& [status, state] : states) {
+        desktop().script.loginStatus = status;
+        EXPECT_EQ(login->state(), state) << status;
+    }
 }
 
 TEST_F(LoginItemTest, IsSwitchedOnAndOff) {
@@ -26,6 +29,20 @@ TEST_F(LoginItemTest, IsSwitchedOnAndOff) {
     EXPECT_TRUE(login->setEnabled(false));
     EXPECT_FALSE(login->isEnabled());
     EXPECT_TRUE(login->setEnabled(false));
+}
+
+TEST_F(LoginItemTest, IsSwitchedOnAndOffWhereItNeedsTheUsersApproval) {
+    desktop().script.loginNeedsApproval = true;
+    EXPECT_TRUE(login->setEnabled(true));
+    EXPECT_EQ(login->state(), LoginItemState::needsApproval);
+    EXPECT_TRUE(login->setEnabled(true));
+    EXPECT_TRUE(login->setEnabled(false));
+    EXPECT_EQ(login->state(), LoginItemState::off);
+}
+
+TEST_F(LoginItemTest, OpensTheSystemsSettingsForTheApproval) {
+    login->askForApproval();
+    EXPECT_EQ(desktop().deeds, std::vector<std::string>{"open the system's login items"});
 }
 
 TEST_F(LoginItemTest, ReportsFailureWhenTheSystemRefuses) {
@@ -39,7 +56,9 @@ TEST_F(LoginItemTest, CannotBeSwitchedOnWhereTheServiceIsMissing) {
     EXPECT_FALSE(login->isEnabled());
     EXPECT_FALSE(login->setEnabled(true));
     EXPECT_FALSE(login->setEnabled(false));
+    login->askForApproval();
     EXPECT_TRUE(desktop().calls().empty());
+    EXPECT_TRUE(desktop().deeds.empty());
 }
 
 } // namespace

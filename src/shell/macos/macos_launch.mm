@@ -105,17 +105,25 @@ NSRunningApplication* otherInstance() {
     return nil;
 }
 
-/// Null before macOS 13. The class is looked up by name, so that the program starts there too.
-SMAppService* mainAppService() { return [NSClassFromString(@"SMAppService") mainAppService]; }
+/// Nil before macOS 13. The class is looked up by name, so that the program starts there too.
+Class loginService() { return NSClassFromString(@"SMAppService"); }
 
-/// The program's entry among the login items in the system's settings. When the user forbids it there it
-/// stays off.
+/// Null where there is no such service.
+SMAppService* mainAppService() { return [loginService() mainAppService]; }
+
+/// The program's entry among the login items in the system's settings. When the user has forbidden it there it
+/// waits until the user allows it there again.
 class MacosLoginItem final : public LoginItem {
   public:
-    [[nodiscard]] bool isEnabled() const override {
+    [[nodiscard]] LoginItemState state() const override {
         const ReleasePool pool;
         SMAppService* const service = mainAppService();
-        return service != nil && [service status] == SMAppServiceStatusEnabled;
+        if (service == nil)
+            return LoginItemState::off;
+        const SMAppServiceStatus status = [service status];
+        if (status == SMAppServiceStatusRequiresApproval)
+            return LoginItemState::needsApproval;
+        return status == SMAppServiceStatusEnabled ? LoginItemState::on : LoginItemState::off;
     }
 
     [[nodiscard]] bool setEnabled(bool enabled) override {
@@ -123,12 +131,17 @@ class MacosLoginItem final : public LoginItem {
         SMAppService* const service = mainAppService();
         if (service == nil)
             return false;
-        // Both fail when there is nothing to do; the status afterwards decides.
+        // Both fail when there is nothing to do; the state afterwards decides.
         if (enabled)
             static_cast<void>([service registerAndReturnError:nullptr]);
         else
             static_cast<void>([service unregisterAndReturnError:nullptr]);
-        return isEnabled() == enabled;
+        return (state() == LoginItemState::off) != enabled;
+    }
+
+    void askForApproval() override {
+        const ReleasePool pool;
+        [loginService() openSystemSettingsLoginItems];
     }
 
     /// The system itself finds a program that has moved.

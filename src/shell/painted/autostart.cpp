@@ -215,9 +215,9 @@ AutostartPlaces AutostartPlaces::present() {
 AutostartLoginItem::AutostartLoginItem(AutostartPlaces places)
     : m_places(std::move(places)) {}
 
-bool AutostartLoginItem::isEnabled() const {
+LoginItemState AutostartLoginItem::state() const {
     const std::optional<AutostartEntry> entry = readEntry(effectiveFile());
-    return entry && isStarted(*entry, m_places.desktopNames);
+    return entry && isStarted(*entry, m_places.desktopNames) ? LoginItemState::on : LoginItemState::off;
 }
 
 bool AutostartLoginItem::setEnabled(bool enabled) {

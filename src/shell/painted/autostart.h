@@ -60,7 +60,7 @@ class AutostartLoginItem final : public LoginItem {
 public:
     explicit AutostartLoginItem(AutostartPlaces places);
 
-    [[nodiscard]] bool isEnabled() const override;
+    [[nodiscard]] LoginItemState state() const override;
     [[nodiscard]] bool setEnabled(bool enabled) override;
     void repair() override;
 

@@ -8,7 +8,7 @@ FocusScope {
 
     required property SettingsStore settings
     required property ThemeManager themeManager
-    /// Null, or an object with a text `error`.
+    /// Null, or an object with a text `error`, a truth value `needsApproval` and a function `askForApproval`.
     required property var launchAtLogin
     readonly property color color: Look.window
     signal quitApp()
@@ -58,6 +58,7 @@ FocusScope {
         id: view
         settings: scrollView.settings
         themeManager: scrollView.themeManager
+        launchAtLogin: scrollView.launchAtLogin
         onQuitApp: scrollView.quitApp()
     }
     Scroller {

@@ -9,6 +9,8 @@ Item {
 
     required property SettingsStore settings
     required property ThemeManager themeManager
+    /// Null, or the object that `SettingsScrollView` describes.
+    required property var launchAtLogin
     property alias showCustomColors: overrides.showCustomColors
     signal quitApp()
 
@@ -213,6 +215,14 @@ Item {
             symbolColor: Look.green
             checked: view.settings.launchAtLogin
             onToggled: view.settings.launchAtLogin = checked
+        }
+        LoginApproval {
+            objectName: "loginApproval"
+            Layout.fillWidth: true
+            Layout.topMargin: -8
+            Layout.leftMargin: 22 // below the text of the switch
+            visible: view.launchAtLogin !== null && view.launchAtLogin.needsApproval
+            onOpened: view.launchAtLogin.askForApproval()
         }
         Divider {}
         RowLayout {

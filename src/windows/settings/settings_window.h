@@ -16,8 +16,9 @@ class ThemeManager;
 struct SettingsContext {
     SettingsStore& settings;
     ThemeManager& themes;
-    /// Null, or an object with a text property `error` and its change signal: why launching at login could
-    /// not be set, empty while nothing is wrong.
+    /// Null, or an object with these properties and their change signals: a text `error`, why launching at
+    /// login could not be set, empty while nothing is wrong; and a truth value `needsApproval`, whether it
+    /// waits for the user, with a function `askForApproval()` that opens the place where the user approves.
     QObject* launchAtLogin = nullptr;
     std::function<void()> quitApp;
 };

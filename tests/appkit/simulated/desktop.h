@@ -31,8 +31,9 @@ struct Script {
     int processIdentifier = 500;
     std::vector<RunningProgram> instances{{.processIdentifier = 500}};
     bool hasLoginService = true;
-    long loginStatus = 0;
+    long loginStatus = 3; ///< the system does not find a program that was never registered
     bool mayRegisterLogin = true;
+    bool loginNeedsApproval = false; ///< the user has forbidden the program to start at login before
     bool reducesMotion = false;
     std::set<std::string> symbols{"cpu", "network"};
     /// Called while a menu is open. It may choose an entry.

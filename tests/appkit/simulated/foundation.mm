@@ -168,8 +168,3 @@ NSArray* makeArray(const Objects& objects) { return [[[NSArray alloc] initWithOb
 
 @implementation NSURL
 @end
-
-Class NSClassFromString(NSString* name) {
-    const bool isThere = textOf(name) != "SMAppService" || desktop().script.hasLoginService;
-    return isThere ? objc_getClass(textOf(name).c_str()) : Nil;
-}

@@ -371,5 +371,18 @@ TEST_F(SettingsNotices, ReportThatLaunchingAtLoginFailed) {
     EXPECT_GE(item("scroller")->y(), notice->height());
 }
 
+TEST_F(SettingsNotices, OfferTheSystemsSettingsWhileLaunchingAtLoginWaitsForApproval) {
+    QQuickItem* notice = item("loginApproval");
+    EXPECT_FALSE(notice->isVisible());
+    login.needsApproval = true;
+    Q_EMIT login.needsApprovalChanged();
+    EXPECT_TRUE(notice->isVisible());
+    settle();
+    const QQuickItem* launchSwitch = item("launchAtLogin");
+    EXPECT_GE(notice->mapToScene({0, 0}).y(), launchSwitch->mapToScene({0, launchSwitch->height()}).y());
+    click(item("approvalButton"));
+    EXPECT_EQ(login.requests, 1);
+}
+
 } // namespace
 } // namespace orvelle

@@ -15,14 +15,19 @@
 
 namespace orvelle {
 
-/// Reports errors of launching at login.
+/// Reports on launching at login.
 class ScriptedLogin : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString error MEMBER error NOTIFY errorChanged)
+    Q_PROPERTY(bool needsApproval MEMBER needsApproval NOTIFY needsApprovalChanged)
 public:
     QString error;
+    bool needsApproval = false;
+    int requests = 0;
+    Q_INVOKABLE void askForApproval() { ++requests; }
 Q_SIGNALS:
     void errorChanged();
+    void needsApprovalChanged();
 };
 
 /// The settings window over temporary settings. A warning of Qt or QML fails the test.

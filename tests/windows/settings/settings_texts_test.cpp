@@ -61,6 +61,16 @@ TEST_F(SettingsTexts, AreReadableBelowANotice) {
     }
 }
 
+TEST_F(SettingsTexts, AreReadableWhileLaunchingAtLoginWaitsForApproval) {
+    login.needsApproval = true;
+    Q_EMIT login.needsApprovalChanged();
+    for (const QSize& size : {settingsSize, smallestSettingsSize}) {
+        view->resize(size);
+        EXPECT_TRUE(item("loginApproval")->isVisible());
+        expectReadable();
+    }
+}
+
 TEST_F(SettingsTexts, AreReadableInTheColorPicker) {
     settings.setUseCustomCPUColor(true);
     openOverrides();
