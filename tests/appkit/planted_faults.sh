@@ -40,4 +40,5 @@ plant "the image of an item leaks" click_through_hosting_view.h 's/CGImageReleas
 plant "released when closed" macos_settings_window.mm '/setReleasedWhenClosed/d'
 plant "a light window" macos_settings_window.mm '/setAppearance/d'
 plant "a forbidden login item counts as off" macos_launch.mm 's/return LoginItemState::needsApproval;/return LoginItemState::off;/'
+plant "activated by Qt" macos_desktop.mm '/qputenv/d'
 exit $unnoticed

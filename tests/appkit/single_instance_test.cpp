@@ -55,5 +55,13 @@ TEST_F(SingleInstanceTest, NeedsNoSearchForADesktop) {
     EXPECT_TRUE(choice.make);
 }
 
+TEST_F(SingleInstanceTest, LeavesTheKeyboardToTheProgramThatHasItWhenItStarts) {
+    constexpr const char* variable = "QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM";
+    qunsetenv(variable);
+    static_cast<void>(chooseDesktop(desktopNames().first()));
+    // Qt activates the process after its launch when the variable is missing or empty.
+    EXPECT_FALSE(qEnvironmentVariableIsEmpty(variable));
+}
+
 } // namespace
 } // namespace orvelle

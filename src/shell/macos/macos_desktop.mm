@@ -27,6 +27,9 @@ QStringList desktopNames() { return {QStringLiteral("auto")}; }
 
 /// A program is only ever started on a desktop that is there, and there is only one kind.
 DesktopChoice chooseDesktop(const QString& /*name*/) {
+    // Else Qt activates the process as soon as it runs, and so takes the keyboard from the program that has it,
+    // at every login.
+    qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1");
     return {[](SettingsStore& /*settings*/) { return std::make_unique<MacosDesktop>(); }, {}};
 }
 
