@@ -8,6 +8,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <iterator>
+
 namespace orvelle {
 
 std::vector<MenuEntry> contextMenuEntries(std::function<void()> openSettings, std::function<void()> quitApp) {
@@ -61,10 +64,13 @@ void AppDelegate::setupStatusItems() {
         m_dependencies.statusBar.removeItem(*item);
     m_statusItems.clear();
     m_shownModules.clear();
-    for (const ModuleInfo& module : moduleTable) {
-        if (m_settings.isShown(module.id))
-            createStatusItem(module);
-    }
+    std::vector<ModuleInfo> shown;
+    std::ranges::copy_if(moduleTable, std::back_inserter(shown),
+                         [this](const ModuleInfo& module) { return m_settings.isShown(module.id); });
+    if (m_dependencies.statusBar.addsItemsOnTheLeft())
+        std::ranges::reverse(shown); // the table's order is that from left to right
+    for (const ModuleInfo& module : shown)
+        createStatusItem(module);
     redraw();
     subscribe();
 }

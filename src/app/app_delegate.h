@@ -106,7 +106,7 @@ private:
     SystemMonitor& m_monitor;
     SettingsStore& m_settings;
     ThemeManager& m_themes;
-    /// The presenters of the present items, in their order.
+    /// The presenters of the present items, in the order of their creation.
     std::vector<ShownModule> m_shownModules;
     /// Limits the redraws of the items; null before there are items. Destroying it ends their subscriptions.
     std::unique_ptr<Throttle> m_cancellables;

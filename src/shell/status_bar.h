@@ -54,8 +54,11 @@ class StatusBar : public QObject {
     Q_OBJECT
 
 public:
-    /// Appends an item of `length` points to the right of those present. The bar owns it until it is removed.
+    /// Adds an item of `length` points at one end of those present. The bar owns it until it is removed.
     [[nodiscard]] virtual StatusItem& addItem(const QString& identifier, double length) = 0;
+
+    /// Whether that is the left end. Else it is the right one.
+    [[nodiscard]] virtual bool addsItemsOnTheLeft() const { return false; }
 
     /// Destroys the item; those to its left move right to close the gap. A bar without items shows nothing.
     virtual void removeItem(StatusItem& item) = 0;

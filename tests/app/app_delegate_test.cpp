@@ -26,6 +26,13 @@ TEST_F(AppDelegateTest, CreatesAnItemForEveryShownModuleInTableOrder) {
     }
 }
 
+TEST_F(AppDelegateTest, ShowsTheItemsInTableOrderWhereNewOnesStandOnTheLeft) {
+    bar.addsOnTheLeft = true;
+    showAll(true);
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(bar.identifiers(), everyKey());
+}
+
 TEST_F(AppDelegateTest, ShowsNoItemWhenEveryModuleIsHidden) {
     showAll(false);
     delegate.applicationDidFinishLaunching();

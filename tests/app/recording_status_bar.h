@@ -93,11 +93,12 @@ public:
         RecordingStatusBar& m_bar;
     };
 
+    [[nodiscard]] bool addsItemsOnTheLeft() const override { return addsOnTheLeft; }
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override {
         calls.append(QStringLiteral("add ") + identifier);
-        items.push_back(std::make_unique<Item>(identifier, length));
-        items.back()->hasIcon = hasIcons;
-        return *items.back();
+        auto item = std::make_unique<Item>(identifier, length);
+        item->hasIcon = hasIcons;
+        return **items.insert(addsOnTheLeft ? items.begin() : items.end(), std::move(item));
     }
     void removeItem(StatusItem& item) override {
         calls.append(QStringLiteral("remove ") + item.identifier());
@@ -124,8 +125,9 @@ public:
 
     std::vector<std::unique_ptr<Item>> items; ///< the present items, from left to right
     std::vector<MenuEntry> menuEntries;       ///< of the visible menu
-    bool hasIcons = false;                    ///< of the items that are added next
-    std::vector<MenuEntry> desktopMenu;       ///< that the desktop shows
+    bool addsOnTheLeft = false;
+    bool hasIcons = false;              ///< of the items that are added next
+    std::vector<MenuEntry> desktopMenu; ///< that the desktop shows
     QStringList calls;
 };
 

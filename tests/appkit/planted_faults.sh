@@ -41,4 +41,7 @@ plant "released when closed" macos_settings_window.mm '/setReleasedWhenClosed/d'
 plant "a light window" macos_settings_window.mm '/setAppearance/d'
 plant "a forbidden login item counts as off" macos_launch.mm 's/return LoginItemState::needsApproval;/return LoginItemState::off;/'
 plant "activated by Qt" macos_desktop.mm '/qputenv/d'
+plant "places belong to numbers" macos_status_item.mm '/setAutosaveName/d'
+plant "a dragged item forgets its place" macos_status_item.mm '/setObject:position/s/^/if (false) /'
+plant "items in the reverse order" macos_status_bar.mm 's/addsItemsOnTheLeft() const override { return true; }/addsItemsOnTheLeft() const override { return false; }/'
 exit $unnoticed

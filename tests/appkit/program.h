@@ -69,7 +69,7 @@ private:
 /// The places of the modules in the menu bar when all are shown.
 inline constexpr std::size_t cpuItem = 0, memoryItem = 1, sensorItem = 5;
 
-/// The identifiers of the items that there are, from the first to the last that was added.
+/// The identifiers of the items that there are, from left to right.
 [[nodiscard]] std::vector<std::string> itemIdentifiers();
 /// The one popover that is shown; a failure when there is none or more than one.
 [[nodiscard]] simulated::PopoverState shownPopover();

@@ -37,6 +37,28 @@ TEST_F(StatusItemsTest, StandInTableOrderWithTheirFixedLengths) {
     EXPECT_EQ(lengths, (std::vector<double>{60, 70, 90, 45, 65, 50}));
 }
 
+TEST_F(StatusItemsTest, StandInTableOrderAfterAModuleWasSwitchedOffAndOn) {
+    Program& running = launch();
+    for (const bool isShown : {false, true}) {
+        running.settings.setShowNetwork(isShown);
+        running.delegate.checkVisibility();
+    }
+    EXPECT_EQ(itemIdentifiers(), everyKey);
+}
+
+TEST_F(StatusItemsTest, KeepThePlaceThatTheUserDraggedThemTo) {
+    Program& running = launch();
+    dragToTheRightEnd(cpuItem);
+    const std::vector<std::string> dragged{"memory", "network", "disk", "battery", "sensor", "cpu"};
+    EXPECT_EQ(itemIdentifiers(), dragged);
+    running.settings.setShowNetwork(false);
+    running.delegate.checkVisibility();
+    EXPECT_EQ(itemIdentifiers(), (std::vector<std::string>{"memory", "disk", "battery", "sensor", "cpu"}));
+    end();
+    launch();
+    EXPECT_EQ(itemIdentifiers(), dragged) << "when the program starts again";
+}
+
 TEST_F(StatusItemsTest, SendTheirActionAtBothMouseUpsAndCarryTheirModulesKey) {
     launch();
     for (const StatusItemState& item : statusItems()) {

@@ -40,9 +40,10 @@ class MacosStatusBar final : public StatusBar, private ClickListener {
     MacosStatusBar();
     ~MacosStatusBar() override;
 
-    /// Asks the system for another item. The system chooses its place among the others, and the user may move
-    /// it.
+    /// Asks the system for another item. The system puts it to the left of the others, unless the user has
+    /// dragged an item of this identifier elsewhere before.
     [[nodiscard]] StatusItem& addItem(const QString& identifier, double length) override;
+    [[nodiscard]] bool addsItemsOnTheLeft() const override { return true; }
     void removeItem(StatusItem& item) override;
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;

@@ -14,6 +14,18 @@ bool isOnScreen(NSView* view) {
     return ([[view window] occlusionState] & NSWindowOcclusionStateVisible) != 0;
 }
 
+/// Removes the item. The system then forgets where the user has dragged it, which is therefore written back for
+/// the next item of this name.
+void removeFromBar(NSStatusItem* item, const QString& autosaveName) {
+    const ReleasePool pool;
+    NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
+    NSString* const key = systemText(QStringLiteral("NSStatusItem Preferred Position ") + autosaveName);
+    const auto position = Retained<id>::adding([defaults objectForKey:key]);
+    [[NSStatusBar systemStatusBar] removeStatusItem:item];
+    if (position)
+        [defaults setObject:position.get() forKey:key];
+}
+
 } // namespace
 
 MacosStatusItem::MacosStatusItem(QString identifier, double length, id clickTarget,
@@ -21,6 +33,8 @@ MacosStatusItem::MacosStatusItem(QString identifier, double length, id clickTarg
     : m_identifier(std::move(identifier)), m_length(length), m_painted(std::move(painted)),
       m_statusItem(
           Retained<NSStatusItem*>::adding([[NSStatusBar systemStatusBar] statusItemWithLength:length])) {
+    // Else its place would belong to its number, and the number to whichever module is shown.
+    [m_statusItem.get() setAutosaveName:systemText(m_identifier)];
     if (NSStatusBarButton* const itsButton = button(); itsButton != nil)
         setUpButton(itsButton, clickTarget);
 }
@@ -30,7 +44,7 @@ MacosStatusItem::~MacosStatusItem() {
     [m_hostingView.get() forgetPicture];
     [button() setTarget:nil];
     if (m_statusItem)
-        [[NSStatusBar systemStatusBar] removeStatusItem:m_statusItem.get()];
+        removeFromBar(m_statusItem.get(), m_identifier);
 }
 
 void MacosStatusItem::setUpButton(NSStatusBarButton* button, id clickTarget) {

@@ -35,6 +35,7 @@ struct Script {
     bool mayRegisterLogin = true;
     bool loginNeedsApproval = false; ///< the user has forbidden the program to start at login before
     bool reducesMotion = false;
+    std::map<std::string, double> defaults{}; ///< the program's own settings that the system keeps
     std::set<std::string> symbols{"cpu", "network"};
     /// Called while a menu is open. It may choose an entry.
     std::function<void()> whileMenuIsOpen{};
@@ -177,6 +178,8 @@ void click(std::size_t item, MouseButton button, bool holdsControl = false);
 /// Somewhere else on the screen.
 void clickElsewhere();
 void pressEscape();
+/// Drags an item of the menu bar to the right of the others, with the key for commands held.
+void dragToTheRightEnd(std::size_t item);
 /// Chooses from the menu that is open. Only while one is.
 void chooseFromMenu(std::size_t entry);
 /// Chooses in the system's settings whether things move.
@@ -197,6 +200,7 @@ void changeScreen(std::size_t item, double backingScale);
 void loseIdentifier(std::size_t item);
 
 // What there is.
+/// From left to right. Where an item is meant by its number, it is counted so.
 [[nodiscard]] std::vector<StatusItemState> statusItems();
 /// Those whose button knows which view a click at the middle and at the corners goes to: always itself?
 [[nodiscard]] bool clicksReachTheButton(std::size_t item);

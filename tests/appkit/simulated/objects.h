@@ -43,6 +43,7 @@ void setKeyWindow(NSWindow* window);
 /// Every window that lives, those of the system too.
 [[nodiscard]] std::vector<NSWindow*>& allWindows();
 
+/// From left to right.
 [[nodiscard]] std::vector<NSStatusItem*>& allStatusItems();
 [[nodiscard]] std::vector<NSPopover*>& allPopovers();
 
@@ -73,7 +74,10 @@ struct CGContext {
 - (id)initWithLength:(CGFloat)length;
 @end
 
+@interface NSControl (Simulated)
+- (void)sendAction;
+@end
+
 @interface NSStatusBarButton (Simulated)
 - (id)initForItem:(NSStatusItem*)item;
-- (void)sendAction;
 @end

@@ -1,12 +1,48 @@
 #include "appkit/simulated/objects.h"
 
+#include <algorithm>
+#include <functional>
+
 using namespace orvelle::simulated;
 
 namespace orvelle::simulated {
+namespace {
+
+std::string positionKey(NSStatusItem* item) {
+    return "NSStatusItem Preferred Position " + textOf(item->m_autosaveName);
+}
+
+/// The place that the user gave the item; nothing when it was never dragged.
+std::optional<double> keptPosition(NSStatusItem* item) {
+    const auto found = desktop().script.defaults.find(positionKey(item));
+    return found != desktop().script.defaults.end() ? std::optional(found->second) : std::nullopt;
+}
+
+/// Left of every other item.
+double leftmostPosition() {
+    double position = 0;
+    for (NSStatusItem* item : allStatusItems())
+        position = std::max(position, item->m_position);
+    return position + 100;
+}
+
+void sortItems() {
+    std::ranges::stable_sort(allStatusItems(), std::greater(),
+                             [](NSStatusItem* item) { return item->m_position; });
+}
+
+} // namespace
 
 std::vector<NSStatusItem*>& allStatusItems() {
     static std::vector<NSStatusItem*> items;
     return items;
+}
+
+void dragToTheRightEnd(std::size_t item) {
+    NSStatusItem* const dragged = allStatusItems().at(item);
+    dragged->m_position = allStatusItems().back()->m_position / 2;
+    desktop().script.defaults[positionKey(dragged)] = dragged->m_position;
+    sortItems();
 }
 
 } // namespace orvelle::simulated
@@ -19,7 +55,13 @@ std::vector<NSStatusItem*>& allStatusItems() {
     if (!desktop().arrives("statusItemWithLength"))
         return nil;
     NSStatusItem* item = [[[NSStatusItem alloc] initWithLength:length] autorelease];
+    // Without a name of its own its place belongs to its number.
+    [item setAutosaveName:[NSString stringWithUTF8String:("Item-" + std::to_string(allStatusItems().size()))
+                                                             .c_str()]];
+    if (!keptPosition(item))
+        item->m_position = leftmostPosition();
     allStatusItems().push_back([item retain]);
+    sortItems();
     return item;
 }
 - (void)removeStatusItem:(NSStatusItem*)item {
@@ -28,6 +70,7 @@ std::vector<NSStatusItem*>& allStatusItems() {
     if (!isThere)
         return;
     desktop().deeds.push_back("remove " + textOf([item->m_button identifier]));
+    desktop().script.defaults.erase(positionKey(item)); // as the real one does
     [item release];
 }
 @end
@@ -47,6 +90,7 @@ std::vector<NSStatusItem*>& allStatusItems() {
         [m_button release];
     }
     [m_menu release];
+    [m_autosaveName release];
     [super dealloc];
 }
 - (NSStatusBarButton*)button {
@@ -55,6 +99,36 @@ std::vector<NSStatusItem*>& allStatusItems() {
 - (void)setMenu:(NSMenu*)menu {
     assign(m_menu, menu);
 }
+- (void)setAutosaveName:(NSStatusItemAutosaveName)name {
+    assign(m_autosaveName, name);
+    m_position = keptPosition(self).value_or(m_position);
+    sortItems();
+}
+@end
+
+@implementation NSControl
+- (void)setTarget:(id)target {
+    m_target = target;
+}
+- (void)setAction:(SEL)action {
+    m_action = action;
+}
+- (NSInteger)sendActionOn:(NSEventMask)mask {
+    const NSEventMask before = std::exchange(m_actionMask, mask);
+    return static_cast<NSInteger>(before);
+}
+- (void)sendAction {
+    desktop().expect(m_target == nil || [m_target respondsToSelector:m_action],
+                     "a target that does not know its action");
+    [m_target performSelector:m_action withObject:self];
+}
+- (void)performClick:(id)sender {
+    static_cast<void>(sender);
+    [self sendAction];
+}
+@end
+
+@implementation NSButton
 @end
 
 @implementation NSStatusBarButton
@@ -67,43 +141,41 @@ std::vector<NSStatusItem*>& allStatusItems() {
     m_window = makeSystemWindow();
     return self;
 }
-- (void)dealloc {
-    [m_identifier release];
-    [m_accessibilityLabel release];
-    [super dealloc];
-}
-- (void)setTarget:(id)target {
-    m_target = target;
-}
-- (void)setAction:(SEL)action {
-    m_action = action;
-}
-- (NSInteger)sendActionOn:(NSEventMask)mask {
-    m_actionMask = mask;
-    return 0;
-}
-- (NSString*)identifier {
-    return m_identifier;
-}
-- (void)setIdentifier:(NSString*)identifier {
-    assign(m_identifier, identifier);
-}
-- (void)setAccessibilityLabel:(NSString*)label {
-    assign(m_accessibilityLabel, label);
-}
-- (void)sendAction {
-    desktop().expect(m_target == nil || [m_target respondsToSelector:m_action],
-                     "a target that does not know its action");
-    [m_target performSelector:m_action withObject:self];
-}
 - (void)performClick:(id)sender {
-    static_cast<void>(sender);
     NSMenu* const menu = m_item != nil ? m_item->m_menu : nil;
     if (menu == nil) {
-        [self sendAction];
+        [super performClick:sender];
         return;
     }
     desktop().deeds.push_back("menu " + textOf(m_identifier));
     trackMenu(menu);
+}
+@end
+
+/// A number among the settings.
+@interface SimulatedNumber : NSObject {
+  @public
+    double m_value;
+}
+@end
+
+@implementation SimulatedNumber
+@end
+
+@implementation NSUserDefaults
++ (NSUserDefaults*)standardUserDefaults {
+    return theOnly(self);
+}
+- (id)objectForKey:(NSString*)key {
+    const auto found = desktop().script.defaults.find(textOf(key));
+    if (found == desktop().script.defaults.end())
+        return nil;
+    SimulatedNumber* const number = [[[SimulatedNumber alloc] init] autorelease];
+    number->m_value = found->second;
+    return number;
+}
+- (void)setObject:(id)object forKey:(NSString*)key {
+    desktop().expect(object != nil, "a setting without a value");
+    desktop().script.defaults[textOf(key)] = ((SimulatedNumber*)object)->m_value;
 }
 @end

@@ -55,6 +55,8 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
         ((NSView*)view)->m_superview = nil;
         [view release];
     }
+    [m_identifier release];
+    [m_accessibilityLabel release];
     delete static_cast<Objects*>(m_subviews);
     delete static_cast<Pins*>(m_pins);
     [super dealloc];
@@ -119,6 +121,15 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
     static_cast<void>(dirtyRect);
 }
 - (void)viewDidChangeBackingProperties {
+}
+- (NSString*)identifier {
+    return m_identifier;
+}
+- (void)setIdentifier:(NSString*)identifier {
+    assign(m_identifier, identifier);
+}
+- (void)setAccessibilityLabel:(NSString*)label {
+    assign(m_accessibilityLabel, label);
 }
 @end
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AppKit/NSControl.h>
 #include <AppKit/NSWindow.h>
 
 enum NSEventType : NSUInteger {
@@ -9,7 +10,6 @@ enum NSEventType : NSUInteger {
     NSEventTypeRightMouseUp = 4,
     NSEventTypeKeyDown = 10
 };
-typedef unsigned long long NSEventMask;
 enum : NSEventMask {
     NSEventMaskLeftMouseUp = 1ULL << NSEventTypeLeftMouseUp,
     NSEventMaskRightMouseUp = 1ULL << NSEventTypeRightMouseUp

@@ -27,31 +27,24 @@
 
 @class NSStatusItem;
 
-@interface NSStatusBarButton : NSView {
+@interface NSStatusBarButton : NSButton {
   @public
     NSStatusItem* m_item;
-    id m_target;
-    SEL m_action;
-    NSEventMask m_actionMask;
-    NSString* m_identifier;
-    NSString* m_accessibilityLabel;
 }
-- (void)setTarget:(id)target;
-- (void)setAction:(SEL)action;
-- (NSInteger)sendActionOn:(NSEventMask)mask;
-- (NSString*)identifier;
-- (void)setIdentifier:(NSString*)identifier;
-- (void)setAccessibilityLabel:(NSString*)label;
-- (void)performClick:(id)sender;
 @end
+
+typedef NSString* NSStatusItemAutosaveName;
 
 @interface NSStatusItem : NSObject {
   @public
     CGFloat m_length;
     NSStatusBarButton* m_button;
     NSMenu* m_menu;
+    NSString* m_autosaveName;
+    double m_position; ///< counted from the right end of the bar
 }
 - (NSStatusBarButton*)button;
+- (void)setAutosaveName:(NSStatusItemAutosaveName)name;
 - (void)setMenu:(NSMenu*)menu;
 @end
 

@@ -35,6 +35,8 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
     NSAutoresizingMaskOptions m_autoresizing;
     BOOL m_translatesAutoresizing;
     BOOL m_needsDisplay;
+    NSString* m_identifier;
+    NSString* m_accessibilityLabel;
 }
 - (id)initWithFrame:(NSRect)frame;
 - (NSRect)bounds;
@@ -52,6 +54,9 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (void)setNeedsDisplay:(BOOL)needsDisplay;
 - (void)drawRect:(NSRect)dirtyRect;
 - (void)viewDidChangeBackingProperties;
+- (NSString*)identifier;
+- (void)setIdentifier:(NSString*)identifier;
+- (void)setAccessibilityLabel:(NSString*)label;
 @end
 
 @interface NSViewController : NSObject {

@@ -97,3 +97,5 @@ __attribute__((objc_root_class))
 @end
 
 extern "C" Class NSClassFromString(NSString* name);
+
+#include <Foundation/NSUserDefaults.h>
