@@ -71,6 +71,7 @@ TEST_F(FailingCallsTest, OpeningAndClosingAPanel) {
                         {"statusItemWithLength", {}},
                         {"status item's button", {}},
                         {"currentEvent", {"show memory"}},
+                        {"activateIgnoringOtherApps", both},
                         {"showRelativeToRect", {"show memory"}},
                         {"popover's window", both},
                         // Whether the press may close the panel: then it has, and its click leaves it closed.

@@ -1,5 +1,8 @@
 #include "appkit/program.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace orvelle {
 namespace {
 
@@ -30,7 +33,9 @@ TEST_F(PopoverTest, OpensUnderItsItemWithTheKeyboardInIt) {
     EXPECT_EQ(popover.edge, 1U) << "the edge of the least y, under the menu bar";
     EXPECT_TRUE(popover.isKey);
     EXPECT_TRUE(popover.hasContent);
+    EXPECT_TRUE(popover.showsContent);
     EXPECT_TRUE(popover.contentTakesKeys);
+    EXPECT_TRUE(desktop().isActive) << "nothing reacts to the pointer otherwise";
     EXPECT_EQ(running.contents, QStringList{QStringLiteral("memory")});
     EXPECT_EQ(running.panelCornerRadius, 0) << "the system rounds its popovers";
     ASSERT_EQ(running.contentWindows.size(), 1U);
@@ -125,6 +130,51 @@ TEST_F(PopoverTest, MayBeDestroyedWhileItFades) {
     finishFading();
     EXPECT_TRUE(popovers().empty());
     EXPECT_TRUE(running.contentWindows.empty());
+}
+
+TEST_F(PopoverTest, MayBeDestroyedBeforeItHasFaded) {
+    desktop().script.popoversFade = true;
+    launch();
+    click(cpuItem, MouseButton::left);
+    click(cpuItem, MouseButton::left);
+    end();
+    finishFading(); // its window outlives it until then
+    EXPECT_TRUE(popovers().empty());
+}
+
+TEST_F(PopoverTest, FadesWithItsContentAfterEscape) {
+    desktop().script.popoversFade = true;
+    const Program& running = launch();
+    click(cpuItem, MouseButton::left);
+    pressEscape();
+    EXPECT_TRUE(shownPopover().showsContent);
+    finishFading();
+    EXPECT_EQ(shownPopoverCount(), 0);
+    EXPECT_FALSE(running.contentWindows.at(0)->isVisible());
+    click(cpuItem, MouseButton::left);
+    EXPECT_TRUE(shownPopover().contentTakesKeys);
+}
+
+TEST_F(PopoverTest, ClosesWhenItsContentLosesItsNativeWindowAndOpensWhole) {
+    Program& running = launch();
+    click(cpuItem, MouseButton::left);
+    QEvent close(QEvent::Close); // as when the program is asked to end
+    QCoreApplication::sendEvent(running.contentWindows.at(0), &close);
+    EXPECT_TRUE(close.isAccepted());
+    EXPECT_EQ(shownPopoverCount(), 0);
+    click(cpuItem, MouseButton::left);
+    EXPECT_TRUE(shownPopover().showsContent);
+    EXPECT_TRUE(shownPopover().contentTakesKeys);
+}
+
+TEST_F(PopoverTest, OpensWithoutTheKeyboardWhenTheSystemRefusesToActivateTheProgram) {
+    desktop().failCallsTo("activateIgnoringOtherApps");
+    launch();
+    click(cpuItem, MouseButton::left);
+    EXPECT_TRUE(shownPopover().showsContent);
+    EXPECT_FALSE(shownPopover().isKey);
+    click(cpuItem, MouseButton::left);
+    EXPECT_EQ(shownPopoverCount(), 0);
 }
 
 TEST_F(PopoverTest, OpensTheSettingsFromItsContentAndStays) {

@@ -2,6 +2,8 @@
 
 #include "support/shown_modules.h"
 
+#include <QKeyEvent>
+
 #include <algorithm>
 
 namespace orvelle {
@@ -10,24 +12,33 @@ using namespace simulated;
 
 namespace {
 
+/// Hides at Escape, as the real settings do.
+class SettingsContent final : public QWindow {
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape)
+            hide();
+    }
+};
+
 class RecordedWindowFactory final : public WindowFactory {
 public:
     explicit RecordedWindowFactory(Program& program)
         : m_program(program) {}
     [[nodiscard]] std::unique_ptr<QWindow> makePanel(ModuleId module, double cornerRadius) override {
         m_program.panelCornerRadius = cornerRadius;
-        return makeContent(moduleInfo(module).key, QSize(320, 500));
+        return makeContent<QWindow>(moduleInfo(module).key, QSize(320, 500));
     }
     [[nodiscard]] std::unique_ptr<QWindow> makeSettings() override {
-        return makeContent(QStringLiteral("settings"), QSize(460, 640));
+        return makeContent<SettingsContent>(QStringLiteral("settings"), QSize(460, 640));
     }
 
 private:
+    template <class Window>
     std::unique_ptr<QWindow> makeContent(const QString& name, QSize size) {
         m_program.contents.append(name);
         if (!m_program.canMakeContents)
             return nullptr;
-        auto window = std::make_unique<QWindow>();
+        auto window = std::make_unique<Window>();
         window->resize(size);
         m_program.contentWindows.push_back(window.get());
         QObject::connect(window.get(), &QObject::destroyed, [this](QObject* gone) {
@@ -60,6 +71,7 @@ void Program::showAll(bool shown) {
 
 void AppKitTest::TearDown() {
     end();
+    finishFading();
     EXPECT_EQ(desktop().live(), (std::map<std::string, std::size_t>{}));
     EXPECT_EQ(desktop().complaints(), std::vector<std::string>{});
 }

@@ -1,11 +1,31 @@
 #include "appkit/program.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace orvelle {
 namespace {
 
 using namespace simulated;
 
-class SettingsWindowTest : public AppKitTest {};
+class SettingsWindowTest : public AppKitTest {
+protected:
+    /// The program with its settings open and the keyboard in them.
+    Program& openSettings() {
+        Program& running = launch();
+        running.delegate.openSettings();
+        letTheSystemRespond();
+        return running;
+    }
+    /// What a user sees and can do.
+    static void expectOpen() {
+        ASSERT_EQ(windows().size(), 1U);
+        EXPECT_TRUE(windows()[0].isVisible);
+        EXPECT_TRUE(windows()[0].isKey);
+        EXPECT_TRUE(windows()[0].showsContent);
+        EXPECT_TRUE(windows()[0].contentTakesKeys);
+    }
+};
 
 TEST_F(SettingsWindowTest, IsDarkWithATransparentTitleBar) {
     Program& running = launch();
@@ -30,15 +50,35 @@ TEST_F(SettingsWindowTest, IsDarkWithATransparentTitleBar) {
 }
 
 TEST_F(SettingsWindowTest, ComesToTheFrontOfAllProgramsWithTheKeyboardInIt) {
-    Program& running = launch();
-    running.delegate.openSettings();
-    EXPECT_EQ(desktop().deeds, (std::vector<std::string>{"front Orvelle Settings", "activate"}));
-    ASSERT_EQ(windows().size(), 1U);
-    EXPECT_TRUE(windows()[0].isVisible);
-    EXPECT_TRUE(windows()[0].isKey);
-    EXPECT_TRUE(windows()[0].hasContent);
-    EXPECT_TRUE(windows()[0].contentTakesKeys);
+    const Program& running = openSettings();
+    EXPECT_EQ(desktop().deeds, std::vector<std::string>{"front Orvelle Settings"});
+    expectOpen();
+    EXPECT_TRUE(desktop().isActive);
     EXPECT_TRUE(running.contentWindows.at(0)->isVisible());
+}
+
+TEST_F(SettingsWindowTest, ShowsItsContentBelowTheTitle) {
+    openSettings();
+    const WindowState window = windows().at(0);
+    EXPECT_EQ(window.contentFrame, (std::array<double, 4>{0, 0, 460, 640 - 28}));
+}
+
+TEST_F(SettingsWindowTest, GivesTheKeyboardToItsContentAgainWhenTheUserComesBack) {
+    openSettings();
+    activateOtherProgram();
+    EXPECT_FALSE(windows().at(0).contentTakesKeys);
+    activateByTheUser();
+    expectOpen();
+}
+
+TEST_F(SettingsWindowTest, StaysWithoutTheKeyboardWhenTheSystemRefusesToActivateTheProgram) {
+    desktop().failCallsTo("activateIgnoringOtherApps");
+    openSettings();
+    EXPECT_TRUE(windows().at(0).isVisible);
+    EXPECT_TRUE(windows().at(0).showsContent);
+    EXPECT_FALSE(windows().at(0).isKey);
+    activateByTheUser();
+    expectOpen();
 }
 
 TEST_F(SettingsWindowTest, IsOneHoweverOftenItIsOpened) {
@@ -51,15 +91,48 @@ TEST_F(SettingsWindowTest, IsOneHoweverOftenItIsOpened) {
 }
 
 TEST_F(SettingsWindowTest, IsReusedAfterItWasClosed) {
-    Program& running = launch();
-    running.delegate.openSettings();
+    Program& running = openSettings();
     closeWindow(0);
     EXPECT_FALSE(windows().at(0).isVisible);
+    EXPECT_FALSE(running.contentWindows.at(0)->isVisible()) << "which resets it and stops its charts";
     running.delegate.openSettings();
-    ASSERT_EQ(windows().size(), 1U);
-    EXPECT_TRUE(windows()[0].isVisible);
-    EXPECT_TRUE(windows()[0].isKey);
+    letTheSystemRespond();
+    expectOpen();
     EXPECT_EQ(running.contents.size(), 1);
+}
+
+TEST_F(SettingsWindowTest, ClosesWhenItsContentHidesAtEscapeAndOpensWhole) {
+    Program& running = openSettings();
+    pressEscape();
+    EXPECT_FALSE(windows().at(0).isVisible);
+    running.delegate.openSettings();
+    letTheSystemRespond();
+    expectOpen();
+    pressEscape();
+    EXPECT_FALSE(windows().at(0).isVisible) << "as often as the user likes";
+}
+
+TEST_F(SettingsWindowTest, OpensWholeAfterItsContentLostItsNativeWindow) {
+    Program& running = openSettings();
+    // What Qt sends to every window when the program is asked to end; another program may prevent the end.
+    QEvent close(QEvent::Close);
+    QCoreApplication::sendEvent(running.contentWindows.at(0), &close);
+    EXPECT_TRUE(close.isAccepted()) << "a refusal would prevent the end";
+    EXPECT_FALSE(windows().at(0).isVisible);
+    EXPECT_FALSE(windows().at(0).showsContent);
+    running.delegate.openSettings();
+    letTheSystemRespond();
+    expectOpen();
+}
+
+TEST_F(SettingsWindowTest, ComesBackFromTheDock) {
+    Program& running = openSettings();
+    minimizeWindow(0);
+    EXPECT_FALSE(windows().at(0).isKey);
+    running.delegate.openSettings();
+    letTheSystemRespond();
+    EXPECT_FALSE(windows().at(0).isMiniaturized);
+    expectOpen();
 }
 
 TEST_F(SettingsWindowTest, OpensOnTheNextRequestWhenItsContentCouldNotBeMade) {

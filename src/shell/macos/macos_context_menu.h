@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/macos/foundation.h"
+#include "shell/macos/program_activation.h"
 #include "shell/status_bar.h"
 
 #include <AppKit/AppKit.h>
@@ -33,7 +34,7 @@ namespace orvelle {
 /// timers go on meanwhile.
 class MacosContextMenu final : public ContextMenu, private MenuListener {
   public:
-    MacosContextMenu();
+    explicit MacosContextMenu(ProgramActivation& activation);
     ~MacosContextMenu() override;
     MacosContextMenu(const MacosContextMenu&) = delete;
     MacosContextMenu& operator=(const MacosContextMenu&) = delete;
@@ -46,6 +47,7 @@ class MacosContextMenu final : public ContextMenu, private MenuListener {
     [[nodiscard]] NSMenuItem* makeItem(const MenuEntry& entry, NSInteger index) const;
     [[nodiscard]] Retained<NSMenu*> makeMenu() const;
 
+    ProgramActivation& m_activation;
     Retained<MenuTarget*> m_target;
     // Kept until the next menu opens: the system may send the choice after the menu has closed.
     std::vector<MenuEntry> m_entries;

@@ -4,7 +4,8 @@
 
 namespace orvelle {
 
-MacosContextMenu::MacosContextMenu() : m_target([[MenuTarget alloc] initWithMenuListener:this]) {}
+MacosContextMenu::MacosContextMenu(ProgramActivation& activation)
+    : m_activation(activation), m_target([[MenuTarget alloc] initWithMenuListener:this]) {}
 
 MacosContextMenu::~MacosContextMenu() { [m_menu.get() cancelTracking]; }
 
@@ -36,7 +37,9 @@ void MacosContextMenu::show(const StatusItem& item, std::vector<MenuEntry> entri
     m_menu = makeMenu();
     // An item with a menu opens it at every click, left ones too, so it has a menu only for this click.
     [statusItem.get() setMenu:m_menu.get()];
+    m_activation.keep(this);
     [[statusItem.get() button] performClick:nil];
+    m_activation.end(this);
     [statusItem.get() setMenu:nil];
 }
 

@@ -8,10 +8,12 @@ class MacosDesktop final : public Desktop {
     [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override {
         return becomeSingleMacosInstance();
     }
-    [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override { return makeMacosStatusBar(); }
+    [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override {
+        return makeMacosStatusBar(m_activation);
+    }
     [[nodiscard]] std::unique_ptr<SettingsWindow>
     makeSettingsWindow(std::unique_ptr<QWindow> content) override {
-        return makeMacosSettingsWindow(std::move(content));
+        return makeMacosSettingsWindow(std::move(content), m_activation);
     }
     [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) override {
         return followReducedMacosMotion(clock);
@@ -19,6 +21,9 @@ class MacosDesktop final : public Desktop {
     /// The system has one font, which Qt knows.
     [[nodiscard]] std::unique_ptr<QObject> followFonts() override { return nullptr; }
     [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem() override { return makeMacosLoginItem(); }
+
+  private:
+    ProgramActivation m_activation;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/macos/hosted_window.h"
+#include "shell/macos/program_activation.h"
 #include "shell/status_bar.h"
 
 #include <optional>
@@ -35,7 +36,7 @@ namespace orvelle {
 /// A popover of the system's own under an item of its menu bar.
 class MacosPopover final : public Popover, private PopoverListener {
   public:
-    explicit MacosPopover(PopoverContent makeContent);
+    MacosPopover(PopoverContent makeContent, ProgramActivation& activation);
     ~MacosPopover() override;
     MacosPopover(const MacosPopover&) = delete;
     MacosPopover& operator=(const MacosPopover&) = delete;
@@ -54,6 +55,7 @@ class MacosPopover final : public Popover, private PopoverListener {
     [[nodiscard]] bool makeContent();
 
     PopoverContent m_makeContent;
+    ProgramActivation& m_activation;
     std::optional<HostedWindow> m_content; ///< nothing before the first showing
     Retained<PopoverObserver*> m_observer;
     Retained<NSPopover*> m_popover;

@@ -18,8 +18,8 @@ NSTimeInterval uptime() { return [[NSProcessInfo processInfo] systemUptime]; }
 
 } // namespace
 
-MacosPopover::MacosPopover(PopoverContent makeContent)
-    : m_makeContent(std::move(makeContent)),
+MacosPopover::MacosPopover(PopoverContent makeContent, ProgramActivation& activation)
+    : m_makeContent(std::move(makeContent)), m_activation(activation),
       m_observer([[PopoverObserver alloc] initWithPopoverListener:this]),
       m_popover([[NSPopover alloc] init]) {
     [m_popover.get() setContentSize:NSMakeSize(width, height)];
@@ -33,6 +33,7 @@ MacosPopover::~MacosPopover() {
     // It may go on fading out and must not call this object then.
     [m_popover.get() setDelegate:nil];
     [m_popover.get() close];
+    m_activation.end(this);
 }
 
 bool MacosPopover::isShown() const {
@@ -46,7 +47,8 @@ bool MacosPopover::makeContent() {
     std::unique_ptr<QWindow> window = m_makeContent(contentCornerRadius);
     if (window == nullptr)
         return false;
-    m_content.emplace(std::move(window));
+    m_content.emplace(std::move(window),
+                      HostedWindow::Requests{.close = [this] { close(); }, .closesAtEscape = true});
     const Retained<NSViewController*> controller([[NSViewController alloc] init]);
     [controller.get() setView:m_content->container()];
     [m_popover.get() setContentViewController:controller.get()];
@@ -61,7 +63,8 @@ void MacosPopover::show(const StatusItem& item) {
     m_anchor = Retained<NSView*>::adding(button);
     m_isAskedToClose = false;
     m_closedByItself.reset();
-    m_content->setVisible(true);
+    m_activation.begin(this);
+    m_content->show();
     [m_popover.get() showRelativeToRect:[button bounds] ofView:button preferredEdge:NSRectEdgeMinY];
     [[m_content->container() window] makeKeyWindow];
     m_content->takeKeys();
@@ -87,8 +90,9 @@ void MacosPopover::willClose() {
 }
 
 void MacosPopover::didClose() {
+    m_activation.end(this);
     if (m_content)
-        m_content->setVisible(false); // a hidden content is not drawn
+        m_content->hide();
 }
 
 } // namespace orvelle

@@ -2,6 +2,27 @@
 #include "shell/macos/macos_desktop.h"
 
 namespace orvelle {
+
+/// Hears what becomes of a window.
+class WindowListener {
+  public:
+    virtual ~WindowListener() = default;
+    /// Whoever closes it.
+    virtual void willClose() = 0;
+};
+
+} // namespace orvelle
+
+/// Passes on what the system says about a window.
+@interface SettingsWindowObserver : NSObject <NSWindowDelegate> {
+  @private
+    orvelle::WindowListener* m_listener;
+}
+/// The listener must live as long as this is the delegate of a window.
+- (instancetype)initWithWindowListener:(orvelle::WindowListener*)listener;
+@end
+
+namespace orvelle {
 namespace {
 
 constexpr CGFloat width = 460;
@@ -26,40 +47,78 @@ Retained<NSWindow*> makeWindow() {
 }
 
 /// A window of the system's own. Closed, it is only out of sight, and so is its content.
-class MacosSettingsWindow final : public SettingsWindow {
+class MacosSettingsWindow final : public SettingsWindow, private WindowListener {
   public:
-    explicit MacosSettingsWindow(std::unique_ptr<QWindow> content)
-        : m_content(std::move(content)), m_window(makeWindow()) {
-        [m_window.get() setContentView:m_content.container()];
-        m_content.setVisible(true);
+    MacosSettingsWindow(std::unique_ptr<QWindow> content, ProgramActivation& activation)
+        : m_activation(activation),
+          m_content(std::move(content), {.close = [this] { [m_window.get() close]; }}),
+          m_observer([[SettingsWindowObserver alloc] initWithWindowListener:this]), m_window(makeWindow()) {
+        takeContent();
+        [m_window.get() setDelegate:m_observer.get()];
         // The place of the last time goes before the middle of the screen.
         [m_window.get() center];
         [m_window.get() setFrameAutosaveName:@"OrvelleSettings"];
     }
     ~MacosSettingsWindow() override {
         const ReleasePool pool;
+        [m_window.get() setDelegate:nil];
         [m_window.get() close];
+        m_activation.end(this);
     }
     MacosSettingsWindow(const MacosSettingsWindow&) = delete;
     MacosSettingsWindow& operator=(const MacosSettingsWindow&) = delete;
 
     void bringForward() override {
         const ReleasePool pool;
+        m_content.show();
+        m_activation.begin(this);
+        if ([m_window.get() isMiniaturized])
+            [m_window.get() deminiaturize:nil];
         [m_window.get() makeKeyAndOrderFront:nil];
         m_content.takeKeys();
-        [NSApp activateIgnoringOtherApps:YES];
     }
 
   private:
+    /// The window's own view lies under the title too, which would cover the content.
+    void takeContent() {
+        NSView* const container = m_content.container();
+        [container setFrame:[m_window.get() contentLayoutRect]];
+        [container setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
+        [[m_window.get() contentView] addSubview:container];
+    }
+    void willClose() override {
+        m_content.hide();
+        m_activation.end(this);
+    }
+
+    ProgramActivation& m_activation;
     HostedWindow m_content;
+    Retained<SettingsWindowObserver*> m_observer;
     Retained<NSWindow*> m_window;
 };
 
 } // namespace
 
-std::unique_ptr<SettingsWindow> makeMacosSettingsWindow(std::unique_ptr<QWindow> content) {
+std::unique_ptr<SettingsWindow> makeMacosSettingsWindow(std::unique_ptr<QWindow> content,
+                                                        ProgramActivation& activation) {
     const ReleasePool pool;
-    return std::make_unique<MacosSettingsWindow>(std::move(content));
+    return std::make_unique<MacosSettingsWindow>(std::move(content), activation);
 }
 
 } // namespace orvelle
+
+@implementation SettingsWindowObserver
+
+- (instancetype)initWithWindowListener:(orvelle::WindowListener*)listener {
+    self = [super init];
+    if (self != nil)
+        m_listener = listener;
+    return self;
+}
+
+- (void)windowWillClose:(NSNotification*)notification {
+    static_cast<void>(notification);
+    m_listener->willClose();
+}
+
+@end

@@ -37,7 +37,7 @@ namespace {
 /// The program's items in the system's menu bar.
 class MacosStatusBar final : public StatusBar, private ClickListener {
   public:
-    MacosStatusBar();
+    explicit MacosStatusBar(ProgramActivation& activation);
     ~MacosStatusBar() override;
 
     /// Asks the system for another item. The system puts it to the left of the others, unless the user has
@@ -52,6 +52,7 @@ class MacosStatusBar final : public StatusBar, private ClickListener {
     void clicked(const QString& identifier, ClickButton button) override;
     void itemPainted();
 
+    ProgramActivation& m_activation;
     Retained<StatusItemTarget*> m_target;
     std::vector<std::unique_ptr<MacosStatusItem>> m_items; ///< in the order in which they were added
     bool m_hasBeenPainted = false;
@@ -64,7 +65,8 @@ ClickButton clickButton(NSEvent* event) {
     return isRight ? ClickButton::right : ClickButton::left;
 }
 
-MacosStatusBar::MacosStatusBar() : m_target([[StatusItemTarget alloc] initWithClickListener:this]) {}
+MacosStatusBar::MacosStatusBar(ProgramActivation& activation)
+    : m_activation(activation), m_target([[StatusItemTarget alloc] initWithClickListener:this]) {}
 
 MacosStatusBar::~MacosStatusBar() {
     const ReleasePool pool;
@@ -83,11 +85,11 @@ void MacosStatusBar::removeItem(StatusItem& item) {
 }
 
 std::unique_ptr<Popover> MacosStatusBar::makePopover(PopoverContent makeContent) {
-    return std::make_unique<MacosPopover>(std::move(makeContent));
+    return std::make_unique<MacosPopover>(std::move(makeContent), m_activation);
 }
 
 std::unique_ptr<ContextMenu> MacosStatusBar::makeContextMenu() {
-    return std::make_unique<MacosContextMenu>();
+    return std::make_unique<MacosContextMenu>(m_activation);
 }
 
 void MacosStatusBar::clicked(const QString& identifier, ClickButton button) {
@@ -107,7 +109,9 @@ void MacosStatusBar::itemPainted() {
 
 } // namespace
 
-std::unique_ptr<StatusBar> makeMacosStatusBar() { return std::make_unique<MacosStatusBar>(); }
+std::unique_ptr<StatusBar> makeMacosStatusBar(ProgramActivation& activation) {
+    return std::make_unique<MacosStatusBar>(activation);
+}
 
 } // namespace orvelle
 

@@ -10,7 +10,8 @@ set(ORVELLE_MACOS_SHELL_SOURCES
   macos_popover.mm
   macos_settings_window.mm
   macos_status_bar.mm
-  macos_status_item.mm)
+  macos_status_item.mm
+  program_activation.mm)
 # Apart from the others, because the test stands in for what Qt answers there.
 set(ORVELLE_MACOS_NATIVE_VIEW_SOURCE native_view.mm)
 list(TRANSFORM ORVELLE_MACOS_SHELL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

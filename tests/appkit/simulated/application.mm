@@ -23,19 +23,11 @@ Handler& reopenHandler() {
     return handler;
 }
 
-/// Of other wishes of the user's for the display.
-Handler& displayOptionsHandler() {
-    static Handler handler;
-    return handler;
-}
-
 bool isReopenEvent(AEEventClass eventClass, AEEventID eventIdentifier) {
     return eventClass == kCoreEventClass && eventIdentifier == kAEReopenApplication;
 }
 
 } // namespace
-
-NSApplication* NSApp = nil;
 
 namespace orvelle::simulated {
 namespace {
@@ -52,23 +44,30 @@ Desktop& desktop() { return *desktopPlace(); }
 void startDesktop() {
     desktopPlace() = std::make_unique<Desktop>();
     reopenHandler() = {};
-    displayOptionsHandler() = {};
+    forgetObservers();
+    forgetKeyboard();
     NSApp = theOnly([NSApplication class]);
 }
 
+NSEvent* handledEvent() { return currentEventPlace(); }
+
 void handleNoEvent(const std::function<void()>& handling) {
+    static int depth = 0;
+    ++depth;
     NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
     handling();
+    if (--depth == 0)
+        letTheSystemRespond();
     [pool release];
 }
 
-void handleEvent(NSEventType type, NSWindow* window, NSEventModifierFlags modifiers,
-                 const std::function<void()>& handling) {
+void handleEvent(Event given, const std::function<void()>& handling) {
     handleNoEvent([&] {
         NSEvent* const event = [[[NSEvent alloc] init] autorelease];
-        event->m_type = type;
-        event->m_modifierFlags = modifiers;
-        event->m_window = window;
+        event->m_type = given.type;
+        event->m_modifierFlags = given.modifiers;
+        event->m_window = given.window;
+        event->m_key = given.key;
         NSEvent* const before = std::exchange(currentEventPlace(), event);
         handling();
         currentEventPlace() = before;
@@ -77,8 +76,10 @@ void handleEvent(NSEventType type, NSWindow* window, NSEventModifierFlags modifi
 
 void chooseReducedMotion(bool isReduced) {
     desktop().script.reducesMotion = isReduced;
-    const Handler handler = displayOptionsHandler();
-    handleNoEvent([&] { [handler.object performSelector:handler.selector withObject:nil]; });
+    handleNoEvent([] {
+        post([[NSWorkspace sharedWorkspace] notificationCenter],
+             NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification, nil);
+    });
 }
 
 void openProgramAgain() {
@@ -100,15 +101,6 @@ void openProgramAgain() {
 }
 - (NSWindow*)window {
     return m_window;
-}
-@end
-
-@implementation NSApplication
-- (NSEvent*)currentEvent {
-    return desktop().arrives("currentEvent") ? currentEventPlace() : nil;
-}
-- (void)activateIgnoringOtherApps:(BOOL)ignoring {
-    desktop().deeds.push_back(ignoring ? "activate" : "activate politely");
 }
 @end
 
@@ -138,21 +130,16 @@ void openProgramAgain() {
 
 NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification = @"display options";
 
-@implementation NSNotificationCenter
-- (void)addObserver:(id)observer selector:(SEL)selector name:(NSString*)name object:(id)object {
-    desktop().expect(textOf(name) == "display options" && object == nil,
-                     "a notification that nobody sends here");
-    displayOptionsHandler() = {observer, selector};
-}
-- (void)removeObserver:(id)observer {
-    desktop().expect(observer == displayOptionsHandler().object, "an observer that was not there");
-    displayOptionsHandler() = {};
-}
+/// The centre through which the system tells of other programs and of itself.
+@interface WorkspaceNotificationCenter : NSNotificationCenter
+@end
+
+@implementation WorkspaceNotificationCenter
 @end
 
 @implementation NSWorkspace
 - (NSNotificationCenter*)notificationCenter {
-    return theOnly([NSNotificationCenter class]);
+    return theOnly([WorkspaceNotificationCenter class]);
 }
 - (BOOL)accessibilityDisplayShouldReduceMotion {
     return desktop().script.reducesMotion;

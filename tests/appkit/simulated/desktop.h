@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -65,6 +66,7 @@ struct PopoverState {
     long behavior = 0;
     bool animates = false;
     bool hasContent = false;
+    bool showsContent = false;      ///< that Qt draws something in it
     std::string anchorIdentifier{}; ///< of the button that it was shown at last
     double anchorWidth = 0;         ///< of the rectangle in it
     double anchorHeight = 0;
@@ -98,8 +100,10 @@ struct WindowState {
     double backgroundAlpha = -1;
     std::string autosaveName{};
     bool isCentered = false;
-    bool hasContent = false;
+    std::array<double, 4> contentFrame{}; ///< left, bottom, width and height, in the window
+    bool showsContent = false;            ///< that Qt draws something in it
     bool isVisible = false;
+    bool isMiniaturized = false;
     bool isKey = false;
     bool contentTakesKeys = false;
     int timesBroughtForward = 0;
@@ -119,6 +123,8 @@ enum class MouseButton { left, right };
 class Desktop {
 public:
     Script script{};
+    bool isActive = false; ///< whether the program is the active one, which alone gets keys and hovering
+    bool isHidden = false; ///< with all its windows
 
     /// Everything that can fail, in order.
     [[nodiscard]] const std::vector<std::string>& calls() const { return m_calls; }
@@ -175,8 +181,13 @@ void press(std::size_t item, MouseButton button);
 void release(std::size_t item, MouseButton button, bool holdsControl = false);
 /// Both.
 void click(std::size_t item, MouseButton button, bool holdsControl = false);
-/// Somewhere else on the screen.
+/// In a window of another program, which becomes the active one.
 void clickElsewhere();
+/// The user brings another program to the front without the mouse.
+void activateOtherProgram();
+/// And this one.
+void activateByTheUser();
+/// Goes to the view that has the keyboard, and from there on.
 void pressEscape();
 /// Drags an item of the menu bar to the right of the others, with the key for commands held.
 void dragToTheRightEnd(std::size_t item);
@@ -187,8 +198,11 @@ void chooseReducedMotion(bool isReduced);
 /// Opens the program once more while it runs.
 void openProgramAgain();
 void closeWindow(std::size_t window);
+void minimizeWindow(std::size_t window);
 
 // What only the system does.
+/// Handles what the program asked for while it handled no event: makes it the active one.
+void letTheSystemRespond();
 /// The item's button sends its action although no event is being handled.
 void sendActionWithoutEvent(std::size_t item);
 /// Has the item drawn when it needs it; nothing when it does not or nothing was drawn.

@@ -66,6 +66,13 @@ std::string textOf(NSString* text) { return text != nil ? std::string([text UTF8
 - (BOOL)respondsToSelector:(SEL)selector {
     return class_respondsToSelector(object_getClass(self), selector);
 }
+- (BOOL)isKindOfClass:(Class)aClass {
+    for (Class each = object_getClass(self); each != Nil; each = class_getSuperclass(each)) {
+        if (each == aClass)
+            return YES;
+    }
+    return NO;
+}
 - (id)performSelector:(SEL)selector withObject:(id)object {
     using Implementation = id (*)(id, SEL, id);
     return reinterpret_cast<Implementation>(objc_msg_lookup(self, selector))(self, selector, object);

@@ -2,6 +2,8 @@
 
 using namespace orvelle::simulated;
 
+// A popover has a window of the system's own, which passes on to it the keys that no view wants.
+
 namespace orvelle::simulated {
 
 std::vector<NSPopover*>& allPopovers() {
@@ -11,8 +13,25 @@ std::vector<NSPopover*>& allPopovers() {
 
 } // namespace orvelle::simulated
 
+namespace {
+
+/// The windows of popovers that are gone and were fading then.
+std::vector<NSWindow*>& orphans() {
+    static std::vector<NSWindow*> windows;
+    return windows;
+}
+
+bool mayClose(NSPopover* popover) {
+    const bool asks = desktop().script.asksBeforeClosingPopover &&
+                      [popover->m_delegate respondsToSelector:@selector(popoverShouldClose:)];
+    return !asks || [popover->m_delegate popoverShouldClose:popover];
+}
+
+} // namespace
+
 @interface NSPopover (Simulated)
 - (void)finishClosing;
+- (void)leaveWindow;
 @end
 
 @implementation NSPopover
@@ -22,10 +41,10 @@ std::vector<NSPopover*>& allPopovers() {
 }
 - (void)dealloc {
     std::erase(allPopovers(), self);
-    if (m_controller != nil)
-        [m_controller view]->m_window = nil;
+    if (m_isClosing && m_window != nil)
+        orphans().push_back([m_window retain]);
+    [self leaveWindow];
     [m_controller release];
-    [m_window release];
     [m_anchorView release];
     [super dealloc];
 }
@@ -47,6 +66,7 @@ std::vector<NSPopover*>& allPopovers() {
 - (void)showRelativeToRect:(NSRect)rect ofView:(NSView*)view preferredEdge:(NSRectEdge)edge {
     desktop().expect(m_controller != nil, "a popover without content");
     desktop().expect([view window] != nil, "a popover at a view that is in no window");
+    desktop().expect(!desktop().isHidden, "a popover of a hidden program");
     if (!desktop().arrives("showRelativeToRect"))
         return;
     m_isShown = YES;
@@ -54,9 +74,12 @@ std::vector<NSPopover*>& allPopovers() {
     m_anchorRect = rect;
     assign(m_anchorView, view);
     m_edge = edge;
-    if (m_window == nil && desktop().arrives("popover's window"))
+    [[m_controller view] setFrame:NSMakeRect(0, 0, m_contentSize.width, m_contentSize.height)];
+    if (m_window == nil && desktop().arrives("popover's window")) {
         m_window = makeSystemWindow();
-    [m_controller view]->m_window = m_window;
+        [m_window setNextResponder:self];
+        fill(m_window, [m_controller view]);
+    }
     desktop().deeds.push_back("show " + textOf([(NSStatusBarButton*)view identifier]));
 }
 - (BOOL)isShown {
@@ -75,10 +98,25 @@ std::vector<NSPopover*>& allPopovers() {
 - (void)finishClosing {
     m_isShown = NO;
     m_isClosing = NO;
-    if (keyWindow() == m_window)
-        setKeyWindow(nil);
+    [self leaveWindow];
     if ([m_delegate respondsToSelector:@selector(popoverDidClose:)])
         [m_delegate popoverDidClose:nil];
+}
+/// The window is another one when the popover is shown again.
+- (void)leaveWindow {
+    if (m_window == nil)
+        return;
+    NSWindow* const window = std::exchange(m_window, nil);
+    loseKeyboard(window);
+    [window makeFirstResponder:nil];
+    [window setNextResponder:nil];
+    if (!m_isClosing)
+        [m_controller view]->m_window = nil;
+    [window release];
+}
+- (void)keyDown:(NSEvent*)event {
+    if (event->m_key == escapeKey && m_isShown && mayClose(self))
+        [self close];
 }
 @end
 
@@ -89,9 +127,7 @@ void closeTransientPopovers() {
     for (NSPopover* popover : popovers) {
         if (!popover->m_isShown || popover->m_behavior != NSPopoverBehaviorTransient)
             continue;
-        const bool asks = desktop().script.asksBeforeClosingPopover &&
-                          [popover->m_delegate respondsToSelector:@selector(popoverShouldClose:)];
-        if (!asks || [popover->m_delegate popoverShouldClose:popover])
+        if (mayClose(popover))
             [popover close];
     }
 }
@@ -102,6 +138,8 @@ void finishFading() {
         if (popover->m_isClosing)
             [popover finishClosing];
     }
+    for (NSWindow* window : std::exchange(orphans(), {}))
+        [window release];
 }
 
 } // namespace orvelle::simulated

@@ -13,9 +13,10 @@ Objects& subviewsOf(NSView* view) { return *static_cast<Objects*>(view->m_subvie
 
 NSView* firstSubview(NSView* view) { return subviewsOf(view).empty() ? nil : (NSView*)subviewsOf(view)[0]; }
 
+/// Whether the keys of the window go to what the container holds, and Qt knows it.
 bool takesKeys(NSWindow* window, NSView* container) {
-    return window != nil && container != nil && recordOf(window).firstResponder != nil &&
-           recordOf(window).firstResponder == firstSubview(container);
+    return window != nil && container != nil && recordOf(window).firstResponder == firstSubview(container) &&
+           isQtsViewWithFocus(recordOf(window).firstResponder);
 }
 
 /// The windows that the program made, in the order in which it did.
@@ -55,6 +56,7 @@ PopoverState stateOf(NSPopover* popover) {
             .behavior = popover->m_behavior,
             .animates = popover->m_animates != 0,
             .hasContent = content != nil,
+            .showsContent = content != nil && showsQtsContent(firstSubview(content)),
             .anchorIdentifier = textOf([(NSStatusBarButton*)popover->m_anchorView identifier]),
             .anchorWidth = popover->m_anchorRect.size.width,
             .anchorHeight = popover->m_anchorRect.size.height,
@@ -76,7 +78,7 @@ void layOut(NSStatusBarButton* button) {
 void press(std::size_t item, MouseButton button) {
     const NSEventType type =
         button == MouseButton::left ? NSEventTypeLeftMouseDown : NSEventTypeRightMouseDown;
-    handleEvent(type, [buttonOf(item) window], 0, closeTransientPopovers);
+    handleEvent({.type = type, .window = [buttonOf(item) window]}, closeTransientPopovers);
 }
 
 void release(std::size_t item, MouseButton button, bool holdsControl) {
@@ -84,7 +86,7 @@ void release(std::size_t item, MouseButton button, bool holdsControl) {
     const NSEventModifierFlags modifiers =
         holdsControl ? NSEventModifierFlags{NSEventModifierFlagControl} : 0;
     NSStatusBarButton* const target = buttonOf(item);
-    handleEvent(type, [target window], modifiers, [&] {
+    handleEvent({.type = type, .window = [target window], .modifiers = modifiers}, [&] {
         if (target->m_item->m_menu != nil)
             [target performClick:nil];
         else if ((target->m_actionMask & (1ULL << type)) != 0)
@@ -99,9 +101,24 @@ void click(std::size_t item, MouseButton button, bool holdsControl) {
     desktop().script.uptimeSeconds += 1; // nobody clicks faster
 }
 
-void clickElsewhere() { handleEvent(NSEventTypeLeftMouseDown, nil, 0, closeTransientPopovers); }
+void clickElsewhere() {
+    handleEvent({.type = NSEventTypeLeftMouseDown}, closeTransientPopovers);
+    activateOtherProgram();
+}
 
-void pressEscape() { handleEvent(NSEventTypeKeyDown, keyWindow(), 0, closeTransientPopovers); }
+void pressEscape() {
+    if (keyWindow() == nil)
+        return; // another program gets it
+    handleEvent({.window = keyWindow(), .key = escapeKey},
+                [] { [recordOf(keyWindow()).firstResponder keyDown:handledEvent()]; });
+}
+
+void minimizeWindow(std::size_t window) {
+    NSWindow* const minimized = ownWindows().at(window);
+    recordOf(minimized).state.isMiniaturized = true;
+    recordOf(minimized).state.isVisible = false;
+    handleNoEvent([&] { loseKeyboard(minimized); });
+}
 
 void closeWindow(std::size_t window) {
     handleNoEvent([&] { [ownWindows().at(window) close]; });
@@ -164,9 +181,14 @@ std::vector<WindowState> windows() {
     std::vector<WindowState> states;
     for (NSWindow* window : ownWindows()) {
         WindowState state = recordOf(window).state;
-        state.hasContent = window->m_contentView != nil;
+        NSView* const container = firstSubview(window->m_contentView);
         state.isKey = keyWindow() == window;
-        state.contentTakesKeys = takesKeys(window, window->m_contentView);
+        state.contentTakesKeys = takesKeys(window, container);
+        if (container != nil) {
+            const NSRect frame = [container frame];
+            state.contentFrame = {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
+            state.showsContent = showsQtsContent(firstSubview(container));
+        }
         states.push_back(state);
     }
     return states;

@@ -10,14 +10,50 @@ using Pins = std::set<std::string>;
 
 Objects& subviewsOf(NSView* view) { return *static_cast<Objects*>(view->m_subviews); }
 
-NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
-    NSLayoutAnchor* anchor = [[[NSLayoutAnchor alloc] init] autorelease];
+template <class Anchor> Anchor* makeAnchor(NSView* view, const char* edge) {
+    Anchor* anchor = [[[Anchor alloc] init] autorelease];
     anchor->m_view = view;
     anchor->m_edge = edge;
     return anchor;
 }
 
+/// What a change of its own size does to the views within.
+NSRect resized(NSRect frame, NSAutoresizingMaskOptions mask, NSSize before, NSSize after) {
+    if ((mask & NSViewWidthSizable) != 0)
+        frame.size.width += after.width - before.width;
+    if ((mask & NSViewHeightSizable) != 0)
+        frame.size.height += after.height - before.height;
+    return frame;
+}
+
+bool isWithin(NSResponder* responder, NSView* view) {
+    while (responder != nil && responder != view)
+        responder = [responder isKindOfClass:[NSView class]] ? ((NSView*)responder)->m_superview : nil;
+    return responder != nil;
+}
+
 } // namespace
+
+@implementation NSResponder
+- (NSResponder*)nextResponder {
+    return m_nextResponder;
+}
+- (void)setNextResponder:(NSResponder*)responder {
+    m_nextResponder = responder;
+}
+- (BOOL)acceptsFirstResponder {
+    return NO;
+}
+- (BOOL)becomeFirstResponder {
+    return YES;
+}
+- (BOOL)resignFirstResponder {
+    return YES;
+}
+- (void)keyDown:(NSEvent*)event {
+    [[self nextResponder] keyDown:event];
+}
+@end
 
 @implementation NSLayoutAnchor
 - (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor*)anchor {
@@ -26,6 +62,12 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
     constraint->m_second = anchor;
     return constraint;
 }
+@end
+
+@implementation NSLayoutXAxisAnchor
+@end
+
+@implementation NSLayoutYAxisAnchor
 @end
 
 @implementation NSLayoutConstraint
@@ -61,11 +103,27 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
     delete static_cast<Pins*>(m_pins);
     [super dealloc];
 }
+- (NSResponder*)nextResponder {
+    if (m_nextResponder != nil)
+        return m_nextResponder;
+    return m_superview != nil ? (NSResponder*)m_superview : (NSResponder*)m_window;
+}
+- (NSRect)frame {
+    return m_frame;
+}
 - (NSRect)bounds {
     return {{0, 0}, m_frame.size};
 }
 - (void)setFrame:(NSRect)frame {
-    m_frame = frame;
+    const NSSize before = std::exchange(m_frame, frame).size;
+    for (id view : subviewsOf(self))
+        [view setFrame:resized([view frame], ((NSView*)view) -> m_autoresizing, before, frame.size)];
+}
+- (BOOL)isHidden {
+    return m_isHidden;
+}
+- (void)setHidden:(BOOL)hidden {
+    m_isHidden = hidden;
 }
 - (void)setAutoresizingMask:(NSAutoresizingMaskOptions)mask {
     m_autoresizing = mask;
@@ -73,17 +131,17 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
 - (void)setTranslatesAutoresizingMaskIntoConstraints:(BOOL)translates {
     m_translatesAutoresizing = translates;
 }
-- (NSLayoutAnchor*)leadingAnchor {
-    return makeAnchor(self, "leading");
+- (NSLayoutXAxisAnchor*)leadingAnchor {
+    return makeAnchor<NSLayoutXAxisAnchor>(self, "leading");
 }
-- (NSLayoutAnchor*)trailingAnchor {
-    return makeAnchor(self, "trailing");
+- (NSLayoutXAxisAnchor*)trailingAnchor {
+    return makeAnchor<NSLayoutXAxisAnchor>(self, "trailing");
 }
-- (NSLayoutAnchor*)topAnchor {
-    return makeAnchor(self, "top");
+- (NSLayoutYAxisAnchor*)topAnchor {
+    return makeAnchor<NSLayoutYAxisAnchor>(self, "top");
 }
-- (NSLayoutAnchor*)bottomAnchor {
-    return makeAnchor(self, "bottom");
+- (NSLayoutYAxisAnchor*)bottomAnchor {
+    return makeAnchor<NSLayoutYAxisAnchor>(self, "bottom");
 }
 - (void)addSubview:(NSView*)view {
     desktop().expect(view != nil && view->m_superview == nil, "a view that is added twice, or none");
@@ -94,6 +152,9 @@ NSLayoutAnchor* makeAnchor(NSView* view, const char* edge) {
 - (void)removeFromSuperview {
     if (m_superview == nil)
         return;
+    NSWindow* const window = [self window];
+    if (window != nil && isWithin(recordOf(window).firstResponder, self))
+        [window makeFirstResponder:nil];
     std::erase(subviewsOf(m_superview), (id)self);
     m_superview = nil;
     [self release];

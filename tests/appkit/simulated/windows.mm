@@ -3,15 +3,6 @@
 using namespace orvelle::simulated;
 
 namespace orvelle::simulated {
-namespace {
-
-NSWindow*& keyWindowPlace() {
-    static NSWindow* window = nil;
-    return window;
-}
-
-} // namespace
-
 std::vector<NSWindow*>& allWindows() {
     static std::vector<NSWindow*> windows;
     return windows;
@@ -28,11 +19,14 @@ NSWindow* makeSystemWindow() {
     return window;
 }
 
-void setKeyWindow(NSWindow* window) { keyWindowPlace() = window; }
-NSWindow* keyWindow() { return keyWindowPlace(); }
+void fill(NSWindow* window, NSView* content) {
+    assign(window->m_contentView, content);
+    content->m_window = window;
+}
 
 } // namespace orvelle::simulated
 
+NSNotificationName const NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeKeyNotification";
 NSAppearanceName const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
 
 @implementation NSAppearance
@@ -63,14 +57,18 @@ NSAppearanceName const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
                                           .backing = backing,
                                           .isDeferred = defer != 0},
                                 .isProgramsOwn = true,
-                                .backingScale = desktop().script.backingScale};
+                                .backingScale = desktop().script.backingScale,
+                                .firstResponder = self};
     allWindows().push_back(self);
+    NSView* const content =
+        [[NSView alloc] initWithFrame:NSMakeRect(0, 0, contentRect.size.width, contentRect.size.height)];
+    fill(self, content);
+    [content release];
     return self;
 }
 - (void)dealloc {
     std::erase(allWindows(), self);
-    if (keyWindow() == self)
-        setKeyWindow(nil);
+    loseKeyboard(self);
     if (m_contentView != nil)
         m_contentView->m_window = nil;
     [m_contentView release];
@@ -103,9 +101,20 @@ NSAppearanceName const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
     recordOf(self).state.backgroundWhite = color->m_white;
     recordOf(self).state.backgroundAlpha = color->m_alpha;
 }
-- (void)setContentView:(NSView*)view {
-    assign(m_contentView, view);
-    view->m_window = self;
+- (void)setDelegate:(id<NSWindowDelegate>)delegate {
+    m_delegate = delegate;
+}
+- (NSView*)contentView {
+    return m_contentView;
+}
+/// Of a window of which the content fills all, without what the title covers.
+- (NSRect)contentLayoutRect {
+    constexpr CGFloat titleHeight = 28;
+    constexpr NSWindowStyleMask covered = NSWindowStyleMaskTitled | NSWindowStyleMaskFullSizeContentView;
+    NSRect rect = [m_contentView frame];
+    if ((recordOf(self).state.styleMask & covered) == covered)
+        rect.size.height -= titleHeight;
+    return rect;
 }
 - (void)center {
     recordOf(self).state.isCentered = true;
@@ -117,23 +126,46 @@ NSAppearanceName const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
 }
 - (void)makeKeyAndOrderFront:(id)sender {
     static_cast<void>(sender);
-    recordOf(self).state.isVisible = true;
-    ++recordOf(self).state.timesBroughtForward;
-    desktop().deeds.push_back("front " + recordOf(self).state.title);
-    [self makeKeyWindow];
+    WindowState& state = recordOf(self).state;
+    state.isVisible = !state.isMiniaturized && !desktop().isHidden;
+    ++state.timesBroughtForward;
+    desktop().deeds.push_back("front " + state.title);
+    if (state.isVisible)
+        [self makeKeyWindow];
 }
 - (void)makeKeyWindow {
-    setKeyWindow(self);
+    askForKeyboard(self);
 }
-- (BOOL)makeFirstResponder:(NSView*)view {
-    desktop().expect([view window] == self, "keys for a view of another window");
-    recordOf(self).firstResponder = view;
-    return YES;
+- (BOOL)isKeyWindow {
+    return keyWindow() == self;
+}
+- (BOOL)isMiniaturized {
+    return recordOf(self).state.isMiniaturized;
+}
+- (void)deminiaturize:(id)sender {
+    static_cast<void>(sender);
+    recordOf(self).state.isMiniaturized = false;
+    recordOf(self).state.isVisible = true;
+}
+- (BOOL)makeFirstResponder:(NSResponder*)responder {
+    NSResponder* const wanted = responder != nil ? responder : self;
+    desktop().expect(wanted == self || [(NSView*)wanted window] == self, "keys for a view of another window");
+    NSResponder*& present = recordOf(self).firstResponder;
+    if (wanted == present)
+        return YES; // and nobody is told
+    if (wanted != self && ![wanted acceptsFirstResponder])
+        return NO;
+    [present resignFirstResponder];
+    present = wanted;
+    return [present becomeFirstResponder];
 }
 - (void)close {
+    NSNotification* const notification = makeNotification(@"NSWindowWillCloseNotification", self);
+    if ([m_delegate respondsToSelector:@selector(windowWillClose:)])
+        [m_delegate windowWillClose:notification];
+    [notification release];
     recordOf(self).state.isVisible = false;
-    if (keyWindow() == self)
-        setKeyWindow(nil);
+    loseKeyboard(self);
     if (recordOf(self).state.isReleasedWhenClosed)
         [self release];
 }

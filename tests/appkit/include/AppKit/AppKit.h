@@ -4,6 +4,7 @@
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSImage.h>
 #include <AppKit/NSPopover.h>
+#include <AppKit/NSResponder.h>
 #include <AppKit/NSStatusBar.h>
 #include <AppKit/NSView.h>
 #include <AppKit/NSWindow.h>

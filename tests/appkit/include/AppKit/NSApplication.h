@@ -22,14 +22,19 @@ enum : NSEventModifierFlags { NSEventModifierFlagControl = 1 << 18 };
     NSEventType m_type;
     NSEventModifierFlags m_modifierFlags;
     NSWindow* m_window;
+    int m_key; ///< in Qt's terms, which the simulated view of Qt needs
 }
 - (NSEventType)type;
 - (NSEventModifierFlags)modifierFlags;
 - (NSWindow*)window;
 @end
 
-@interface NSApplication : NSObject
+@interface NSApplication : NSResponder
 - (NSEvent*)currentEvent;
+- (BOOL)isActive;
+- (BOOL)isHidden;
+- (void)hide:(id)sender;
+- (void)unhideWithoutActivation;
 - (void)activateIgnoringOtherApps:(BOOL)ignoring;
 @end
 

@@ -22,7 +22,7 @@ enum NSPopoverBehavior : NSInteger {
 - (void)popoverDidClose:(NSNotification*)notification;
 @end
 
-@interface NSPopover : NSObject {
+@interface NSPopover : NSResponder {
   @public
     NSSize m_contentSize;
     NSPopoverBehavior m_behavior;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Foundation/Foundation.h>
+#include <AppKit/NSResponder.h>
 
 @class NSLayoutConstraint;
 @class NSView;
@@ -17,6 +17,14 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor*)anchor;
 @end
 
+/// Along the x axis.
+@interface NSLayoutXAxisAnchor : NSLayoutAnchor
+@end
+
+/// Along the y axis.
+@interface NSLayoutYAxisAnchor : NSLayoutAnchor
+@end
+
 @interface NSLayoutConstraint : NSObject {
   @public
     NSLayoutAnchor* m_first;
@@ -25,7 +33,7 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (void)setActive:(BOOL)active;
 @end
 
-@interface NSView : NSObject {
+@interface NSView : NSResponder {
   @public
     NSRect m_frame;
     NSView* m_superview;
@@ -37,16 +45,20 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
     BOOL m_needsDisplay;
     NSString* m_identifier;
     NSString* m_accessibilityLabel;
+    BOOL m_isHidden;
 }
-- (id)initWithFrame:(NSRect)frame;
+- (instancetype)initWithFrame:(NSRect)frame;
+- (NSRect)frame;
 - (NSRect)bounds;
 - (void)setFrame:(NSRect)frame;
+- (BOOL)isHidden;
+- (void)setHidden:(BOOL)hidden;
 - (void)setAutoresizingMask:(NSAutoresizingMaskOptions)mask;
 - (void)setTranslatesAutoresizingMaskIntoConstraints:(BOOL)translates;
-- (NSLayoutAnchor*)leadingAnchor;
-- (NSLayoutAnchor*)trailingAnchor;
-- (NSLayoutAnchor*)topAnchor;
-- (NSLayoutAnchor*)bottomAnchor;
+- (NSLayoutXAxisAnchor*)leadingAnchor;
+- (NSLayoutXAxisAnchor*)trailingAnchor;
+- (NSLayoutYAxisAnchor*)topAnchor;
+- (NSLayoutYAxisAnchor*)bottomAnchor;
 - (void)addSubview:(NSView*)view;
 - (void)removeFromSuperview;
 - (NSWindow*)window;
@@ -59,7 +71,7 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (void)setAccessibilityLabel:(NSString*)label;
 @end
 
-@interface NSViewController : NSObject {
+@interface NSViewController : NSResponder {
   @public
     NSView* m_view;
 }

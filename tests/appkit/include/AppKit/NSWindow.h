@@ -32,17 +32,25 @@ extern "C" NSAppearanceName const NSAppearanceNameDarkAqua;
 + (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
 @end
 
-@interface NSWindow : NSObject {
+@protocol NSWindowDelegate <NSObject>
+@optional
+- (void)windowWillClose:(NSNotification*)notification;
+@end
+
+extern "C" NSNotificationName const NSWindowDidBecomeKeyNotification;
+
+@interface NSWindow : NSResponder {
   @public
     void* m_record; ///< what the tests ask for
     NSView* m_contentView;
     NSAppearance* m_appearance;
     NSColor* m_backgroundColor;
+    id<NSWindowDelegate> m_delegate; ///< not retained
 }
-- (id)initWithContentRect:(NSRect)contentRect
-                styleMask:(NSWindowStyleMask)style
-                  backing:(NSBackingStoreType)backing
-                    defer:(BOOL)defer;
+- (instancetype)initWithContentRect:(NSRect)contentRect
+                          styleMask:(NSWindowStyleMask)style
+                            backing:(NSBackingStoreType)backing
+                              defer:(BOOL)defer;
 - (void)setTitle:(NSString*)title;
 - (void)setTitlebarAppearsTransparent:(BOOL)transparent;
 - (void)setTitleVisibility:(NSWindowTitleVisibility)visibility;
@@ -50,12 +58,17 @@ extern "C" NSAppearanceName const NSAppearanceNameDarkAqua;
 - (void)setReleasedWhenClosed:(BOOL)released;
 - (void)setAppearance:(NSAppearance*)appearance;
 - (void)setBackgroundColor:(NSColor*)color;
-- (void)setContentView:(NSView*)view;
+- (void)setDelegate:(id<NSWindowDelegate>)delegate;
+- (NSView*)contentView;
+- (NSRect)contentLayoutRect;
 - (void)center;
 - (BOOL)setFrameAutosaveName:(NSString*)name;
 - (void)makeKeyAndOrderFront:(id)sender;
 - (void)makeKeyWindow;
-- (BOOL)makeFirstResponder:(NSView*)view;
+- (BOOL)isKeyWindow;
+- (BOOL)isMiniaturized;
+- (void)deminiaturize:(id)sender;
+- (BOOL)makeFirstResponder:(NSResponder*)responder;
 - (void)close;
 - (CGFloat)backingScaleFactor;
 - (NSWindowOcclusionState)occlusionState;

@@ -21,6 +21,7 @@ inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
 
 @protocol NSObject
 - (BOOL)respondsToSelector:(SEL)selector;
+- (BOOL)isKindOfClass:(Class)aClass;
 @end
 
 __attribute__((objc_root_class))
@@ -35,6 +36,7 @@ __attribute__((objc_root_class))
 - (id)autorelease;
 - (void)dealloc;
 - (BOOL)respondsToSelector:(SEL)selector;
+- (BOOL)isKindOfClass:(Class)aClass;
 - (id)performSelector:(SEL)selector withObject:(id)object;
 - (id)performSelector:(SEL)selector withObject:(id)first withObject:(id)second;
 @end
@@ -64,12 +66,23 @@ __attribute__((objc_root_class))
 @end
 
 @class NSError;
-@class NSNotification;
+
+typedef NSString* NSNotificationName;
+
+@interface NSNotification : NSObject {
+  @public
+    NSString* m_name;
+    id m_object;
+}
+- (NSNotificationName)name;
+- (id)object;
+@end
 
 @interface NSURL : NSObject
 @end
 
 @interface NSNotificationCenter : NSObject
++ (NSNotificationCenter*)defaultCenter;
 - (void)addObserver:(id)observer selector:(SEL)selector name:(NSString*)name object:(id)object;
 - (void)removeObserver:(id)observer;
 @end
