@@ -22,14 +22,6 @@ startOrvelle() {
     waitUntil "the bar appears" windowIsShown '^Orvelle$' || cat "$workDirectory/orvelle.log"
 }
 
-# expectEnd DESCRIPTION: expects that the program ends by itself, with status 0.
-expectEnd() {
-    programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
-    waitUntil "$1" programIsGone || return
-    wait "$orvellePid"
-    expectEqual "the program ends with status" 0 $?
-}
-
 # clickAt BUTTON X Y: clicks at a point of a screen at the origin.
 clickAt() { xdotool mousemove "$(pixels "$2")" "$(pixels "$3")" click "$1"; }
 pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%d", points * scale }'; }
@@ -122,7 +114,7 @@ testClickOnBar() {
 testQuit() {
     openMenu
     xdotool key "$@"
-    expectEnd "the keys $* in the menu end the program"
+    expectEnd "the keys $* in the menu end the program" 0
 }
 
 testQuitWithTheMouse() {
@@ -131,7 +123,7 @@ testQuitWithTheMouse() {
     IFS=', x' read -r left top _ < <(geometry "$(menuWindow)")
     # The middle of the last entry lies below a margin of 5 points, another entry of 24 and a separator of 11.
     xdotool mousemove $((left + 30)) $((top + $(pixels 52))) click 1
-    expectEnd "a click on the entry ends the program"
+    expectEnd "a click on the entry ends the program" 0
 }
 
 start_x_server 1280x800 && start_window_manager || exit 1

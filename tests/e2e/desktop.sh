@@ -84,13 +84,27 @@ expectEqual() {
     fi
 }
 
-# launch LOG COMMAND...: runs the command in the background; sets orvellePid. LOG gets its complaints and is emptied
-# first.
+# launch LOG COMMAND...: runs the program by this command in the background; sets orvellePid and orvelleLog. LOG gets its
+# complaints and is emptied first.
 launch() {
-    : >"$1"
-    "${@:2}" 2>>"$1" &
+    orvelleLog=$1
+    : >"$orvelleLog"
+    "${@:2}" 2>>"$orvelleLog" &
     orvellePid=$!
     ownedPids+=("$orvellePid")
+}
+
+programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
+
+# expectEnd DESCRIPTION STATUS: expects that the program ends by itself and without findings of the sanitizers.
+expectEnd() {
+    local status
+    waitUntil "$1" programIsGone || return
+    wait "$orvellePid"
+    status=$?
+    expectEqual "$1 with status" "$2" "$status"
+    expectEqual "$1 without a report of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$orvelleLog")"
+    [[ $status == "$2" ]] || cat "$orvelleLog"
 }
 
 # awaitAnswer CLIENT: waits until the program has handled all earlier keys and clicks.

@@ -19,24 +19,12 @@ panelIsShown() {
     done
     return 1
 }
-programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
 
 startOrvelle() {
     launch "$log" "$orvelle"
     waitUntil "the bar appears" barIsShown || cat "$log"
 }
 clickLastItem() { xdotool mousemove $((1280 - 8 - 30)) 11 click "$1"; }
-
-# expectEnd DESCRIPTION STATUS: expects that the program ends by itself and without findings of the sanitizers.
-expectEnd() {
-    local status
-    waitUntil "$1" programIsGone || return
-    wait "$orvellePid"
-    status=$?
-    expectEqual "$1 with status" "$2" "$status"
-    expectEqual "$1 without a report of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$log")"
-    [[ $status == "$2" ]] || cat "$log"
-}
 
 start_x_server 1280x800 && start_window_manager || exit 1
 

@@ -58,14 +58,9 @@ startOrvelle() {
     waitUntil "it answers the session manager" isSeen saved
 }
 
-programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
-# expectEnd DESCRIPTION: expects that the program ends by itself, with status 0 and without complaints.
-expectEnd() {
-    local status
-    waitUntil "$1" programIsGone || return
-    wait "$orvellePid"
-    status=$?
-    expectEqual "$1 with status" 0 "$status"
+# expectEndOfSession DESCRIPTION: expects that the program ends by itself, with status 0 and without complaints.
+expectEndOfSession() {
+    expectEnd "$1" 0
     expectEqual "$1 without a complaint" "" "$(grep -v '^orvelle.sample: ' "$log")"
     waitUntil "and leaves the session" isSeen left
     expectEqual "$1 without a question" 0 "$(timesSeen interacts)"
@@ -98,7 +93,7 @@ testLogout() {
     isMoved() { [[ $(geometry "$(settingsWindow)") == *" 500x520" ]]; }
     waitUntil "the settings window is moved" isMoved
     order die
-    expectEnd "the end of the session ends the program"
+    expectEndOfSession "the end of the session ends the program"
     expectEqual "a setting is kept" showCPU=false "$(grep '^showCPU=' "$settingsFile")"
     grep -q '^OrvelleSettings=.* 500 520"$' "$stateFile" || fail "the window's place is kept, not $(cat "$stateFile")"
     endSessionManager
@@ -119,7 +114,7 @@ testCancelledLogout() {
     order logout
     waitUntil "the program is ready for a second logout" isSeen saved 3
     order die
-    expectEnd "the end of the session ends the program with its panel open"
+    expectEndOfSession "the end of the session ends the program with its panel open"
     endSessionManager
 }
 
@@ -145,7 +140,7 @@ testRestart() {
     order logout
     waitUntil "the program is ready for the logout" isSeen saved 3
     order die
-    expectEnd "the end of the session ends the program"
+    expectEndOfSession "the end of the session ends the program"
     endSessionManager
 }
 

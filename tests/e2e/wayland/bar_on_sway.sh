@@ -29,7 +29,6 @@ expectBar() {
     expectFreeSpace "$output" "$left,22 ${width}x$((height - 22))" && waitUntil "the bar is painted" barIsPainted
 }
 barIsPainted() { colorsAre "$output" "$(part 100 4 0 0)" 1E1E20; }
-programIsGone() { ! kill -0 "$orvellePid" 2>/dev/null; }
 
 # The test asked for the first kind of lines. Qt prints the second one when the last output goes.
 complaints() { grep -v -e '^orvelle.open: ' -e 'Creating a fake screen in order for Qt not to crash' "$log"; }
@@ -39,17 +38,6 @@ endOrvelle() {
     wait "$orvellePid"
     expectEqual "SIGTERM ends the program with status" 0 $?
     expectEqual "it has nothing to complain of" "" "$(complaints)"
-}
-
-# expectEnd DESCRIPTION STATUS: expects that the program ends by itself and without findings of the sanitizers.
-expectEnd() {
-    local status
-    waitUntil "$1" programIsGone || return
-    wait "$orvellePid"
-    status=$?
-    expectEqual "$1 with status" "$2" "$status"
-    expectEqual "$1 without a report of the sanitizers" "" "$(grep -E 'Sanitizer|runtime error' "$log")"
-    [[ $status == "$2" ]] || cat "$log"
 }
 
 # itemMiddle NUMBER: in points of the desktop, while all items are shown.
