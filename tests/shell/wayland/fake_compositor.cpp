@@ -59,6 +59,7 @@ FakeCompositor::FakeCompositor(const FakeOffers& offers)
     offerViewporter(*this, offers.viewporter);
     offerFractionalScale(*this, offers.fractionalScale);
     offerXdgOutput(*this, offers.xdgOutput);
+    offerXdgShell(*this, offers.xdgShell);
     connect(&m_readable, &QSocketNotifier::activated, this, &FakeCompositor::dispatch);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             [this] { wl_display_flush_clients(m_display); });
@@ -170,6 +171,9 @@ void FakeCompositor::remove(const FakeSurface& surface) {
 
 void FakeCompositor::endRole(FakeSurface& surface) {
     surface.layerResource = nullptr;
+    // From 6.11 on Qt keeps the surface of a hidden window, which may get a role again.
+    surface.pictures = 0;
+    surface.acknowledged = 0;
     if (m_seat && m_seat->isFocused(surface))
         m_seat->focus(nullptr);
 }

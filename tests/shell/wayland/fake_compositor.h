@@ -26,6 +26,7 @@ struct FakeOffers {
     std::uint32_t viewporter = 1;
     std::uint32_t fractionalScale = 1;
     std::uint32_t xdgOutput = 3;
+    std::uint32_t xdgShell = 1;
 };
 
 struct FakeOutput {

@@ -1,44 +1,14 @@
 #include "shell/wayland/fake_protocol.h"
 
-#include "shell/wayland/fake_compositor.h"
+#include "shell/wayland/fake_resources.h"
 
 #include <fractional-scale-v1-server-protocol.h>
 #include <viewporter-server-protocol.h>
 #include <wayland-server.h>
 #include <wlr-layer-shell-unstable-v1-server-protocol.h>
-#include <xdg-output-unstable-v1-server-protocol.h>
 
 namespace orvelle {
 namespace {
-
-FakeCompositor& compositorOf(wl_resource* resource) {
-    return *static_cast<FakeCompositor*>(wl_resource_get_user_data(resource));
-}
-
-FakeSurface& surfaceOf(wl_resource* resource) {
-    return *static_cast<FakeSurface*>(wl_resource_get_user_data(resource));
-}
-
-/// A global whose bindings have these functions, and the compositor as their data.
-template <const wl_interface& interface, auto& functions>
-void offer(FakeCompositor& compositor, std::uint32_t version) {
-    if (version == 0)
-        return;
-    wl_global_create(compositor.display(), &interface, static_cast<int>(version), &compositor,
-                     [](wl_client* client, void* data, std::uint32_t bound, std::uint32_t id) {
-                         wl_resource* resource =
-                             wl_resource_create(client, &interface, static_cast<int>(bound), id);
-                         wl_resource_set_implementation(resource, &functions, data, nullptr);
-                     });
-}
-
-wl_resource* makeResource(wl_client* client, wl_resource* parent, const wl_interface& interface,
-                          std::uint32_t id, const void* functions, void* data,
-                          wl_resource_destroy_func_t ended = nullptr) {
-    wl_resource* resource = wl_resource_create(client, &interface, wl_resource_get_version(parent), id);
-    wl_resource_set_implementation(resource, functions, data, ended);
-    return resource;
-}
 
 const struct wl_region_interface regionFunctions = [] {
     struct wl_region_interface functions{};
@@ -178,35 +148,7 @@ const struct wp_fractional_scale_manager_v1_interface scalesFunctions = [] {
     return functions;
 }();
 
-const struct zxdg_output_v1_interface xdgOutputFunctions{destroyResource};
-
-const struct zxdg_output_manager_v1_interface xdgOutputsFunctions = [] {
-    struct zxdg_output_manager_v1_interface functions{};
-    functions.destroy = destroyResource;
-    functions.get_xdg_output = [](wl_client* client, wl_resource* resource, std::uint32_t id,
-                                  wl_resource* wlOutput) {
-        FakeOutput* output = compositorOf(resource).outputOf(wlOutput);
-        wl_resource* size = makeResource(
-            client, resource, zxdg_output_v1_interface, id, &xdgOutputFunctions, output,
-            [](wl_resource* ended) {
-                std::erase(static_cast<FakeOutput*>(wl_resource_get_user_data(ended))->sizeResources, ended);
-            });
-        output->sizeResources.push_back(size);
-        describeSize(size, *output);
-        if (wl_resource_get_version(wlOutput) >= WL_OUTPUT_DONE_SINCE_VERSION)
-            wl_output_send_done(wlOutput);
-    };
-    return functions;
-}();
-
 } // namespace
-
-void describeSize(wl_resource* resource, const FakeOutput& output) {
-    zxdg_output_v1_send_logical_position(resource, 0, 0);
-    zxdg_output_v1_send_logical_size(resource, output.size.width(), output.size.height());
-    if (wl_resource_get_version(resource) < 3)
-        zxdg_output_v1_send_done(resource);
-}
 
 void destroyResource(wl_client* /*client*/, wl_resource* resource) {
     wl_resource_destroy(resource);
@@ -222,10 +164,6 @@ void offerLayerShell(FakeCompositor& compositor, std::uint32_t version) {
 
 void offerViewporter(FakeCompositor& compositor, std::uint32_t version) {
     offer<wp_viewporter_interface, viewporterFunctions>(compositor, version);
-}
-
-void offerXdgOutput(FakeCompositor& compositor, std::uint32_t version) {
-    offer<zxdg_output_manager_v1_interface, xdgOutputsFunctions>(compositor, version);
 }
 
 void offerFractionalScale(FakeCompositor& compositor, std::uint32_t version) {

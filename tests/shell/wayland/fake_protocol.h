@@ -17,6 +17,8 @@ void offerLayerShell(FakeCompositor& compositor, std::uint32_t version);
 void offerViewporter(FakeCompositor& compositor, std::uint32_t version);
 void offerFractionalScale(FakeCompositor& compositor, std::uint32_t version);
 void offerXdgOutput(FakeCompositor& compositor, std::uint32_t version);
+/// It refuses every window.
+void offerXdgShell(FakeCompositor& compositor, std::uint32_t version);
 
 /// Tells an object of xdg-output the size in points.
 void describeSize(wl_resource* resource, const FakeOutput& output);

@@ -25,7 +25,7 @@ struct FakeSurface {
     FakeCompositor* compositor = nullptr;
     wl_resource* resource = nullptr;
     int commits = 0;
-    int pictures = 0;       ///< commits with a buffer
+    int pictures = 0;       ///< commits with a buffer, since the surface has its role
     int frameCallbacks = 0; ///< requests for the compositor's next frame
     QImage picture;         ///< null before the first one
     int bufferScale = 1;
