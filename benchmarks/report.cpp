@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 

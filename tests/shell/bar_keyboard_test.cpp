@@ -1,4 +1,5 @@
 #include "announcements.h"
+#include "shell/painted/bar_window.h"
 #include "shell/x11/x11_bar_focus.h"
 #include "support/waiting.h"
 

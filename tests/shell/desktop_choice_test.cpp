@@ -1,5 +1,6 @@
 #include "shell/linux/desktop_choice.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
 namespace orvelle {
