@@ -1,6 +1,5 @@
 #include "menu_bar/battery_glyph.h"
 
-#include "theme/colors.h"
 #include "theme/device_pixels.h"
 
 #include <algorithm>
@@ -22,11 +21,11 @@ constexpr double leadingMargin = 1;
 
 /// Draws an outline of one point along the edge of the body. If its width is an odd number of device pixels,
 /// the line moves inwards by half a pixel; otherwise it would blur over two.
-void paintOutline(QPainter& painter, const QRectF& body) {
+void paintOutline(QPainter& painter, const QRectF& body, const QColor& color) {
     const double pixelsPerPoint = devicePixelsPerPoint(painter);
     const double linePixels = std::max(1.0, std::round(outlineWidth * pixelsPerPoint));
     const double inset = std::fmod(linePixels, 2) == 0 ? 0 : 0.5 / pixelsPerPoint;
-    painter.setPen(QPen(LabelColors::primary, linePixels / pixelsPerPoint));
+    painter.setPen(QPen(color, linePixels / pixelsPerPoint));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(body.adjusted(inset, inset, -inset, -inset), bodyCornerRadius, bodyCornerRadius);
 }
@@ -39,11 +38,11 @@ void paintFill(QPainter& painter, const QRectF& body, double charge, const QColo
     painter.drawRoundedRect(fill, fillCornerRadius, fillCornerRadius);
 }
 
-void paintTerminal(QPainter& painter, const QRectF& body) {
+void paintTerminal(QPainter& painter, const QRectF& body, const QColor& color) {
     const QRectF terminal({body.right() + terminalGap, body.center().y() - terminalSize.height() / 2},
                           terminalSize);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(LabelColors::primary);
+    painter.setBrush(color);
     painter.drawRoundedRect(terminal, 1, 1);
 }
 
@@ -58,13 +57,15 @@ QSizeF batteryGlyphSize() {
     return {leadingMargin + bodySize.width() + terminalGap + terminalSize.width(), bodySize.height()};
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery) {
+void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery,
+                BarAppearance appearance) {
+    const QColor outline = colorOnBar(primaryLabel, appearance);
     const QRectF body(frame.topLeft() + QPointF(leadingMargin, 0), bodySize);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     paintFill(painter, body, battery.charge, battery.color);
-    paintOutline(painter, body);
-    paintTerminal(painter, body);
+    paintOutline(painter, body, outline);
+    paintTerminal(painter, body, outline);
     painter.restore();
 }
 

@@ -13,6 +13,7 @@ namespace orvelle {
 [[nodiscard]] double batteryFillWidth(double charge);
 
 /// A battery of 20 x 10 points with a terminal of 2 x 5, outlined in the primary label colour.
-void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery);
+void paintShape(QPainter& painter, const QRectF& frame, const BatteryShape& battery,
+                BarAppearance appearance);
 
 } // namespace orvelle

@@ -41,7 +41,8 @@ void paintIcon(QPainter& painter, const QRectF& square, const SceneNode& body) {
     painter.setBrush(plateColor);
     painter.drawRoundedRect(square, plateRadius, plateRadius);
     painter.restore();
-    paintScene(painter, square.adjusted(plateMargin, plateMargin, -plateMargin, -plateMargin), body);
+    paintScene(painter, square.adjusted(plateMargin, plateMargin, -plateMargin, -plateMargin), body,
+               BarAppearance::dark);
 }
 
 SceneNode iconSymbol(const QString& symbol, const QColor& color) {
@@ -55,7 +56,7 @@ SceneNode iconSymbolAndLevel(const QString& symbol, double fraction, const QColo
 SceneNode iconDigitsAndLevel(double fraction, const QColor& color) {
     const double percent = std::clamp(std::round(fraction * 100), 0.0, 100.0);
     const QFont font = monospacedSystemFont(digitsSize, QFont::Bold);
-    return aboveLevel(textNode(QString::number(percent), font, LabelColors::primary), fraction, color);
+    return aboveLevel(textNode(QString::number(percent), font, primaryLabel), fraction, color);
 }
 
 SceneNode iconBars(const QList<double>& loads, const QColor& color) {

@@ -52,8 +52,9 @@ ItemPresenter::ItemPresenter(StatusItem& item, AnimationClock& clock)
     : m_item(item)
     , m_clock(clock)
     , m_easing(clock, [this](double seconds) { step(seconds); }) {
-    m_item.setPaint(
-        [this](QPainter& painter, const QRectF& bounds) { paintScene(painter, bounds, m_shown); });
+    m_item.setPaint([this](QPainter& painter, const QRectF& bounds, BarAppearance appearance) {
+        paintScene(painter, bounds, m_shown, appearance);
+    });
 }
 
 void ItemPresenter::show(const ItemScene& scene) {

@@ -2,6 +2,7 @@
 
 #include "charts/bar_look.h"
 #include "charts/sparkline_view.h"
+#include "menu_bar/label_color.h"
 
 #include <QColor>
 #include <QFont>
@@ -28,7 +29,7 @@ struct SymbolShape {
 struct TextShape {
     QString text;
     QFont font = {};
-    QColor color = {};
+    TextColor color = {};
 
     bool operator==(const TextShape&) const = default;
 };

@@ -21,12 +21,12 @@ SceneNode iconNode(const QString& name, const QColor& color) {
     return symbolNode(name, iconFontSize, color);
 }
 
-SceneNode textNode(const QString& text, const QFont& font, const QColor& color) {
+SceneNode textNode(const QString& text, const QFont& font, const TextColor& color) {
     return {TextShape{.text = text, .font = font, .color = color}};
 }
 
 SceneNode valueNode(const QString& text, double fontSize) {
-    return textNode(text, monospacedSystemFont(fontSize, QFont::Medium), LabelColors::primary);
+    return textNode(text, monospacedSystemFont(fontSize, QFont::Medium), primaryLabel);
 }
 
 SceneNode dotsNode(const QList<QColor>& colors, double diameter) {

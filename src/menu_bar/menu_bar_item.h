@@ -52,7 +52,7 @@ inline constexpr double smallValueFontSize = 10;
 /// The module's icon in the module's colour.
 [[nodiscard]] SceneNode iconNode(const QString& name, const QColor& color);
 
-[[nodiscard]] SceneNode textNode(const QString& text, const QFont& font, const QColor& color);
+[[nodiscard]] SceneNode textNode(const QString& text, const QFont& font, const TextColor& color);
 
 /// A value in the primary label colour, medium and monospaced.
 [[nodiscard]] SceneNode valueNode(const QString& text, double fontSize = valueFontSize);

@@ -15,15 +15,15 @@ constexpr double rateFontSize = 8;
 
 SceneNode bareRate(double bytesPerSecond) {
     return textNode(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize, QFont::Medium),
-                    withOpacity(LabelColors::primary, 0.7));
+                    LabelColor{0.7});
 }
 
 SceneNode rateWithArrow(const QString& arrow, double bytesPerSecond, const QColor& color) {
     constexpr double arrowFontSize = 6;
     constexpr double arrowSpacing = 1;
     constexpr double opacity = 0.8;
-    const SceneNode rate = textNode(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize),
-                                    withOpacity(LabelColors::primary, opacity));
+    const SceneNode rate =
+        textNode(formatRateCompact(bytesPerSecond), monospacedSystemFont(rateFontSize), LabelColor{opacity});
     return row({symbolNode(arrow, arrowFontSize, withOpacity(color, opacity)), rate}, arrowSpacing);
 }
 

@@ -33,11 +33,12 @@ QRectF onWholePixels(const QPainter& painter, const QRectF& bar, double gap) {
     return {left, bar.top(), right - left, bar.height()};
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const SymbolShape& symbol) {
+void paintShape(QPainter& painter, const QRectF& frame, const SymbolShape& symbol,
+                BarAppearance /*appearance*/) {
     paintSymbol(painter, symbol.name, frame.center(), symbol.fontSize, symbol.color);
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const TextShape& text) {
+void paintShape(QPainter& painter, const QRectF& frame, const TextShape& text, BarAppearance appearance) {
     const TextExtent& extent = textExtent(text);
     const QPointF baseline(frame.left(), frame.center().y() + extent.capHeight / 2);
     painter.save();
@@ -46,12 +47,13 @@ void paintShape(QPainter& painter, const QRectF& frame, const TextShape& text) {
     if (frame.width() < extent.size.width())
         painter.scale(frame.width() / extent.size.width(), 1);
     painter.setFont(text.font);
-    painter.setPen(text.color);
+    painter.setPen(colorOnBar(text.color, appearance));
     painter.drawText(QPointF(0, 0), text.text);
     painter.restore();
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const CoreBarsShape& bars) {
+void paintShape(QPainter& painter, const QRectF& frame, const CoreBarsShape& bars,
+                BarAppearance /*appearance*/) {
     const QList<QRectF> places = coreBarSlots(bars.levels.size(), coreBarsFrame(bars));
     const double gap = places.size() > 1 ? places.at(1).left() - places.at(0).right() : 1;
     for (qsizetype core = 0; core < places.size(); ++core) {
@@ -60,7 +62,7 @@ void paintShape(QPainter& painter, const QRectF& frame, const CoreBarsShape& bar
     }
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const LevelBarShape& bar) {
+void paintShape(QPainter& painter, const QRectF& frame, const LevelBarShape& bar, BarAppearance appearance) {
     const QPainterPath track = roundedRect(frame, bar.cornerRadius);
     const double width = frame.width() * std::clamp(bar.level.look.ratio, 0.0, 1.0);
     QPainterPath level = roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, bar.cornerRadius);
@@ -69,12 +71,12 @@ void paintShape(QPainter& painter, const QRectF& frame, const LevelBarShape& bar
         level = level.intersected(track);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(track, withOpacity(LabelColors::primary, trackOpacity));
+    painter.fillPath(track, colorOnBar(LabelColor{trackOpacity}, appearance));
     painter.fillPath(level, withOpacity(bar.level.look.color, levelOpacity));
     painter.restore();
 }
 
-void paintShape(QPainter& painter, const QRectF& frame, const DotsShape& dots) {
+void paintShape(QPainter& painter, const QRectF& frame, const DotsShape& dots, BarAppearance /*appearance*/) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -89,16 +91,17 @@ void paintShape(QPainter& painter, const QRectF& frame, const DotsShape& dots) {
 
 /// Snaps to device pixels. Halves round to the left, so that the last shape of a row that just fits stays
 /// inside.
-void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame);
+void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame, BarAppearance appearance);
 
 /// Paints a shape within `frame`, which has the shape's height and at most its width.
 struct Painter {
     QPainter& painter;
     const QRectF& frame;
+    BarAppearance appearance;
 
     template <class Shape>
     void operator()(const Shape& shape) const {
-        paintShape(painter, frame, shape);
+        paintShape(painter, frame, shape, appearance);
     }
     void operator()(const SparklineView& line) const { line.paint(painter, frame); }
     void operator()(const DualSparklineView& lines) const { lines.paint(painter, frame); }
@@ -110,7 +113,7 @@ struct Painter {
         for (const SceneNode& node : row.nodes) {
             const Extent extent = extentOf(node);
             const QSizeF size(condensedWidth(extent, share), extent.size.height());
-            paintSnapped(painter, node, {{left, frame.center().y() - size.height() / 2}, size});
+            paintSnapped(painter, node, {{left, frame.center().y() - size.height() / 2}, size}, appearance);
             left += size.width() + gap;
         }
     }
@@ -121,16 +124,17 @@ struct Painter {
             const QSizeF size(std::min(extent.size.width(), frame.width()), extent.size.height());
             const double slack = frame.width() - size.width();
             const bool isCentred = column.alignment == ColumnAlignment::center;
-            paintSnapped(painter, node, {{frame.left() + (isCentred ? slack / 2 : slack), top}, size});
+            paintSnapped(painter, node, {{frame.left() + (isCentred ? slack / 2 : slack), top}, size},
+                         appearance);
             top += size.height() + column.spacing;
         }
     }
 };
 
-void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame) {
+void paintSnapped(QPainter& painter, const SceneNode& node, const QRectF& frame, BarAppearance appearance) {
     const QPointF almostHalfAPixel(0.49 / devicePixelsPerPoint(painter), 0);
     const QRectF snapped(snappedToDevicePixels(painter, frame.topLeft() - almostHalfAPixel), frame.size());
-    std::visit(Painter{painter, snapped}, node.shape);
+    std::visit(Painter{painter, snapped, appearance}, node.shape);
 }
 
 /// A scene that exceeds its place by less than this, in points, is not scaled down. Scaling would blur it,
@@ -143,7 +147,7 @@ double scaleToFit(double extent, double room) {
 
 } // namespace
 
-void paintScene(QPainter& painter, const QRectF& bounds, const SceneNode& scene) {
+void paintScene(QPainter& painter, const QRectF& bounds, const SceneNode& scene, BarAppearance appearance) {
     const Extent extent = extentOf(scene);
     if (extent.size.isEmpty())
         return;
@@ -156,7 +160,7 @@ void paintScene(QPainter& painter, const QRectF& bounds, const SceneNode& scene)
     painter.translate(bounds.center());
     painter.scale(scale, scale);
     const QSizeF size(std::min(extent.size.width(), bounds.width() / scale), extent.size.height());
-    paintSnapped(painter, scene, {{-size.width() / 2, -size.height() / 2}, size});
+    paintSnapped(painter, scene, {{-size.width() / 2, -size.height() / 2}, size}, appearance);
     painter.restore();
 }
 

@@ -23,8 +23,8 @@ ItemScene SensorMenuBarItem::body() const {
 IconScene SensorMenuBarItem::icon() const {
     const double celsius = m_monitor.cpuTemperature();
     // Opaque, because a translucent number this small is hard to read.
-    const QColor color =
-        celsius > 0 ? QColor(temperatureColor(celsius, moduleColor()).rgb()) : LabelColors::secondary;
+    const TextColor color = celsius > 0 ? TextColor(QColor(temperatureColor(celsius, moduleColor()).rgb()))
+                                        : TextColor(secondaryLabel);
     const QFont font = monospacedSystemFont(valueFontSize, QFont::Bold);
     return {.body = textNode(temperatureText(celsius), font, color),
             .label = temperatureText(celsius),
@@ -43,7 +43,7 @@ SceneNode SensorMenuBarItem::picture() const {
     const SceneNode icon = iconNode(QStringLiteral("thermometer.medium"), color);
     const SceneNode text =
         textNode(temperatureText(celsius), monospacedSystemFont(smallValueFontSize, QFont::Medium),
-                 celsius > 0 ? color : LabelColors::secondary);
+                 celsius > 0 ? TextColor(color) : TextColor(secondaryLabel));
     switch (m_settings.menuBarDisplayStyle()) {
     case MenuBarDisplayStyle::miniBars:
     case MenuBarDisplayStyle::textOnly:

@@ -10,6 +10,12 @@ namespace orvelle {
 /// The button of a mouse that a click is made with; others are ignored.
 enum class ClickButton { left, right };
 
+/// How the bar looks where its items are painted.
+enum class BarAppearance { dark, light };
+
+/// Paints an item within a rectangle in points, 22 points high.
+using ItemPaint = std::function<void(QPainter&, const QRectF&, BarAppearance)>;
+
 /// An item where the desktop has room for a square picture alone, and perhaps for a short text beside it.
 struct ItemIcon {
     /// Paints the picture within a square in points, 22 points wide. Its surroundings may be dark or light.
@@ -30,9 +36,9 @@ public:
     /// Width in points; it never follows the content.
     [[nodiscard]] virtual double length() const = 0;
 
-    /// Sets the function that paints the item within a rectangle in points, 22 points high. Until then the
-    /// item is empty.
-    virtual void setPaint(std::function<void(QPainter&, const QRectF&)> paint) = 0;
+    /// Sets the function that paints the item. Until then the item is empty. It is also called when the bar
+    /// has become dark or light.
+    virtual void setPaint(ItemPaint paint) = 0;
 
     /// Has this item alone painted again, soon.
     virtual void repaint() = 0;

@@ -22,9 +22,7 @@ public:
             , m_length(length) {}
         [[nodiscard]] const QString& identifier() const override { return m_identifier; }
         [[nodiscard]] double length() const override { return m_length; }
-        void setPaint(std::function<void(QPainter&, const QRectF&)> newPaint) override {
-            paint = std::move(newPaint);
-        }
+        void setPaint(ItemPaint newPaint) override { paint = std::move(newPaint); }
         void repaint() override { ++repaintCount; }
         void setWords(const QString& newName, const QString& newText) override {
             accessibleName = newName;
@@ -40,7 +38,7 @@ public:
         bool hasIcon = false;
         ItemIcon icon;
         std::function<void(ClickButton)> click;
-        std::function<void(QPainter&, const QRectF&)> paint;
+        ItemPaint paint;
         int repaintCount = 0;
         QString accessibleName;
         QString accessibleText;

@@ -61,4 +61,6 @@ plant "activated by Qt" macos_desktop.mm '/qputenv/d'
 plant "places belong to numbers" macos_status_item.mm '/setAutosaveName/d'
 plant "a dragged item forgets its place" macos_status_item.mm '/setObject:position/s/^/if (false) /'
 plant "items in the reverse order" macos_status_bar.mm 's/addsItemsOnTheLeft() const override { return true; }/addsItemsOnTheLeft() const override { return false; }/'
+plant "white on every menu bar" click_through_hosting_view.mm 's/? BarAppearance::light/? BarAppearance::dark/'
+plant "not drawn again on a light bar" click_through_hosting_view.mm '/viewDidChangeEffectiveAppearance\]/{n;d}'
 exit $unnoticed

@@ -13,7 +13,7 @@ using namespace simulated;
 const std::vector<std::string> everyKey{"cpu", "memory", "network", "disk", "battery", "sensor"};
 const std::set<std::string> everyEdge{"leading", "trailing", "top", "bottom"};
 
-void paintHalfRed(QPainter& painter, const QRectF& bounds) {
+void paintHalfRed(QPainter& painter, const QRectF& bounds, BarAppearance /*appearance*/) {
     painter.fillRect(QRectF(bounds.topLeft(), QSizeF(bounds.width(), bounds.height() / 2)),
                      QColor(255, 0, 0));
 }
@@ -102,6 +102,38 @@ TEST_F(StatusItemsTest, AreDrawnAgainOnAnotherScreen) {
     const std::optional<Drawing> drawing = draw(0);
     ASSERT_TRUE(drawing);
     EXPECT_EQ(drawing->width, 60U);
+}
+
+/// Opaque where it is painted, in white or in black.
+QRgb labelColor(const Drawing& drawing) {
+    for (const std::uint32_t pixel : drawing.pixels) {
+        if (pixel == 0xffffffffU || pixel == 0xff000000U)
+            return pixel;
+    }
+    return 0;
+}
+
+TEST_F(StatusItemsTest, AreWrittenInWhiteOnADarkMenuBarAndInBlackOnALightOne) {
+    program().settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
+    for (const bool isDark : {true, false}) {
+        desktop().script.isMenuBarDark = isDark;
+        launch();
+        const std::optional<Drawing> drawing = draw(memoryItem);
+        ASSERT_TRUE(drawing);
+        EXPECT_EQ(labelColor(*drawing), isDark ? 0xffffffffU : 0xff000000U);
+        end();
+        program().settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
+    }
+}
+
+TEST_F(StatusItemsTest, AreDrawnAgainWhenTheMenuBarBecomesLight) {
+    program().settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
+    launch();
+    ASSERT_TRUE(draw(memoryItem));
+    changeMenuBar(false);
+    const std::optional<Drawing> drawing = draw(memoryItem);
+    ASSERT_TRUE(drawing);
+    EXPECT_EQ(labelColor(*drawing), 0xff000000U);
 }
 
 TEST_F(StatusItemsTest, AreDrawnAgainWhenTheirValuesChange) {

@@ -16,14 +16,19 @@ protected:
     void expectGolden(Sheet sheet) const {
         // A light background would show too little more to justify another picture.
         sheet.backgrounds = {SheetBackground::dark};
+        expectGoldenAsItIs(sheet);
+    }
+
+    static void expectGoldenAsItIs(const Sheet& sheet) {
         expectGoldenPicture(sheetImage(sheet, GetParam()), sheetFileName(sheet.name, GetParam()));
     }
 
-    void expectGoldenItems(ExampleMachine machine, const QString& name) {
+    void expectGoldenItems(ExampleMachine machine, const QString& name,
+                           BarAppearance appearance = BarAppearance::dark) {
         const auto monitor = exampleMonitor(machine, settings.store);
-        Sheet sheet = menuBarItemSheet(*monitor, settings);
+        Sheet sheet = menuBarItemSheet(*monitor, settings, appearance);
         sheet.name += name;
-        expectGolden(sheet);
+        expectGoldenAsItIs(sheet);
     }
 
     FreshSettings settings;
@@ -68,11 +73,15 @@ TEST_P(GoldenPictures, OfTheMenuBarOfABareComputer) {
     expectGoldenItems(ExampleMachine::bareComputer, QStringLiteral("-bare"));
 }
 
+TEST_P(GoldenPictures, OfALightMenuBar) {
+    expectGoldenItems(ExampleMachine::laptop, QStringLiteral("-laptop"), BarAppearance::light);
+}
+
 TEST_P(GoldenPictures, OfTheIconsInALightTray) {
     const auto monitor = exampleMonitor(ExampleMachine::laptop, settings.store);
     Sheet sheet = trayIconSheet(*monitor, settings);
     sheet.backgrounds = {SheetBackground::light};
-    expectGoldenPicture(sheetImage(sheet, GetParam()), sheetFileName(sheet.name, GetParam()));
+    expectGoldenAsItIs(sheet);
 }
 
 } // namespace

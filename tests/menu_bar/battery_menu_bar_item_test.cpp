@@ -126,7 +126,8 @@ TEST_F(BatteryGlyphTest, IsFilledInProportionToTheCharge) {
 TEST_F(BatteryGlyphTest, HasASharpOutlineAtEveryScale) {
     for (const double ratio : {1.0, 2.0}) {
         const QImage image = paintedImage({30, barHeight}, ratio, [&](QPainter& painter) {
-            paintScene(painter, {0, 0, 30, barHeight}, {BatteryShape{.charge = 0, .color = Qt::green}});
+            paintScene(painter, {0, 0, 30, barHeight}, {BatteryShape{.charge = 0, .color = Qt::green}},
+                       BarAppearance::dark);
         });
         const int column = qRound(13 * ratio);
         int solid = 0;

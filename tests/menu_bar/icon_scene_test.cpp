@@ -172,7 +172,7 @@ TEST_F(ModuleIconTest, OfTheSensorsIsOpaque) {
     monitor.updateCycle();
     const auto text = std::get<TextShape>(icon(ModuleId::sensor).body.shape);
     EXPECT_EQ(text.text, QStringLiteral("45°"));
-    EXPECT_EQ(text.color.alpha(), 255);
+    EXPECT_EQ(std::get<QColor>(text.color).alpha(), 255);
 }
 
 } // namespace

@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] static QImage picture(const SceneNode& scene, double length,
                                         double ratio = pixelsPerPoint) {
         return paintedImage({length, barHeight}, ratio, [&](QPainter& painter) {
-            paintScene(painter, {0, 0, length, barHeight}, scene);
+            paintScene(painter, {0, 0, length, barHeight}, scene, BarAppearance::dark);
         });
     }
     template <class Item>
@@ -43,9 +43,10 @@ protected:
             settings.setMenuBarDisplayStyle(style);
             for (const double ratio : {1.0, 1.5, 2.0}) {
                 const QRectF place(margin, margin, length, barHeight);
-                const QImage image =
-                    paintedImage({length + 2 * margin, barHeight + 2 * margin}, ratio,
-                                 [&](QPainter& painter) { paintScene(painter, place, item.body().body); });
+                const QImage image = paintedImage(
+                    {length + 2 * margin, barHeight + 2 * margin}, ratio, [&](QPainter& painter) {
+                        paintScene(painter, place, item.body().body, BarAppearance::dark);
+                    });
                 const QRect allowed = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
                 EXPECT_FALSE(paintedRect(image).isEmpty());
                 EXPECT_TRUE(allowed.contains(paintedRect(image)))

@@ -16,9 +16,7 @@ class RecordingItem final : public StatusItem {
 public:
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
     [[nodiscard]] double length() const override { return 60; }
-    void setPaint(std::function<void(QPainter&, const QRectF&)> newPaint) override {
-        paint = std::move(newPaint);
-    }
+    void setPaint(ItemPaint newPaint) override { paint = std::move(newPaint); }
     void repaint() override { ++repaints; }
     void setWords(const QString& name, const QString& text) override { words.append(name + u'|' + text); }
     [[nodiscard]] double visiblePixelsPerPoint() const override { return isOnScreen ? 1 : 0; }
@@ -26,7 +24,7 @@ public:
     [[nodiscard]] bool showsIcon() const override { return true; }
     void setIcon(const ItemIcon& icon) override { icons.append(icon); }
 
-    std::function<void(QPainter&, const QRectF&)> paint;
+    ItemPaint paint;
     int repaints = 0;
     QStringList words;
     QList<ItemIcon> icons;
@@ -141,7 +139,9 @@ TEST_F(ItemPresenterTest, JumpsWhileTheUserWantsNoMotion) {
 
 TEST_F(ItemPresenterTest, PaintsWhatItShows) {
     const auto picture = [this] {
-        return paintedImage({60, 22}, 1, [this](QPainter& painter) { item.paint(painter, {0, 0, 60, 22}); });
+        return paintedImage({60, 22}, 1, [this](QPainter& painter) {
+            item.paint(painter, {0, 0, 60, 22}, BarAppearance::dark);
+        });
     };
     const QImage before = picture();
     EXPECT_FALSE(paintedRect(before).isEmpty());

@@ -35,7 +35,7 @@ protected:
 
     [[nodiscard]] static SceneNode rateRow(const QString& arrow, const QColor& color, const QString& rate) {
         return row({symbolNode(arrow, 6, withOpacity(color, 0.8)),
-                    textNode(rate, monospacedSystemFont(8), withOpacity(LabelColors::primary, 0.8))},
+                    textNode(rate, monospacedSystemFont(8), LabelColor{0.8})},
                    1);
     }
     [[nodiscard]] SceneNode ratePair(const QString& up, const QString& down) const {
@@ -76,7 +76,7 @@ TEST_F(NetworkMenuBarItemTest, TextOnlyShowsUploadAboveDownloadAtTheTrailingEdge
     transfer(0, 0);
     transfer(2048, 102400);
     const auto rate = [](const QString& text) {
-        return textNode(text, monospacedSystemFont(8, QFont::Medium), withOpacity(LabelColors::primary, 0.7));
+        return textNode(text, monospacedSystemFont(8, QFont::Medium), LabelColor{0.7});
     };
     const SceneNode expected =
         column({rate(QStringLiteral("100K")), rate(QStringLiteral("2.0K"))}, 0, ColumnAlignment::trailing);

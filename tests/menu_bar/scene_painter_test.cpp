@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+
 namespace orvelle {
 namespace {
 
@@ -15,12 +18,34 @@ SceneNode block(double width, double height, const QColor& color = Qt::red) {
 }
 
 SceneNode text(const QString& letters) {
-    return textNode(letters, systemFont(11), Qt::white);
+    return textNode(letters, systemFont(11), QColor(Qt::white));
 }
 
 QImage painted(const SceneNode& scene, const QSizeF& place, double ratio = 1) {
-    return paintedImage(place, ratio,
-                        [&](QPainter& painter) { paintScene(painter, {{0, 0}, place}, scene); });
+    return paintedImage(place, ratio, [&](QPainter& painter) {
+        paintScene(painter, {{0, 0}, place}, scene, BarAppearance::dark);
+    });
+}
+
+QImage paintedOn(BarAppearance appearance, const SceneNode& scene) {
+    return paintedImage({60, 22}, 1,
+                        [&](QPainter& painter) { paintScene(painter, {0, 0, 60, 22}, scene, appearance); });
+}
+
+/// The painted colours as they are stored, which is multiplied by their opacity.
+std::set<QRgb> colorsOf(const QImage& image) {
+    std::set<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        colors.insert(line, line + image.width());
+    }
+    return colors;
+}
+bool isShadeOfWhite(QRgb color) {
+    return qRed(color) == qAlpha(color) && qGreen(color) == qAlpha(color) && qBlue(color) == qAlpha(color);
+}
+bool isShadeOfBlack(QRgb color) {
+    return (color & 0xffffffU) == 0;
 }
 
 /// The area in which one colour channel dominates, in pixels.
@@ -59,6 +84,28 @@ TEST(ScenePainterTest, ARowIsCentredInItsPlaceAndItsPartsInItsHeight) {
 TEST(ScenePainterTest, PartsStartOnWholeDevicePixels) {
     const QImage image = painted(row({block(12.3, 11), block(20, 10, Qt::blue)}, 2), {61, 22}, 1.5);
     EXPECT_EQ(blueIn(image).size(), QSize(30, 15)) << "no edge lies between two pixels";
+}
+
+TEST(ScenePainterTest, LabelsTracksAndOutlinesAreWhiteOnADarkBarAndBlackOnALightOne) {
+    for (const SceneNode& scene : {textNode(QStringLiteral("42%"), systemFont(11), primaryLabel),
+                                   textNode(QStringLiteral("--"), systemFont(11), secondaryLabel),
+                                   levelBarNode({40, 8}, 0, 0, Qt::red, false),
+                                   SceneNode{BatteryShape{.charge = 0, .color = Qt::red}}}) {
+        const QImage onDark = paintedOn(BarAppearance::dark, scene);
+        const QImage onLight = paintedOn(BarAppearance::light, scene);
+        EXPECT_TRUE(std::ranges::all_of(colorsOf(onDark), &isShadeOfWhite));
+        EXPECT_TRUE(std::ranges::all_of(colorsOf(onLight), &isShadeOfBlack));
+        EXPECT_GT(coveredArea(onLight), 0);
+        EXPECT_NEAR(coveredArea(onDark), coveredArea(onLight), 1e-9) << "at the same opacity";
+    }
+}
+
+TEST(ScenePainterTest, OtherColoursAreTheSameOnEveryBar) {
+    const SceneNode scene =
+        row({textNode(QStringLiteral("42°"), systemFont(11), QColor(Qt::green)),
+             symbolNode(QStringLiteral("cpu"), 10, Qt::blue), dotsNode({Qt::white, Qt::red})},
+            2);
+    EXPECT_EQ(paintedOn(BarAppearance::light, scene), paintedOn(BarAppearance::dark, scene));
 }
 
 TEST(ScenePainterTest, AColumnStacksItsPartsCentredOrAtTheTrailingEdge) {
@@ -123,8 +170,8 @@ TEST(ScenePainterTest, ATooHighSceneIsScaledDown) {
 TEST(ScenePainterTest, NothingIsPaintedWithoutRoomOrContent) {
     EXPECT_TRUE(paintedRect(painted(SceneNode{}, {40, 22})).isEmpty());
     EXPECT_TRUE(paintedRect(painted(row({}, 2), {40, 22})).isEmpty());
-    const QImage image =
-        paintedImage({4, 4}, 1, [](QPainter& painter) { paintScene(painter, {}, block(20, 10)); });
+    const QImage image = paintedImage(
+        {4, 4}, 1, [](QPainter& painter) { paintScene(painter, {}, block(20, 10), BarAppearance::dark); });
     EXPECT_TRUE(paintedRect(image).isEmpty());
 }
 

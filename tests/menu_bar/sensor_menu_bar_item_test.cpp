@@ -20,7 +20,7 @@ protected:
         settings.setMenuBarDisplayStyle(style);
         return picture(item, sensorLength);
     }
-    [[nodiscard]] static SceneNode text(const QString& text, const QColor& color) {
+    [[nodiscard]] static SceneNode text(const QString& text, const TextColor& color) {
         return textNode(text, monospacedSystemFont(10, QFont::Medium), color);
     }
     [[nodiscard]] QColor cool() const { return temperatureColor(20, themes.sensorColor(settings)); }
@@ -46,7 +46,7 @@ TEST_F(SensorMenuBarItemTest, IconAndTextShowsBothInTheTemperaturesColour) {
 
 TEST_F(SensorMenuBarItemTest, DashesInTheSecondaryColourStandForNoTemperature) {
     EXPECT_EQ(pictureIn(MenuBarDisplayStyle::textOnly),
-              picture(text(QStringLiteral("--°"), LabelColors::secondary), sensorLength));
+              picture(text(QStringLiteral("--°"), secondaryLabel), sensorLength));
     EXPECT_EQ(item.body().accessibleText, QStringLiteral("Sensors: no temperature"));
 }
 

@@ -34,8 +34,9 @@ protected:
     template <class Item>
     [[nodiscard]] QList<WrittenText> writtenIn(MenuBarDisplayStyle style, const Item& item) {
         settings.setMenuBarDisplayStyle(style);
-        return writtenTexts(
-            [&](QPainter& painter) { paintScene(painter, {0, 0, 200, barHeight}, item.body().body); });
+        return writtenTexts([&](QPainter& painter) {
+            paintScene(painter, {0, 0, 200, barHeight}, item.body().body, BarAppearance::dark);
+        });
     }
     /// A value in the usual font of all items: monospaced and medium.
     [[nodiscard]] static WrittenText value(const char16_t* text, int pixelSize,

@@ -69,7 +69,8 @@ TEST(BarWithoutAWindowTest, FollowsTheStripThatItsDesktopGivesIt) {
 
 /// Has the item filled with one colour, and beyond its bounds, and counts how often.
 void fill(BarItem& item, const QColor& color, int& paintCount) {
-    item.setPaint([color, &paintCount](QPainter& painter, const QRectF& bounds) {
+    item.setPaint([color, &paintCount](QPainter& painter, const QRectF& bounds, BarAppearance appearance) {
+        EXPECT_EQ(appearance, BarAppearance::dark) << "as the bar's background";
         painter.fillRect(bounds.adjusted(-30, 0, 30, 0), color);
         ++paintCount;
     });

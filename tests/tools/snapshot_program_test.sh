@@ -19,7 +19,7 @@ expect() { # expect STATUS PATTERN ARGUMENT...
 
 expect_pictures() { # expect_pictures DIRECTORY SCALE
   local name
-  for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items \
+  for name in bar-charts mini-bars line-graphs sparklines ring-charts segment-rings temperature-gauges menu-bar-items menu-bar-items-light \
     themes settings panel-cpu panel-memory panel-network panel-disk panel-battery panel-sensor; do
     head -c 4 "$1/$name@$2.png" | grep -q PNG || complain "$1/$name@$2.png is missing or no picture"
   done

@@ -60,8 +60,9 @@ int paintSheets(const SnapshotArguments& arguments) {
     }
     FreshSettings inAnyTheme;
     const QList<Sheet> sheets = chartSheets()
-                                << menuBarItemSheet(monitor, settings) << trayIconSheet(monitor, inAnyTheme)
-                                << themeSheet(monitor, inAnyTheme);
+                                << menuBarItemSheet(monitor, settings, BarAppearance::dark)
+                                << menuBarItemSheet(monitor, settings, BarAppearance::light)
+                                << trayIconSheet(monitor, inAnyTheme) << themeSheet(monitor, inAnyTheme);
     if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
         return fail(*error, exitFailed);
     return 0;

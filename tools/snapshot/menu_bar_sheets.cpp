@@ -19,15 +19,21 @@ constexpr double barPadding = 8; ///< before the first and after the last item
 constexpr double iconSide = 22;
 constexpr double panelGap = 6; ///< between the bar and a panel
 constexpr int themesPerRow = 4;
-constexpr QColor barBackground(255, 255, 255, 15); ///< a little lighter than the sheet
+
+/// A little nearer to the colour of labels than the sheet, which shows whether the content is centred and
+/// fits.
+QColor barBackground(BarAppearance appearance) {
+    return colorOnBar(LabelColor{15.0 / 255}, appearance);
+}
 
 SheetCell itemCell(const ModuleInfo& module, MenuBarDisplayStyle style, SystemMonitor& monitor,
-                   FreshSettings& settings) {
-    const auto paint = [&module, style, &monitor, &settings](QPainter& painter, const QRectF& frame) {
-        painter.fillRect(frame, barBackground); // shows whether the content is centred and fits
+                   FreshSettings& settings, BarAppearance appearance) {
+    const auto paint = [&module, style, appearance, &monitor, &settings](QPainter& painter,
+                                                                         const QRectF& frame) {
+        painter.fillRect(frame, barBackground(appearance));
         settings.store.setMenuBarDisplayStyle(style);
         const ModuleContext context{monitor, settings.store, settings.themes};
-        paintScene(painter, frame, makeScene(module.id, context).body);
+        paintScene(painter, frame, makeScene(module.id, context).body, appearance);
     };
     return {.caption = module.key, .size = {module.width, barHeight}, .paint = paint};
 }
@@ -38,11 +44,11 @@ double barWidth() {
 }
 
 void paintBar(QPainter& painter, const QRectF& frame, const ModuleContext& context) {
-    painter.fillRect(frame, barBackground);
+    painter.fillRect(frame, barBackground(BarAppearance::dark));
     QRectF place(frame.left() + barPadding, frame.top(), 0, barHeight);
     for (const ModuleInfo& module : moduleTable) {
         place.setWidth(module.width);
-        paintScene(painter, place, makeScene(module.id, context).body);
+        paintScene(painter, place, makeScene(module.id, context).body, BarAppearance::dark);
         place.moveLeft(place.right());
     }
 }
@@ -88,12 +94,15 @@ Sheet trayIconSheet(SystemMonitor& monitor, FreshSettings& settings) {
     return sheet;
 }
 
-Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings) {
-    Sheet sheet{.name = QStringLiteral("menu-bar-items"), .rows = {}, .backgrounds = {SheetBackground::dark}};
+Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings, BarAppearance appearance) {
+    const bool isDark = appearance == BarAppearance::dark;
+    Sheet sheet{.name = isDark ? QStringLiteral("menu-bar-items") : QStringLiteral("menu-bar-items-light"),
+                .rows = {},
+                .backgrounds = {isDark ? SheetBackground::dark : SheetBackground::light}};
     for (const MenuBarDisplayStyle style : everyCase<MenuBarDisplayStyle>()) {
         SheetRow row{.title = caseName(style), .cells = {}};
         for (const ModuleInfo& module : moduleTable)
-            row.cells.append(itemCell(module, style, monitor, settings));
+            row.cells.append(itemCell(module, style, monitor, settings, appearance));
         sheet.rows.append(row);
     }
     return sheet;

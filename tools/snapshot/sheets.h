@@ -2,6 +2,7 @@
 
 #include "settings/setting_value.h" // caseName
 #include "settings/settings_store.h"
+#include "shell/status_item.h"
 #include "snapshot/sheet.h"
 #include "theme/theme_manager.h"
 
@@ -42,9 +43,10 @@ template <typename Style>
 /// Every chart in all its styles, with values of its own.
 [[nodiscard]] QList<Sheet> chartSheets();
 
-/// All menu-bar items in every style. Painting the sheet changes the style in `settings`, which must outlive
-/// the sheet as `monitor` must.
-[[nodiscard]] Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings);
+/// All menu-bar items in every style, on a bar of this appearance. Painting the sheet changes the style in
+/// `settings`, which must outlive the sheet as `monitor` must.
+[[nodiscard]] Sheet menuBarItemSheet(SystemMonitor& monitor, FreshSettings& settings,
+                                     BarAppearance appearance);
 
 /// The icons of all modules in the tray, once for each way to show the CPU, and in each theme. Painting the
 /// sheet changes both in `settings`, which must outlive the sheet as `monitor` must.

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "shell/status_item.h"
+
 #include <AppKit/AppKit.h>
 #include <CoreGraphics/CoreGraphics.h>
 
 #include <QImage>
-#include <QPainter>
-#include <QRectF>
 
 #include <memory>
 #include <type_traits>
@@ -16,8 +16,8 @@ namespace orvelle {
 class PaintedPicture {
   public:
     virtual ~PaintedPicture() = default;
-    /// Paints within `bounds`, in points. Nothing has been painted there yet.
-    virtual void paint(QPainter& painter, const QRectF& bounds) = 0;
+    /// Paints within `bounds`, in points, on a bar that looks like this. Nothing has been painted there yet.
+    virtual void paint(QPainter& painter, const QRectF& bounds, BarAppearance appearance) = 0;
 };
 
 /// Pixels per point of the view's screen; 0 while it is on none, and for nil.

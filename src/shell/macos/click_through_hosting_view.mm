@@ -1,9 +1,19 @@
 #include "shell/macos/click_through_hosting_view.h"
 
 #include <cstdint>
+#include <iterator>
 
 namespace orvelle {
 namespace {
+
+/// Whether what surrounds the view is dark or light.
+BarAppearance appearanceOf(NSView* view) {
+    const NSAppearanceName names[] = {NSAppearanceNameDarkAqua, NSAppearanceNameAqua};
+    NSArray* const known = [NSArray arrayWithObjects:names count:std::size(names)];
+    NSAppearanceName const best = [[view effectiveAppearance] bestMatchFromAppearancesWithNames:known];
+    return best != nil && [best isEqualToString:NSAppearanceNameAqua] ? BarAppearance::light
+                                                                      : BarAppearance::dark;
+}
 
 /// The picture at the resolution of the screen that the view is on.
 QImage paintedImage(PaintedPicture& picture, NSView* view) {
@@ -16,7 +26,7 @@ QImage paintedImage(PaintedPicture& picture, NSView* view) {
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    picture.paint(painter, QRectF(0, 0, size.width, size.height));
+    picture.paint(painter, QRectF(0, 0, size.width, size.height), appearanceOf(view));
     painter.end();
     return image;
 }
@@ -99,6 +109,11 @@ OwnedCGImage makeCGImage(QImage image) {
     const orvelle::OwnedCGImage image = orvelle::makeCGImage(orvelle::paintedImage(*m_picture, self));
     if (image)
         CGContextDrawImage([[NSGraphicsContext currentContext] CGContext], [self bounds], image.get());
+}
+
+- (void)viewDidChangeEffectiveAppearance {
+    [super viewDidChangeEffectiveAppearance];
+    [self setNeedsDisplay:YES];
 }
 
 - (void)viewDidChangeBackingProperties {

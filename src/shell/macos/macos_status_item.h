@@ -19,9 +19,7 @@ class MacosStatusItem final : public StatusItem, private PaintedPicture {
 
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
     [[nodiscard]] double length() const override { return m_length; }
-    void setPaint(std::function<void(QPainter&, const QRectF&)> paint) override {
-        m_paint = std::move(paint);
-    }
+    void setPaint(ItemPaint paint) override { m_paint = std::move(paint); }
     void repaint() override;
     void setWords(const QString& name, const QString& text) override;
     [[nodiscard]] double visiblePixelsPerPoint() const override;
@@ -37,12 +35,12 @@ class MacosStatusItem final : public StatusItem, private PaintedPicture {
 
   private:
     void setUpButton(NSStatusBarButton* button, id clickTarget);
-    void paint(QPainter& painter, const QRectF& bounds) override;
+    void paint(QPainter& painter, const QRectF& bounds, BarAppearance appearance) override;
 
     QString m_identifier;
     double m_length;
     std::function<void()> m_painted;
-    std::function<void(QPainter&, const QRectF&)> m_paint;
+    ItemPaint m_paint;
     std::function<void(ClickButton)> m_clickHandler;
     Retained<NSStatusItem*> m_statusItem;
     Retained<ClickThroughHostingView*> m_hostingView; ///< null without a button

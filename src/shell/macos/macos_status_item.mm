@@ -71,9 +71,9 @@ double MacosStatusItem::visiblePixelsPerPoint() const {
     return isOnScreen(m_hostingView.get()) ? backingScale(m_hostingView.get()) : 0;
 }
 
-void MacosStatusItem::paint(QPainter& painter, const QRectF& bounds) {
+void MacosStatusItem::paint(QPainter& painter, const QRectF& bounds, BarAppearance appearance) {
     if (m_paint)
-        m_paint(painter, bounds);
+        m_paint(painter, bounds, appearance);
     m_painted();
 }
 

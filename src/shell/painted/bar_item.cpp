@@ -42,7 +42,7 @@ BarItem::BarItem(QString identifier, double length, Bar& bar)
     , m_length(length)
     , m_bar(bar) {}
 
-void BarItem::setPaint(std::function<void(QPainter&, const QRectF&)> paint) {
+void BarItem::setPaint(ItemPaint paint) {
     m_paint = std::move(paint);
 }
 
@@ -93,7 +93,7 @@ void BarItem::paint(QPainter& painter, bool isFocused) const {
     if (m_isHighlighted)
         paintHighlight(painter, m_bounds);
     if (m_paint)
-        m_paint(painter, m_bounds);
+        m_paint(painter, m_bounds, BarAppearance::dark); // see `barBackground`
     if (isFocused)
         paintFocusRing(painter, m_bounds);
     painter.restore();

@@ -16,7 +16,7 @@ public:
 
     [[nodiscard]] const QString& identifier() const override { return m_identifier; }
     [[nodiscard]] double length() const override { return m_length; }
-    void setPaint(std::function<void(QPainter&, const QRectF&)> paint) override;
+    void setPaint(ItemPaint paint) override;
     void repaint() override;
     void setWords(const QString& name, const QString& text) override;
     [[nodiscard]] double visiblePixelsPerPoint() const override;
@@ -49,7 +49,7 @@ private:
     QString m_identifier;
     double m_length;
     Bar& m_bar;
-    std::function<void(QPainter&, const QRectF&)> m_paint; ///< empty until it is set
+    ItemPaint m_paint; ///< empty until it is set
     QString m_accessibleName;
     QString m_accessibleText;
     std::function<void(ClickButton)> m_clickHandler;

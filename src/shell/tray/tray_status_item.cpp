@@ -18,7 +18,7 @@ TrayStatusItem::TrayStatusItem(BarItem& tab, std::function<void()> changed)
     , m_changed(std::move(changed))
     , m_icon{paintProgramIcon, {}, {}} {}
 
-void TrayStatusItem::setPaint(std::function<void(QPainter&, const QRectF&)> paint) {
+void TrayStatusItem::setPaint(ItemPaint paint) {
     m_tab.setPaint(std::move(paint));
 }
 

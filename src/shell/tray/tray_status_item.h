@@ -12,7 +12,7 @@ public:
 
     [[nodiscard]] const QString& identifier() const override { return m_tab.identifier(); }
     [[nodiscard]] double length() const override { return m_tab.length(); }
-    void setPaint(std::function<void(QPainter&, const QRectF&)> paint) override;
+    void setPaint(ItemPaint paint) override;
     void repaint() override { m_tab.repaint(); }
     void setWords(const QString& name, const QString& text) override;
     [[nodiscard]] bool showsIcon() const override { return true; }

@@ -26,6 +26,7 @@ struct Script {
     double uptimeSeconds = 5000;
     double backingScale = 2;
     bool showsMenuBar = true;
+    bool isMenuBarDark = true;            ///< `changeMenuBar` changes it while the program runs
     bool asksBeforeClosingPopover = true; ///< false: a press closes it without a question
     bool popoversFade = false;            ///< a closed popover stays shown until `finishFading`
     std::optional<std::string> bundleIdentifier = "orvelle";
@@ -210,6 +211,8 @@ void sendActionWithoutEvent(std::size_t item);
 void finishFading();
 /// The item moves to a screen with another number of pixels a point.
 void changeScreen(std::size_t item, double backingScale);
+/// The menu bar becomes dark or light, with the picture behind it for instance.
+void changeMenuBar(bool isDarkNow);
 /// Takes the identifier of the item's button away.
 void loseIdentifier(std::size_t item);
 

@@ -118,6 +118,9 @@ std::string textOf(NSString* text) { return text != nil ? std::string([text UTF8
 - (const char*)UTF8String {
     return nullptr;
 }
+- (BOOL)isEqualToString:(NSString*)text {
+    return textOf(self) == textOf(text);
+}
 @end
 
 @implementation SimulatedString
@@ -145,6 +148,12 @@ std::string textOf(NSString* text) { return text != nil ? std::string([text UTF8
 @end
 
 @implementation NSArray
++ (id)arrayWithObjects:(const id[])objects count:(NSUInteger)count {
+    Objects kept;
+    for (NSUInteger index = 0; index < count; ++index)
+        kept.push_back([objects[index] retain]);
+    return makeArray(kept);
+}
 - (NSUInteger)count {
     return static_cast<const Objects*>(m_objects)->size();
 }

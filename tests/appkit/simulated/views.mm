@@ -183,6 +183,16 @@ bool isWithin(NSResponder* responder, NSView* view) {
 }
 - (void)viewDidChangeBackingProperties {
 }
+/// The parts of the menu bar have appearances of their own.
+- (NSAppearance*)effectiveAppearance {
+    NSWindow* const window = [self window];
+    if (window != nil && window->m_appearance != nil)
+        return window->m_appearance;
+    return [NSAppearance appearanceNamed:desktop().script.isMenuBarDark ? NSAppearanceNameVibrantDark
+                                                                        : NSAppearanceNameVibrantLight];
+}
+- (void)viewDidChangeEffectiveAppearance {
+}
 - (NSString*)identifier {
     return m_identifier;
 }

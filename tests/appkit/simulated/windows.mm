@@ -27,15 +27,6 @@ void fill(NSWindow* window, NSView* content) {
 } // namespace orvelle::simulated
 
 NSNotificationName const NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeKeyNotification";
-NSAppearanceName const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
-
-@implementation NSAppearance
-+ (NSAppearance*)appearanceNamed:(NSAppearanceName)name {
-    NSAppearance* appearance = [[[NSAppearance alloc] init] autorelease];
-    appearance->m_name = name;
-    return appearance;
-}
-@end
 
 @implementation NSColor
 + (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha {

@@ -34,10 +34,11 @@ protected:
     }
     BarItem& addItem(const QString& name, const QColor& color, int& paints) {
         BarItem& item = strip->bar().addItem(name, 60);
-        item.setPaint([color, &paints](QPainter& painter, const QRectF& bounds) {
-            painter.fillRect(bounds, color);
-            ++paints;
-        });
+        item.setPaint(
+            [color, &paints](QPainter& painter, const QRectF& bounds, BarAppearance /*appearance*/) {
+                painter.fillRect(bounds, color);
+                ++paints;
+            });
         return item;
     }
     /// The bar as it paints itself.

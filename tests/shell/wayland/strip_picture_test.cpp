@@ -116,7 +116,9 @@ TEST_F(StripPictureTest, IsWholeInEachBufferWhenTheCompositorKeepsOne) {
     compositor.keepsBuffers = true;
     const auto change = [this](BarItem& item, const QColor& color) {
         const int before = compositor.strip()->pictures;
-        item.setPaint([color](QPainter& painter, const QRectF& bounds) { painter.fillRect(bounds, color); });
+        item.setPaint([color](QPainter& painter, const QRectF& bounds, BarAppearance /*appearance*/) {
+            painter.fillRect(bounds, color);
+        });
         item.repaint();
         return waitUntil([&] { return compositor.strip()->pictures == before + 1; }) && showsTheBar();
     };

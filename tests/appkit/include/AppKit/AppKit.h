@@ -1,6 +1,7 @@
 #pragma once
 
 // Simulated macOS: the classes of AppKit that the shell uses, with the calls that it makes.
+#include <AppKit/NSAppearance.h>
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSImage.h>
 #include <AppKit/NSPopover.h>

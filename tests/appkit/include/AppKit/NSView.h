@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AppKit/NSAppearance.h>
 #include <AppKit/NSResponder.h>
 
 @class NSLayoutConstraint;
@@ -66,6 +67,8 @@ enum : NSAutoresizingMaskOptions { NSViewWidthSizable = 2, NSViewHeightSizable =
 - (void)setNeedsDisplay:(BOOL)needsDisplay;
 - (void)drawRect:(NSRect)dirtyRect;
 - (void)viewDidChangeBackingProperties;
+- (NSAppearance*)effectiveAppearance;
+- (void)viewDidChangeEffectiveAppearance;
 - (NSString*)identifier;
 - (void)setIdentifier:(NSString*)identifier;
 - (void)setAccessibilityLabel:(NSString*)label;

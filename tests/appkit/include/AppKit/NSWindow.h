@@ -13,17 +13,6 @@ enum NSBackingStoreType : NSUInteger { NSBackingStoreBuffered = 2 };
 enum NSWindowTitleVisibility : NSInteger { NSWindowTitleVisible = 0, NSWindowTitleHidden = 1 };
 typedef NSUInteger NSWindowOcclusionState;
 enum : NSWindowOcclusionState { NSWindowOcclusionStateVisible = 1 << 1 };
-typedef NSString* NSAppearanceName;
-
-extern "C" NSAppearanceName const NSAppearanceNameDarkAqua;
-
-@interface NSAppearance : NSObject {
-  @public
-    NSString* m_name;
-}
-+ (NSAppearance*)appearanceNamed:(NSAppearanceName)name;
-@end
-
 @interface NSColor : NSObject {
   @public
     CGFloat m_white;

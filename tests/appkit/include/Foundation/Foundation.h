@@ -49,6 +49,7 @@ __attribute__((objc_root_class))
 @interface NSString : NSObject
 + (id)stringWithUTF8String:(const char*)text;
 - (const char*)UTF8String;
+- (BOOL)isEqualToString:(NSString*)text;
 @end
 
 /// What a literal in the source is.
@@ -61,6 +62,7 @@ __attribute__((objc_root_class))
 @interface NSArray : NSObject {
     void* m_objects;
 }
++ (id)arrayWithObjects:(const id[])objects count:(NSUInteger)count;
 - (NSUInteger)count;
 - (id)objectAtIndex:(NSUInteger)index;
 @end
