@@ -61,6 +61,40 @@ testClosing() {
     openWindow
 }
 
+# Drags with the mouse from a point of the window, 60 pixels down and to the right.
+drag() {
+    local left top
+    IFS=', x' read -r left top _ < <(place)
+    xdotool mousemove $((left + $1)) $((top + $2)) mousedown 1
+    for step in 10 20 40 60; do
+        xdotool mousemove $((left + $1 + step)) $((top + $2 + step))
+        sleep 0.05
+    done
+    xdotool mouseup 1
+}
+
+testMovingByBackground() {
+    local left top before
+    IFS=', x' read -r left top _ < <(place)
+    isMovedAlong() {
+        local nowLeft nowTop
+        IFS=', x' read -r nowLeft nowTop _ < <(place)
+        ((nowLeft >= left + 40 && nowLeft <= left + 60 && nowTop >= top + 40 && nowTop <= top + 60))
+    }
+    drag 230 24
+    waitUntil "the empty background moves the window" isMovedAlong || place
+    before=$(place)
+    drag 200 92
+    waitUntil "a drag on a switch switches it" grep -q '=true' "$settingsFile"
+    expectEqual "and does not move the window" "$before" "$(place)"
+    storeVisibility false
+    waitUntil "the bar goes again" isHidden Orvelle
+    xdotool key Escape
+    waitUntil "the window closes" windowIsGone
+    openWindow
+    waitUntil "and opens where it was moved to" placeIs "$before" || place
+}
+
 testMinimized() {
     xdotool windowminimize "$(settingsWindow)"
     waitUntil "the window is minimized" windowIsGone
@@ -128,6 +162,7 @@ start_x_server 1280x800 && start_window_manager || exit 1
 startOrvelle
 testFirstTime
 testClosing
+testMovingByBackground
 testMinimized
 testOtherDesktop
 testPlace

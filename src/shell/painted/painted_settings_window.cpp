@@ -40,6 +40,10 @@ PaintedSettingsWindow::PaintedSettingsWindow(std::unique_ptr<QWindow> content,
     m_content->setFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                         Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     m_content->installEventFilter(this);
+    connect(m_content.get(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible)
+            closed();
+    });
     m_restDelay.setSingleShot(true);
     m_restDelay.setInterval(restTime);
     connect(&m_restDelay, &QTimer::timeout, this, &PaintedSettingsWindow::remember);
@@ -48,7 +52,9 @@ PaintedSettingsWindow::PaintedSettingsWindow(std::unique_ptr<QWindow> content,
 
 PaintedSettingsWindow::~PaintedSettingsWindow() {
     m_content->removeEventFilter(this);
-    remember();
+    m_content->disconnect(this);
+    if (m_content->isVisible())
+        remember();
 }
 
 void PaintedSettingsWindow::bringForward() {
@@ -77,10 +83,6 @@ bool PaintedSettingsWindow::eventFilter(QObject* watched, QEvent* event) {
             QMetaObject::invokeMethod(
                 this, [] { qCDebug(openLog, "the settings window was painted"); }, Qt::QueuedConnection);
         break;
-    case QEvent::Close:
-        m_restDelay.stop();
-        remember();
-        break;
     default:
         break;
     }
@@ -102,9 +104,23 @@ void PaintedSettingsWindow::place() {
     m_remembered = frame.value_or(QRect());
 }
 
+/// The content hid itself, or the desktop closed it; it is still in its place.
+void PaintedSettingsWindow::closed() {
+    m_restDelay.stop();
+    remember();
+    // The next window is placed as a new one.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!m_content->isVisible())
+                m_content->destroy();
+        },
+        Qt::QueuedConnection);
+}
+
 void PaintedSettingsWindow::remember() {
     // A window that is minimized or maximized is not where the user put it.
-    if (!m_content->isVisible() || m_content->windowStates() != Qt::WindowNoState)
+    if (m_content->windowStates() != Qt::WindowNoState)
         return;
     const QPoint position =
         m_placing == Placing::byProgram ? m_content->framePosition() : m_remembered.topLeft();

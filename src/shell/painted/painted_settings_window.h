@@ -33,6 +33,7 @@ public:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void place();
+    void closed();
     void remember();
 
     std::unique_ptr<QWindow> m_content;

@@ -15,11 +15,12 @@ FocusScope {
 
     focus: true
 
-    Keys.onEscapePressed: Window.window.close()
+    // Whoever holds the window closes it then. A close from here would cut the content from a window that is not Qt's.
+    Keys.onEscapePressed: Window.window.hide()
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier;
         if (event.accepted)
-            Window.window.close();
+            Window.window.hide();
     }
 
     readonly property bool isWindowShown: Window.visibility !== Window.Hidden

@@ -28,6 +28,10 @@ Item {
 
     implicitHeight: sections.implicitHeight + 2 * padding
 
+    WindowMover {
+        objectName: "mover"
+        anchors.fill: parent
+    }
     ColumnLayout {
         id: sections
         x: Look.centred(view.width, width)

@@ -93,6 +93,7 @@ TEST_F(SettingsKeys, CloseTheWindow) {
                                          std::pair(Qt::Key_W, Qt::KeyboardModifiers(Qt::ControlModifier))}) {
         press(key, modifiers);
         EXPECT_FALSE(view->isVisible());
+        EXPECT_NE(view->handle(), nullptr) << "which its host still shows, perhaps in a window of its own";
         open();
     }
     press(Qt::Key_W);
