@@ -10,70 +10,40 @@ source "$(dirname "$(readlink -f "$0")")/../scripts/modules.sh"
 settings=$(mktemp -d)
 unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_STATE_HOME=$settings
-process="" other=""
+program="" other="" log=$settings/log
 finish() {
-  for started in $process $other; do kill "$started" 2>/dev/null || true; wait "$started" 2>/dev/null || true; done
+  for started in $program $other; do kill "$started" 2>/dev/null || true; wait "$started" 2>/dev/null || true; done
   stop_virtual_display
   rm -rf "$settings"
 }
 trap finish EXIT
 
+source "$(dirname "$(readlink -f "$0")")/running_program.sh"
+export QT_MESSAGE_PATTERN="%{time process} %{message}" # the seconds since its start
 read_modules "$orvelle"
 # click_item NUMBER [BUTTON]: from the left, while all are shown.
 click_item() { xdotool mousemove $((1280 - module_middles[$1])) 11 click "${2:-1}"; }
-memory_kilobytes() { awk -v name="$1:" '$1 == name {print $2}' "/proc/$process/smaps_rollup"; }
-# CPU time of a process, nanoseconds.
-cpu_nanoseconds() { cat "/proc/$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'; }
-maximum() { sort -n | tail -1; }
+press_escape() { xdotool key Escape; }
 
-# cpu_percent SECONDS PROCESS...: what each uses of a core in the same time, separated by blanks.
-cpu_percent() {
-  local seconds=$1 id before=()
-  shift
-  for id in "$@"; do before+=("$(cpu_nanoseconds "$id")"); done
-  sleep "$seconds"
-  for id in "$@"; do
-    awk -v nanoseconds=$(($(cpu_nanoseconds "$id") - before[0])) -v seconds="$seconds" \
-      'BEGIN {printf "%.3f ", nanoseconds / seconds / 1e7}'
-    before=("${before[@]:1}")
-  done
-  echo
-}
-
+# start_program SETTING...
 start_program() {
   mkdir -p "$settings/orvelle"
   printf '%s\n' '[General]' "$@" >"$settings/orvelle/orvelle.conf"
-  QT_FORCE_STDERR_LOGGING=1 QT_LOGGING_RULES="orvelle.open.debug=true;orvelle.start.debug=true" \
-    QT_MESSAGE_PATTERN="%{time process} %{message}" "$orvelle" 2>"$settings/log" &
-  process=$!
-  wait_until 20 grep -q 'first bar painted' "$settings/log"
+  "$orvelle" 2>"$log" &
+  program=$!
+  wait_until 20 grep -q 'first bar painted' "$log"
   sleep 4
 }
 end_program() {
-  kill "$process"
-  wait "$process" || true
-  process=""
+  kill "$program"
+  wait "$program" || true
+  program=""
 }
-
-# open_panels ROUNDS: opens and closes each panel in turn; the log then says how long each took.
-open_panels() {
-  local index
-  for ((round = 0; round < $1; ++round)); do
-    for index in "${!module_keys[@]}"; do
-      click_item "$index"
-      sleep 0.8
-      xdotool key Escape
-      sleep 0.3
-    done
-  done
-}
-# Milliseconds of the panels' openings, one a line.
-opening_times() { sed -n 's/.*panel was painted \([0-9.]*\) ms.*/\1/p' "$settings/log"; }
 
 # Milliseconds from being asked for the settings to their first frame, one opening a line.
 settings_times() {
   awk '/settings were asked for/ {asked = $1} /settings window was painted/ {printf "%.0f\n", ($1 - asked) * 1000}' \
-    "$settings/log"
+    "$log"
 }
 open_settings() {
   click_item 0 3
@@ -127,21 +97,16 @@ start_window_manager
 start_program "${everything[@]}"
 click_item 0
 sleep 3
-first_rss=$(memory_kilobytes Rss)
-panel_cpu=$(cpu_percent 30 "$process")
-xdotool key Escape
+add_row "resident memory, one panel open" "$(memory_kilobytes Rss) kB" "57344 kB"
+add_row "CPU time with the CPU panel open, samples included" "$(cpu_percent 30 "$program")% of a core" ""
+press_escape
 sleep 0.5
-open_panels 1
-mapfile -t first_times < <(opening_times)
-open_panels 5
-later=$(opening_times | tail -n 30 | maximum)
-all_rss=$(memory_kilobytes Rss)
-open_settings
-xdotool key Escape
-sleep 0.5
-for _ in 1 2 3; do open_settings; xdotool key Escape; sleep 0.5; done
+add_opening_rows
+for _ in 1 2 3 4; do open_settings; press_escape; sleep 0.5; done
 mapfile -t settings_openings < <(settings_times)
-settings_rss=$(memory_kilobytes Rss)
+add_row "settings window to first frame, the first time" "${settings_openings[0]} ms" "250 ms"
+add_row "later, at most of 3" "$(printf '%s\n' "${settings_openings[@]:1}" | maximum) ms" "60 ms"
+add_row "resident memory after the panels and the settings" "$(memory_kilobytes Rss) kB" ""
 end_program
 
 start_program "${everything[@]}"
@@ -151,23 +116,10 @@ if command -v polybar >/dev/null; then
   polybar --quiet --config="$settings/polybar.ini" main >/dev/null 2>&1 &
   other=$!
   sleep 5
-  read -r own_percent other_percent < <(cpu_percent 60 "$process" "$other")
+  read -r own_percent other_percent < <(cpu_percent 60 "$program" "$other")
 else
-  own_percent=$(cpu_percent 60 "$process")
+  own_percent=$(cpu_percent 60 "$program")
 fi
-
-cat <<TABLE
-| What | Measured | Budget |
-| --- | --- | --- |
-| click to first frame, the first panel of the program | ${first_times[0]} ms | 120 ms |
-| the first time of each other panel, at most | $(printf '%s\n' "${first_times[@]:2}" | maximum) ms | 120 ms |
-| later openings, at most of 30 | $later ms | 25 ms |
-| resident memory, one panel open | $first_rss kB | 57344 kB |
-| resident memory, all six panels opened once | $all_rss kB | |
-| CPU time with the CPU panel open, samples included | ${panel_cpu}% of a core | |
-| settings window to first frame, the first time | ${settings_openings[0]} ms | 250 ms |
-| later, at most of 3 | $(printf '%s\n' "${settings_openings[@]:1}" | maximum) ms | 60 ms |
-| resident memory after the panels and the settings | $settings_rss kB | |
-| CPU time with all six modules, everything closed | $own_percent% of a core | that of polybar |
-| CPU time of polybar with the same modules, in the same minute | $other_percent% of a core | |
-TABLE
+add_row "CPU time with all six modules, everything closed" "$own_percent% of a core" "that of polybar"
+add_row "CPU time of polybar with the same modules, in the same minute" "$other_percent% of a core" ""
+print_table
