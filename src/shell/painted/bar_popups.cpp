@@ -7,7 +7,7 @@
 namespace orvelle {
 namespace {
 
-constexpr std::size_t keptWindowCount = 3;
+constexpr std::size_t keptWindowCount = 2;
 
 } // namespace
 

@@ -15,7 +15,7 @@ namespace orvelle {
 class BarPopover;
 
 /// The popovers of one bar that keep their windows while they are closed, in the order in which they last
-/// opened. Only a few do: a window costs 2 MB, and opens again in a quarter of the time that making it takes.
+/// opened. Only two do: a window costs 2 MB, and opens again in a quarter of the time that making it takes.
 using KeptPopovers = std::vector<BarPopover*>;
 
 /// The popover of an item in the program's own bar. It opens after the pending clicks have been handled, so
