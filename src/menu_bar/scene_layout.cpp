@@ -21,8 +21,7 @@ double gapsIn(const std::vector<SceneNode>& nodes, double spacing) {
 
 struct Measurer {
     Extent operator()(const SymbolShape& symbol) const {
-        const double side = symbolExtent(symbol.fontSize);
-        return rigid({side, side});
+        return rigid(symbolSize(symbol.name, symbol.fontSize));
     }
     Extent operator()(const TextShape& text) const { return {textExtent(text).size, 0}; }
     Extent operator()(const CoreBarsShape& bars) const { return rigid(coreBarsFrame(bars)); }

@@ -39,11 +39,15 @@ bool isKnownSymbol(QStringView name) {
     return QFile::exists(resourcePath(name));
 }
 
-QImage rasterizeSymbol(QStringView name, int side, QFont::Weight weight) {
+std::optional<double> symbolWidth(QStringView name, double height, QFont::Weight /*weight*/) {
+    return isKnownSymbol(name) ? std::optional(height) : std::nullopt;
+}
+
+QImage rasterizeSymbol(QStringView name, int height, QFont::Weight weight) {
     QSvgRenderer renderer(readOutline(name, weight));
     if (!renderer.isValid())
         return {};
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    QImage image(height, height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     renderer.render(&painter);

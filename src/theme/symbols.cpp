@@ -11,6 +11,11 @@
 namespace orvelle {
 namespace {
 
+/// The height of a line of text.
+double symbolHeight(double fontSize) {
+    return 1.2 * fontSize;
+}
+
 struct SymbolKey {
     QString name;
     double fontSize = 0;
@@ -26,8 +31,8 @@ size_t qHash(const SymbolKey& key, size_t seed = 0) {
 }
 
 QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
-    const int side = std::max(1, qRound(symbolExtent(key.fontSize) * key.devicePixelRatio));
-    QImage image = rasterizeSymbol(key.name, side, weight);
+    const int height = std::max(1, qRound(symbolHeight(key.fontSize) * key.devicePixelRatio));
+    QImage image = rasterizeSymbol(key.name, height, weight);
     if (image.isNull()) {
         qWarning("No symbol is named \"%s\"", qUtf8Printable(key.name));
         return {};
@@ -42,11 +47,26 @@ QImage renderSymbol(const SymbolKey& key, QFont::Weight weight) {
 
 } // namespace
 
+QSizeF symbolSize(QStringView name, double fontSize, QFont::Weight weight) {
+    if (!(fontSize > 0))
+        return {0, 0};
+    constexpr qsizetype mostKept = 128;
+    static QCache<SymbolKey, QSizeF> cache(mostKept); // the system makes a picture to measure it
+    const SymbolKey key{.name = name.toString(), .fontSize = fontSize, .weight = weight};
+    if (const QSizeF* kept = cache.object(key))
+        return *kept;
+    const double height = symbolHeight(fontSize);
+    const std::optional<double> width = symbolWidth(name, height, weight);
+    if (width)
+        cache.insert(key, new QSizeF(*width, height));
+    return {width.value_or(height), height};
+}
+
 QImage symbolImage(QStringView name, double fontSize, const QColor& color, double devicePixelRatio,
                    QFont::Weight weight) {
-    constexpr double largestSide = 4096;
-    const double side = symbolExtent(fontSize) * devicePixelRatio;
-    if (!(fontSize > 0) || !(devicePixelRatio > 0) || !(side <= largestSide))
+    constexpr double largestHeight = 4096;
+    const double height = symbolHeight(fontSize) * devicePixelRatio;
+    if (!(fontSize > 0) || !(devicePixelRatio > 0) || !(height <= largestHeight))
         return {};
     constexpr qsizetype keptBytes = qsizetype{1024} * 1024;
     static QCache<SymbolKey, QImage> cache(keptBytes);

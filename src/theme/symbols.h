@@ -7,15 +7,16 @@
 #include <QPainter>
 #include <QStringView>
 
+#include <optional>
+
 /// The program's symbols by name, and its icon. On macOS the system provides the symbols; elsewhere they are
-/// outlines of 16 x 16 units, embedded according to the table in symbols.cmake. A symbol at font size S fills
-/// a square of 1.2 S points, the height of a line of text of that size. Main thread only.
+/// outlines of 16 x 16 units, embedded according to the table in symbols.cmake. A symbol at font size S is
+/// 1.2 S points high, as a line of text of that size, and as wide as its own proportions make it; the
+/// embedded ones are square. Main thread only.
 namespace orvelle {
 
-/// The side of the square that a symbol fills beside text of `fontSize` points.
-[[nodiscard]] constexpr double symbolExtent(double fontSize) {
-    return 1.2 * fontSize;
-}
+/// The size of a symbol beside text of `fontSize` points, in points. An unknown one is square.
+[[nodiscard]] QSizeF symbolSize(QStringView name, double fontSize, QFont::Weight weight = QFont::Normal);
 
 /// The symbol in whole device pixels with `devicePixelRatio` set, in `color` where it is drawn and
 /// transparent elsewhere. A weight above Normal thickens the outline. Recent images are cached. Null, with a
@@ -36,8 +37,11 @@ void paintSymbol(QPainter& painter, QStringView name, const QPointF& center, dou
 /// Whether a symbol has this name.
 [[nodiscard]] bool isKnownSymbol(QStringView name);
 
-/// The symbol in a square of `side` pixels, premultiplied: opaque in any colour where it is drawn, and
-/// transparent elsewhere. Null for an unknown name. `side` is at least 1.
-[[nodiscard]] QImage rasterizeSymbol(QStringView name, int side, QFont::Weight weight);
+/// The width of the symbol where it is this high, in the same unit. Nothing for an unknown name.
+[[nodiscard]] std::optional<double> symbolWidth(QStringView name, double height, QFont::Weight weight);
+
+/// The symbol in a picture of this height in pixels and of its own width, premultiplied: opaque in any colour
+/// where it is drawn, and transparent elsewhere. Null for an unknown name. `height` is at least 1.
+[[nodiscard]] QImage rasterizeSymbol(QStringView name, int height, QFont::Weight weight);
 
 } // namespace orvelle

@@ -1,9 +1,10 @@
 #include "theme/symbols.h"
 
+#include <QtMath>
+
 #include <AppKit/AppKit.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 // The program uses the names of the system's symbols. Compiled with manual reference counting.
@@ -35,18 +36,28 @@ NSFontWeight systemWeight(QFont::Weight weight) {
     return weight >= QFont::Medium ? NSFontWeightMedium : NSFontWeightRegular;
 }
 
-/// Centres the symbol in the square, in its own proportions and scaled down to fit.
-NSRect placeInSquare(NSSize size, CGFloat side) {
-    const CGFloat scale = std::min({CGFloat{1}, side / size.width, side / size.height});
-    const CGFloat width = size.width * scale;
-    const CGFloat height = size.height * scale;
-    return NSMakeRect((side - width) / 2, (side - height) / 2, width, height);
+/// Null for an unknown name, and where the system fails.
+NSImage* makeSymbol(QStringView name, CGFloat height, QFont::Weight weight) {
+    constexpr CGFloat heightPerPointSize = 1.2;
+    return [namedSymbol(name)
+        imageWithSymbolConfiguration:[NSImageSymbolConfiguration
+                                         configurationWithPointSize:height / heightPerPointSize
+                                                             weight:systemWeight(weight)]];
 }
 
-void draw(NSImage* symbol, CGContextRef context, CGFloat side) {
+/// The symbol's own size, scaled down if it is higher than its line.
+NSSize sizeInLine(NSImage* symbol, CGFloat height) {
+    const NSSize size = [symbol size];
+    const CGFloat scale = size.height > height ? height / size.height : 1;
+    return NSMakeSize(size.width * scale, size.height * scale);
+}
+
+/// Draws the symbol in the middle of the picture.
+void draw(NSImage* symbol, CGContextRef context, NSSize size, const QImage& picture) {
     [NSGraphicsContext saveGraphicsState];
     [NSGraphicsContext setCurrentContext:[NSGraphicsContext graphicsContextWithCGContext:context flipped:NO]];
-    [symbol drawInRect:placeInSquare([symbol size], side)];
+    [symbol drawInRect:NSMakeRect((picture.width() - size.width) / 2, (picture.height() - size.height) / 2,
+                                  size.width, size.height)];
     [NSGraphicsContext restoreGraphicsState];
 }
 
@@ -70,21 +81,24 @@ bool isKnownSymbol(QStringView name) {
     return namedSymbol(name) != nil;
 }
 
-QImage rasterizeSymbol(QStringView name, int side, QFont::Weight weight) {
+std::optional<double> symbolWidth(QStringView name, double height, QFont::Weight weight) {
     const ReleasePool pool;
-    constexpr CGFloat sidePerPointSize = 1.2;
-    NSImage* const symbol =
-        [namedSymbol(name) imageWithSymbolConfiguration:[NSImageSymbolConfiguration
-                                                            configurationWithPointSize:side / sidePerPointSize
-                                                                                weight:systemWeight(weight)]];
+    NSImage* const symbol = makeSymbol(name, height, weight);
+    return symbol != nil ? std::optional(sizeInLine(symbol, height).width) : std::nullopt;
+}
+
+QImage rasterizeSymbol(QStringView name, int height, QFont::Weight weight) {
+    const ReleasePool pool;
+    NSImage* const symbol = makeSymbol(name, height, weight);
     if (symbol == nil)
         return {};
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    const NSSize size = sizeInLine(symbol, height);
+    QImage image(std::max(1, qCeil(size.width)), height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     const CGContextRef context = createContext(image);
     if (context == nullptr)
         return {};
-    draw(symbol, context, side);
+    draw(symbol, context, size, image);
     CGContextRelease(context);
     return image;
 }

@@ -1,4 +1,6 @@
 #include "appkit/program.h"
+#include "menu_bar/scene_layout.h"
+#include "support/pixels.h"
 #include "theme/symbols.h"
 
 namespace orvelle {
@@ -17,16 +19,31 @@ TEST_F(SystemSymbolsTest, AreThoseThatTheSystemKnows) {
     EXPECT_TRUE(rasterizeSymbol(u"no.such.symbol", 24, QFont::Normal).isNull());
 }
 
-TEST_F(SystemSymbolsTest, StandInTheMiddleOfTheirSquareInTheirOwnProportions) {
+TEST_F(SystemSymbolsTest, HaveTheirNaturalWidthAndStandInTheMiddleOfTheirLine) {
     const QImage image = shape();
-    EXPECT_EQ(image.size(), QSize(24, 24));
+    EXPECT_EQ(image.size(), QSize(30, 24));
     EXPECT_DOUBLE_EQ(desktop().symbolPointSize, 20);
-    // Half as wide again as 20 is too wide for the square: it is 24 by 16 there.
-    EXPECT_EQ(qAlpha(image.pixel(12, 3)), 0);
-    EXPECT_EQ(qAlpha(image.pixel(12, 4)), 255);
-    EXPECT_EQ(qAlpha(image.pixel(0, 12)), 255);
-    EXPECT_EQ(qAlpha(image.pixel(23, 19)), 255);
-    EXPECT_EQ(qAlpha(image.pixel(23, 20)), 0);
+    EXPECT_EQ(paintedRect(image), QRect(0, 2, 30, 20));
+}
+
+TEST_F(SystemSymbolsTest, HigherThanTheirLineAreScaledDownToIt) {
+    desktop().script.symbolWidth = 0.75;
+    desktop().script.symbolHeight = 1.5;
+    const QImage image = shape();
+    EXPECT_EQ(image.size(), QSize(12, 24));
+    EXPECT_EQ(paintedRect(image), QRect(0, 0, 12, 24));
+}
+
+TEST_F(SystemSymbolsTest, AreLaidOutAtTheirNaturalWidth) {
+    EXPECT_EQ(symbolSize(u"cpu", 10), QSizeF(15, 12));
+    EXPECT_EQ(extentOf({SymbolShape{.name = QStringLiteral("cpu"), .fontSize = 10}}).size, QSizeF(15, 12));
+    EXPECT_EQ(symbolImage(u"cpu", 10, Qt::red, 2).deviceIndependentSize(), QSizeF(15, 12));
+}
+
+TEST_F(SystemSymbolsTest, LeaveASquareEmptyWhereTheSystemCannotDrawThem) {
+    EXPECT_EQ(symbolSize(u"no.such.symbol", 10), QSizeF(12, 12));
+    desktop().failCallsTo("imageWithSymbolConfiguration");
+    EXPECT_EQ(symbolSize(u"cpu", 100), QSizeF(120, 120));
 }
 
 TEST_F(SystemSymbolsTest, AreAsHeavyAsTheTextBesideThem) {

@@ -40,6 +40,13 @@ TEST(Symbols, AreOnePointTwoTimesTheFontSizeInWholeDevicePixels) {
     EXPECT_EQ(symbolImage(u"cpu", 6, tint, 1).size(), QSize(7, 7));
 }
 
+TEST(Symbols, AreLaidOutInSquaresAsHighAsALineOfText) {
+    EXPECT_EQ(symbolSize(u"cpu", 10), QSizeF(12, 12));
+    EXPECT_EQ(symbolSize(u"memorychip", 20, QFont::Bold), QSizeF(24, 24));
+    EXPECT_EQ(symbolSize(u"no.such.symbol", 10), QSizeF(12, 12));
+    EXPECT_EQ(symbolSize(u"cpu", 0), QSizeF(0, 0));
+}
+
 TEST(Symbols, StayTranslucentInATranslucentColor) {
     const QImage image = symbolImage(u"bolt.fill", 20, QColor(255, 0, 0, 102), 1);
     EXPECT_EQ(image.pixelColor(image.rect().center()).alpha(), 102);

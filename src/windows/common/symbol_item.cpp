@@ -28,8 +28,8 @@ void SymbolItem::paint(QPainter* painter) {
 }
 
 void SymbolItem::refresh() {
-    const double extent = symbolExtent(m_fontSize);
-    setImplicitSize(extent, extent);
+    const QSizeF size = symbolSize(m_name, m_fontSize, static_cast<QFont::Weight>(m_weight));
+    setImplicitSize(size.width(), size.height());
     update();
 }
 

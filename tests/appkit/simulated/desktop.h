@@ -39,6 +39,8 @@ struct Script {
     bool reducesMotion = false;
     std::map<std::string, double> defaults{}; ///< the program's own settings that the system keeps
     std::set<std::string> symbols{"cpu", "network"};
+    double symbolWidth = 1.5; ///< of every symbol, a multiple of its point size
+    double symbolHeight = 1;
     /// Called while a menu is open. It may choose an entry.
     std::function<void()> whileMenuIsOpen{};
 };

@@ -16,7 +16,7 @@ const NSFontWeight NSFontWeightRegular = 0, NSFontWeightMedium = 0.23, NSFontWei
 }
 @end
 
-// Every symbol is a filled rectangle, half as wide again as its point size and as high.
+// Every symbol is a filled rectangle.
 @implementation NSImage
 + (NSImage*)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(NSString*)description {
     static_cast<void>(description);
@@ -29,7 +29,8 @@ const NSFontWeight NSFontWeightRegular = 0, NSFontWeightMedium = 0.23, NSFontWei
     desktop().symbolPointSize = configuration->m_pointSize;
     desktop().symbolWeight = configuration->m_weight;
     NSImage* image = [[[NSImage alloc] init] autorelease];
-    image->m_size = NSMakeSize(configuration->m_pointSize * 1.5, configuration->m_pointSize);
+    image->m_size = NSMakeSize(configuration->m_pointSize * desktop().script.symbolWidth,
+                               configuration->m_pointSize * desktop().script.symbolHeight);
     return image;
 }
 - (NSSize)size {
