@@ -1,5 +1,6 @@
 #include "shell/desktop.h"
 #include "shell/linux/desktop_choice.h"
+#include "shell/linux/session_bus.h"
 #include "shell/linux/tray_choice.h"
 #include "shell/wayland/wayland_desktop.h"
 #include "shell/x11/x11_desktop.h"
@@ -37,6 +38,7 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
+    avoidSilentSessionBus();
     const TrayPatience patience =
         name == QLatin1StringView("tray") ? TrayPatience::waits : TrayPatience::none;
     const DesktopFinding found = findDesktop(

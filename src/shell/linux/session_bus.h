@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <chrono>
+#include <optional>
+
+/// The message bus of the user's session, before anything connects to it.
+namespace orvelle {
+
+/// The name of the Unix socket of a bus, as the kernel takes it, from the address of the bus; the name begins
+/// with a null character where it stands for no file. Nothing when the bus is reached in another way.
+[[nodiscard]] std::optional<QByteArray> busSocket(const QByteArray& address);
+
+/// Whether a bus takes a connection and then does not answer within `patience`. False when it cannot be
+/// asked: there is no such socket, or nobody listens.
+[[nodiscard]] bool isSilent(const QByteArray& socketName, std::chrono::milliseconds patience);
+
+/// Hides the session's bus from this process when it is silent, and says so on standard error. Qt would ask
+/// it in the main thread, whenever it looks for assistive programs, and wait for ever. To be called before
+/// the application object exists.
+void avoidSilentSessionBus(std::chrono::milliseconds patience = std::chrono::seconds(2));
+
+} // namespace orvelle
