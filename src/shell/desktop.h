@@ -82,7 +82,7 @@ public:
     [[nodiscard]] virtual std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) = 0;
 
     /// Keeps the fonts of theme/fonts.h equal to those that the desktop announces, now and after every
-    /// change, as long as the result lives. Null where the desktop announces no more than Qt knows.
+    /// change, as long as the result lives. Null where the desktop announces no change that Qt does not know.
     [[nodiscard]] virtual std::unique_ptr<QObject> followFonts() = 0;
 
     /// The login item of this program for the present user.

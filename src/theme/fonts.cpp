@@ -36,6 +36,11 @@ DesktopFontNames& announced() {
     return names;
 }
 
+DesignedFontFamilies& designed() {
+    static DesignedFontFamilies families;
+    return families;
+}
+
 /// Whether fontconfig or Qt names this family because the desktop has chosen none.
 bool isGenericFamily(const QString& family) {
     static const QStringList generic = {QStringLiteral("Sans Serif"), QStringLiteral("Sans"),
@@ -77,12 +82,27 @@ QString announcedFamily(FontRole role) {
     return description.isEmpty() ? QString() : describedFamily(description, QFontDatabase::families());
 }
 
+/// The family of the system's own font in the design of this role, or an empty string.
+QString designedFamily(FontRole role) {
+    switch (role) {
+    case FontRole::proportional:
+        break;
+    case FontRole::monospaced:
+        return designed().monospaced;
+    case FontRole::rounded:
+        return designed().rounded;
+    }
+    return {};
+}
+
 QFont baseFont(FontRole role) {
     const bool isMonospaced = role == FontRole::monospaced;
     QFont font =
         QFontDatabase::systemFont(isMonospaced ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont);
     const bool needsAnotherFamily = role == FontRole::rounded || isGenericFamily(font.family());
     QString family = announcedFamily(role);
+    if (family.isEmpty())
+        family = designedFamily(role);
     if (family.isEmpty() && needsAnotherFamily)
         family = firstInstalled(candidateFamilies(role));
     if (!family.isEmpty())
@@ -175,6 +195,13 @@ void setDesktopFontNames(const DesktopFontNames& names) {
     if (announced() == names)
         return;
     announced() = names;
+    resetFonts();
+}
+
+void setDesignedFontFamilies(const DesignedFontFamilies& families) {
+    if (designed() == families)
+        return;
+    designed() = families;
     resetFonts();
 }
 

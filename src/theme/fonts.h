@@ -18,7 +18,8 @@ namespace orvelle {
 /// The desktop's fixed-width font, whose digits all have the same width.
 [[nodiscard]] QFont monospacedSystemFont(double size, QFont::Weight weight = QFont::Normal);
 
-/// A family with rounded strokes where one is installed, else the same as `systemFont`.
+/// The system's font with rounded strokes, or a family with such strokes that is installed, else the same as
+/// `systemFont`.
 [[nodiscard]] QFont roundedSystemFont(double size, QFont::Weight weight = QFont::Normal);
 
 /// Signals that the fonts above may have changed, with the desktop's choice or with what is installed, so
@@ -53,6 +54,21 @@ struct DesktopFontNames {
 /// Sets what the desktop announces. It takes precedence over what Qt knows, where such a family is installed:
 /// Qt asks the desktop once, or not at all.
 void setDesktopFontNames(const DesktopFontNames& names);
+
+/// The families of the system's own font in other designs, as Qt knows them. Empty where there is none.
+struct DesignedFontFamilies {
+    QString monospaced;
+    QString rounded;
+
+    bool operator==(const DesignedFontFamilies&) const = default;
+};
+
+/// Sets what the system has. What a desktop announces takes precedence, what is merely installed does not.
+void setDesignedFontFamilies(const DesignedFontFamilies& families);
+
+/// Has Qt load the system's own font in other designs, and sets them. Only on macOS, where Qt knows none of
+/// them: system_fonts.mm.
+void useSystemFontDesigns();
 
 /// The one of `families` that a description names, or an empty string. A comma separates alternatives, and
 /// style and size follow the name.

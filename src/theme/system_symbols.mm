@@ -1,3 +1,4 @@
+#include "theme/release_pool.h"
 #include "theme/symbols.h"
 
 #include <QtMath>
@@ -10,18 +11,6 @@
 // The program uses the names of the system's symbols. Compiled with manual reference counting.
 namespace orvelle {
 namespace {
-
-/// Releases the objects that were autoreleased during its lifetime.
-class ReleasePool {
-  public:
-    ReleasePool() = default;
-    ~ReleasePool() { [m_pool release]; }
-    ReleasePool(const ReleasePool&) = delete;
-    ReleasePool& operator=(const ReleasePool&) = delete;
-
-  private:
-    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
-};
 
 NSImage* namedSymbol(QStringView name) {
     return [NSImage imageWithSystemSymbolName:[NSString stringWithUTF8String:name.toUtf8().constData()]

@@ -1,30 +1,37 @@
 #!/usr/bin/env bash
-# planted_faults.sh BUILD_DIRECTORY: proves that test_appkit notices faults in the macOS shell, by planting one fault at
+# planted_faults.sh BUILD_DIRECTORY: proves that the tests notice faults in the macOS shell, by planting one fault at
 # a time. BUILD_DIRECTORY must belong to a checkout without changes in src, because each file is restored from git. For
 # use by hand: it compiles for several minutes.
 set -euo pipefail
 build=$(readlink -f "$1")
 cd "$(dirname "$(readlink -f "$0")")/../.."
 shell=src/shell/macos
-git diff --quiet -- "$shell" || { echo "there are changes in $shell" >&2; exit 1; }
-trap 'git checkout -q -- "$shell"' EXIT
-export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
+sources=("$shell" src/theme)
+git diff --quiet -- "${sources[@]}" || { echo "there are changes in ${sources[*]}" >&2; exit 1; }
+trap 'git checkout -q -- "${sources[@]}"' EXIT
 unnoticed=0
+
+passes() { # whether the tests do
+  ctest --test-dir "$build" -R '^test_appkit(_symbols)?$' >/dev/null 2>&1
+}
 
 plant() { # plant WHAT FILE SED_COMMAND
   sed -i "$3" "$shell/$2"
-  if git diff --quiet -- "$shell"; then
+  if git diff --quiet -- "${sources[@]}"; then
     echo "no longer possible: $1"; unnoticed=1
-  elif ! ninja -C "$build" test_appkit >/dev/null 2>&1; then
+  elif ! ninja -C "$build" test_appkit test_appkit_symbols >/dev/null 2>&1; then
     echo "does not compile: $1"; unnoticed=1
-  elif timeout 120 "$build/bin/test_appkit" >/dev/null 2>&1; then
+  elif passes; then
     echo "NOT NOTICED: $1"; unnoticed=1
   else
     echo "noticed: $1"
   fi
-  git checkout -q -- "$shell"
+  git checkout -q -- "${sources[@]}"
 }
 
+if ! ninja -C "$build" test_appkit test_appkit_symbols >/dev/null || ! passes; then
+  echo "the tests fail without any fault" >&2; exit 1
+fi
 plant "only the left button" macos_status_item.mm 's/ | NSEventMaskRightMouseUp//'
 plant "an edge is not pinned" macos_status_item.mm '/bottomAnchor/d'
 plant "an item is not removed" macos_status_item.mm '/removeStatusItem/s/^/if (false) /'
@@ -63,4 +70,8 @@ plant "a dragged item forgets its place" macos_status_item.mm '/setObject:positi
 plant "items in the reverse order" macos_status_bar.mm 's/addsItemsOnTheLeft() const override { return true; }/addsItemsOnTheLeft() const override { return false; }/'
 plant "white on every menu bar" click_through_hosting_view.mm 's/? BarAppearance::light/? BarAppearance::dark/'
 plant "not drawn again on a light bar" click_through_hosting_view.mm '/viewDidChangeEffectiveAppearance\]/{n;d}'
+plant "a wide symbol is squeezed" ../../theme/system_symbols.mm 's/std::max(1, qCeil(size.width))/height/'
+plant "a high symbol is cut" ../../theme/system_symbols.mm 's/size.height > height ? .*;/1;/'
+plant "the designs exchange their roles" ../../theme/system_fonts.mm 's/DesignMonospaced/DesignRounded/'
+plant "Qt never hears of the designs" macos_desktop.mm '/useSystemFontDesigns/d'
 exit $unnoticed

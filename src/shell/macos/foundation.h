@@ -1,5 +1,7 @@
 #pragma once
 
+#include "theme/release_pool.h"
+
 #include <Foundation/Foundation.h>
 
 #include <QString>
@@ -35,19 +37,6 @@ template <class Object> class Retained {
 
   private:
     id m_object = nil; // works with a class that is only declared
-};
-
-/// Releases at its end every object that was lent while it lived. Work that a timer of Qt starts needs one,
-/// because the pool of the main loop is drained at the next event of the user, which may be hours away.
-class ReleasePool {
-  public:
-    ReleasePool() = default;
-    ~ReleasePool() { [m_pool release]; }
-    ReleasePool(const ReleasePool&) = delete;
-    ReleasePool& operator=(const ReleasePool&) = delete;
-
-  private:
-    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
 };
 
 /// The text as the system's type, lent until the pool ends.

@@ -1,5 +1,7 @@
 #include "shell/macos/macos_desktop.h"
 
+#include "theme/fonts.h"
+
 namespace orvelle {
 namespace {
 
@@ -18,8 +20,11 @@ class MacosDesktop final : public Desktop {
     [[nodiscard]] std::unique_ptr<QObject> followReducedMotion(AnimationClock& clock) override {
         return followReducedMacosMotion(clock);
     }
-    /// The system has one font, which Qt knows.
-    [[nodiscard]] std::unique_ptr<QObject> followFonts() override { return nullptr; }
+    /// The system has one font, in designs that never change.
+    [[nodiscard]] std::unique_ptr<QObject> followFonts() override {
+        useSystemFontDesigns();
+        return nullptr;
+    }
     [[nodiscard]] std::unique_ptr<LoginItem> makeLoginItem() override { return makeMacosLoginItem(); }
 
   private:

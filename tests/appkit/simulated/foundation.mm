@@ -183,4 +183,11 @@ NSArray* makeArray(const Objects& objects) { return [[[NSArray alloc] initWithOb
 } // namespace orvelle::simulated
 
 @implementation NSURL
+- (NSString*)path {
+    return m_path;
+}
+- (void)dealloc {
+    [m_path release];
+    [super dealloc];
+}
 @end

@@ -1,12 +1,6 @@
 #pragma once
 
-#include <Foundation/Foundation.h>
-
-typedef CGFloat NSFontWeight;
-
-extern "C" {
-extern const NSFontWeight NSFontWeightRegular, NSFontWeightMedium, NSFontWeightSemibold, NSFontWeightBold;
-}
+#include <AppKit/NSFontDescriptor.h>
 
 @interface NSImageSymbolConfiguration : NSObject {
   @public

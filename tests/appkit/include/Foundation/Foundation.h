@@ -80,7 +80,11 @@ typedef NSString* NSNotificationName;
 - (id)object;
 @end
 
-@interface NSURL : NSObject
+@interface NSURL : NSObject {
+  @public
+    NSString* m_path;
+}
+- (NSString*)path;
 @end
 
 @interface NSNotificationCenter : NSObject
