@@ -21,7 +21,8 @@ constexpr double barHeight = 22;
 void paintItems(QPainter& painter, std::span<const ModuleInfo> shown, const ModuleContext& context) {
     double left = 0;
     for (const ModuleInfo& module : shown) {
-        paintScene(painter, {left, 0, module.width, barHeight}, makeScene(module.id, context).body);
+        paintScene(painter, {left, 0, module.width, barHeight}, makeScene(module.id, context).body,
+                   BarAppearance::dark);
         left += module.width;
     }
 }

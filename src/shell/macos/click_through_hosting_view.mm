@@ -8,7 +8,7 @@ namespace {
 
 /// Whether what surrounds the view is dark or light.
 BarAppearance appearanceOf(NSView* view) {
-    const NSAppearanceName names[] = {NSAppearanceNameDarkAqua, NSAppearanceNameAqua};
+    const id names[] = {NSAppearanceNameDarkAqua, NSAppearanceNameAqua};
     NSArray* const known = [NSArray arrayWithObjects:names count:std::size(names)];
     NSAppearanceName const best = [[view effectiveAppearance] bestMatchFromAppearancesWithNames:known];
     return best != nil && [best isEqualToString:NSAppearanceNameAqua] ? BarAppearance::light
