@@ -30,17 +30,26 @@ memory_kilobytes() { awk -v name="$1:" '$1 == name {print $2}' "/proc/$program/s
 # Voluntary context switches, one line for each thread: its id and their number.
 voluntary_switches() { cat "/proc/$program"/task/*/status | awk '/^Pid:/ {id = $2} /^voluntary/ {print id, $2}' | sort; }
 
-# cpu_nanoseconds PROCESS: the CPU time of its threads.
-cpu_nanoseconds() { cat "/proc/$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'; }
+# thread_nanoseconds PROCESS: a line for each thread: its id and its CPU time.
+thread_nanoseconds() {
+  local task
+  for task in "/proc/$1"/task/*; do
+    awk -v id="${task##*/}" '{print id, $1}' "$task/schedstat" 2>/dev/null
+  done | sort
+}
+
+# growth BEFORE AFTER: the sum of what threads have more than before. One that has ended or begun meanwhile counts for
+# nothing.
+growth() { join <(echo "$1") <(echo "$2") | awk '{sum += $3 - $2} END {printf "%d", sum}'; }
 
 # cpu_percent SECONDS PROCESS...: what each uses of a core in the same time, separated by blanks.
 cpu_percent() {
   local seconds=$1 id before=()
   shift
-  for id in "$@"; do before+=("$(cpu_nanoseconds "$id")"); done
+  for id in "$@"; do before+=("$(thread_nanoseconds "$id")"); done
   sleep "$seconds"
   for id in "$@"; do
-    awk -v nanoseconds=$(($(cpu_nanoseconds "$id") - before[0])) -v seconds="$seconds" \
+    awk -v nanoseconds="$(growth "${before[0]}" "$(thread_nanoseconds "$id")")" -v seconds="$seconds" \
       'BEGIN {printf "%.3f ", nanoseconds / seconds / 1e7}'
     before=("${before[@]:1}")
   done
@@ -52,9 +61,8 @@ add_idle_rows() {
   local before percent switches
   before=$(voluntary_switches)
   read -r percent < <(cpu_percent "$1" "$program")
-  # A thread that has ended meanwhile counts for nothing.
-  switches=$(join <(echo "$before") <(voluntary_switches) | awk -v seconds="$1" \
-    '{sum += $3 - $2} END {printf "%.2f", sum / seconds}')
+  switches=$(awk -v count="$(growth "$before" "$(voluntary_switches)")" -v seconds="$1" \
+    'BEGIN {printf "%.2f", count / seconds}')
   add_row "voluntary context switches, all threads, $2" "$switches per second" "1 per second"
   add_row "CPU time of the same" "$percent % of a core" ""
 }
