@@ -33,6 +33,8 @@ test_packages=(
 )
 # Compositors for `./test desktops`: what they need to run without a screen, to be asked, and to show a Wayland window.
 compositor_packages=(kwin-wayland gnome-shell xwayland python3-dbusmock libglib2.0-bin foot)
+# What ./package writes packages with.
+package_packages=(dpkg-dev file gzip xz-utils elfutils)
 # Static checks; ./lint explains the versions.
 lint_packages=(clang-format-19 clang-tidy-19 shellcheck pylint)
 

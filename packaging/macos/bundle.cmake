@@ -17,23 +17,22 @@ set_target_properties(orvelle PROPERTIES
   MACOSX_BUNDLE_BUNDLE_VERSION ${PROJECT_VERSION}
   MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION})
 
-# The icon in all sizes, from the same drawing that other desktops use.
-set(ORVELLE_ICON_DRAWING ${CMAKE_SOURCE_DIR}/packaging/orvelle.svg CACHE FILEPATH "Drawing of the program's icon")
-if(EXISTS ${ORVELLE_ICON_DRAWING})
-  add_executable(orvelle_icon_set EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/icon_set.cpp)
-  target_link_libraries(orvelle_icon_set PRIVATE orvelle_build_flags Qt6::Gui Qt6::Svg)
-  set(icon_set ${CMAKE_CURRENT_BINARY_DIR}/Orvelle.iconset)
-  set(icon ${CMAKE_CURRENT_BINARY_DIR}/Orvelle.icns)
-  add_custom_command(OUTPUT ${icon}
-    COMMAND orvelle_icon_set ${ORVELLE_ICON_DRAWING} ${icon_set}
-    COMMAND iconutil --convert icns --output ${icon} ${icon_set}
-    DEPENDS orvelle_icon_set ${ORVELLE_ICON_DRAWING})
-  set_source_files_properties(${icon} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
-  target_sources(orvelle PRIVATE ${icon})
-  set_target_properties(orvelle PROPERTIES MACOSX_BUNDLE_ICON_FILE Orvelle.icns)
-else()
-  message(STATUS "No drawing of the icon at ${ORVELLE_ICON_DRAWING}: Orvelle.app gets the system's")
-endif()
+# The icon in all sizes, under the names that `iconutil` expects in an icon set.
+set(drawing ${CMAKE_SOURCE_DIR}/packaging/orvelle.svg)
+set(icon_set ${CMAKE_CURRENT_BINARY_DIR}/Orvelle.iconset)
+set(icon ${CMAKE_CURRENT_BINARY_DIR}/Orvelle.icns)
+set(sizes "")
+foreach(points IN ITEMS 16 32 128 256 512)
+  math(EXPR doubled "2 * ${points}")
+  list(APPEND sizes ${points} ${icon_set}/icon_${points}x${points}.png ${doubled} ${icon_set}/icon_${points}x${points}@2x.png)
+endforeach()
+add_custom_command(OUTPUT ${icon}
+  COMMAND orvelle_icon_sizes ${drawing} ${sizes}
+  COMMAND iconutil --convert icns --output ${icon} ${icon_set}
+  DEPENDS orvelle_icon_sizes ${drawing})
+set_source_files_properties(${icon} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+target_sources(orvelle PRIVATE ${icon})
+set_target_properties(orvelle PROPERTIES MACOSX_BUNDLE_ICON_FILE Orvelle.icns)
 
 install(TARGETS orvelle BUNDLE DESTINATION .)
 find_program(ORVELLE_MACDEPLOYQT macdeployqt HINTS ${QT6_INSTALL_PREFIX}/bin DOC "Copies Qt into a bundle")

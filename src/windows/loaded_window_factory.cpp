@@ -13,7 +13,7 @@ std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context) {
     // Left alone, the heap takes in the pictures of windows once one of them has been freed, and keeps them.
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     QLibrary module(QCoreApplication::applicationDirPath() +
-                    QStringLiteral("/../lib/orvelle/liborvelle_views"));
+                    QStringLiteral("/" ORVELLE_LIBRARIES_FROM_PROGRAM "/liborvelle_views"));
     const auto makeFactory =
         reinterpret_cast<decltype(&orvelleMakeWindowFactory)>(module.resolve(makeWindowFactorySymbol));
     if (makeFactory == nullptr) {

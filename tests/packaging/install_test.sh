@@ -1,10 +1,11 @@
 #!/bin/bash
 # The tree that is installed is whole: its program starts from where it is and opens its settings.
 #
-#   install_test.sh CMAKE BUILD_DIRECTORY
+#   install_test.sh CMAKE BUILD_DIRECTORY LIBRARY_FOLDER
 
 cmake=$1
 build=$2
+libraries=$3 # below the prefix
 source "$(dirname "$0")/../e2e/desktop.sh"
 requireTools readelf
 
@@ -12,14 +13,19 @@ prefix="$workDirectory/a place"
 orvelle=$prefix/bin/orvelle
 "$cmake" --install "$build" --prefix "$prefix" >"$workDirectory/install.log" || { cat "$workDirectory/install.log"; exit 1; }
 
-for file in bin/orvelle lib/orvelle/liborvelle_views.so share/applications/orvelle.desktop \
-    share/metainfo/orvelle.metainfo.xml share/icons/hicolor/scalable/apps/orvelle.svg; do
-    [[ -f $prefix/$file ]] || fail "$file is not installed"
+for file in bin/orvelle bin/orvelle-probe bin/orvelle-snapshot "$libraries/liborvelle_views.so" \
+    share/applications/orvelle.desktop share/metainfo/orvelle.metainfo.xml lib/systemd/user/orvelle.service \
+    share/icons/hicolor/scalable/apps/orvelle.svg share/icons/hicolor/symbolic/apps/orvelle-symbolic.svg \
+    share/icons/hicolor/22x22/apps/orvelle.png share/icons/hicolor/512x512/apps/orvelle.png \
+    share/man/man1/orvelle.1.gz share/man/man1/orvelle-probe.1.gz share/man/man1/orvelle-snapshot.1.gz \
+    share/bash-completion/completions/orvelle share/fish/vendor_completions.d/orvelle.fish \
+    share/zsh/vendor-completions/_orvelle share/doc/orvelle/copyright share/doc/orvelle/changelog.gz; do
+    [[ -s $prefix/$file ]] || fail "$file is not installed"
 done
 # Nothing is looked for where it was built.
 searchPath() { readelf -d "$1" | sed -n 's/.*R.*PATH.*\[\(.*\)\]/\1/p'; }
-expectEqual "the program looks for its libraries beside itself" "\$ORIGIN/../lib/orvelle" "$(searchPath "$prefix/bin/orvelle")"
-for library in "$prefix"/lib/orvelle/*.so; do
+expectEqual "the program looks for its libraries beside itself" "\$ORIGIN/../$libraries" "$(searchPath "$prefix/bin/orvelle")"
+for library in "$prefix/$libraries"/*.so; do
     expectEqual "so does $(basename "$library")" "\$ORIGIN" "$(searchPath "$library")"
     missing=$(ldd "$library" | grep 'not found')
     expectEqual "and finds all of them" "" "$missing"
