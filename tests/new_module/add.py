@@ -45,10 +45,10 @@ CHANGES = [
     ("tests/menu_bar/CMakeLists.txt", "    cpu_menu_bar_item_test.cpp\n",
      "    clock_menu_bar_item_test.cpp\n    cpu_menu_bar_item_test.cpp\n"),
     # Its settings, as people read of them.
-    ("README.md", "| `updateInterval` |", "| `showClock` | `true`, `false` | `true` | likewise |\n| `updateInterval` |"),
-    ("README.md", "| `customCPUColorHex` |",
+    ("docs/settings.md", "| `updateInterval` |", "| `showClock` | `true`, `false` | `true` | likewise |\n| `updateInterval` |"),
+    ("docs/settings.md", "| `customCPUColorHex` |",
      "| `useCustomClockColor` | `true`, `false` | `false` | likewise |\n| `customCPUColorHex` |"),
-    ("README.md", "| `launchAtLogin` |",
+    ("docs/settings.md", "| `launchAtLogin` |",
      "| `customClockColorHex` | a colour such as `#FF8000`, or empty | empty | likewise |\n| `launchAtLogin` |"),
 ]
 

@@ -12,8 +12,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A row of the table of settings in README.md.
-struct ReadmeRow {
+/// A row of the table of settings in docs/settings.md.
+struct SettingsRow {
     QString key;
     QString values;
     QString defaultValue;
@@ -28,13 +28,13 @@ QStringList codeSpans(const QString& cell) {
     return spans;
 }
 
-QList<ReadmeRow> readmeRows() {
-    QFile readme(QStringLiteral(ORVELLE_README));
-    if (!readme.open(QIODevice::ReadOnly))
+QList<SettingsRow> settingsRows() {
+    QFile page(QStringLiteral(ORVELLE_SETTINGS_PAGE));
+    if (!page.open(QIODevice::ReadOnly))
         return {};
-    QList<ReadmeRow> rows;
+    QList<SettingsRow> rows;
     bool isInTable = false;
-    for (const QString& line : QString::fromUtf8(readme.readAll()).split(u'\n')) {
+    for (const QString& line : QString::fromUtf8(page.readAll()).split(u'\n')) {
         if (line == "| Key | Values | Default | What it does |"_L1)
             isInTable = true;
         else if (!line.startsWith(u'|'))
@@ -60,10 +60,10 @@ QString keyOf(const QMetaProperty& property) {
 }
 
 /// The row of a property, empty if it is missing.
-ReadmeRow rowOf(const QMetaProperty& property) {
-    static const QList<ReadmeRow> rows = readmeRows();
-    const auto row = std::ranges::find(rows, keyOf(property), &ReadmeRow::key);
-    return row == rows.end() ? ReadmeRow() : *row;
+SettingsRow rowOf(const QMetaProperty& property) {
+    static const QList<SettingsRow> rows = settingsRows();
+    const auto row = std::ranges::find(rows, keyOf(property), &SettingsRow::key);
+    return row == rows.end() ? SettingsRow() : *row;
 }
 
 /// All values of a property that has only a few, else an empty list.
@@ -80,17 +80,17 @@ QStringList allValues(const QMetaProperty& property) {
     return names;
 }
 
-TEST(ReadmeSettingsTest, HasARowForEachSettingInTheStoresOrder) {
+TEST(SettingsPageTest, HasARowForEachSettingInTheStoresOrder) {
     QStringList keys;
     for (const QMetaProperty& property : storedProperties())
         keys.append(keyOf(property));
     QStringList listed;
-    for (const ReadmeRow& row : readmeRows())
+    for (const SettingsRow& row : settingsRows())
         listed.append(row.key);
     EXPECT_EQ(listed, keys) << listed.join(u' ').toStdString();
 }
 
-TEST(ReadmeSettingsTest, StatesTheDefaultOfEverySetting) {
+TEST(SettingsPageTest, StatesTheDefaultOfEverySetting) {
     const TemporarySettings settings;
     const SettingsStore store(settings.path());
     for (const QMetaProperty& property : storedProperties()) {
@@ -100,7 +100,7 @@ TEST(ReadmeSettingsTest, StatesTheDefaultOfEverySetting) {
     }
 }
 
-TEST(ReadmeSettingsTest, ListsEveryValueOfASwitchAChoiceAndTheTheme) {
+TEST(SettingsPageTest, ListsEveryValueOfASwitchAChoiceAndTheTheme) {
     qsizetype choices = 0;
     for (const QMetaProperty& property : storedProperties()) {
         const QStringList values = allValues(property);
@@ -112,7 +112,7 @@ TEST(ReadmeSettingsTest, ListsEveryValueOfASwitchAChoiceAndTheTheme) {
     EXPECT_EQ(choices, 25);
 }
 
-TEST(ReadmeSettingsTest, StatesTheLimitsOfTheInterval) {
+TEST(SettingsPageTest, StatesTheLimitsOfTheInterval) {
     const QMetaObject& meta = SettingsStore::staticMetaObject;
     const QStringList limits = codeSpans(rowOf(meta.property(meta.indexOfProperty("updateInterval"))).values);
     EXPECT_EQ(limits, (QStringList{u"0"_s, QString::number(maximumIntervalSeconds)}));
@@ -120,7 +120,7 @@ TEST(ReadmeSettingsTest, StatesTheLimitsOfTheInterval) {
     EXPECT_TRUE(isLegalSetting(maximumIntervalSeconds));
 }
 
-TEST(ReadmeSettingsTest, GivesAValidExampleForEachColor) {
+TEST(SettingsPageTest, GivesAValidExampleForEachColor) {
     qsizetype colors = 0;
     for (const QMetaProperty& property : storedProperties()) {
         if (!keyOf(property).endsWith("ColorHex"_L1))
