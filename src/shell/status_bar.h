@@ -77,6 +77,11 @@ public:
     /// that has a key of its own for that.
     virtual void takeKeyboard() {}
 
+    /// To be called before a popover opens under this item without a click. The keyboard goes where it would
+    /// go if a key had opened it: Escape brings it to the item, and then to the window that has it now.
+    /// Nothing happens on a desktop that has a key of its own for the items.
+    virtual void chooseItem(const StatusItem& /*item*/) {}
+
 Q_SIGNALS:
     /// The items have been painted for the first time since the program started.
     void firstPainted();

@@ -128,6 +128,16 @@ TEST_F(BarKeyboardTest, ReturnsWhenEscapeClosesWhatAKeyOpened) {
     EXPECT_EQ(focused(), QString()) << "no key has opened anything since";
 }
 
+TEST_F(BarKeyboardTest, ReturnsToAnItemThatWasChosenWithoutAKey) {
+    focus.choose(*bar.items()[1]);
+    EXPECT_EQ(focused(), QString()) << "what opens has the keyboard";
+    focus.resume();
+    focusIn();
+    EXPECT_EQ(focused(), QStringLiteral("memory"));
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), QStringLiteral("disk"));
+}
+
 TEST_F(BarKeyboardTest, DoesNotReturnWhenTheMouseOpenedWhatEscapeCloses) {
     take();
     press(Qt::Key_Return);

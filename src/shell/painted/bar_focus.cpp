@@ -1,5 +1,8 @@
 #include "shell/painted/bar_focus.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
 namespace orvelle {
 
 BarFocus::BarFocus(AccessibleBar& window)
@@ -16,6 +19,15 @@ void BarFocus::take() {
     m_isTaken = true;
     takeKeyboard();
     showFocus();
+}
+
+void BarFocus::choose(const StatusItem& item) {
+    // From one panel to the next the window that had the keyboard before both stays the same.
+    const QWindow* focused = QGuiApplication::focusWindow();
+    const bool isInPopup = focused != nullptr && focused->type() == Qt::Tool;
+    if (!m_keyboard.hasClicked() || !isInPopup)
+        rememberKeyboard();
+    m_keyboard.choose(item);
 }
 
 void BarFocus::resume() {

@@ -14,6 +14,9 @@ public:
     /// Moves the keyboard to the item where it was last, or else to the first one. Nothing happens while no
     /// item is on the screen.
     void take();
+    /// To be called when something is about to open under this item without a click: the keyboard moves as if
+    /// a key had opened it.
+    void choose(const StatusItem& item);
     /// To be called when Escape is about to close what an item opened: the keyboard returns to the item if a
     /// key opened it.
     void resume();
@@ -28,6 +31,8 @@ protected:
 private:
     /// Whether the items are on the screen.
     [[nodiscard]] virtual bool canTake() const = 0;
+    /// Remembers who has the keyboard now: `giveKeyboardBack()` moves it there.
+    virtual void rememberKeyboard() {}
     /// Moves the keyboard to the window, from another program.
     virtual void takeKeyboard() = 0;
     /// Moves the keyboard to the window, from another window of this program.

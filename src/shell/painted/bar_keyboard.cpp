@@ -44,6 +44,11 @@ void BarKeyboard::showFocus() {
     moveTo(currentIndex());
 }
 
+void BarKeyboard::choose(const StatusItem& item) {
+    m_current = item.identifier();
+    m_hasClicked = true;
+}
+
 void BarKeyboard::moveTo(std::size_t index) {
     m_current = m_bar.items()[index]->identifier();
     m_bar.setFocusedItem(m_current);

@@ -28,11 +28,15 @@ public:
     void showFocus();
     void hideFocus() { m_bar.setFocusedItem({}); }
 
+    /// Takes this item for one that a key has just clicked.
+    void choose(const StatusItem& item);
+
     /// Moves to an item or clicks it, which may remove items. Returns whether the key was used.
     [[nodiscard]] bool handleKey(const QKeyEvent& event);
 
-    /// Whether a key has clicked an item since the last call of this function or of the next one.
+    /// Whether a key has clicked an item since the last call of this function or of `forgetClick()`.
     [[nodiscard]] bool takeClick() { return std::exchange(m_hasClicked, false); }
+    [[nodiscard]] bool hasClicked() const { return m_hasClicked; }
     void forgetClick() { m_hasClicked = false; }
 
 private:

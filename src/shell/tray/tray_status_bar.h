@@ -26,6 +26,8 @@ public:
     void setMenu(const std::vector<MenuEntry>& entries) override;
     /// Opens the panel that was open last.
     void takeKeyboard() override;
+    /// The popover opens on the screen where a key of the desktop would open it.
+    void chooseItem(const StatusItem& /*item*/) override { m_panels.chooseScreen({}); }
 
 private:
     /// An icon of the tray. Without an identifier it stands for all items.

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] std::unique_ptr<Popover> makePopover(PopoverContent makeContent) override;
     [[nodiscard]] std::unique_ptr<ContextMenu> makeContextMenu() override;
     void takeKeyboard() override { m_focus.take(); }
+    void chooseItem(const StatusItem& item) override { m_focus.choose(item); }
 
     /// Opens a window below the bar, or, while that is empty, in the upper corner that all bars leave free.
     /// The window must outlive the result and must not have been shown.

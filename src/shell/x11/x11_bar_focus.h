@@ -15,6 +15,7 @@ public:
 
 private:
     [[nodiscard]] bool canTake() const override { return window().isExposed(); }
+    void rememberKeyboard() override { m_focus.remember(window().winId()); }
     void takeKeyboard() override { m_focus.take(window().winId()); }
     void takeKeyboardOver() override { m_focus.takeOver(window().winId()); }
     void giveKeyboardBack() override { m_focus.giveBack(); }

@@ -73,10 +73,14 @@ void PointerPresses::handleEvent(const xcb_generic_event_t& event) {
         Q_EMIT pressed();
 }
 
-void InputFocus::take(WId window) {
+void InputFocus::remember(WId window) {
     const std::optional<xcb_window_t> focus = inputFocus();
     if (focus && *focus != static_cast<xcb_window_t>(window))
         m_previous = *focus;
+}
+
+void InputFocus::take(WId window) {
+    remember(window);
     takeOver(window);
 }
 

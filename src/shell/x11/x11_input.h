@@ -31,6 +31,8 @@ private:
 /// hands it back. Off X11 nothing happens. Main thread only.
 class InputFocus {
 public:
+    /// Remembers which window has the keyboard, unless it is this one.
+    void remember(WId window);
     /// Moves the keyboard to the window, which must be on the screen, and remembers which window had it.
     void take(WId window);
     /// Moves the keyboard to the window from another one of this program, to which it will not go back.
