@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace orvelle {
 
@@ -35,6 +36,7 @@ void AppDelegate::applicationDidFinishLaunching() {
         m_monitor.restart();
         startRefreshTimer();
     });
+    connect(&m_dependencies.statusBar, &StatusBar::firstPainted, this, &AppDelegate::handleFirstPainted);
     m_dependencies.statusBar.setMenu(contextMenuEntries([this] { openSettings(); }, &AppDelegate::quitApp));
     setupStatusItems();
     snapshotVisibility();
@@ -53,6 +55,46 @@ void AppDelegate::applicationShouldHandleReopen() {
         openSettings();
     else
         m_dependencies.statusBar.takeKeyboard();
+}
+
+void AppDelegate::handleRequest(const StartRequest& request) {
+    switch (request.kind) {
+    case StartRequest::Kind::startAgain:
+        applicationShouldHandleReopen();
+        break;
+    case StartRequest::Kind::openSettings:
+        openSettings();
+        break;
+    case StartRequest::Kind::openPanel:
+        openPanel(request.module);
+        break;
+    case StartRequest::Kind::quit:
+        quitApp();
+        break;
+    }
+}
+
+void AppDelegate::openPanel(const QString& key) {
+    checkVisibility(); // the module may just have been switched on
+    const bool isKnown =
+        std::ranges::any_of(moduleTable, [&key](const ModuleInfo& module) { return module.key == key; });
+    const StatusItem* item = m_statusItems.value(key);
+    if (!isKnown) {
+        applicationShouldHandleReopen();
+    } else if (item == nullptr) {
+        openSettings();
+    } else if (!m_hasPainted) {
+        m_awaitedPanel = key;
+    } else if (!isPopoverShown(key)) {
+        m_dependencies.statusBar.chooseItem(*item);
+        togglePopover(*item);
+    }
+}
+
+void AppDelegate::handleFirstPainted() {
+    m_hasPainted = true;
+    if (const QString key = std::exchange(m_awaitedPanel, {}); !key.isEmpty())
+        openPanel(key);
 }
 
 void AppDelegate::setupStatusItems() {

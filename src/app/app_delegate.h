@@ -58,6 +58,12 @@ public:
     /// Handles a second start of the program: moves the keyboard focus to the items. If every module is
     /// hidden, opens the settings instead, where modules can be shown again.
     void applicationShouldHandleReopen();
+    /// Does what a start of the program asks for.
+    void handleRequest(const StartRequest& request);
+    /// Opens the panel of the module with this key, with the keyboard in it, as soon as the items are on the
+    /// screen. Leaves a panel open that is. Opens the settings if the module is hidden; for a key that no
+    /// module has, does what any second start does.
+    void openPanel(const QString& key);
 
     /// Recreates all items in their fixed order if a module has been switched on or off since the last call.
     void checkVisibility();
@@ -89,6 +95,7 @@ private:
 
     void setupStatusItems();
     void createStatusItem(const ModuleInfo& module);
+    void handleFirstPainted();
     void subscribe();
     /// Shows the current values in every item.
     void redraw();
@@ -113,6 +120,8 @@ private:
     std::unique_ptr<ContextMenu> m_contextMenu;       ///< null before the first right click
     std::unique_ptr<QTimer> m_refreshTimer;           ///< runs while samples come less often
     std::unique_ptr<SettingsWindow> m_settingsWindow; ///< null before it first opens
+    bool m_hasPainted = false;                        ///< the items have been on the screen
+    QString m_awaitedPanel; ///< key of the panel to open when they are; empty for none
     Visibility m_previousVisibility;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/start_request.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,8 +12,10 @@ inline constexpr int wrongUsageStatus = 2;
 
 /// What the user asks for when the program is started.
 struct CommandLine {
-    QString desktop; ///< `--desktop`, one of the known names
-    QString error;   ///< one line for the user when the arguments are not understood; else empty
+    QString answer;       ///< what the program prints before it ends at once, for `--help`; else empty
+    QString desktop;      ///< `--desktop`, one of the known names
+    StartRequest request; ///< of the program that runs, or of this one when there is none
+    QString error;        ///< one line for the user when the arguments are not understood; else empty
 };
 
 /// Reads the arguments, the first of which is the program's name. `desktopNames` are the known desktops, the

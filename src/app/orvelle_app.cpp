@@ -40,8 +40,7 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance
     QObject::connect(&m_terminationSignals, &TerminationSignals::received, qGuiApp, &QGuiApplication::quit);
     QObject::connect(qGuiApp, &QGuiApplication::aboutToQuit, &m_delegate,
                      &AppDelegate::applicationWillTerminate);
-    QObject::connect(&instance, &SingleInstance::startedAgain, &m_delegate,
-                     &AppDelegate::applicationShouldHandleReopen);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &m_delegate, &AppDelegate::handleRequest);
     // The user may come back from the settings where a login item is approved.
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_launchAtLogin,
                      &LaunchAtLogin::checkApproval);
@@ -52,9 +51,11 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance
     logFonts();
 }
 
-int OrvelleApp::run() {
+int OrvelleApp::run(const StartRequest& request) {
     m_delegate.applicationDidFinishLaunching();
     m_launchAtLogin.start();
+    if (request != StartRequest())
+        m_delegate.handleRequest(request);
     return QGuiApplication::exec();
 }
 

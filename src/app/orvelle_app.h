@@ -20,8 +20,8 @@ public:
     /// must outlive the object.
     OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance& instance, QElapsedTimer sinceStart);
 
-    /// Runs until the program quits; returns its exit status.
-    [[nodiscard]] int run();
+    /// Does what this start was asked for, and runs until the program quits; returns its exit status.
+    [[nodiscard]] int run(const StartRequest& request);
 
 private:
     /// Keeps a restored session from starting the program: it would ignore the setting to start at login, and

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/start_request.h"
 #include "shell/status_bar.h"
 
 #include <QLoggingCategory>
@@ -56,8 +57,9 @@ class SingleInstance : public QObject {
     Q_OBJECT
 
 Q_SIGNALS:
-    /// The user started the program once more; that process has ended again.
-    void startedAgain();
+    /// The user started the program once more, and asks this of the present one. That process ends, or waits
+    /// for the end of this one.
+    void startedAgain(const orvelle::StartRequest& request);
 };
 
 /// The desktop that the program runs on, and what only it can make. Main thread only; it outlives what it
@@ -67,8 +69,12 @@ public:
     virtual ~Desktop() = default;
 
     /// Makes this process the only one of the program on the desktop. Null when another process is, which is
-    /// then notified.
-    [[nodiscard]] virtual std::unique_ptr<SingleInstance> becomeSingleInstance() = 0;
+    /// then given the request.
+    [[nodiscard]] virtual std::unique_ptr<SingleInstance>
+    becomeSingleInstance(const StartRequest& request) = 0;
+
+    /// Whether another process is the only one of the program on the desktop.
+    [[nodiscard]] virtual bool isRunningElsewhere() const = 0;
 
     /// The bar, empty and not yet shown.
     [[nodiscard]] virtual std::unique_ptr<StatusBar> makeStatusBar() = 0;

@@ -1,4 +1,5 @@
 #include "app/command_line.h"
+#include "settings/module_table.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,66 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
     EXPECT_TRUE(parsed({QStringLiteral("now")}).error.contains(QStringLiteral("now")));
     EXPECT_FALSE(parsed({QStringLiteral("--desktop")}).error.isEmpty());
     EXPECT_FALSE(parsed({QStringLiteral("--desktop=")}).error.isEmpty());
+}
+
+TEST(CommandLine, RefusesWhatItDoesNotKnowInOneLine) {
+    for (const char* argument : {"--loud", "-x", "now", "--desktop", "--open", "--settings=now"}) {
+        const QString error = parsed({QString::fromLatin1(argument)}).error;
+        EXPECT_FALSE(error.isEmpty()) << argument;
+        EXPECT_FALSE(error.contains(u'\n')) << argument;
+    }
+}
+
+TEST(CommandLine, AsksForNothingByDefault) {
+    EXPECT_EQ(parsed({}).request, StartRequest());
+    EXPECT_TRUE(parsed({}).answer.isEmpty());
+}
+
+TEST(CommandLine, AsksForWhatTheOptionsSay) {
+    EXPECT_EQ(parsed({QStringLiteral("--settings")}).request,
+              (StartRequest{StartRequest::Kind::openSettings, {}}));
+    EXPECT_EQ(parsed({QStringLiteral("--quit")}).request, (StartRequest{StartRequest::Kind::quit, {}}));
+    const StartRequest memory{StartRequest::Kind::openPanel, QStringLiteral("memory")};
+    EXPECT_EQ(parsed({QStringLiteral("--open"), QStringLiteral("memory")}).request, memory);
+    EXPECT_EQ(parsed({QStringLiteral("--open=memory"), QStringLiteral("--desktop=tray")}).request, memory);
+}
+
+TEST(CommandLine, OpensEveryModuleAndNoOther) {
+    for (const ModuleInfo& module : moduleTable)
+        EXPECT_EQ(parsed({QStringLiteral("--open"), module.key}).request.module, module.key);
+    EXPECT_EQ(
+        parsed({QStringLiteral("--open"), QStringLiteral("moon")}).error,
+        QStringLiteral("Unknown module 'moon'; it is one of: cpu, memory, network, disk, battery, sensor."));
+    EXPECT_FALSE(parsed({QStringLiteral("--open"), QStringLiteral("CPU")}).error.isEmpty());
+    EXPECT_FALSE(parsed({QStringLiteral("--open=")}).error.isEmpty());
+}
+
+TEST(CommandLine, RefusesTwoWishesAtOnce) {
+    for (const QStringList& arguments :
+         {QStringList{QStringLiteral("--settings"), QStringLiteral("--quit")},
+          QStringList{QStringLiteral("--settings"), QStringLiteral("--open=cpu")},
+          QStringList{QStringLiteral("--quit"), QStringLiteral("--open=cpu")}})
+        EXPECT_EQ(parsed(arguments).error,
+                  QStringLiteral("Only one of --settings, --open and --quit can be asked for."));
+}
+
+TEST(CommandLine, ExplainsEveryOptionInNarrowLines) {
+    for (const char* option : {"-h", "--help"}) {
+        const QString help = parsed({QString::fromLatin1(option)}).answer;
+        for (const char* part : {"--desktop=NAME", "auto, tray", "--settings", "--open MODULE", "cpu, memory",
+                                 "--quit", "-h, --help", "-v, --version"})
+            EXPECT_TRUE(help.contains(QLatin1StringView(part))) << part;
+        EXPECT_FALSE(help.contains(QStringLiteral("session")));
+        EXPECT_TRUE(help.endsWith(u'\n'));
+        for (const QString& line : help.split(u'\n'))
+            EXPECT_LE(line.size(), 80) << line.toStdString();
+    }
+}
+
+TEST(CommandLine, TellsTheVersionOfTheProject) {
+    for (const char* option : {"-v", "--version"})
+        EXPECT_EQ(parsed({QString::fromLatin1(option)}).answer,
+                  QStringLiteral("orvelle " ORVELLE_EXPECTED_VERSION "\n"));
 }
 
 } // namespace

@@ -114,6 +114,10 @@ public:
 
     void takeKeyboard() override { calls.append(QStringLiteral("keyboard")); }
 
+    void chooseItem(const StatusItem& item) override {
+        calls.append(QStringLiteral("choose ") + item.identifier());
+    }
+
     [[nodiscard]] QStringList identifiers() const {
         QStringList identifiers;
         for (const auto& item : items)

@@ -2,14 +2,33 @@
 #include "shell/macos/macos_desktop.h"
 
 #include <QCoreApplication>
+#include <QFileOpenEvent>
 #include <QSignalSpy>
+#include <QUrl>
 
 namespace orvelle {
 namespace {
 
 using namespace simulated;
 
-class SingleInstanceTest : public AppKitTest {};
+class SingleInstanceTest : public AppKitTest {
+protected:
+    /// The address that the system is asked to open for this request.
+    static std::vector<std::string> deedsFor(const StartRequest& request) {
+        desktop().script.instances = {{.processIdentifier = 499}, {.processIdentifier = 500}};
+        EXPECT_EQ(becomeSingleMacosInstance(request), nullptr);
+        return desktop().deeds;
+    }
+    /// What the program is asked when the system gives it this address.
+    static StartRequest requestOf(const char* address) {
+        const std::unique_ptr<SingleInstance> instance = becomeSingleMacosInstance();
+        QSignalSpy startedAgain(instance.get(), &SingleInstance::startedAgain);
+        QFileOpenEvent event{QUrl(QString::fromLatin1(address))};
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &event);
+        EXPECT_EQ(startedAgain.size(), 1);
+        return startedAgain.value(0).value(0).value<StartRequest>();
+    }
+};
 
 TEST_F(SingleInstanceTest, IsHeldWhenNoOtherProcessRuns) {
     EXPECT_NE(becomeSingleMacosInstance(), nullptr);
@@ -47,6 +66,42 @@ TEST_F(SingleInstanceTest, ReportsLaterStartsOnceItsLoopRuns) {
     instance.reset();
     openProgramAgain();
     EXPECT_EQ(startedAgain.size(), 2);
+}
+
+TEST_F(SingleInstanceTest, OpensAnAddressForARequestToTheFirst) {
+    EXPECT_EQ(deedsFor({StartRequest::Kind::openSettings, {}}),
+              std::vector<std::string>{"open orvelle:settings"});
+    desktop().deeds.clear();
+    EXPECT_EQ(deedsFor({StartRequest::Kind::openPanel, QStringLiteral("cpu")}),
+              std::vector<std::string>{"open orvelle:open/cpu"});
+}
+
+TEST_F(SingleInstanceTest, HasTheSystemEndTheFirst) {
+    EXPECT_FALSE(isRunningElsewhereOnMacos());
+    EXPECT_EQ(deedsFor({StartRequest::Kind::quit, {}}), std::vector<std::string>{"end process 499"});
+    EXPECT_TRUE(isRunningElsewhereOnMacos());
+    desktop().script.instances.front().isTerminated = true;
+    EXPECT_FALSE(isRunningElsewhereOnMacos());
+}
+
+TEST_F(SingleInstanceTest, UnderstandsTheAddressesThatItOpens) {
+    EXPECT_EQ(requestOf("orvelle:settings"), (StartRequest{StartRequest::Kind::openSettings, {}}));
+    EXPECT_EQ(requestOf("orvelle:open/cpu"),
+              (StartRequest{StartRequest::Kind::openPanel, QStringLiteral("cpu")}));
+    EXPECT_EQ(requestOf("orvelle:dance"), StartRequest());
+    EXPECT_EQ(requestOf("orvelle:"), StartRequest());
+}
+
+TEST_F(SingleInstanceTest, DoesNotEndForAnAddress) {
+    EXPECT_EQ(requestOf("orvelle:quit"), StartRequest());
+}
+
+TEST_F(SingleInstanceTest, IgnoresAddressesOfOthers) {
+    const std::unique_ptr<SingleInstance> instance = becomeSingleMacosInstance();
+    const QSignalSpy startedAgain(instance.get(), &SingleInstance::startedAgain);
+    QFileOpenEvent event{QUrl(QStringLiteral("file:///settings"))};
+    QCoreApplication::sendEvent(QCoreApplication::instance(), &event);
+    EXPECT_EQ(startedAgain.size(), 0);
 }
 
 TEST_F(SingleInstanceTest, NeedsNoSearchForADesktop) {

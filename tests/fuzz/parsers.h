@@ -29,6 +29,7 @@ void fuzzNetDev(std::string_view text);
 void fuzzNewestPid(std::string_view text);
 void fuzzProcStat(std::string_view text);
 void fuzzProcessStat(std::string_view text);
+void fuzzStartRequests(std::string_view text);
 void fuzzVolumeSpaces(std::string_view text);
 void fuzzXSettings(std::string_view text);
 void fuzzZramStatistics(std::string_view text);
@@ -60,6 +61,7 @@ inline constexpr std::array parsers{
     Parser{"NewestPid", fuzzNewestPid},
     Parser{"ProcStat", fuzzProcStat},
     Parser{"ProcessStat", fuzzProcessStat},
+    Parser{"StartRequests", fuzzStartRequests},
     Parser{"VolumeSpaces", fuzzVolumeSpaces},
     Parser{"XSettings", fuzzXSettings},
     Parser{"ZramStatistics", fuzzZramStatistics},

@@ -14,6 +14,7 @@ CATCHER = "src/shell/wayland/press_catcher.cpp"
 RETRY = "src/shell/wayland/retry_delay.cpp"
 ROLE = "src/shell/wayland/layer_role.cpp"
 INSTANCE = "src/shell/painted/runtime_instance.cpp"
+LINES = "src/shell/painted/request_lines.cpp"
 TEST = "test_wayland"
 WINDOWS_TEST = "test_wayland_windows"
 
@@ -87,6 +88,15 @@ WAYLAND_FAULTS = [
           "if (true)", WINDOWS_TEST),
     Fault("a window that hides keeps its role", ROLE, "if (!visible)\n            giveUpRole();",
           "static_cast<void>(visible);", WINDOWS_TEST),
-    Fault("another start does not tell the first", INSTANCE, "::write(pipe.number(), &anything, 1)",
-          "static_cast<ssize_t>(anything)", "test_shell"),
+    Fault("another start does not tell the first", INSTANCE, "startRequestText(request) + '\\n'",
+          "QByteArray()", "test_shell"),
+    Fault("a second start asks for no more than to be noticed", INSTANCE, "startRequestText(request) + '\\n'",
+          "QByteArray(1, '\\n')", "test_shell", "RuntimeInstance*"),
+    Fault("a pipe without a reader counts as a running program", INSTANCE,
+          "openExistingPipe(QFile::encodeName(file), O_WRONLY)",
+          "openExistingPipe(QFile::encodeName(file), O_RDWR)", "test_shell", "RuntimeInstance*"),
+    Fault("a flood asks again and again", LINES, "if (requests.empty() || requests.back() != request)", "if (true)",
+          "test_shell", "RequestLines*"),
+    Fault("a line is taken for the request that it begins with", LINES, "if (m_begun.size() <= longestStartRequest)",
+          "if (m_begun.size() < longestStartRequest)", "test_shell", "RequestLines*"),
 ]

@@ -31,6 +31,31 @@ TEST_F(RuntimeInstance, RefusesASecondProcessAndTellsTheFirst) {
     }
 }
 
+TEST_F(RuntimeInstance, TellsTheFirstWhatIsAskedForInItsOrder) {
+    const auto first = becomeSingleInstanceWith(file());
+    QSignalSpy startedAgain(first.get(), &SingleInstance::startedAgain);
+    const std::vector<StartRequest> requests{{StartRequest::Kind::openSettings, {}},
+                                             {StartRequest::Kind::openPanel, QStringLiteral("memory")},
+                                             {},
+                                             {StartRequest::Kind::quit, {}}};
+    for (const StartRequest& request : requests)
+        EXPECT_EQ(becomeSingleInstanceWith(file(), request), nullptr);
+    ASSERT_TRUE(waitUntil([&] { return startedAgain.count() == std::ssize(requests); }));
+    for (std::size_t index = 0; index < requests.size(); ++index)
+        EXPECT_EQ(startedAgain[static_cast<qsizetype>(index)][0].value<StartRequest>(), requests[index]);
+}
+
+TEST_F(RuntimeInstance, KnowsWhetherAProcessHoldsTheFile) {
+    EXPECT_FALSE(isInstanceFileHeld(file()));
+    auto first = becomeSingleInstanceWith(file());
+    EXPECT_TRUE(isInstanceFileHeld(file()));
+    first.reset();
+    EXPECT_FALSE(isInstanceFileHeld(file()));
+    EXPECT_FALSE(isInstanceFileHeld({}));
+    tree.write("ordinary", "an ordinary file");
+    EXPECT_FALSE(isInstanceFileHeld(QString::fromStdString(tree.root() / "ordinary")));
+}
+
 TEST_F(RuntimeInstance, IsFreeAgainWhenTheFirstHasEnded) {
     auto first = becomeSingleInstanceWith(file());
     first.reset();

@@ -27,9 +27,10 @@ public:
     explicit PlainTrayDesktop(const SettingsStore& settings)
         : m_settings(settings) {}
 
-    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override {
-        return becomeSingleInstanceWith(instanceFile(qEnvironmentVariable("WAYLAND_DISPLAY")));
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance(const StartRequest& request) override {
+        return becomeSingleInstanceWith(file(), request);
     }
+    [[nodiscard]] bool isRunningElsewhere() const override { return isInstanceFileHeld(file()); }
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override {
         return std::make_unique<TrayStatusBar>(m_settings, TrayWindows{.makePopup = makePopup}, TrayBus());
     }
@@ -48,6 +49,8 @@ public:
     }
 
 private:
+    static QString file() { return instanceFile(qEnvironmentVariable("WAYLAND_DISPLAY")); }
+
     static std::unique_ptr<Popup> makePopup(QWindow& window) {
         return std::make_unique<PlainPopup>(window, PopupKeyboard::takes);
     }

@@ -7,9 +7,10 @@ namespace {
 
 class MacosDesktop final : public Desktop {
   public:
-    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override {
-        return becomeSingleMacosInstance();
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance(const StartRequest& request) override {
+        return becomeSingleMacosInstance(request);
     }
+    [[nodiscard]] bool isRunningElsewhere() const override { return isRunningElsewhereOnMacos(); }
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override {
         return makeMacosStatusBar(m_activation);
     }
@@ -37,8 +38,8 @@ QStringList desktopNames() { return {QStringLiteral("auto")}; }
 
 /// A program is only ever started on a desktop that is there, and there is only one kind.
 DesktopChoice chooseDesktop(const QString& /*name*/) {
-    // Else Qt activates the process as soon as it runs, and so takes the keyboard from the program that has it,
-    // at every login.
+    // Else Qt activates the process as soon as it runs, and so takes the keyboard from the program that has
+    // it, at every login.
     qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1");
     return {[](SettingsStore& /*settings*/) { return std::make_unique<MacosDesktop>(); }, {}};
 }

@@ -1,7 +1,10 @@
 #include "shell/macos/foundation.h"
 #include "shell/macos/macos_desktop.h"
 
+#include <QCoreApplication>
+#include <QFileOpenEvent>
 #include <QTimer>
+#include <QUrl>
 
 #include <AppKit/AppKit.h>
 #include <CoreServices/CoreServices.h>
@@ -65,12 +68,28 @@ class ReopenListener {
 namespace orvelle {
 namespace {
 
+/// The scheme of the addresses that the system opens with this program; see packaging/macos/Info.plist.in.
+QString ownScheme() { return QStringLiteral("orvelle"); }
+
+/// For example orvelle:settings and orvelle:open/cpu.
+QString requestAddress(const StartRequest& request) {
+    return ownScheme() + u':' + QString::fromLatin1(startRequestText(request)).replace(u' ', u'/');
+}
+
+/// Any program can have an address opened, for example a browser with a link. None ends this one that way.
+StartRequest requestOfAddress(const QUrl& address) {
+    const StartRequest request = parseStartRequest(address.path().replace(u'/', u' ').toLatin1());
+    return request.kind == StartRequest::Kind::quit ? StartRequest() : request;
+}
+
 /// Hears of later starts from the system, which does not start a program a second time from the Finder or the
-/// Dock but sends the running one an event.
+/// Dock but sends the running one an event. Another one comes with an address that a second process has
+/// opened.
 class LaunchedInstance final : public SingleInstance, private ReopenListener {
   public:
     LaunchedInstance() : m_observer([[ReopenObserver alloc] initWithListener:this]) {
         // The application object takes the event for itself when its loop begins; this comes after it.
+        QCoreApplication::instance()->installEventFilter(this);
         QTimer::singleShot(0, this, [this] {
             const ReleasePool pool;
             [m_observer.get() start];
@@ -84,7 +103,16 @@ class LaunchedInstance final : public SingleInstance, private ReopenListener {
     LaunchedInstance& operator=(const LaunchedInstance&) = delete;
 
   private:
-    void reopened() override { Q_EMIT startedAgain(); }
+    void reopened() override { Q_EMIT startedAgain({}); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FileOpen) {
+            const QUrl address = static_cast<QFileOpenEvent*>(event)->url();
+            if (address.scheme() == ownScheme())
+                Q_EMIT startedAgain(requestOfAddress(address));
+        }
+        return SingleInstance::eventFilter(watched, event);
+    }
 
     Retained<ReopenObserver*> m_observer;
 };
@@ -105,14 +133,27 @@ NSRunningApplication* otherInstance() {
     return nil;
 }
 
+/// Opening the bundle makes the system notify the other process.
+void sendRequest(NSRunningApplication* other, const StartRequest& request) {
+    if (request.kind == StartRequest::Kind::quit) {
+        static_cast<void>([other terminate]);
+        return;
+    }
+    NSURL* const address = request.kind == StartRequest::Kind::startAgain
+                               ? [other bundleURL]
+                               : [NSURL URLWithString:systemText(requestAddress(request))];
+    if (address != nil)
+        static_cast<void>([[NSWorkspace sharedWorkspace] openURL:address]);
+}
+
 /// Nil before macOS 13. The class is looked up by name, so that the program starts there too.
 Class loginService() { return NSClassFromString(@"SMAppService"); }
 
 /// Null where there is no such service.
 SMAppService* mainAppService() { return [loginService() mainAppService]; }
 
-/// The program's entry among the login items in the system's settings. When the user has forbidden it there it
-/// waits until the user allows it there again.
+/// The program's entry among the login items in the system's settings. When the user has forbidden it there
+/// it waits until the user allows it there again.
 class MacosLoginItem final : public LoginItem {
   public:
     [[nodiscard]] LoginItemState state() const override {
@@ -150,16 +191,19 @@ class MacosLoginItem final : public LoginItem {
 
 } // namespace
 
-std::unique_ptr<SingleInstance> becomeSingleMacosInstance() {
+std::unique_ptr<SingleInstance> becomeSingleMacosInstance(const StartRequest& request) {
     const ReleasePool pool;
     NSRunningApplication* const other = otherInstance();
     if (other == nil)
         return std::make_unique<LaunchedInstance>();
-    // This process was started as a bare file. Opening the bundle makes the system notify the other one.
-    NSURL* const bundle = [other bundleURL];
-    if (bundle != nil)
-        static_cast<void>([[NSWorkspace sharedWorkspace] openURL:bundle]);
+    // This process was started as a bare file.
+    sendRequest(other, request);
     return nullptr;
+}
+
+bool isRunningElsewhereOnMacos() {
+    const ReleasePool pool;
+    return otherInstance() != nil;
 }
 
 std::unique_ptr<LoginItem> makeMacosLoginItem() { return std::make_unique<MacosLoginItem>(); }

@@ -1,5 +1,7 @@
 #include "shell/painted/runtime_instance.h"
 
+#include "shell/painted/request_lines.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -37,15 +39,20 @@ private:
     int m_number; ///< -1 when closed
 };
 
-/// Opened for reading too, so that the pipe always has a reader and opening it never waits for one.
-Descriptor openPipe(const QString& file) {
-    const QByteArray path = QFile::encodeName(file);
-    ::mkfifo(path.constData(), S_IRUSR | S_IWUSR); // it may exist
-    Descriptor pipe(::open(path.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
+/// Opens the file for reading, writing or both; closed when it is no pipe.
+Descriptor openExistingPipe(const QByteArray& path, int access) {
+    Descriptor pipe(::open(path.constData(), access | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
     struct stat status{};
     if (pipe.isOpen() && ::fstat(pipe.number(), &status) == 0 && S_ISFIFO(status.st_mode))
         return pipe;
     return Descriptor(-1);
+}
+
+/// Opened for reading too, so that the pipe always has a reader and opening it never waits for one.
+Descriptor openPipe(const QString& file) {
+    const QByteArray path = QFile::encodeName(file);
+    ::mkfifo(path.constData(), S_IRUSR | S_IWUSR); // it may exist
+    return openExistingPipe(path, O_RDWR);
 }
 
 /// Holds the lock of the pipe, to which later starts write.
@@ -58,15 +65,18 @@ public:
 
 private:
     void read() {
-        std::array<char, 64> bytes{};
-        bool hasRead = false;
-        while (::read(m_pipe.number(), bytes.data(), bytes.size()) > 0)
-            hasRead = true;
-        if (hasRead)
-            Q_EMIT startedAgain();
+        // What is left is read in the next turn of the loop, so that no flood keeps the program from its
+        // work.
+        std::array<char, 4096> bytes{};
+        const ssize_t count = ::read(m_pipe.number(), bytes.data(), bytes.size());
+        if (count <= 0)
+            return;
+        for (const StartRequest& request : m_lines.take({bytes.data(), count}))
+            Q_EMIT startedAgain(request);
     }
 
     Descriptor m_pipe;
+    RequestLines m_lines;
     QSocketNotifier m_notifier{m_pipe.number(), QSocketNotifier::Read};
 };
 
@@ -85,7 +95,7 @@ QString instanceFile(const QString& desktopName) {
 
 // The kernel gives a lock up when its process ends in any way. The file stays: a lock of a file that is
 // removed and made again would keep nobody out.
-std::unique_ptr<SingleInstance> becomeSingleInstanceWith(const QString& file) {
+std::unique_ptr<SingleInstance> becomeSingleInstanceWith(const QString& file, const StartRequest& request) {
     Descriptor pipe = openPipe(file);
     if (!pipe.isOpen())
         return std::make_unique<SingleInstance>();
@@ -93,10 +103,17 @@ std::unique_ptr<SingleInstance> becomeSingleInstanceWith(const QString& file) {
         return std::make_unique<PipeOwner>(std::move(pipe));
     if (errno != EWOULDBLOCK)
         return std::make_unique<SingleInstance>();
-    constexpr char anything = '\n';
-    // A full pipe holds notice enough.
-    [[maybe_unused]] const ssize_t written = ::write(pipe.number(), &anything, 1);
+    const QByteArray line = startRequestText(request) + '\n';
+    // A full pipe holds notice enough. So short a line is written whole or not at all.
+    [[maybe_unused]] const ssize_t written =
+        ::write(pipe.number(), line.constData(), static_cast<std::size_t>(line.size()));
     return nullptr;
+}
+
+// Only the process that holds the file reads from it all the time. Without a reader the kernel refuses a
+// writer.
+bool isInstanceFileHeld(const QString& file) {
+    return openExistingPipe(QFile::encodeName(file), O_WRONLY).isOpen();
 }
 
 } // namespace orvelle

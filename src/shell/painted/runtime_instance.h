@@ -14,8 +14,12 @@ namespace orvelle {
 [[nodiscard]] QString instanceFile(const QString& desktopName);
 
 /// Makes this process the only one that holds the file, until the result is destroyed or the process ends in
-/// any way. Null when another process holds it, which is then notified. A file that cannot be used does not
-/// keep the program from running: other processes are not found then.
-[[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstanceWith(const QString& file);
+/// any way. Null when another process holds it, which is then given the request. A file that cannot be used
+/// does not keep the program from running: other processes are not found then.
+[[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstanceWith(const QString& file,
+                                                                       const StartRequest& request = {});
+
+/// Whether a process holds the file.
+[[nodiscard]] bool isInstanceFileHeld(const QString& file);
 
 } // namespace orvelle

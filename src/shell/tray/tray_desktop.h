@@ -16,9 +16,10 @@ public:
     TrayDesktop(const SettingsStore& settings, std::unique_ptr<Desktop> other, TrayWindows windows);
 
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override;
-    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override {
-        return m_other->becomeSingleInstance();
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance(const StartRequest& request) override {
+        return m_other->becomeSingleInstance(request);
     }
+    [[nodiscard]] bool isRunningElsewhere() const override { return m_other->isRunningElsewhere(); }
     [[nodiscard]] std::unique_ptr<SettingsWindow>
     makeSettingsWindow(std::unique_ptr<QWindow> content) override {
         return m_other->makeSettingsWindow(std::move(content));

@@ -85,8 +85,12 @@ WaylandDesktop::WaylandDesktop(std::unique_ptr<LayerShell> shell,
 
 WaylandDesktop::~WaylandDesktop() = default;
 
-std::unique_ptr<SingleInstance> WaylandDesktop::becomeSingleInstance() {
-    return becomeSingleInstanceWith(instanceFile(qEnvironmentVariable("WAYLAND_DISPLAY")));
+std::unique_ptr<SingleInstance> WaylandDesktop::becomeSingleInstance(const StartRequest& request) {
+    return becomeSingleInstanceWith(instanceFile(qEnvironmentVariable("WAYLAND_DISPLAY")), request);
+}
+
+bool WaylandDesktop::isRunningElsewhere() const {
+    return isInstanceFileHeld(instanceFile(qEnvironmentVariable("WAYLAND_DISPLAY")));
 }
 
 std::unique_ptr<StatusBar> WaylandDesktop::makeStatusBar() {

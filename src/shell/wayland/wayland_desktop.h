@@ -28,7 +28,8 @@ public:
     [[nodiscard]] static std::unique_ptr<WaylandDesktop> open(QString& reason);
     ~WaylandDesktop() override;
 
-    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override;
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance(const StartRequest& request) override;
+    [[nodiscard]] bool isRunningElsewhere() const override;
     /// There is only one, as there is only one strip.
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override;
     /// The same by its own name. Left empty, it opens the windows of a desktop that shows its items

@@ -37,6 +37,7 @@ public:
         return std::make_unique<BarContextMenu>(m_bar, makeX11Popup, [this] { m_focus.resume(); });
     }
     void takeKeyboard() override { m_focus.take(); }
+    void chooseItem(const StatusItem& item) override { m_focus.choose(item); }
 
 private:
     BarWindow m_window;
@@ -74,8 +75,12 @@ void chooseX11() {
         qputenv("QT_XCB_NO_MITSHM", "1");
 }
 
-std::unique_ptr<SingleInstance> X11Desktop::becomeSingleInstance() {
-    return becomeSingleX11Instance();
+std::unique_ptr<SingleInstance> X11Desktop::becomeSingleInstance(const StartRequest& request) {
+    return becomeSingleX11Instance(request);
+}
+
+bool X11Desktop::isRunningElsewhere() const {
+    return isRunningElsewhereOnX11();
 }
 
 std::unique_ptr<StatusBar> X11Desktop::makeStatusBar() {

@@ -21,7 +21,8 @@ void chooseX11();
 /// chose, the bar is an ordinary window.
 class X11Desktop final : public Desktop {
 public:
-    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance() override;
+    [[nodiscard]] std::unique_ptr<SingleInstance> becomeSingleInstance(const StartRequest& request) override;
+    [[nodiscard]] bool isRunningElsewhere() const override;
     [[nodiscard]] std::unique_ptr<StatusBar> makeStatusBar() override;
     [[nodiscard]] std::unique_ptr<SettingsWindow>
     makeSettingsWindow(std::unique_ptr<QWindow> content) override;

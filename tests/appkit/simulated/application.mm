@@ -123,6 +123,10 @@ void openProgramAgain() {
 - (BOOL)isTerminated {
     return static_cast<const RunningProgram*>(m_instance)->isTerminated;
 }
+- (BOOL)terminate {
+    desktop().deeds.push_back("end process " + std::to_string([self processIdentifier]));
+    return YES;
+}
 - (NSURL*)bundleURL {
     return desktop().arrives("bundleURL") ? [[[NSURL alloc] init] autorelease] : nil;
 }
@@ -151,7 +155,8 @@ NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification = @"
     desktop().expect(url != nil, "an address that is missing");
     if (!desktop().arrives("openURL"))
         return NO;
-    desktop().deeds.push_back("open the program's bundle");
+    desktop().deeds.push_back(url->m_text == nil ? "open the program's bundle"
+                                                 : "open " + textOf(url->m_text));
     return YES;
 }
 @end

@@ -183,11 +183,17 @@ NSArray* makeArray(const Objects& objects) { return [[[NSArray alloc] initWithOb
 } // namespace orvelle::simulated
 
 @implementation NSURL
++ (NSURL*)URLWithString:(NSString*)text {
+    NSURL* const url = [[[NSURL alloc] init] autorelease];
+    url->m_text = [text retain];
+    return url;
+}
 - (NSString*)path {
     return m_path;
 }
 - (void)dealloc {
     [m_path release];
+    [m_text release];
     [super dealloc];
 }
 @end

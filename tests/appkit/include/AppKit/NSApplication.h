@@ -48,6 +48,7 @@ extern "C" NSApplication* NSApp;
 - (int)processIdentifier;
 - (BOOL)isTerminated;
 - (NSURL*)bundleURL;
+- (BOOL)terminate;
 @end
 
 @interface NSWorkspace : NSObject

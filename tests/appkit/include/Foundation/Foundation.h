@@ -83,7 +83,9 @@ typedef NSString* NSNotificationName;
 @interface NSURL : NSObject {
   @public
     NSString* m_path;
+    NSString* m_text;
 }
++ (NSURL*)URLWithString:(NSString*)text;
 - (NSString*)path;
 @end
 
