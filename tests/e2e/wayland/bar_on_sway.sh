@@ -18,9 +18,9 @@ pixels() { awk -v points="$1" -v scale="$scale" 'BEGIN { printf "%.0f", points *
 # part WIDTH HEIGHT LEFT TOP, in points: prints the part of a picture.
 part() { printf '%sx%s+%s+%s' "$(pixels "$1")" "$(pixels "$2")" "$(pixels "$3")" "$(pixels "$4")"; }
 
-# Sets orvellePid.
+# startOrvelle [ARGUMENT...]: sets orvellePid.
 startOrvelle() {
-    launch "$log" env QT_LOGGING_RULES=orvelle.open.debug=true "$orvelle"
+    launch "$log" env QT_LOGGING_RULES=orvelle.open.debug=true "$orvelle" "$@"
     expectBar || { cat "$log"; exit 1; }
 }
 
