@@ -18,7 +18,7 @@ MouseArea {
     onCanceled: isArmed = false
     onPositionChanged: mouse => {
         const distance = Math.max(Math.abs(mouse.x - start.x), Math.abs(mouse.y - start.y));
-        if (!isArmed || distance < Qt.styleHints.startDragDistance)
+        if (!isArmed || distance < drag.threshold)
             return;
         isArmed = false;
         Window.window.startSystemMove();
