@@ -1,6 +1,7 @@
 #include "menu_bar/battery_menu_bar_item.h"
 
 #include "core/battery_monitor.h"
+#include "core/severity.h"
 #include "theme/colors.h"
 
 #include <algorithm>
@@ -92,9 +93,10 @@ double chargedFraction(qint64 charge) {
 QColor batteryColor(qint64 charge, bool isCharging, const QColor& color) {
     if (isCharging)
         return SystemColors::green;
-    if (charge < 21)
+    const Severity severity = batterySeverity(charge, isCharging);
+    if (severity == Severity::critical)
         return SystemColors::red;
-    return charge < 41 ? SystemColors::yellow : color;
+    return severity == Severity::warning ? SystemColors::yellow : color;
 }
 
 QList<QColor> batteryDotColors(qint64 charge, const QColor& color) {

@@ -1,6 +1,7 @@
 #include "menu_bar/sensor_menu_bar_item.h"
 
 #include "core/sensor_monitor.h"
+#include "core/severity.h"
 #include "formatting/formatters.h"
 #include "theme/colors.h"
 #include "theme/fonts.h"
@@ -64,9 +65,10 @@ QString temperatureText(double celsius) {
 }
 
 QColor temperatureColor(double celsius, const QColor& color) {
-    if (celsius < 60)
+    const Severity severity = temperatureSeverity(celsius);
+    if (severity == Severity::normal)
         return withOpacity(color, 0.7);
-    return celsius < 80 ? SystemColors::yellow : SystemColors::red;
+    return severity == Severity::warning ? SystemColors::yellow : SystemColors::red;
 }
 
 QList<QColor> temperatureDotColors(double celsius) {

@@ -1,6 +1,7 @@
 #include "windows/panels/panel_graphics.h"
 
 #include "charts/temperature_gauge.h"
+#include "core/severity.h"
 #include "theme/colors.h"
 
 #include <algorithm>
@@ -8,13 +9,13 @@
 namespace orvelle {
 namespace {
 
-QColor levelColor(PressureLevel level, const QColor& normalColor) {
-    switch (level) {
-    case PressureLevel::critical:
+QColor severityColor(Severity severity, const QColor& normalColor) {
+    switch (severity) {
+    case Severity::critical:
         return SystemColors::red;
-    case PressureLevel::warning:
+    case Severity::warning:
         return SystemColors::yellow;
-    case PressureLevel::normal:
+    case Severity::normal:
         break;
     }
     return normalColor;
@@ -37,12 +38,6 @@ QList<ProcessInfo> processRecords(const QVariant& processes) {
 
 } // namespace
 
-PressureLevel pressureLevel(double pressure) {
-    if (pressure >= 0.8)
-        return PressureLevel::critical;
-    return pressure >= 0.6 ? PressureLevel::warning : PressureLevel::normal;
-}
-
 double PanelGraphics::usedFraction(const MemoryMonitorInfo& info) {
     return orvelle::usedFraction(info);
 }
@@ -52,11 +47,11 @@ double PanelGraphics::pressureFraction(const MemoryMonitorInfo& info) {
 }
 
 QColor PanelGraphics::pressureBadgeColor(double pressure) {
-    return levelColor(pressureLevel(pressure), SystemColors::green);
+    return severityColor(memorySeverity(pressure), SystemColors::green);
 }
 
 QColor PanelGraphics::pressureGraphColor(double pressure, const QColor& moduleColor) {
-    return levelColor(pressureLevel(pressure), moduleColor);
+    return severityColor(memorySeverity(pressure), moduleColor);
 }
 
 double PanelGraphics::volumeUsedFraction(const DiskVolumeInfo& volume) {
@@ -64,9 +59,7 @@ double PanelGraphics::volumeUsedFraction(const DiskVolumeInfo& volume) {
 }
 
 QColor PanelGraphics::volumeUsageColor(double usedFraction, const QColor& moduleColor) {
-    if (usedFraction < 0.7)
-        return moduleColor;
-    return usedFraction < 0.9 ? SystemColors::yellow : SystemColors::red;
+    return severityColor(volumeSeverity(usedFraction), moduleColor);
 }
 
 QString PanelGraphics::volumeSymbol(const QString& id) {

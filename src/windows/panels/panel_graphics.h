@@ -13,12 +13,6 @@
 
 namespace orvelle {
 
-/// How short of memory the machine is.
-enum class PressureLevel { normal, warning, critical };
-
-/// Critical from a pressure of 0.8 on, warning from 0.6.
-[[nodiscard]] PressureLevel pressureLevel(double pressure);
-
 /// How the panels draw values: colours, symbols, fractions, scales and angles.
 class PanelGraphics : public QObject {
     Q_OBJECT

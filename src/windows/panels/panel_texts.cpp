@@ -1,6 +1,7 @@
 #include "windows/panels/panel_texts.h"
 
 #include "core/checked.h"
+#include "core/severity.h"
 #include "formatting/formatters.h"
 #include "windows/panels/panel_graphics.h"
 
@@ -58,12 +59,12 @@ QString PanelTexts::processValueText(const ProcessInfo& process, bool byMemory) 
 }
 
 QString PanelTexts::pressureBadgeText(double pressure) {
-    switch (pressureLevel(pressure)) {
-    case PressureLevel::critical:
+    switch (memorySeverity(pressure)) {
+    case Severity::critical:
         return QStringLiteral("Critical");
-    case PressureLevel::warning:
+    case Severity::warning:
         return QStringLiteral("Warning");
-    case PressureLevel::normal:
+    case Severity::normal:
         break;
     }
     return QStringLiteral("Normal");

@@ -18,14 +18,6 @@ ProcessInfo processOf(double cpuUsage, double memoryPercent = 0) {
     return process;
 }
 
-TEST(MemoryPressure, WarnsFromSixTenthsAndIsCriticalFromEight) {
-    EXPECT_EQ(pressureLevel(0), PressureLevel::normal);
-    EXPECT_EQ(pressureLevel(0.599), PressureLevel::normal);
-    EXPECT_EQ(pressureLevel(0.6), PressureLevel::warning);
-    EXPECT_EQ(pressureLevel(0.799), PressureLevel::warning);
-    EXPECT_EQ(pressureLevel(0.8), PressureLevel::critical);
-}
-
 TEST(MemoryPressure, ColoursItsBadge) {
     EXPECT_EQ(PanelGraphics::pressureBadgeColor(0.5), SystemColors::green);
     EXPECT_EQ(PanelGraphics::pressureBadgeColor(0.6), SystemColors::yellow);
