@@ -61,6 +61,21 @@ QString resolveLinks(const QString& filePath) {
     return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
 }
 
+/// The file's text, empty when it is missing. Nothing when it cannot be read.
+std::optional<QByteArray> textOf(const QString& filePath) {
+    const QFileInfo info(filePath);
+    if (!info.exists())
+        return QByteArray();
+    QFile file(filePath);
+    // Opening a pipe or a device could block forever.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray text = file.read(IniText::maximumSize + 1);
+    if (file.error() != QFileDevice::NoError || text.size() > IniText::maximumSize)
+        return std::nullopt;
+    return text;
+}
+
 } // namespace
 
 SettingsFile::SettingsFile(QString filePath)
@@ -77,10 +92,8 @@ void SettingsFile::watch(const QStringList& /*keys*/, std::function<void()> chan
     m_watch = std::make_unique<WatchedFile>(m_filePath, std::move(changed));
 }
 
-std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
-    if (m_watch)
-        m_watch->renew();
-    const std::optional<QByteArray> stored = text();
+std::optional<StoredValues> readSettingsFile(const QString& filePath, const QStringList& keys) {
+    const std::optional<QByteArray> stored = textOf(filePath);
     if (!stored)
         return std::nullopt;
     StoredValues values;
@@ -88,6 +101,12 @@ std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
     for (auto value = texts.cbegin(); value != texts.cend(); ++value)
         values.insert(value.key(), value.value());
     return values;
+}
+
+std::optional<StoredValues> SettingsFile::read(const QStringList& keys) {
+    if (m_watch)
+        m_watch->renew();
+    return readSettingsFile(m_filePath, keys);
 }
 
 SaveResult SettingsFile::write(const StoredValues& values) {
@@ -104,7 +123,7 @@ SaveResult SettingsFile::merge(const StoredValues& values) {
     const std::optional<FileLock> lock = takeLock(m_filePath);
     if (!lock)
         return SaveResult::locked;
-    const std::optional<QByteArray> before = text();
+    const std::optional<QByteArray> before = textOf(m_filePath);
     if (!before)
         return SaveResult::failed;
     QHash<QString, QString> texts;
@@ -133,20 +152,6 @@ AtomicFile& SettingsFile::target() {
         m_targetPath = path;
     }
     return *m_target;
-}
-
-std::optional<QByteArray> SettingsFile::text() const {
-    const QFileInfo info(m_filePath);
-    if (!info.exists())
-        return QByteArray();
-    QFile file(m_filePath);
-    // Opening a pipe or a device could block forever.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    QByteArray text = file.read(IniText::maximumSize + 1);
-    if (file.error() != QFileDevice::NoError || text.size() > IniText::maximumSize)
-        return std::nullopt;
-    return text;
 }
 
 } // namespace orvelle

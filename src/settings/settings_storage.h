@@ -42,6 +42,11 @@ public:
     virtual void watch(const QStringList& keys, std::function<void()> changed) = 0;
 };
 
+/// The values of those `keys` that a file of ini text holds. A missing file is an empty one. Nothing unless
+/// the path leads to a readable file of a sensible size, or to none. Leaves the file and its folder as they
+/// are.
+[[nodiscard]] std::optional<StoredValues> readSettingsFile(const QString& filePath, const QStringList& keys);
+
 /// Settings in a file of ini text (see `IniText`). A write takes a lock, reads the file again, merges the
 /// values and replaces the file (see `AtomicFile`). A missing file is an empty one; its folder is created
 /// when first needed. Neither another program's lock nor a busy disk is waited for.
@@ -50,7 +55,6 @@ public:
     explicit SettingsFile(QString filePath);
     ~SettingsFile() override;
 
-    /// Nothing unless the path leads to a readable file of a sensible size, or to none.
     [[nodiscard]] std::optional<StoredValues> read(const QStringList& keys) override;
     [[nodiscard]] SaveResult write(const StoredValues& values) override;
     [[nodiscard]] QString failureReason() const override;
@@ -62,8 +66,6 @@ private:
     [[nodiscard]] SaveResult merge(const StoredValues& values);
     /// The file that the path leads to, by links or directly.
     [[nodiscard]] AtomicFile& target();
-    /// The file's text, empty when it is missing. Nothing when it cannot be read.
-    [[nodiscard]] std::optional<QByteArray> text() const;
 
     const QString m_filePath;
     QString m_targetPath;

@@ -160,4 +160,6 @@ class UserDefaults : public SettingsStorage {
 
 std::unique_ptr<SettingsStorage> openUserSettings() { return std::make_unique<UserDefaults>(); }
 
+std::optional<StoredValues> readUserSettings(const QStringList& keys) { return UserDefaults().read(keys); }
+
 } // namespace orvelle

@@ -35,5 +35,17 @@ TEST(UserSettingsOnLinux, AreKept) {
     EXPECT_TRUE(QFile::exists(userSettingsPath()));
 }
 
+TEST(UserSettingsOnLinux, CanBeReadWithoutAnyTraceOfTheReader) {
+    const TemporarySettings settings;
+    const EnvironmentVariable folder("XDG_CONFIG_HOME", settings.folderPath().toLocal8Bit());
+    EXPECT_EQ(readUserSettings({u"showDisk"_s}), StoredValues());
+    EXPECT_FALSE(QFile::exists(userSettingsPath()));
+    SettingsStore(openUserSettings()).setShowDisk(true);
+    QFile interrupted(QFileInfo(userSettingsPath()).path() + u"/.orvelle.conf.last"_s);
+    EXPECT_TRUE(interrupted.open(QIODevice::WriteOnly)); // as a power cut may leave it
+    EXPECT_EQ(readUserSettings({u"showDisk"_s, u"showCPU"_s}), (StoredValues{{u"showDisk"_s, u"true"_s}}));
+    EXPECT_TRUE(interrupted.exists());
+}
+
 } // namespace
 } // namespace orvelle
