@@ -24,10 +24,64 @@ TEST(ProbeArguments, RootsKeepTheirOrder) {
     EXPECT_EQ(arguments.stepSeconds, 0.5);
 }
 
-TEST(ProbeArguments, WhatCannotBeTakenIsAUsageError) {
-    for (const char* arguments : {"--root", "--step", "--step -1", "--step inf", "--step 1e9", "--cycles 1.5",
-                                  "--cycles 99999999999", "--cycles 2 --root a", "file", "--help"})
-        EXPECT_TRUE(std::holds_alternative<UsageError>(parsed(arguments))) << arguments;
+TEST(ProbeArguments, FollowTheMachineAndChooseValues) {
+    const auto all = std::get<ValueLines>(parsed("--follow"));
+    EXPECT_EQ(all.plan.intervalSeconds, 3);
+    EXPECT_TRUE(all.plan.roots.isEmpty());
+    EXPECT_TRUE(all.fields.isEmpty());
+    const auto some =
+        std::get<ValueLines>(parsed("--follow --interval 0.5 --fields cpu.totalUsage,disk --root a"));
+    EXPECT_EQ(some.plan.intervalSeconds, 0.5);
+    EXPECT_EQ(some.plan.roots, QStringList{QStringLiteral("a")});
+    EXPECT_EQ(some.fields, (QStringList{QStringLiteral("cpu.totalUsage"), QStringLiteral("disk")}));
+}
+
+TEST(ProbeArguments, ChooseModulesForAStatusBar) {
+    const auto usual = std::get<BarLines>(parsed("--waybar"));
+    EXPECT_FALSE(usual.modules);
+    EXPECT_FALSE(usual.isPlain);
+    const auto chosen = std::get<BarLines>(parsed("--plain --fields disk,cpu --interval 10"));
+    EXPECT_EQ(chosen.modules, (QList<ModuleId>{ModuleId::disk, ModuleId::cpu}));
+    EXPECT_TRUE(chosen.isPlain);
+    EXPECT_EQ(chosen.plan.intervalSeconds, 10);
+}
+
+TEST(ProbeArguments, HelpAndVersionAreAnsweredBesideOtherOptions) {
+    for (const char* arguments : {"--help", "-h", "--version", "-v", "--follow --help", "--modules -v"})
+        EXPECT_TRUE(std::holds_alternative<PrintedText>(parsed(arguments))) << arguments;
+}
+
+TEST(ProbeArguments, WhatCannotBeTakenIsAUsageErrorOfOneLine) {
+    for (const char* arguments : {"--root",
+                                  "--step",
+                                  "--step -1",
+                                  "--step inf",
+                                  "--step 1e9",
+                                  "--cycles 1.5",
+                                  "--cycles 99999999999",
+                                  "--cycles 2 --root a",
+                                  "file",
+                                  "--wrong",
+                                  "--help --wrong",
+                                  "--follow --waybar",
+                                  "--waybar --plain",
+                                  "--modules --follow",
+                                  "--follow --step 1",
+                                  "--follow --cycles 2",
+                                  "--interval 1",
+                                  "--fields cpu",
+                                  "--follow --interval 0.05",
+                                  "--follow --interval 1e6",
+                                  "--follow --interval nan",
+                                  "--follow --fields ,",
+                                  "--waybar --fields gpu",
+                                  "--plain --fields CPU",
+                                  "--follow extra"}) {
+        const auto request = parsed(arguments);
+        ASSERT_TRUE(std::holds_alternative<UsageError>(request)) << arguments;
+        const QString message = std::get<UsageError>(request).message;
+        EXPECT_FALSE(message.isEmpty() || message.contains(QLatin1Char('\n'))) << arguments;
+    }
 }
 
 TEST(ProbeArguments, AskForTheModulesAlone) {

@@ -5,7 +5,7 @@
 namespace orvelle {
 namespace {
 
-std::variant<SnapshotArguments, UsageError> parsed(const char* arguments) {
+auto parsed(const char* arguments) {
     QStringList list{QStringLiteral("orvelle-snapshot")};
     list += QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return parseSnapshotArguments(list);
@@ -34,6 +34,11 @@ TEST(SnapshotArguments, TakeTheExampleInThePlaceOfRoots) {
     EXPECT_TRUE(std::get<SnapshotArguments>(parsed("pictures --example")).ofExample);
     EXPECT_FALSE(std::get<SnapshotArguments>(parsed("pictures --root a")).ofExample);
     EXPECT_TRUE(std::holds_alternative<UsageError>(parsed("pictures --example --root a")));
+}
+
+TEST(SnapshotArguments, HelpAndVersionNeedNoFolder) {
+    for (const char* arguments : {"--help", "-h", "--version", "-v", "pictures --help"})
+        EXPECT_TRUE(std::holds_alternative<PrintedText>(parsed(arguments))) << arguments;
 }
 
 TEST(SnapshotArguments, WhatCannotBeTakenIsAUsageError) {

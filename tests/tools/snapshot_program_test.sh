@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# snapshot_program_test.sh SNAPSHOT: exit statuses and files of the real program, without any display.
+# snapshot_program_test.sh SNAPSHOT VERSION: exit statuses and files of the real program, without any display.
 set -uo pipefail
-snapshot=$1
+snapshot=$1 version=$2
 directory=$(mktemp -d)
 trap 'rm -rf "$directory"' EXIT
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
@@ -38,9 +38,13 @@ done
 expect 1 'Cannot read the directory' "$directory/none" --root "$directory/missing"
 [ ! -e "$directory/none" ] || complain "a directory was made though there is nothing to paint"
 expect 1 'Cannot make the directory' /dev/null/pictures --root "$directory/empty"
-expect 2 'usage:'
-expect 2 'usage:' one two
-expect 2 'usage:' "$directory/none" --scale 0
-expect 2 'usage:' "$directory/none" --theme pink
-expect 2 'usage:' "$directory/none" --wrong
+expect 0 "^orvelle-snapshot $version\$" --version
+for option in root example scale theme help version; do expect 0 "^  .*--$option" --help; done
+expect 0 'FOLDER' -h
+expect 2 'One folder'
+expect 2 'One folder' one two
+expect 2 '\-\-scale' "$directory/none" --scale 0
+expect 2 'No theme' "$directory/none" --theme pink
+expect 2 "'wrong'" "$directory/none" --wrong
+[ "$("$snapshot" --wrong 2>&1 | wc -l)" -eq 1 ] || complain "a wrong option is worth one line"
 exit $((failures > 0))

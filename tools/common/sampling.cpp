@@ -2,8 +2,6 @@
 
 #include "core/system_monitor.h"
 #include "platform/host.h"
-#include "platform/replay/fake_sources.h"
-#include "platform/replay/replay_machine.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,32 +22,56 @@ std::unique_ptr<SystemMonitor> sampleThisMachine(const SamplingPlan& plan, const
     return monitor;
 }
 
-std::unique_ptr<SystemMonitor> replayRoots(const SamplingPlan& plan, const SettingsStore& settings) {
-    FakeClock clock;
+std::vector<MachineSources> momentsIn(const QStringList& roots, const WallClock& now) {
     std::vector<MachineSources> moments;
-    for (const QString& root : plan.roots)
-        moments.push_back(makeTreeSources(root.toStdString(), clock.reader()));
-    ReplayMachine machine(std::move(moments));
+    for (const QString& root : roots)
+        moments.push_back(makeTreeSources(root.toStdString(), now));
+    return moments;
+}
 
-    auto monitor = std::make_unique<SystemMonitor>(machine.sources(clock.reader()), settings);
-    for (std::size_t cycle = 0; cycle < machine.momentCount(); ++cycle) {
-        if (cycle > 0) {
-            clock.advance(std::chrono::duration<double>(plan.stepSeconds));
-            machine.advance();
-        }
-        monitor->updateCycle();
+std::unique_ptr<SystemMonitor> replayRoots(const SamplingPlan& plan, const SettingsStore& settings) {
+    RecordedMachine machine(plan.roots, plan.stepSeconds, settings);
+    while (machine.sampleNext()) {
     }
-    return monitor;
+    return std::move(machine).takeMonitor();
 }
 
 } // namespace
 
-std::variant<std::unique_ptr<SystemMonitor>, UnreadableRoot> sampledMonitor(const SamplingPlan& plan,
-                                                                            const SettingsStore& settings) {
-    for (const QString& root : plan.roots) {
+std::optional<UnreadableRoot> firstUnreadable(const QStringList& roots) {
+    for (const QString& root : roots) {
         if (!QFileInfo(root).isDir() || !QFileInfo(root).isExecutable() || !QDir(root).isReadable())
             return UnreadableRoot{QStringLiteral("Cannot read the directory \"%1\"").arg(root)};
     }
+    return std::nullopt;
+}
+
+RecordedMachine::RecordedMachine(const QStringList& roots, double stepSeconds, const SettingsStore& settings)
+    : m_machine(momentsIn(roots, m_clock.reader()))
+    , m_stepSeconds(stepSeconds)
+    , m_monitor(std::make_unique<SystemMonitor>(m_machine.sources(m_clock.reader()), settings)) {}
+
+RecordedMachine::~RecordedMachine() = default;
+
+std::unique_ptr<SystemMonitor> RecordedMachine::takeMonitor() && {
+    return std::move(m_monitor);
+}
+
+bool RecordedMachine::sampleNext() {
+    if (m_sampledMoments == m_machine.momentCount())
+        return false;
+    if (m_sampledMoments++ > 0) {
+        m_clock.advance(std::chrono::duration<double>(m_stepSeconds));
+        m_machine.advance();
+    }
+    m_monitor->updateCycle();
+    return true;
+}
+
+std::variant<std::unique_ptr<SystemMonitor>, UnreadableRoot> sampledMonitor(const SamplingPlan& plan,
+                                                                            const SettingsStore& settings) {
+    if (const auto unreadable = firstUnreadable(plan.roots))
+        return *unreadable;
     return plan.roots.isEmpty() ? sampleThisMachine(plan, settings) : replayRoots(plan, settings);
 }
 

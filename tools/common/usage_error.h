@@ -4,7 +4,7 @@
 
 namespace orvelle {
 
-/// Why a command line cannot be taken, for a person to read.
+/// Why a command line cannot be taken, in one line for a person to read.
 struct UsageError {
     QString message;
 };

@@ -1,42 +1,117 @@
-// orvelle-probe: prints what the monitors publish as one JSON object, or which modules there are, for tests,
-// scripts and bug reports.
+// orvelle-probe: prints what the monitors publish, once or for as long as somebody reads, for tests, scripts,
+// status bars and bug reports.
 
+#include "common/output_stream.h"
+#include "common/read_only_settings.h"
+#include "core/system_monitor.h"
+#include "probe/bar_line.h"
 #include "probe/probe_arguments.h"
 #include "probe/probe_session.h"
+#include "probe/published_values.h"
+#include "settings/settings_store.h"
+#include "settings/user_settings.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
 
-#include <cstdio>
+#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
 
+namespace orvelle {
 namespace {
 
-constexpr int exitUnreadable = 1; // or unwritable
-constexpr int exitUsage = 2;
+const OutputStream standardOutput(STDOUT_FILENO);
 
-int fail(const QString& message, int status) {
-    std::fprintf(stderr, "orvelle-probe: %s\n", qUtf8Printable(message));
-    return status;
+int failWith(const QString& message, int status = exitFailed) {
+    return fail(QStringLiteral("orvelle-probe"), message, status);
+}
+
+/// A reader who leaves has read enough.
+int statusAfter(OutputStream::Result result) {
+    return result == OutputStream::Result::failed ? failWith(QStringLiteral("Cannot write the result"))
+                                                  : EXIT_SUCCESS;
 }
 
 int print(const QByteArray& text) {
-    const auto size = static_cast<std::size_t>(text.size());
-    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-    return isWritten ? EXIT_SUCCESS : fail(QStringLiteral("Cannot write the result"), exitUnreadable);
+    return statusAfter(standardOutput.write(text));
+}
+
+int statusAfter(const FollowEnd& end) {
+    if (const auto* error = std::get_if<UnreadableRoot>(&end))
+        return failWith(error->message);
+    return statusAfter(std::get<OutputStream::Result>(end));
+}
+
+std::unique_ptr<SettingsStorage> userSettings() {
+    return std::make_unique<ReadOnlySettings>(readUserSettings);
+}
+
+QList<ModuleId> shownModules() {
+    const SettingsStore settings(userSettings());
+    QList<ModuleId> modules;
+    for (const ModuleInfo& module : moduleTable) {
+        if (settings.isShown(module.id))
+            modules.append(module.id);
+    }
+    return modules;
+}
+
+int answer(const UsageError& error) {
+    return failWith(error.message, exitUsage);
+}
+
+int answer(const PrintedText& printed) {
+    return print(printed.text.toUtf8());
+}
+
+int answer(ModuleListing /*listing*/) {
+    return print(moduleLines());
+}
+
+int answer(const SamplingPlan& plan) {
+    const auto result = probe(plan);
+    if (const auto* error = std::get_if<UnreadableRoot>(&result))
+        return failWith(error->message);
+    return print(QJsonDocument(std::get<QJsonObject>(result)).toJson());
+}
+
+int answer(const ValueLines& lines) {
+    const SettingsStore settings(std::make_unique<ReadOnlySettings>());
+    const QJsonObject known = publishedValues(*unsampledMonitor(settings));
+    if (const QString unknown = firstUnknownPath(known, lines.fields); !unknown.isEmpty())
+        return failWith(QStringLiteral("No value is called \"%1\"").arg(unknown), exitUsage);
+    return statusAfter(follow(lines.plan, settings, standardOutput, [&lines](SystemMonitor& monitor) {
+        const QJsonObject values = publishedValues(monitor);
+        return QJsonDocument(lines.fields.isEmpty() ? values : valuesAt(values, lines.fields))
+            .toJson(QJsonDocument::Compact);
+    }));
+}
+
+int answer(const BarLines& lines) {
+    const SettingsStore settings(std::make_unique<ReadOnlySettings>());
+    return statusAfter(follow(lines.plan, settings, standardOutput, [&lines](SystemMonitor& monitor) {
+        QList<ModuleReport> reports;
+        for (const ModuleId module : lines.modules ? *lines.modules : shownModules())
+            reports.append(moduleReport(module, monitor));
+        const BarLine line = barLine(reports);
+        return lines.isPlain ? line.text.toUtf8()
+                             : QJsonDocument(jsonFrom(line)).toJson(QJsonDocument::Compact);
+    }));
 }
 
 } // namespace
+} // namespace orvelle
 
 int main(int argumentCount, char** argumentValues) {
+    // A file that is opened later would take the place of a closed standard output.
+    if (::fcntl(STDOUT_FILENO, F_GETFD) < 0)
+        return orvelle::failWith(QStringLiteral("The standard output is closed"));
+    if (std::signal(SIGPIPE, SIG_IGN) == SIG_ERR)
+        return orvelle::failWith(QStringLiteral("Cannot ignore SIGPIPE"));
     const QCoreApplication application(argumentCount, argumentValues);
-    const auto arguments = orvelle::parseProbeArguments(QCoreApplication::arguments());
-    if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
-        return fail(error->message, exitUsage);
-    if (std::holds_alternative<orvelle::ModuleListing>(arguments))
-        return print(orvelle::moduleLines());
-    const auto result = orvelle::probe(std::get<orvelle::SamplingPlan>(arguments));
-    if (const auto* error = std::get_if<orvelle::UnreadableRoot>(&result))
-        return fail(error->message, exitUnreadable);
-    return print(QJsonDocument(std::get<QJsonObject>(result)).toJson());
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVELLE_VERSION));
+    return std::visit([](const auto& request) { return orvelle::answer(request); },
+                      orvelle::parseProbeArguments(QCoreApplication::arguments()));
 }

@@ -1,6 +1,7 @@
 // orvelle-snapshot: paints every view into picture files, without a window.
 
 #include "common/example_machines.h"
+#include "common/output_stream.h"
 #include "common/sampling.h"
 #include "core/system_monitor.h"
 #include "snapshot/sheets.h"
@@ -9,17 +10,28 @@
 
 #include <QGuiApplication>
 
-#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
 
 namespace orvelle {
 namespace {
 
-constexpr int exitFailed = 1;
-constexpr int exitUsage = 2;
+int failWith(const QString& message, int status = exitFailed) {
+    return fail(QStringLiteral("orvelle-snapshot"), message, status);
+}
 
-int fail(const QString& message, int status) {
-    std::fprintf(stderr, "orvelle-snapshot: %s\n", qUtf8Printable(message));
-    return status;
+int print(const PrintedText& printed) {
+    const OutputStream standardOutput(STDOUT_FILENO);
+    return standardOutput.write(printed.text.toUtf8()) == OutputStream::Result::failed
+               ? failWith(QStringLiteral("Cannot write the text"))
+               : EXIT_SUCCESS;
+}
+
+/// The command line is needed before there is a QGuiApplication, which takes its scale from it.
+auto parsedArguments(int argumentCount, char** argumentValues) {
+    const QCoreApplication application(argumentCount, argumentValues);
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVELLE_VERSION));
+    return parseSnapshotArguments(QCoreApplication::arguments());
 }
 
 /// Windows are painted without a display. They take their scale from the platform.
@@ -47,7 +59,7 @@ int paintSheets(const SnapshotArguments& arguments) {
     FreshSettings settings;
     const auto sampled = monitorFor(arguments, settings.store);
     if (const auto* error = std::get_if<UnreadableRoot>(&sampled))
-        return fail(error->message, exitFailed);
+        return failWith(error->message);
     SystemMonitor& monitor = *std::get<std::unique_ptr<SystemMonitor>>(sampled);
     settings.store.setSelectedThemeId(arguments.theme);
     QList<WindowPicture> windows = panelPictures(monitor, settings);
@@ -56,7 +68,7 @@ int paintSheets(const SnapshotArguments& arguments) {
     for (const WindowPicture& window : windows) {
         if (const auto error =
                 writePicture(window.image, sheetFileName(window.name, arguments.scale), arguments.directory))
-            return fail(*error, exitFailed);
+            return failWith(*error);
     }
     FreshSettings inAnyTheme;
     const QList<Sheet> sheets = chartSheets()
@@ -64,7 +76,7 @@ int paintSheets(const SnapshotArguments& arguments) {
                                 << menuBarItemSheet(monitor, settings, BarAppearance::light)
                                 << trayIconSheet(monitor, inAnyTheme) << themeSheet(monitor, inAnyTheme);
     if (const auto error = writeSheets(sheets, arguments.directory, arguments.scale))
-        return fail(*error, exitFailed);
+        return failWith(*error);
     return 0;
 }
 
@@ -72,12 +84,11 @@ int paintSheets(const SnapshotArguments& arguments) {
 } // namespace orvelle
 
 int main(int argumentCount, char** argumentValues) {
-    QStringList commandLine;
-    for (int index = 0; index < argumentCount; ++index)
-        commandLine.append(QString::fromLocal8Bit(argumentValues[index]));
-    const auto arguments = orvelle::parseSnapshotArguments(commandLine);
+    const auto arguments = orvelle::parsedArguments(argumentCount, argumentValues);
     if (const auto* error = std::get_if<orvelle::UsageError>(&arguments))
-        return orvelle::fail(error->message, orvelle::exitUsage);
+        return orvelle::failWith(error->message, orvelle::exitUsage);
+    if (const auto* printed = std::get_if<orvelle::PrintedText>(&arguments))
+        return orvelle::print(*printed);
     orvelle::choosePlatform(std::get<orvelle::SnapshotArguments>(arguments).scale);
     int programNameOnly = 1;
     const QGuiApplication application(programNameOnly, argumentValues);

@@ -4,8 +4,6 @@
 
 #include <QCommandLineParser>
 
-#include <algorithm>
-
 namespace orvelle {
 namespace {
 
@@ -13,30 +11,47 @@ constexpr double smallestScale = 1;
 constexpr double largestScale = 4;
 
 UsageError usageError(const QString& reason) {
-    return {
-        reason +
-        QStringLiteral("\nusage: orvelle-snapshot DIR [--root DIR... | --example] [--scale N] [--theme ID]")};
+    return {reason};
 }
 
-bool isTheme(const QString& id) {
-    return std::ranges::any_of(builtInThemes(), [&](const AppTheme& theme) { return theme.id == id; });
+QStringList themeIds() {
+    QStringList ids;
+    for (const AppTheme& theme : builtInThemes())
+        ids.append(theme.id);
+    return ids;
 }
 
 } // namespace
 
-std::variant<SnapshotArguments, UsageError> parseSnapshotArguments(const QStringList& commandLine) {
-    const QCommandLineOption root(QStringLiteral("root"), {}, QStringLiteral("DIR"));
-    const QCommandLineOption example(QStringLiteral("example"));
-    const QCommandLineOption scale(QStringLiteral("scale"), {}, QStringLiteral("N"), QStringLiteral("1"));
-    const QCommandLineOption theme(QStringLiteral("theme"), {}, QStringLiteral("ID"),
-                                   builtInThemes().first().id);
+std::variant<SnapshotArguments, PrintedText, UsageError>
+parseSnapshotArguments(const QStringList& commandLine) {
+    const QCommandLineOption root(
+        QStringLiteral("root"),
+        QStringLiteral(
+            "Show the machine recorded below DIR instead of this one. Given several times, each DIR is the "
+            "machine at the next sample."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption example(QStringLiteral("example"),
+                                     QStringLiteral("Show an invented laptop instead."));
+    const QCommandLineOption scale(QStringLiteral("scale"),
+                                   QStringLiteral("Pixels for each point, from 1 to 4, 1 unless given."),
+                                   QStringLiteral("N"), QStringLiteral("1"));
+    const QCommandLineOption theme(QStringLiteral("theme"),
+                                   QStringLiteral("Theme of all pictures: %1.").arg(themeIds().join(u", ")),
+                                   QStringLiteral("ID"), themeIds().constFirst());
     QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Paints every view of Orvelle in every style into picture files, without a display."));
+    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Where the pictures are written."));
     parser.addOptions({root, example, scale, theme});
+    addUsualOptions(parser);
     if (!parser.parse(commandLine))
         return usageError(parser.errorText());
+    if (auto answer = usualAnswer(parser, QStringLiteral("orvelle-snapshot")))
+        return *std::move(answer);
     const QStringList directories = parser.positionalArguments();
     if (directories.size() != 1 || directories.first().isEmpty())
-        return usageError(QStringLiteral("One directory is needed to write the pictures into"));
+        return usageError(QStringLiteral("One folder is needed to write the pictures into"));
 
     SnapshotArguments arguments{.directory = directories.first(),
                                 .roots = parser.values(root),
@@ -49,7 +64,7 @@ std::variant<SnapshotArguments, UsageError> parseSnapshotArguments(const QString
     if (!isNumber || !(arguments.scale >= smallestScale && arguments.scale <= largestScale))
         return usageError(
             QStringLiteral("--scale takes a number from %1 to %2").arg(smallestScale).arg(largestScale));
-    if (!isTheme(arguments.theme))
+    if (!themeIds().contains(arguments.theme))
         return usageError(QStringLiteral("No theme is called \"%1\"").arg(arguments.theme));
     return arguments;
 }

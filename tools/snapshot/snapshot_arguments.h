@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/tool_command_line.h"
 #include "common/usage_error.h"
 
 #include <QStringList>
@@ -18,7 +19,7 @@ struct SnapshotArguments {
 };
 
 /// `commandLine` begins with the program's name.
-[[nodiscard]] std::variant<SnapshotArguments, UsageError>
+[[nodiscard]] std::variant<SnapshotArguments, PrintedText, UsageError>
 parseSnapshotArguments(const QStringList& commandLine);
 
 } // namespace orvelle
