@@ -63,7 +63,7 @@ TEST_F(Following, ARecordingIsALinePerRootAndEnds) {
 }
 
 TEST_F(Following, ThisMachineIsMeasuredForAMomentBeforeTheFirstLine) {
-    const FollowEnd end = followUntil(2, {.intervalSeconds = 0.1});
+    const FollowEnd end = followUntil(2, {.roots = {}, .intervalSeconds = 0.1});
     EXPECT_EQ(std::get<OutputStream::Result>(end), OutputStream::Result::readerGone);
     EXPECT_EQ(usages.size(), 2);
 }

@@ -46,6 +46,13 @@ TEST(ProbeArguments, ChooseModulesForAStatusBar) {
     EXPECT_EQ(chosen.plan.intervalSeconds, 10);
 }
 
+TEST(ProbeArguments, WriteAReportIntoAFile) {
+    EXPECT_EQ(std::get<ReportPlan>(parsed("--report")).file, QStringLiteral("orvelle-report.json"));
+    const auto plan = std::get<ReportPlan>(parsed("--report here.json --root a --root b"));
+    EXPECT_EQ(plan.file, QStringLiteral("here.json"));
+    EXPECT_EQ(plan.roots, (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+}
+
 TEST(ProbeArguments, HelpAndVersionAreAnsweredBesideOtherOptions) {
     for (const char* arguments : {"--help", "-h", "--version", "-v", "--follow --help", "--modules -v"})
         EXPECT_TRUE(std::holds_alternative<PrintedText>(parsed(arguments))) << arguments;
@@ -76,7 +83,10 @@ TEST(ProbeArguments, WhatCannotBeTakenIsAUsageErrorOfOneLine) {
                                   "--follow --fields ,",
                                   "--waybar --fields gpu",
                                   "--plain --fields CPU",
-                                  "--follow extra"}) {
+                                  "--follow extra",
+                                  "--report a b",
+                                  "--report --interval 3",
+                                  "--report --follow"}) {
         const auto request = parsed(arguments);
         ASSERT_TRUE(std::holds_alternative<UsageError>(request)) << arguments;
         const QString message = std::get<UsageError>(request).message;

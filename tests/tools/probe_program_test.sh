@@ -24,7 +24,7 @@ expect 0 $'^cpu\t60\tshowCPU\ttrue\tCPU$' --modules
 expect 0 $'^sensor\t50\tshowSensors\tfalse\tSensors$' --modules
 expect 0 "^orvelle-probe $version\$" --version
 expect 0 "^orvelle-probe $version\$" -v
-for option in root step cycles modules follow waybar plain interval fields help version; do
+for option in root step cycles modules report follow waybar plain interval fields help version; do
   expect 0 "^  .*--$option" --help
 done
 expect 0 'Usage:' -h

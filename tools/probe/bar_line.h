@@ -8,8 +8,8 @@ namespace orvelle {
 
 /// What a status bar shows of several modules at one moment.
 struct BarLine {
-    QString text;    ///< from left to right, Pango markup
-    QString tooltip; ///< several lines, Pango markup
+    QString text{};    ///< from left to right, Pango markup
+    QString tooltip{}; ///< several lines, Pango markup
     std::optional<int> percentage{};
     Severity severity = Severity::normal;
 };

@@ -8,11 +8,13 @@
 #include "probe/probe_arguments.h"
 #include "probe/probe_session.h"
 #include "probe/published_values.h"
+#include "probe/report/report.h"
 #include "settings/settings_store.h"
 #include "settings/user_settings.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QSaveFile>
 
 #include <csignal>
 #include <cstdlib>
@@ -99,6 +101,21 @@ int answer(const BarLines& lines) {
         return lines.isPlain ? line.text.toUtf8()
                              : QJsonDocument(jsonFrom(line)).toJson(QJsonDocument::Compact);
     }));
+}
+
+int answer(const ReportPlan& plan) {
+    const SettingsStore settings(userSettings());
+    const auto report = makeReport(plan.roots, settings);
+    if (const auto* error = std::get_if<UnreadableRoot>(&report))
+        return failWith(error->message);
+    QSaveFile file(plan.file);
+    const QByteArray text = QJsonDocument(std::get<QJsonObject>(report)).toJson();
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        return failWith(QStringLiteral("Cannot write \"%1\": %2").arg(plan.file, file.errorString()));
+    return print(
+        QStringLiteral("Wrote %1. It is plain text: please look at it, then attach it to your report.\n")
+            .arg(plan.file)
+            .toUtf8());
 }
 
 } // namespace

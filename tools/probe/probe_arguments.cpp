@@ -38,6 +38,11 @@ struct ProbeOptions {
     const QCommandLineOption plain{
         QStringLiteral("plain"),
         QStringLiteral("Likewise, but print plain text for status bars such as polybar.")};
+    const QCommandLineOption report{
+        QStringLiteral("report"),
+        QStringLiteral(
+            "Write a file to attach to a bug report: the values and what they were read from, without names "
+            "of processes, users, machines, volumes and without addresses.")};
     const QCommandLineOption interval{
         QStringLiteral("interval"),
         QStringLiteral("Time between two lines, 3 seconds unless given, at least 0.1."),
@@ -60,7 +65,7 @@ QString optionText(const QCommandLineOption& option) {
 
 /// The options that choose what the program does; without any it prints the values once.
 QList<const QCommandLineOption*> modesOf(const ProbeOptions& options) {
-    return {&options.modules, &options.follow, &options.waybar, &options.plain};
+    return {&options.modules, &options.report, &options.follow, &options.waybar, &options.plain};
 }
 
 /// Whether the option has a meaning together with this mode; null stands for printing once.
@@ -160,16 +165,20 @@ ProbeRequest parseProbeArguments(const QStringList& commandLine) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Prints what Orvelle measures, as one JSON object unless an option says otherwise."));
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("Of --report; orvelle-report.json unless given."),
+                                 QStringLiteral("[FILE]"));
     parser.addOptions({options.root, options.step, options.cycles, options.follow, options.waybar,
-                       options.plain, options.interval, options.fields, options.modules});
+                       options.plain, options.interval, options.fields, options.modules, options.report});
     addUsualOptions(parser);
     if (!parser.parse(commandLine))
         return usageError(parser.errorText());
     if (auto answer = usualAnswer(parser, QStringLiteral("orvelle-probe")))
         return *std::move(answer);
-    if (!parser.positionalArguments().isEmpty())
-        return usageError(
-            QStringLiteral("Unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+    const QStringList others = parser.positionalArguments();
+    const qsizetype allowed = parser.isSet(options.report) ? 1 : 0;
+    if (others.size() > allowed)
+        return usageError(QStringLiteral("Unexpected argument \"%1\"").arg(others.at(allowed)));
     const auto mode = modeOf(parser, options);
     if (const auto* error = std::get_if<UsageError>(&mode))
         return *error;
@@ -178,6 +187,9 @@ ProbeRequest parseProbeArguments(const QStringList& commandLine) {
         return samplingPlan(parser, options);
     if (chosen == &options.modules)
         return ModuleListing();
+    if (chosen == &options.report)
+        return ReportPlan{.roots = parser.values(options.root),
+                          .file = others.isEmpty() ? QStringLiteral("orvelle-report.json") : others.first()};
     return lines(parser, options);
 }
 

@@ -29,7 +29,14 @@ struct BarLines {
     bool isPlain = false;                   ///< the bare text, without JSON around it
 };
 
-using ProbeRequest = std::variant<SamplingPlan, ModuleListing, ValueLines, BarLines, PrintedText, UsageError>;
+/// A file to attach to a bug report.
+struct ReportPlan {
+    QStringList roots; ///< moments of a recorded machine; empty: this machine
+    QString file;      ///< where it is written
+};
+
+using ProbeRequest =
+    std::variant<SamplingPlan, ModuleListing, ValueLines, BarLines, ReportPlan, PrintedText, UsageError>;
 
 /// `commandLine` begins with the program's name.
 [[nodiscard]] ProbeRequest parseProbeArguments(const QStringList& commandLine);
