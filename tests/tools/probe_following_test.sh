@@ -14,8 +14,8 @@ status_of() { # status_of ARGUMENT...: leaves the status, the output and the err
 expect_refused() { # expect_refused PATTERN ARGUMENT...
   local pattern=$1; shift
   status_of "$@"
-  [ $status -eq 2 ] && [ ! -s "$directory/output" ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] &&
-    grep -q -- "$pattern" "$directory/errors" || complain "orvelle-probe $*: status $status, $(cat "$directory/errors")"
+  { [ $status -eq 2 ] && [ ! -s "$directory/output" ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] &&
+    grep -q -- "$pattern" "$directory/errors"; } || complain "orvelle-probe $*: status $status, $(cat "$directory/errors")"
 }
 
 mkdir -p "$directory/one/proc" "$directory/two/proc"
@@ -24,7 +24,7 @@ echo "cpu0 150 0 100 850" >"$directory/two/proc/stat"
 
 # A recording ends by itself.
 status_of --follow --fields cpu.totalUsage,memory.info --root "$directory/one" --root "$directory/two"
-[ $status -eq 0 ] && [ "$(wc -l <"$directory/output")" -eq 2 ] && [ ! -s "$directory/errors" ] || complain "a recording is two lines"
+{ [ $status -eq 0 ] && [ "$(wc -l <"$directory/output")" -eq 2 ] && [ ! -s "$directory/errors" ]; } || complain "a recording is two lines"
 tail -n 1 "$directory/output" | grep -q '^{"cpu.totalUsage":0.5,"memory.info":{.*"used":0.*}}$' ||
   complain "the values: $(cat "$directory/output")"
 status_of --follow --root "$directory/one"
@@ -36,11 +36,10 @@ mkfifo "$directory/lines"
 program=$!
 exec 3<"$directory/lines"
 for cycle in 2 3 4; do
-  read -r -t 20 line <&3 && [ "$line" = "{\"updateCycleCount\":$cycle}" ] || complain "line of cycle $cycle: ${line-}"
+  { read -r -t 20 line <&3 && [ "$line" = "{\"updateCycleCount\":$cycle}" ]; } || complain "line of cycle $cycle: ${line-}"
 done
 exec 3<&-
-wait $program
-[ $? -eq 0 ] && [ ! -s "$directory/errors" ] || complain "the end of the reader is no failure: $(cat "$directory/errors")"
+{ wait $program && [ ! -s "$directory/errors" ]; } || complain "the end of the reader is no failure: $(cat "$directory/errors")"
 
 # The reader's end is seen while the program waits for the next sample.
 "$probe" --plain --interval 600 >"$directory/lines" 2>"$directory/errors" &
@@ -85,11 +84,11 @@ expect_refused 'does not go with' --follow --waybar
 expect_refused '\-\-interval goes with' --interval 3
 expect_refused '\-\-step does not go with --follow' --follow --step 1
 status_of --follow --root "$directory/missing"
-[ $status -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] || complain "a missing folder: status $status"
+{ [ $status -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ]; } || complain "a missing folder: status $status"
 if [ -e /dev/full ]; then
   timeout 20 "$probe" --follow --interval 0.2 >/dev/full 2>"$directory/errors"
-  [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] || complain "a full disk: $(cat "$directory/errors")"
+  { [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ]; } || complain "a full disk: $(cat "$directory/errors")"
 fi
 timeout 20 "$probe" --waybar >&- 2>"$directory/errors"
-[ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] || complain "a closed output: $(cat "$directory/errors")"
+{ [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ]; } || complain "a closed output: $(cat "$directory/errors")"
 exit $((failures > 0))

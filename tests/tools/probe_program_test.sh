@@ -54,10 +54,10 @@ if [ -e /dev/full ]; then
   for mode in --modules "--step 0.05"; do
     # shellcheck disable=SC2086 # the mode may be two words
     "$probe" $mode >/dev/full 2>"$directory/errors"
-    [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] ||
+    { [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ]; } ||
       { echo "a full disk is not told of: $mode" >&2; failures=$((failures + 1)); }
   done
 fi
 "$probe" --modules >&- 2>"$directory/errors"
-[ $? -eq 1 ] && grep -q 'closed' "$directory/errors" || { echo "a closed output is not told of" >&2; failures=$((failures + 1)); }
+{ [ $? -eq 1 ] && grep -q 'closed' "$directory/errors"; } || { echo "a closed output is not told of" >&2; failures=$((failures + 1)); }
 exit $((failures > 0))

@@ -86,15 +86,15 @@ python3 "$fixtures/unpack.py" "$directory/hostile.json" "$directory/linked" 2>/d
 # This machine.
 (cd "$directory" && "$probe" --report >output 2>&1) || complain "no report of this machine: $(cat "$directory/output")"
 python3 "$fixtures/unpack.py" "$directory/orvelle-report.json" "$directory/here" || complain "this machine cannot be unpacked"
-[ -s "$directory/here/1/proc/stat" ] && [ -s "$directory/here/2/proc/stat" ] || complain "the recording of this machine is empty"
-"$probe" --root "$directory/here/1" >"$directory/values" && grep -q '"process-' "$directory/values" || complain "its processes are missing"
+{ [ -s "$directory/here/1/proc/stat" ] && [ -s "$directory/here/2/proc/stat" ]; } || complain "the recording of this machine is empty"
+{ "$probe" --root "$directory/here/1" >"$directory/values" && grep -q '"process-' "$directory/values"; } || complain "its processes are missing"
 grep -qw -- "$(uname -n)" "$report" && complain "the report tells the name of this machine"
 for private in "$(uname -n)" probe_report; do
   grep -qw -- "$private" "$directory/orvelle-report.json" && complain "the report of this machine tells $private"
 done
 
 "$probe" --report "$directory/missing/report.json" --root "$machine" >/dev/null 2>"$directory/errors"
-[ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ] || complain "a folder that is missing: $(cat "$directory/errors")"
+{ [ $? -eq 1 ] && [ "$(wc -l <"$directory/errors")" -eq 1 ]; } || complain "a folder that is missing: $(cat "$directory/errors")"
 "$probe" --report "$report" --root "$directory/none" 2>/dev/null
 [ $? -eq 1 ] || complain "a machine that is missing"
 exit $((failures > 0))
