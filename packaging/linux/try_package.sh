@@ -14,16 +14,20 @@ apt-get install -y -q --no-install-recommends "$package" >/tmp/install.log 2>&1 
 echo "ok: apt installs it and what it depends on"
 
 home=$(mktemp -d)
-as_user() { env -i HOME="$home" XDG_RUNTIME_DIR="$home" PATH="$PATH" LC_ALL=C.UTF-8 QT_FORCE_STDERR_LOGGING=1 "$@"; }
-check "the version is told" [ "$(as_user orvelle --version)" = "orvelle $(dpkg-deb -f "$package" Version | sed 's/-.*//')" ]
-as_user orvelle-probe >"$home/values.json"
+as_user=(env -i HOME="$home" XDG_RUNTIME_DIR="$home" PATH="$PATH" LC_ALL=C.UTF-8 QT_FORCE_STDERR_LOGGING=1
+  QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=orvelle.start.debug=true)
+mkdir -p "$home/.config/orvelle"
+printf '[General]\nshowDisk=true\n' >"$home/.config/orvelle/orvelle.conf"
+check "the version is told" [ "$("${as_user[@]}" orvelle --version)" = "orvelle $(dpkg-deb -f "$package" Version | sed 's/-.*//')" ]
+"${as_user[@]}" orvelle-probe >"$home/values.json"
 check "the probe prints values" grep -q '"totalUsage"' "$home/values.json"
-as_user env QT_QPA_PLATFORM=offscreen orvelle-snapshot "$home/pictures" --example >/dev/null 2>"$home/snapshot.log" ||
+"${as_user[@]}" orvelle-snapshot "$home/pictures" --example >/dev/null 2>"$home/snapshot.log" ||
   fail "the pictures of all windows: $(cat "$home/snapshot.log")"
 check "the windows find all that they import" [ "$(find "$home/pictures" -name '*.png' | wc -l)" -gt 20 ]
-program="" log=$home/log
+program="" log=""
 start() {
-  as_user env QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES="orvelle.start.debug=true" orvelle "$@" 2>"$log" &
+  log=$(mktemp -p "$home")
+  "${as_user[@]}" orvelle "$@" 2>"$log" &
   program=$!
   for _ in $(seq 100); do ! grep -q "first bar painted" "$log" || return 0; sleep 0.1; done
   fail "the program starts: $(cat "$log")"
@@ -43,11 +47,11 @@ start
 kill -TERM "$program"
 check "the upgraded one starts, and ends with status 0" wait "$program"
 
-apt-get remove -y -q orvelle >/dev/null 2>&1
 apt-get purge -y -q orvelle >/dev/null 2>&1
 left=$(comm -13 <(echo "$before") <(find /etc /usr /lib /var/lib/systemd -xdev 2>/dev/null | sort) | grep -i orvelle || true)
-check "removal leaves nothing of it ($left)" [ -z "$left" ]
-check "but the user's settings stay" [ -d "$home" ]
+check "removal leaves nothing of it" [ -z "$left" ]
+[ -z "$left" ] || echo "$left"
+check "but the user's settings stay" grep -q '^showDisk=true$' "$home/.config/orvelle/orvelle.conf"
 rm -rf "$home"
 echo "$failures failures"
 ((failures == 0))
