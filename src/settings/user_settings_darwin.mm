@@ -1,3 +1,4 @@
+#include "settings/release_pool.h"
 #include "settings/user_settings.h"
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -35,18 +36,6 @@
 
 namespace orvelle {
 namespace {
-
-/// Gives back at its end every object that Foundation lent while it lived.
-class ReleasePool {
-  public:
-    ReleasePool() = default;
-    ~ReleasePool() { [m_pool release]; }
-    ReleasePool(const ReleasePool&) = delete;
-    ReleasePool& operator=(const ReleasePool&) = delete;
-
-  private:
-    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
-};
 
 NSString* systemText(const QString& text) {
     const auto* const units = reinterpret_cast<const unichar*>(text.constData());

@@ -1,13 +1,13 @@
+#include "settings/release_pool.h"
 #include "theme/fonts.h"
-#include "theme/release_pool.h"
 
 #include <QFontDatabase>
 
 #include <AppKit/AppKit.h>
 #include <CoreText/CoreText.h>
 
-// Qt knows the system's font in its usual design alone. The families of the others are private, so Qt does not find
-// them by name, but it loads them from their files. Compiled with manual reference counting.
+// Qt knows the system's font in its usual design alone. The families of the others are private, so Qt does
+// not find them by name, but it loads them from their files. Compiled with manual reference counting.
 namespace orvelle {
 namespace {
 

@@ -1,4 +1,4 @@
-#include "theme/release_pool.h"
+#include "settings/release_pool.h"
 #include "theme/symbols.h"
 
 #include <QtMath>

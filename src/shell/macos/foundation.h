@@ -1,6 +1,6 @@
 #pragma once
 
-#include "theme/release_pool.h"
+#include "settings/release_pool.h"
 
 #include <Foundation/Foundation.h>
 
