@@ -18,7 +18,7 @@ from core_faults import CORE_FAULTS
 from darwin_faults import DARWIN_FAULTS
 from panel_faults import PANEL_FAULTS
 from planting import plant
-from settings_faults import SETTINGS_FAULTS
+from settings_window_faults import SETTINGS_FAULTS
 from wayland_faults import WAYLAND_FAULTS
 from x11_faults import X11_FAULTS
 

@@ -14,8 +14,8 @@ bool isOnScreen(NSView* view) {
     return ([[view window] occlusionState] & NSWindowOcclusionStateVisible) != 0;
 }
 
-/// Removes the item. The system then forgets where the user has dragged it, which is therefore written back for
-/// the next item of this name.
+/// Removes the item. The system then forgets where the user has dragged it, which is therefore written back
+/// for the next item of this name.
 void removeFromBar(NSStatusItem* item, const QString& autosaveName) {
     const ReleasePool pool;
     NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];

@@ -37,7 +37,7 @@ struct Script {
     bool mayRegisterLogin = true;
     bool loginNeedsApproval = false; ///< the user has forbidden the program to start at login before
     bool reducesMotion = false;
-    std::map<std::string, double> defaults{}; ///< the program's own settings that the system keeps
+    std::map<std::string, double> defaults{};       ///< the program's own settings that the system keeps
     std::map<std::string, std::string> fontFiles{}; ///< paths, by "monospaced" and "rounded"
     std::set<std::string> symbols{"cpu", "network"};
     double symbolWidth = 1.5; ///< of every symbol, a multiple of its point size

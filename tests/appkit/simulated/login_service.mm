@@ -28,8 +28,8 @@ bool isRegistered() {
     desktop().expect(error == nullptr, "an error that nobody reads");
     if (!desktop().arrives("registerAndReturnError") || !desktop().script.mayRegisterLogin || isRegistered())
         return NO;
-    desktop().script.loginStatus = desktop().script.loginNeedsApproval ? SMAppServiceStatusRequiresApproval
-                                                                       : SMAppServiceStatusEnabled;
+    desktop().script.loginStatus =
+        desktop().script.loginNeedsApproval ? SMAppServiceStatusRequiresApproval : SMAppServiceStatusEnabled;
     return desktop().script.loginNeedsApproval ? NO : YES;
 }
 - (BOOL)unregisterAndReturnError:(NSError**)error {
