@@ -19,7 +19,7 @@ void change(QJsonObject& object, const char* name, Change changed) {
 template <class Change>
 QJsonValue changedRecords(const QJsonValue& list, Change changed) {
     QJsonArray records;
-    for (const QJsonValue& record : list.toArray()) {
+    for (const QJsonValue record : list.toArray()) {
         QJsonObject object = record.toObject();
         changed(object);
         records.append(object);

@@ -30,6 +30,13 @@ struct Observation {
 constexpr int cycles = 4;
 constexpr std::chrono::seconds betweenCycles{1};
 
+/// What the machine below `root` has changed since an earlier recording.
+std::optional<RecordedTree> changesIn(const QString& root, const std::optional<RecordedTree>& earlier,
+                                      Pseudonyms& pseudonyms) {
+    const std::optional<RecordedTree> later = recordMachine(root.toStdString(), pseudonyms);
+    return earlier && later ? std::optional(changedSince(*earlier, *later)) : std::nullopt;
+}
+
 Observation observeThisMachine(const SettingsStore& settings, Pseudonyms& pseudonyms) {
     Observation observation;
     SystemMonitor monitor(makeHostSources(), settings);
@@ -39,8 +46,7 @@ Observation observeThisMachine(const SettingsStore& settings, Pseudonyms& pseudo
         std::this_thread::sleep_for(betweenCycles);
         monitor.updateCycle();
     }
-    if (observation.first)
-        observation.second = changedSince(*observation.first, *recordMachine("/", pseudonyms));
+    observation.second = changesIn(QStringLiteral("/"), observation.first, pseudonyms);
     observation.values = publishedValues(monitor);
     return observation;
 }
@@ -53,9 +59,8 @@ Observation observeRecording(const QStringList& roots, const SettingsStore& sett
     }
     observation.values = publishedValues(machine.monitor());
     observation.first = recordMachine(roots.first().toStdString(), pseudonyms);
-    if (observation.first && roots.size() > 1)
-        observation.second =
-            changedSince(*observation.first, *recordMachine(roots.last().toStdString(), pseudonyms));
+    if (roots.size() > 1)
+        observation.second = changesIn(roots.last(), observation.first, pseudonyms);
     return observation;
 }
 
