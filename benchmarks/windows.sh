@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# windows.sh ORVELLE: what the windows of the running program cost, in about five minutes, on a virtual display:
-# how long each takes from the click to its first frame, the memory with a panel open, the CPU time of an open panel
-# and of the program with everything closed, the latter beside polybar with the same modules. Prints a Markdown
-# table.
+# windows.sh ORVELLE: what the windows of the running program cost, in about four minutes, on a virtual display: how long
+# each takes from the click to its first frame, the memory with a panel open, and the CPU time of an open panel. Prints a
+# Markdown table.
 set -euo pipefail
 orvelle=$1
 source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
@@ -10,9 +9,9 @@ source "$(dirname "$(readlink -f "$0")")/../scripts/modules.sh"
 settings=$(mktemp -d)
 unset "${!QT_@}" WAYLAND_DISPLAY
 export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_STATE_HOME=$settings
-program="" other="" log=$settings/log
+program="" log=$settings/log
 finish() {
-  for started in $program $other; do kill "$started" 2>/dev/null || true; wait "$started" 2>/dev/null || true; done
+  [ -z "$program" ] || { kill "$program" 2>/dev/null || true; wait "$program" 2>/dev/null || true; }
   stop_virtual_display
   rm -rf "$settings"
 }
@@ -52,44 +51,6 @@ open_settings() {
   sleep 2
 }
 
-write_polybar_settings() {
-  local interface
-  interface=$(ip -o link 2>/dev/null | sed -n "s/^[0-9]*: \([^:@]*\).*/\1/p" | grep -vx lo | head -n 1 || true)
-  cat >"$settings/polybar.ini" <<INI
-[bar/main]
-width = 100%
-height = 22
-font-0 = DejaVu Sans:size=9;2
-modules-right = cpu memory network disk battery temperature
-[module/cpu]
-type = internal/cpu
-interval = 3
-format = <label> <ramp-coreload>
-ramp-coreload-0 = _
-ramp-coreload-1 = -
-ramp-coreload-2 = =
-label = %percentage%%
-[module/memory]
-type = internal/memory
-interval = 3
-label = %percentage_used%%
-[module/network]
-type = internal/network
-interface = ${interface:-lo}
-interval = 3
-label-connected = %upspeed% %downspeed%
-[module/disk]
-type = internal/fs
-mount-0 = /
-interval = 3
-[module/battery]
-type = internal/battery
-[module/temperature]
-type = internal/temperature
-interval = 3
-INI
-}
-
 everything=("${module_settings[@]/%/=true}")
 start_x_server 1280x800
 start_window_manager
@@ -108,18 +69,4 @@ add_row "settings window to first frame, the first time" "${settings_openings[0]
 add_row "later, at most of 3" "$(printf '%s\n' "${settings_openings[@]:1}" | maximum) ms" "60 ms"
 add_row "resident memory after the panels and the settings" "$(memory_kilobytes Rss) kB" ""
 end_program
-
-start_program "${everything[@]}"
-other_percent="not installed"
-if command -v polybar >/dev/null; then
-  write_polybar_settings
-  polybar --quiet --config="$settings/polybar.ini" main >/dev/null 2>&1 &
-  other=$!
-  sleep 5
-  read -r own_percent other_percent < <(cpu_percent 60 "$program" "$other")
-else
-  own_percent=$(cpu_percent 60 "$program")
-fi
-add_row "CPU time with all six modules, everything closed" "$own_percent% of a core" "that of polybar"
-add_row "CPU time of polybar with the same modules, in the same minute" "$other_percent% of a core" ""
 print_table

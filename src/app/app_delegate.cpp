@@ -140,8 +140,9 @@ void AppDelegate::subscribe() {
 
 void AppDelegate::redraw() {
     const ModuleContext context{m_monitor, m_settings, m_themes};
+    const double usage = m_monitor.cpu().totalUsage();
     for (const ShownModule& shown : m_shownModules) {
-        shown.presenter->show(makeScene(shown.module, context));
+        shown.presenter->show(makeScene(shown.module, context), usage);
         if (shown.presenter->showsIcon())
             shown.presenter->showIcon(makeIcon(shown.module, context));
     }

@@ -1,6 +1,7 @@
 #include "menu_bar/item_presenter.h"
 
 #include "animation/animation_timing.h"
+#include "core/severity.h"
 #include "menu_bar/scene_painter.h"
 
 #include <algorithm>
@@ -10,8 +11,11 @@
 namespace orvelle {
 namespace {
 
-constexpr double smallestVisiblePixels = 0.5;
-constexpr double shortestIntervalSeconds = 1.0 / 30;
+constexpr double smallestMovePixels = 0.5; ///< a shorter way shows at once
+constexpr double pixelsPerFrame = 1;
+constexpr double framesWhenIdle = 6;
+constexpr double framesWhenWorking = 3;
+constexpr double workingUsage = 0.25;
 
 QList<Level> easingLevelsOf(const SceneNode& scene) {
     QList<Level> levels = levelsOf(scene);
@@ -29,9 +33,11 @@ QList<BarLook> looksOf(const QList<Level>& levels) {
 } // namespace
 
 std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from, const QList<Level>& to,
-                                                      double pixelsPerPoint) {
+                                                      double pixelsPerPoint, double processorUsage) {
     if (from.size() != to.size())
         return std::nullopt; // the number of bars has changed
+    if (processorSeverity(processorUsage) == Severity::critical)
+        return std::nullopt;
     double pixels = 0;
     bool isRecolored = false;
     for (qsizetype index = 0; index < to.size(); ++index) {
@@ -40,12 +46,11 @@ std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from, 
         pixels = std::max(pixels, change * to[index].fullLength * pixelsPerPoint);
         isRecolored = isRecolored || (change > 0 && look.color != from[index].look.color);
     }
-    if (pixels < smallestVisiblePixels && !isRecolored)
+    if (pixels < smallestMovePixels && !isRecolored)
         return std::nullopt;
-    const double steps =
-        isRecolored ? miniBarSeconds / shortestIntervalSeconds : pixels / smallestVisiblePixels;
-    const double seconds = std::clamp(miniBarSeconds / steps, shortestIntervalSeconds, miniBarSeconds);
-    return std::chrono::milliseconds(std::lround(seconds * 1000));
+    const double most = processorUsage < workingUsage ? framesWhenIdle : framesWhenWorking;
+    const double frames = isRecolored ? most : std::clamp(pixels / pixelsPerFrame, 1.0, most);
+    return std::chrono::milliseconds(std::lround(miniBarSeconds / frames * 1000));
 }
 
 ItemPresenter::ItemPresenter(StatusItem& item, AnimationClock& clock)
@@ -57,7 +62,7 @@ ItemPresenter::ItemPresenter(StatusItem& item, AnimationClock& clock)
     });
 }
 
-void ItemPresenter::show(const ItemScene& scene) {
+void ItemPresenter::show(const ItemScene& scene, double processorUsage) {
     const bool isFirst = !std::exchange(m_hasScene, true);
     if (!isFirst && scene == m_scene)
         return;
@@ -65,7 +70,7 @@ void ItemPresenter::show(const ItemScene& scene) {
         scene.accessibleName != m_scene.accessibleName || scene.accessibleText != m_scene.accessibleText;
     const double pixelsPerPoint = m_item.visiblePixelsPerPoint();
     m_scene = scene;
-    retarget(!isFirst && pixelsPerPoint > 0 && !m_clock.isReduced(), pixelsPerPoint);
+    retarget(!isFirst && pixelsPerPoint > 0 && !m_clock.isReduced(), pixelsPerPoint, processorUsage);
     if (isReworded)
         m_item.setWords(m_scene.accessibleName, m_scene.accessibleText);
     refresh();
@@ -80,12 +85,12 @@ void ItemPresenter::showIcon(const IconScene& icon) {
          icon.label, icon.widestLabel});
 }
 
-void ItemPresenter::retarget(bool mayEase, double pixelsPerPoint) {
+void ItemPresenter::retarget(bool mayEase, double pixelsPerPoint, double processorUsage) {
     const QList<Level> target = easingLevelsOf(m_scene.body);
     const QList<BarLook> looks = looksOf(target);
     if (mayEase && looks == m_looks.target())
         return; // the levels are there or already move there
-    const auto interval = easeInterval(easingLevelsOf(m_shown), target, pixelsPerPoint);
+    const auto interval = easeInterval(easingLevelsOf(m_shown), target, pixelsPerPoint, processorUsage);
     if (mayEase && interval) {
         m_looks.retarget(looks, miniBarSeconds, easeInOut());
         m_easing.start(*interval);

@@ -11,10 +11,14 @@
 
 namespace orvelle {
 
-/// The time between the frames of an animated change of levels; nothing when the change is too small to
-/// animate. Steps below half a pixel are invisible, so a short distance takes few frames.
-[[nodiscard]] std::optional<std::chrono::milliseconds>
-easeInterval(const QList<Level>& from, const QList<Level>& to, double pixelsPerPoint);
+/// The time between the frames of an animated change of levels; nothing when the change shows at once, because
+/// it is too small or the processor is too busy. `processorUsage` is from 0 to 1. Frames on which no bar moves
+/// by a whole pixel are hard to see, so a short distance takes few. A busy processor gets fewer still: the bar
+/// must not add to the load that it shows.
+[[nodiscard]] std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from,
+                                                                    const QList<Level>& to,
+                                                                    double pixelsPerPoint,
+                                                                    double processorUsage);
 
 /// Shows scenes in a status item. Levels ease from their current length and colour to the new ones, and the
 /// item is repainted only when it looks different. Main thread only.
@@ -27,7 +31,8 @@ public:
     ItemPresenter& operator=(const ItemPresenter&) = delete;
 
     /// Replaces the scene. The first scene appears without motion, as does an item that is off the screen.
-    void show(const ItemScene& scene);
+    /// `processorUsage` is that of the machine, from 0 to 1: see `easeInterval`.
+    void show(const ItemScene& scene, double processorUsage);
 
     /// Whether the item has an icon, which is shown by `showIcon`.
     [[nodiscard]] bool showsIcon() const { return m_item.showsIcon(); }
@@ -39,7 +44,7 @@ public:
     [[nodiscard]] const SceneNode& shown() const { return m_shown; }
 
 private:
-    void retarget(bool mayEase, double pixelsPerPoint);
+    void retarget(bool mayEase, double pixelsPerPoint, double processorUsage);
     void step(double seconds);
     void refresh();
     /// The levels of the newest scene as currently shown.
