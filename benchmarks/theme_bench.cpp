@@ -63,7 +63,8 @@ public:
 private:
     void showItems() {
         for (std::size_t index = 0; index < m_presenters.size(); ++index)
-            m_presenters[index]->show(makeScene(moduleTable[index].id, {*m_monitor, m_settings, m_themes}), 0);
+            m_presenters[index]->show(makeScene(moduleTable[index].id, {*m_monitor, m_settings, m_themes}),
+                                      0);
     }
     void seen(const QWindow* window) {
         m_waiting.erase(window);

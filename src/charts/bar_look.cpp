@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 namespace orvelle {
 namespace {
@@ -75,6 +76,20 @@ QList<BarLook> interpolate(const QList<BarLook>& from, const QList<BarLook>& to,
     for (qsizetype index = 0; index < to.size(); ++index)
         result.append(interpolate(from[index], to[index], progress));
     return result;
+}
+
+bool looksAlike(const QList<BarLook>& one, const QList<BarLook>& other, double fullPixels) {
+    constexpr double visiblePixels = 0.5;
+    constexpr double visibleShade = 0.02;
+    return std::ranges::equal(one, other, [fullPixels](const BarLook& first, const BarLook& second) {
+        if (std::abs(first.ratio - second.ratio) * fullPixels >= visiblePixels)
+            return false;
+        const auto shades = componentsOf(first);
+        const auto others = componentsOf(second);
+        return std::ranges::equal(
+            shades | std::views::drop(1), others | std::views::drop(1),
+            [](double shade, double same) { return std::abs(shade - same) < visibleShade; });
+    });
 }
 
 BarAnimation::BarAnimation(const BarLook& look)

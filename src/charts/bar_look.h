@@ -37,6 +37,10 @@ struct BarLook {
 [[nodiscard]] QList<BarLook> interpolate(const QList<BarLook>& from, const QList<BarLook>& to,
                                          double progress);
 
+/// Whether a viewer cannot tell the bars apart: none differs by half a pixel or by a shade. `fullPixels` is
+/// the length of a bar at ratio 1.
+[[nodiscard]] bool looksAlike(const QList<BarLook>& one, const QList<BarLook>& other, double fullPixels);
+
 /// A bar whose height and colour follow the same spring.
 class BarAnimation {
 public:

@@ -11,14 +11,12 @@
 
 namespace orvelle {
 
-/// The time between the frames of an animated change of levels; nothing when the change shows at once, because
-/// it is too small or the processor is too busy. `processorUsage` is from 0 to 1. Frames on which no bar moves
-/// by a whole pixel are hard to see, so a short distance takes few. A busy processor gets fewer still: the bar
-/// must not add to the load that it shows.
-[[nodiscard]] std::optional<std::chrono::milliseconds> easeInterval(const QList<Level>& from,
-                                                                    const QList<Level>& to,
-                                                                    double pixelsPerPoint,
-                                                                    double processorUsage);
+/// The time between the frames of an animated change of levels; nothing when the change shows at once,
+/// because it is too small or the processor is too busy. `processorUsage` is from 0 to 1. Frames on which no
+/// bar moves by a whole pixel are hard to see, so a short distance takes few. A busy processor gets fewer
+/// still: the bar must not add to the load that it shows.
+[[nodiscard]] std::optional<std::chrono::milliseconds>
+easeInterval(const QList<Level>& from, const QList<Level>& to, double pixelsPerPoint, double processorUsage);
 
 /// Shows scenes in a status item. Levels ease from their current length and colour to the new ones, and the
 /// item is repainted only when it looks different. Main thread only.

@@ -143,6 +143,19 @@ TEST(BarLook, BlendsHeightAndColorTogether) {
     EXPECT_NEAR(middle.color.blueF(), 0.5, 1e-3);
 }
 
+TEST(BarLook, LooksAlikeWithinHalfAPixelAndAShade) {
+    const auto looksLike = [](const BarLook& other, double fullPixels) {
+        return looksAlike({{0.5, Qt::blue}}, {other}, fullPixels);
+    };
+    EXPECT_TRUE(looksLike({0.504, Qt::blue}, 100));
+    EXPECT_FALSE(looksLike({0.506, Qt::blue}, 100));
+    EXPECT_FALSE(looksLike({0.494, Qt::blue}, 100));
+    EXPECT_FALSE(looksLike({0.504, Qt::blue}, 200)) << "at twice the scale";
+    EXPECT_TRUE(looksLike({0.5, QColor(0, 4, 255)}, 100));
+    EXPECT_FALSE(looksLike({0.5, QColor(0, 6, 255)}, 100));
+    EXPECT_FALSE(looksAlike({{0.5, Qt::blue}}, {}, 100)) << "another number of bars";
+}
+
 TEST(BarLook, ShowsARowOfAnotherLengthAtOnce) {
     const QList<BarLook> two{{0, Qt::red}, {0, Qt::red}};
     const QList<BarLook> one{{1, Qt::blue}};

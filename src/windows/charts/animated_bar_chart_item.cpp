@@ -2,6 +2,8 @@
 
 #include "animation/animation_timing.h"
 
+#include <QQuickWindow>
+
 #include <algorithm>
 
 namespace orvelle {
@@ -17,7 +19,8 @@ QList<BarLook> AnimatedBarChartItem::shownLooks() const {
 void AnimatedBarChartItem::paintChart(QPainter& painter, const QRectF& bounds) {
     AnimatedBarChart chart = m_chart;
     chart.height = bounds.height();
-    chart.paint(painter, bounds, shownLooks(), &m_pictures);
+    m_painted = shownLooks();
+    chart.paint(painter, bounds, m_painted, &m_pictures);
 }
 
 double AnimatedBarChartItem::overhang() const {
@@ -77,6 +80,11 @@ void AnimatedBarChartItem::settle() {
 
 bool AnimatedBarChartItem::isAnimating() const {
     return std::ranges::any_of(m_bars, [](const BarAnimation& bar) { return !bar.isSettled(); });
+}
+
+bool AnimatedBarChartItem::hasMoved() const {
+    const double pixelsPerPoint = window() == nullptr ? 1 : window()->effectiveDevicePixelRatio();
+    return !looksAlike(shownLooks(), m_painted, height() * pixelsPerPoint);
 }
 
 } // namespace orvelle

@@ -37,6 +37,7 @@ protected:
     void advance(double seconds) override;
     void settle() override;
     [[nodiscard]] bool isAnimating() const override;
+    [[nodiscard]] bool hasMoved() const override;
 
 private:
     [[nodiscard]] AnimatedBarChart* chart() { return &m_chart; }
@@ -47,6 +48,7 @@ private:
     AnimatedBarChart m_chart; ///< its height is the implicit height of the item
     std::vector<BarAnimation> m_bars;
     QList<BarLook> m_targets; ///< of `m_bars`
+    QList<BarLook> m_painted; ///< `m_bars` when the chart was last painted
     PictureCache<BarPicture> m_pictures;
 };
 

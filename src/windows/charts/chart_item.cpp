@@ -36,7 +36,7 @@ ChartItem::ChartItem(AnimationClock& clock)
 ChartItem::~ChartItem() = default;
 
 std::chrono::milliseconds ChartItem::frameInterval() const {
-    return std::chrono::milliseconds(16);
+    return std::chrono::milliseconds(33); // the charts move too little for more to be seen
 }
 
 void ChartItem::componentComplete() {
@@ -84,17 +84,27 @@ void ChartItem::followChange() {
 
 void ChartItem::step(double seconds) {
     advance(seconds);
-    refresh();
+    if (hasMoved() || !isAnimating())
+        repaint();
+    continueOrStop();
     Q_EMIT animated();
 }
 
 void ChartItem::refresh() {
     if (!mayAnimate())
         settle();
+    repaint();
+    continueOrStop();
+}
+
+void ChartItem::repaint() {
     const QSizeF natural = naturalSize();
     setImplicitSize(natural.width(), natural.height());
     fitCanvas();
     m_canvas->update();
+}
+
+void ChartItem::continueOrStop() {
     if (mayAnimate() && isAnimating())
         m_animation.start(frameInterval());
     else

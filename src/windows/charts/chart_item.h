@@ -50,6 +50,8 @@ protected:
     /// Ends the animation at its target.
     virtual void settle() = 0;
     [[nodiscard]] virtual bool isAnimating() const = 0;
+    /// Whether a step of the animation has moved the chart visibly since it was last painted.
+    [[nodiscard]] virtual bool hasMoved() const { return true; }
     /// Time between two steps of the animation.
     [[nodiscard]] virtual std::chrono::milliseconds frameInterval() const;
 
@@ -72,6 +74,8 @@ private:
     void updateShown();
     /// Repaints, and continues or stops the animation.
     void refresh();
+    void repaint();
+    void continueOrStop();
     void fitCanvas();
 
     AnimationClock& m_clock;

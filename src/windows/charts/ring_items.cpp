@@ -98,11 +98,6 @@ void AnimatedRingChartItem::moveToValue(std::optional<double> seconds, const QEa
         m_pulseStart = now();
 }
 
-std::chrono::milliseconds AnimatedRingChartItem::frameInterval() const {
-    // The pulse moves an edge by less than two points in 0.8 s.
-    return m_fraction.isSettled() ? std::chrono::milliseconds(33) : ChartItem::frameInterval();
-}
-
 void MultiSegmentRingItem::setSegments(const QVariantList& segments) {
     if (m_segments == segments)
         return;

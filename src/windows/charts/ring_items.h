@@ -56,7 +56,6 @@ protected:
     void advance(double seconds) override { m_fraction.advance(seconds); }
     void settle() override { m_fraction.settle(); }
     [[nodiscard]] bool isAnimating() const override { return !m_fraction.isSettled() || isPulsing(); }
-    [[nodiscard]] std::chrono::milliseconds frameInterval() const override;
 
 private:
     [[nodiscard]] AnimatedRingChart* chart() { return &m_chart; }

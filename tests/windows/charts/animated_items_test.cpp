@@ -44,9 +44,9 @@ TEST_F(BarChartItem, FollowsAChangeByTheSpringOfItsSpeed) {
         Spring expected(0.2);
         expected.retarget(0.7);
         for (int frame = 0; frame < 8; ++frame) {
-            seconds += 0.02;
+            seconds += 0.04;
             clock.step();
-            expected.advance(0.02, *barSpring(speed, true));
+            expected.advance(0.04, *barSpring(speed, true));
             EXPECT_NEAR(ratio(0), expected.position(), 1e-6);
             EXPECT_EQ(ratio(1), 0.4) << "only the bar that changed moves";
         }
@@ -74,11 +74,26 @@ TEST_F(BarChartItem, KeepsItsVelocityWhenTheValueChangesDuringAnAnimation) {
     const double before = ratio(0);
     chart->setProperty("values", values({0, 0.4}));
     EXPECT_EQ(ratio(0), before);
-    seconds += 0.016;
+    seconds += 0.04;
     clock.step();
     EXPECT_GT(ratio(0), before) << "it is carried on before it turns back";
     pass(3);
     EXPECT_EQ(ratio(0), 0);
+}
+
+TEST_F(BarChartItem, PaintsAFrameOnlyWhenABarHasMovedVisibly) {
+    showWindow();
+    chart->setProperty("values", values({0.24, 0.4})); // two points further
+    waitUntilQuiet();
+    frames = 0;
+    for (int step = 0; step < 100; ++step) {
+        pass(0.04);
+        waitUntilQuiet();
+    }
+    EXPECT_FALSE(clock.isRunning());
+    EXPECT_EQ(ratio(0), 0.24);
+    EXPECT_GE(frames, 3);
+    EXPECT_LE(frames, 6);
 }
 
 TEST_F(BarChartItem, MovesHeightAndColorTogetherAndEndsExactly) {

@@ -43,7 +43,7 @@ TEST_F(ChartItemTest, RepaintsOnlyWhileItAnimates) {
     setValue(0.9);
     waitForFrame();
     for (int step = 0; step < 3; ++step) {
-        pass(0.02);
+        pass(0.04);
         waitForFrame();
     }
     pass(3);

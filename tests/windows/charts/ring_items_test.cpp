@@ -24,9 +24,9 @@ TEST_F(RingItem, FillsWhenItIsFirstShown) {
     EXPECT_EQ(ring->animatedValue(), 0);
     showWindow();
     EXPECT_EQ(ring->animatedValue(), 0);
-    pass(0.4);
-    EXPECT_NEAR(ring->animatedValue(), 0.5 * easeOut().valueForProgress(0.5), 1e-6);
-    pass(0.4);
+    pass(0.39); // thirteen frames
+    EXPECT_NEAR(ring->animatedValue(), 0.5 * easeOut().valueForProgress(0.39 / 0.8), 1e-6);
+    pass(0.42);
     EXPECT_EQ(ring->animatedValue(), 0.5);
     EXPECT_FALSE(clock.isRunning());
 }
@@ -72,12 +72,12 @@ TEST_F(RingItem, StartsFromTheShownValueWhenTheValueChangesDuringATransition) {
     showWindow();
     pass(1);
     ring->setProperty("value", 0.9);
-    pass(0.2);
+    pass(0.21);
     const double before = ring->animatedValue();
-    EXPECT_NEAR(before, 0.7, 1e-3);
+    EXPECT_NEAR(before, 0.5 + 0.4 * easeInOut().valueForProgress(0.21 / 0.4), 1e-6);
     ring->setProperty("value", 0.1);
     EXPECT_EQ(ring->animatedValue(), before);
-    pass(0.4);
+    pass(0.42);
     EXPECT_EQ(ring->animatedValue(), 0.1);
 }
 
@@ -176,9 +176,9 @@ protected:
 TEST_F(SegmentRingItem, OpensOnceWithinASecond) {
     EXPECT_EQ(ring->animatedProgress(), 0);
     showWindow();
-    pass(0.5);
-    EXPECT_NEAR(ring->animatedProgress(), easeOut().valueForProgress(0.5), 1e-6);
-    pass(0.5);
+    pass(0.51);
+    EXPECT_NEAR(ring->animatedProgress(), easeOut().valueForProgress(0.51), 1e-6);
+    pass(0.51);
     EXPECT_EQ(ring->animatedProgress(), 1);
     EXPECT_FALSE(clock.isRunning());
     window.hide();
@@ -188,7 +188,7 @@ TEST_F(SegmentRingItem, OpensOnceWithinASecond) {
 
 TEST_F(SegmentRingItem, ShowsOtherSegmentsAtOnce) {
     showWindow();
-    pass(1);
+    pass(1.02);
     waitUntilQuiet();
     EXPECT_EQ(colorAt(90 + 20, 55), QColor(Qt::red)) << "the right half";
     EXPECT_EQ(colorAt(90 - 20, 55), QColor(Qt::blue));
@@ -217,8 +217,8 @@ TEST_F(GaugeItem, ShowsItsTemperatureAtOnceWhenItIsFirstShown) {
 TEST_F(GaugeItem, EasesItsDialInHalfASecond) {
     showWindow();
     gauge->setProperty("temperature", 80);
-    pass(0.2);
-    EXPECT_NEAR(gauge->shownFraction(), 0.4 + 0.4 * easeInOut().valueForProgress(0.4), 1e-6);
+    pass(0.21);
+    EXPECT_NEAR(gauge->shownFraction(), 0.4 + 0.4 * easeInOut().valueForProgress(0.42), 1e-6);
     pass(0.3);
     EXPECT_EQ(gauge->shownFraction(), 0.8);
     EXPECT_FALSE(clock.isRunning());

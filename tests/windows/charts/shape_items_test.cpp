@@ -30,9 +30,9 @@ TEST_F(GradientBarHosting, FollowsAChangeByASpringThatOvershootsOnce) {
     expected.retarget(0.6);
     double largest = 0;
     for (int frame = 0; frame < 40; ++frame) {
-        seconds += 0.016;
+        seconds += 0.04;
         clock.step();
-        expected.advance(0.016, {.response = 0.4, .dampingFraction = 0.7});
+        expected.advance(0.04, {.response = 0.4, .dampingFraction = 0.7});
         EXPECT_NEAR(bar->shownFraction(), expected.position(), 0.002);
         largest = std::max(largest, bar->shownFraction());
     }
