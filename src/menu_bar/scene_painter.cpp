@@ -8,8 +8,10 @@
 #include "theme/symbols.h"
 
 #include <QPainterPath>
+#include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvelle {
 namespace {
@@ -62,17 +64,37 @@ void paintShape(QPainter& painter, const QRectF& frame, const CoreBarsShape& bar
     }
 }
 
+/// The left `width` points of a track with round corners, ended by round corners as far as there is room for
+/// them: nothing extends past the track's own. `width` is above 0 and below two radii.
+QPainterPath lowLevel(const QRectF& track, double radius, double width) {
+    const QRectF top(track.left(), track.top(), 2 * radius, 2 * radius);
+    const QRectF bottom = top.translated(0, track.height() - 2 * radius);
+    const double from =
+        qRadiansToDegrees(std::acos(std::min(width / radius - 1, 0.0))); // of the corner's circle
+    QPainterPath path;
+    path.arcMoveTo(top, from);
+    path.arcTo(top, from, 180 - from);
+    path.arcTo(bottom, 180, 180 - from);
+    if (width > radius) {
+        const QRectF end(track.left() + 2 * radius - width, top.top(), 2 * (width - radius), 2 * radius);
+        path.arcTo(end.translated(0, bottom.top() - top.top()), 270, 90);
+        path.arcTo(end, 0, 90);
+    }
+    path.closeSubpath();
+    return path;
+}
+
 void paintShape(QPainter& painter, const QRectF& frame, const LevelBarShape& bar, BarAppearance appearance) {
-    const QPainterPath track = roundedRect(frame, bar.cornerRadius);
     const double width = frame.width() * std::clamp(bar.level.look.ratio, 0.0, 1.0);
-    QPainterPath level = roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, bar.cornerRadius);
-    // A low level is narrower than the radius of the track's corners. It must not extend past them.
-    if (width < 2 * bar.cornerRadius)
-        level = level.intersected(track);
+    const QColor color = withOpacity(bar.level.look.color, levelOpacity);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(track, colorOnBar(LabelColor{trackOpacity}, appearance));
-    painter.fillPath(level, withOpacity(bar.level.look.color, levelOpacity));
+    painter.fillPath(roundedRect(frame, bar.cornerRadius), colorOnBar(LabelColor{trackOpacity}, appearance));
+    if (width >= 2 * bar.cornerRadius)
+        painter.fillPath(roundedRect({frame.topLeft(), QSizeF(width, frame.height())}, bar.cornerRadius),
+                         color);
+    else if (width > 0)
+        painter.fillPath(lowLevel(frame, bar.cornerRadius, width), color);
     painter.restore();
 }
 
