@@ -113,6 +113,16 @@ awaitAnswer() { timeout "$patienceSeconds" "$1" ping "$(windowsTitled Orvelle | 
 # startAgain PROGRAM [ARGUMENT...]: starts a second process, which must end by itself; otherwise a timeout ends it.
 startAgain() { timeout "$patienceSeconds" "$@"; }
 
+# ask STATUS OUTPUT ARGUMENT...: expects that another start of the program with the arguments ends by itself.
+ask() {
+    local output status
+    # shellcheck disable=SC2154 # the tests set `orvelle`
+    output=$(startAgain "$orvelle" "${@:3}" 2>&1)
+    status=$?
+    expectEqual "orvelle ${*:3} ends with status" "$1" "$status"
+    expectEqual "and says" "$2" "$output"
+}
+
 # Prints the numbers or names of a window property, separated by ", ".
 property() { xprop -id "$1" -notype "$2" 2>/dev/null | sed -n 's/^[^=]* = //p'; }
 

@@ -20,15 +20,6 @@ startOrvelle() {
     waitUntil "the bar appears" isShown Orvelle || cat "$log"
 }
 
-# ask STATUS OUTPUT ARGUMENT...: expects that another start with the arguments ends by itself.
-ask() {
-    local output status
-    output=$(startAgain "$orvelle" "${@:3}" 2>&1)
-    status=$?
-    expectEqual "orvelle ${*:3} ends with status" "$1" "$status"
-    expectEqual "and says" "$2" "$output"
-}
-
 expectKeyboardGoesBack() {
     waitUntil "Escape gives the keyboard back" keyboardIsIn "$(otherWindow)"
 }

@@ -1,4 +1,6 @@
+#include "charts/bar_look.h"
 #include "core/cpu_monitor.h"
+#include "core/severity.h"
 #include "item_fixture.h"
 #include "menu_bar/cpu_menu_bar_item.h"
 #include "menu_bar/scene_layout.h"
@@ -45,6 +47,16 @@ protected:
     FakeClock clock;
     std::optional<CPUMonitor> monitor;
 };
+
+TEST(CPUColors, ChangeWhereTheUsageBecomesAWarningAndCritical) {
+    for (int thousandths = 0; thousandths <= 1000; ++thousandths) {
+        const double usage = thousandths / 1000.0;
+        const Severity severity = processorSeverity(usage);
+        const QColor color = miniBarColor(usage, Qt::blue);
+        EXPECT_EQ(severity == Severity::normal, color == QColor(Qt::blue)) << usage;
+        EXPECT_EQ(severity == Severity::critical, color == SystemColors::red) << usage;
+    }
+}
 
 TEST_F(CPUMenuBarItemTest, TextOnlyShowsTheUsageAlone) {
     run({0.25, 0.65});

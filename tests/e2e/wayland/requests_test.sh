@@ -7,15 +7,6 @@ orvelle=$1
 client=$2
 source "$(dirname "$0")/bar_on_sway.sh"
 
-# ask STATUS OUTPUT ARGUMENT...: expects that another start with the arguments ends by itself.
-ask() {
-    local output status
-    output=$(startAgain "$orvelle" "${@:3}" 2>&1)
-    status=$?
-    expectEqual "orvelle ${*:3} ends with status" "$1" "$status"
-    expectEqual "and says" "$2" "$output"
-}
-
 panelIsShown() { popupIsShown && isLastPanel "$1"; }
 settingsHaveKeyboard() { [[ $(swayState focused) == "Orvelle Settings" ]]; }
 
