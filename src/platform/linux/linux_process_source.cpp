@@ -6,6 +6,7 @@
 #include "platform/linux/text.h"
 
 #include <functional>
+#include <utility>
 
 namespace orvelle::linux_platform {
 namespace {
@@ -18,11 +19,14 @@ std::uint64_t bounded(std::uint64_t nanoseconds) {
     return std::min(nanoseconds, ProcessRecord::maximumNanoseconds);
 }
 
+constexpr ProcessLife kernelThreadBit = 1;
+
 /// The start time identifies a reused pid, the short name an exec. Both are in one number, since thousands
-/// are kept.
+/// are kept. Its lowest bit is set for a thread of the kernel.
 ProcessLife lifeOf(const ProcessStat& stat) {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
-    return std::hash<std::string_view>{}(stat.comm) ^ (stat.startTime * spread);
+    const ProcessLife life = std::hash<std::string_view>{}(stat.comm) ^ (stat.startTime * spread);
+    return isKernelThread(stat) ? life | kernelThreadBit : life & ~kernelThreadBit;
 }
 
 } // namespace
@@ -75,9 +79,12 @@ bool LinuxProcessSource::refreshByClock(ProcessRecord& record, ProcessLife& life
     const std::optional<std::uint64_t> time = readProcessClock(record.pid);
     if (!time)
         return false;
-    const bool hasRun = bounded(*time) != record.userNanoseconds;
-    record.userNanoseconds = bounded(*time);
-    return !(hasRun || isIdleTurn) || refreshByStat(record, life);
+    const std::uint64_t before = std::exchange(record.userNanoseconds, bounded(*time));
+    // A thread of the kernel has no memory and runs no other program. A clock that went back is another's.
+    const bool isKernelThread = (life & kernelThreadBit) != 0;
+    const bool mayHaveChanged =
+        isKernelThread ? record.userNanoseconds < before : record.userNanoseconds != before;
+    return !(mayHaveChanged || isIdleTurn) || refreshByStat(record, life);
 }
 
 bool LinuxProcessSource::refreshByStat(ProcessRecord& record, ProcessLife& life) {

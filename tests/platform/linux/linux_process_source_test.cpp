@@ -1,9 +1,13 @@
+#include "child_process.h"
 #include "platform/linux/linux_process_source.h"
 #include "process_tree.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <unistd.h>
+#include <vector>
 
 namespace orvelle::linux_platform {
 namespace {
@@ -129,6 +133,40 @@ TEST_F(LinuxProcessSourceTest, NamesAThreadOfTheKernelWithoutAskingForALink) {
     EXPECT_EQ(readName(), "kworker/0:1-events");
     tree.put({.pid = 5, .comm = "kworker/0:1-mm_percpu_wq", .flags = 0x00200040, .exe = "/not/asked"});
     EXPECT_EQ(readName(), "kworker/0:1-mm_percpu_wq");
+}
+
+/// How a process looks that has run since the sample before, after its `stat` has changed. Its turn to be
+/// read although it is idle has not come.
+ProcessRecord afterRunning(std::uint64_t flags) {
+    const ProcessTree tree;
+    tree.put({.pid = ::getpid(), .comm = "before", .flags = flags, .residentPages = 1, .exe = {}});
+    std::vector<std::unique_ptr<ChildProcess>> others; // the turn goes through them in fifty samples
+    for (int count = 0; count < 120; ++count) {
+        others.push_back(std::make_unique<ChildProcess>());
+        tree.put({.pid = others.back()->pid(), .exe = {}});
+    }
+    LinuxProcessSource source(tree.root(), ProcessTimesFrom::processClocks);
+    const auto ownRecord = [&source] {
+        const auto records = source.readProcesses();
+        return records ? *std::ranges::find(*records, ::getpid(), &ProcessRecord::pid) : ProcessRecord{};
+    };
+    const ProcessRecord before = ownRecord();
+    EXPECT_EQ(before.name, "before");
+    static_cast<void>(ownRecord()); // takes the turn of the first few pids
+    tree.put({.pid = ::getpid(), .comm = "after", .flags = flags, .residentPages = 2, .exe = {}});
+    const ProcessRecord after = ownRecord();
+    EXPECT_GT(after.userNanoseconds, before.userNanoseconds);
+    return after;
+}
+
+TEST(LinuxProcessSourceWithClocks, ReadsTheStatOfAProcessThatHasRun) {
+    const ProcessRecord record = afterRunning(0x00400000);
+    EXPECT_EQ(record.name, "after");
+    EXPECT_EQ(record.residentBytes, 2u * 4096);
+}
+
+TEST(LinuxProcessSourceWithClocks, SparesAThreadOfTheKernelThatReadingUntilItsTurn) {
+    EXPECT_EQ(afterRunning(0x00200040).name, "before");
 }
 
 TEST_F(LinuxProcessSourceTest, AsksForTheExecutableOnceInAProcessLife) {
