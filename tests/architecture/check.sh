@@ -34,7 +34,7 @@ room 'theme/'              "$gui|Svg"   'theme/|settings/'
 room 'core/'               'Core'       'core/|settings/(settings_store|styles)\.h'
 room 'platform/readable_'  "$none"      'platform/readable_name\.h'
 room 'platform/linux/'     "$none"      'core/sources/|platform/(linux/|readable_name\.h|host\.h)'
-room 'platform/darwin/'    "$none"      'core/sources/|platform/(darwin/|readable_name\.h|host\.h)'
+room 'platform/darwin/'    "$none"      'core/sources/|platform/(darwin/|readable_name\.h|host\.h)|settings/release_pool\.h'
 room 'platform/replay/'    "$none"      'core/sources/|platform/replay/'
 room 'platform/[^/]*$'     "$none"      'core/sources/|platform/[^/]*$'
 room 'charts/'             "$gui"       "charts/|$looks"

@@ -2,6 +2,7 @@
 
 #include "platform/darwin/system_objects.h"
 #include "platform/readable_name.h"
+#include "settings/release_pool.h"
 
 #include <Foundation/Foundation.h>
 
@@ -12,19 +13,6 @@
 // Compiled with manual reference counting.
 namespace orvelle::darwin_platform {
 namespace {
-
-/// Gives back at its end every object that Foundation lent while it lived. Not the main loop's own pool,
-/// because a program without a window has none.
-class ReleasePool {
-  public:
-    ReleasePool() = default;
-    ~ReleasePool() { [m_pool release]; }
-    ReleasePool(const ReleasePool&) = delete;
-    ReleasePool& operator=(const ReleasePool&) = delete;
-
-  private:
-    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
-};
 
 NSNumber* numberIn(NSDictionary* values, NSString* key) {
     const id value = [values objectForKey:key];
