@@ -8,6 +8,8 @@ BATTERY = "src/menu_bar/battery_menu_bar_item.cpp"
 NETWORK = "src/menu_bar/network_menu_bar_item.cpp"
 SENSOR = "src/menu_bar/sensor_menu_bar_item.cpp"
 DISK = "src/menu_bar/disk_menu_bar_item.cpp"
+PRESENTER = "src/menu_bar/item_presenter.cpp"
+EASING = ("test_menu_bar", "EaseInterval.*")
 WRITTEN = ("test_menu_bar", "WrittenValues.*")
 ITEMS = ("test_menu_bar", "*MenuBarItem*:*Dot*:RecentSamples*")
 VALUE_FONT = "monospacedSystemFont(fontSize, QFont::Medium)"
@@ -45,6 +47,11 @@ BAR_FAULTS = [
           "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskReadColor)",
           "activityDotColor(m_monitor.diskIO().readSpeed, theme.diskWriteColor)", *ITEMS),
     Fault("icons are smaller", SIZES, "iconFontSize = 10", "iconFontSize = 9", *ITEMS),
+    Fault("bars ease however busy the processor is", PRESENTER,
+          "if (processorSeverity(processorUsage) == Severity::critical)", "if (processorUsage > 2)", *EASING),
+    Fault("a busy processor takes as many frames as an idle one", PRESENTER,
+          "framesWhenWorking = 3", "framesWhenWorking = 6", *EASING),
+    Fault("a frame moves a bar by half a pixel", PRESENTER, "pixelsPerFrame = 1", "pixelsPerFrame = 0.5", *EASING),
     Fault("a history is drawn from 21 samples", SIZES, "recentSampleCount = 20",
           "recentSampleCount = 21", *ITEMS),
 ]
