@@ -28,6 +28,8 @@ test_packages=(
   libsm-dev libice-dev
   # A Wayland compositor without a screen, and the names of keys for a keyboard on it.
   sway libxkbcommon-dev wayland-protocols
+  # It writes down what the program asks of the kernel.
+  strace
   # A narrower font, for which the tests lay out the windows too.
   fonts-dejavu-extra
 )

@@ -128,5 +128,36 @@ TEST(SilentSessionBus, IsUsedWhenItAnswers) {
     EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), given);
 }
 
+TEST(SessionBusProgram, IsStartedWithoutAnAddressOrByOneThatSaysSo) {
+    EXPECT_TRUE(startsProgram("", false));
+    EXPECT_FALSE(startsProgram("", true));
+    for (const char* address : {"autolaunch:", "autolaunch:scope=x",
+                                "unix:path=/run/bus;autolaunch:", "unixexec:path=ssh,argv1=host"})
+        EXPECT_TRUE(startsProgram(address, true)) << address;
+    for (const char* address :
+         {"unix:path=/run/autolaunch:", "unix:abstract=x;tcp:host=h,port=1", "disabled:"})
+        EXPECT_FALSE(startsProgram(address, false)) << address;
+}
+
+TEST(SessionBusProgram, IsNotStarted) {
+    const TemporaryTree folder;
+    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", QByteArray::fromStdString(folder.root().string()));
+    const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", std::nullopt);
+    avoidStartingSessionBus();
+    EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), "disabled:");
+}
+
+TEST(SessionBusProgram, IsNotThoughtNecessaryWhereThereIsABus) {
+    const TemporaryTree folder;
+    folder.write("bus", "stands for a socket");
+    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", QByteArray::fromStdString(folder.root().string()));
+    const EnvironmentVariable address("DBUS_SESSION_BUS_ADDRESS", std::nullopt);
+    avoidStartingSessionBus();
+    EXPECT_FALSE(qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"));
+    const EnvironmentVariable given("DBUS_SESSION_BUS_ADDRESS", "unix:path=/run/any");
+    avoidStartingSessionBus();
+    EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), "unix:path=/run/any");
+}
+
 } // namespace
 } // namespace orvelle

@@ -38,6 +38,7 @@ QStringList desktopNames() {
 }
 
 DesktopChoice chooseDesktop(const QString& name) {
+    avoidStartingSessionBus();
     avoidSilentSessionBus();
     const TrayPatience patience =
         name == QLatin1StringView("tray") ? TrayPatience::waits : TrayPatience::none;

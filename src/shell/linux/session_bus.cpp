@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <thread>
 #include <unistd.h>
@@ -57,11 +58,22 @@ Connecting connectTo(const QByteArray& name, const Socket& socket, const QDeadli
     return Connecting::done;
 }
 
+/// The socket that clients use when no address is given.
+QByteArray usualSocket() {
+    const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
+    return folder.isEmpty() ? QByteArray() : folder + "/bus";
+}
+
 /// The address that clients use, given or not.
 QByteArray sessionAddress() {
     const QByteArray given = qgetenv(addressVariable);
-    const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
-    return given.isEmpty() && !folder.isEmpty() ? "unix:path=" + folder + "/bus" : given;
+    const QByteArray socket = usualSocket();
+    return given.isEmpty() && !socket.isEmpty() ? "unix:path=" + socket : given;
+}
+
+/// Means nothing, so that connecting fails at once.
+void hideSessionBus() {
+    qputenv(addressVariable, "disabled:");
 }
 
 } // namespace
@@ -97,12 +109,29 @@ bool isSilent(const QByteArray& socketName, std::chrono::milliseconds patience) 
     return ::poll(&answer, 1, static_cast<int>(deadline.remainingTime())) == 0;
 }
 
+bool startsProgram(const QByteArray& address, bool hasSocket) {
+    if (address.isEmpty())
+        return !hasSocket;
+    const QList<QByteArray> ways = address.split(';');
+    return std::ranges::any_of(ways, [](const QByteArray& way) {
+        return way.startsWith("autolaunch:") || way.startsWith("unixexec:");
+    });
+}
+
+void avoidStartingSessionBus() {
+    const QByteArray socket = usualSocket();
+    struct stat status{};
+    const bool hasSocket = !socket.isEmpty() && ::stat(socket.constData(), &status) == 0;
+    if (startsProgram(qgetenv(addressVariable), hasSocket))
+        hideSessionBus();
+}
+
 void avoidSilentSessionBus(std::chrono::milliseconds patience) {
     const std::optional<QByteArray> name = busSocket(sessionAddress());
     if (!name || !isSilent(*name, patience))
         return;
     std::fprintf(stderr, "orvelle: the session's message bus does not answer, so it is not used\n");
-    qputenv(addressVariable, "disabled:"); // means nothing, so that connecting fails at once
+    hideSessionBus();
 }
 
 } // namespace orvelle

@@ -16,6 +16,14 @@ namespace orvelle {
 /// asked: there is no such socket, or nobody listens.
 [[nodiscard]] bool isSilent(const QByteArray& socketName, std::chrono::milliseconds patience);
 
+/// Whether a client of this address of a bus would start a program: one that runs the bus, or one that leads
+/// to it. `hasSocket` tells whether there is the socket that clients use when no address is given.
+[[nodiscard]] bool startsProgram(const QByteArray& address, bool hasSocket);
+
+/// Hides the session's bus from this process when using it would start a program. libdbus would otherwise
+/// start a bus that nobody ends. To be called before the application object exists.
+void avoidStartingSessionBus();
+
 /// Hides the session's bus from this process when it is silent, and says so on standard error. Qt would ask
 /// it in the main thread, whenever it looks for assistive programs, and wait for ever. To be called before
 /// the application object exists.
