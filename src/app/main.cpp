@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 #include "app/orvelle_app.h"
 #include "app/quit_running.h"
+#include "confinement/confinement.h"
 #include "settings/user_settings.h"
 
 #include <cerrno>
@@ -64,6 +65,7 @@ int main(int argumentCount, char** arguments) {
         return complain(qPrintable(commandLine.error), orvelle::wrongUsageStatus);
     if (!commandLine.answer.isEmpty())
         return print(commandLine.answer);
+    orvelle::confineProcess();
     const orvelle::DesktopChoice choice = orvelle::chooseDesktop(commandLine.desktop);
     if (!choice.make) {
         std::fprintf(stderr, "%s\n", qPrintable(choice.error));

@@ -28,6 +28,7 @@ looks='animation/|theme/|settings/'
 
 room 'formatting/'         'Core'       'formatting/'
 room 'settings/'           'Core'       'settings/'
+room 'confinement/'        "$none"      'confinement/'
 room 'core/sources/'       "$none"      'core/sources/'
 room 'animation/'          "$gui"       'animation/|settings/styles\.h'
 room 'theme/'              "$gui|Svg"   'theme/|settings/'
@@ -51,7 +52,7 @@ room 'windows/charts/'     "$quick"     "windows/(charts|common)/|charts/|$looks
 room 'windows/panels/'     "$quick"     "windows/(panels|charts|common)/|core/|charts/|formatting/|$looks"
 room 'windows/settings/'   "$quick"     "windows/(settings|charts|common)/|charts/|formatting/|$looks"
 room 'windows/'            "$quick"     "windows/|core/|charts/|formatting/|$looks"
-room 'app/'                "$gui"       "(app|menu_bar|core|charts|formatting)/|shell/[^/]*$|windows/window_factory\.h|platform/host\.h|$looks"
+room 'app/'                "$gui"       "(app|menu_bar|core|charts|formatting)/|confinement/confinement\.h|shell/[^/]*$|windows/window_factory\.h|platform/host\.h|$looks"
 
 find_room() { # FILE: leaves its number in room_number
   for ((room_number = 0; room_number < ${#room_files[@]}; ++room_number)); do

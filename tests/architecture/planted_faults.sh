@@ -49,6 +49,8 @@ plant src/windows/panels/any.cpp         '#include "platform/host.h"'           
 plant src/windows/settings/any.cpp       '#include "core/system_monitor.h"'                'wrong arrow: windows/settings/any.cpp: core/system_monitor.h'
 plant src/windows/settings/any.cpp       '#include "windows/panels/panel_factory.h"'       'wrong arrow: windows/settings/any.cpp: windows/panels/panel_factory.h'
 plant src/windows/panels/any.cpp         '#include "windows/settings/any.h"'               'wrong arrow: windows/panels/any.cpp: windows/settings/any.h'
+plant src/confinement/any.cpp            '#include "settings/settings_store.h"'             'wrong arrow: confinement/any.cpp: settings/settings_store.h'
+plant src/app/main.cpp                   '#include "confinement/system_call_filter.h"'      'wrong arrow: app/main.cpp: confinement/system_call_filter.h'
 plant src/elsewhere/any.cpp              '#include <vector>'                               'no rule for this folder: elsewhere/any.cpp'
 
 # Other ways to write an include.

@@ -62,7 +62,7 @@ def calls_of(lines):
         text = text.strip()
         resumed = re.match(r"<\.\.\. \w+ resumed>", text)
         if resumed:
-            text = waiting.pop(process, "") + text[resumed.end():]
+            text = waiting.pop(process, "").rstrip() + re.sub(r"^ +", "", text[resumed.end():])
         elif text.endswith("<unfinished ...>"):
             waiting[process] = text[:-len("<unfinished ...>")]
             continue

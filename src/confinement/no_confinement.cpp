@@ -1,0 +1,7 @@
+#include "confinement/confinement.h"
+
+namespace orvelle {
+
+void confineProcess() {}
+
+} // namespace orvelle
