@@ -4,7 +4,6 @@
 #include "settings/shared_file.h"
 #include "settings/watched_file.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -117,7 +116,8 @@ SaveResult SettingsFile::write(const StoredValues& values) {
 }
 
 SaveResult SettingsFile::merge(const StoredValues& values) {
-    QDir().mkpath(QFileInfo(m_filePath).path());
+    // If it fails, the path has a fault.
+    static_cast<void>(makePrivateFolders(QFileInfo(m_filePath).path()));
     if (!pathFault(m_filePath).isEmpty())
         return SaveResult::failed;
     const std::optional<FileLock> lock = takeLock(m_filePath);

@@ -14,6 +14,7 @@ namespace orvelle {
 namespace {
 
 constexpr mode_t ownerOnly = 0600;
+constexpr mode_t ownersFolder = 0700;
 constexpr mode_t permissionBits = 0777;
 
 bool writeAll(int descriptor, const QByteArray& text) {
@@ -68,6 +69,16 @@ QByteArray nameBeside(const QString& path, const char* suffix) {
 }
 
 } // namespace
+
+bool makePrivateFolders(const QString& path) {
+    const QFileInfo folder(path);
+    if (folder.isDir())
+        return true;
+    const QString parent = folder.path();
+    if (parent == path || !makePrivateFolders(parent))
+        return false;
+    return ::mkdir(QFile::encodeName(path).constData(), ownersFolder) == 0 || QFileInfo(path).isDir();
+}
 
 std::optional<FileLock> FileLock::take(const QString& path) {
     constexpr int maximumTries = 10; // the file may vanish between being opened and locked

@@ -13,6 +13,10 @@
 /// Writing a file that other programs read and write too: a lock, and replacement as a whole.
 namespace orvelle {
 
+/// Creates a folder and those above it that are missing, for their owner alone, and leaves existing ones as
+/// they are. Returns whether the folder exists.
+[[nodiscard]] bool makePrivateFolders(const QString& path);
+
 /// The descriptor of an open file, closed with this object. Negative when none is open.
 class FileDescriptor {
 public:

@@ -1,6 +1,7 @@
 #include "settings/watched_file.h"
 
-#include <QDir>
+#include "settings/shared_file.h"
+
 #include <QFileInfo>
 
 #include <utility>
@@ -12,7 +13,7 @@ WatchedFile::WatchedFile(QString filePath, std::function<void()> changed)
     QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_watcher, changed);
     QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_watcher, changed);
     // A folder that is missing cannot be watched.
-    QDir().mkpath(QFileInfo(m_filePath).path());
+    static_cast<void>(makePrivateFolders(QFileInfo(m_filePath).path()));
     renew();
 }
 

@@ -1,6 +1,7 @@
 #include "settings/ini_text.h"
 #include "settings/settings_storage.h"
 #include "settings/shared_file.h"
+#include "support/file_mode.h"
 #include "support/temporary_settings.h"
 
 #include <QDateTime>
@@ -51,6 +52,17 @@ TEST_F(SettingsFileTest, CreatesMissingFoldersWithTheFirstWrite) {
     EXPECT_EQ(deepFile.read({u"a"_s}), StoredValues());
     EXPECT_EQ(deepFile.write({{u"a"_s, true}}), SaveResult::saved);
     EXPECT_EQ(deepFile.read({u"a"_s}), (StoredValues{{u"a"_s, u"true"_s}}));
+}
+
+TEST_F(SettingsFileTest, IsForItsUserAlone) {
+    const WithoutMask withoutMask;
+    const QString watched = settings.folderPath() + u"/watched"_s;
+    SettingsFile(watched + u"/orvelle.conf"_s).watch({}, [] {});
+    EXPECT_EQ(modeOf(watched), 0700U);
+    const QString written = settings.folderPath() + u"/written"_s;
+    EXPECT_EQ(SettingsFile(written + u"/orvelle.conf"_s).write({{u"a"_s, true}}), SaveResult::saved);
+    EXPECT_EQ(modeOf(written), 0700U);
+    EXPECT_EQ(modeOf(written + u"/orvelle.conf"_s), 0600U);
 }
 
 TEST_F(SettingsFileTest, ReadsAFileOfTheMaximumSizeAndLeavesALargerOneAlone) {

@@ -1,4 +1,5 @@
 #include "settings/shared_file.h"
+#include "support/file_mode.h"
 #include "support/temporary_settings.h"
 #include "support/waiting.h"
 
@@ -215,17 +216,29 @@ TEST_F(AtomicFileTest, LeavesOtherFilesAlone) {
 }
 
 TEST_F(AtomicFileTest, KeepsPermissionsAndMakesANewFilePrivate) {
-    const auto mode = [&] {
-        struct stat status{};
-        EXPECT_EQ(::stat(QFile::encodeName(settings.path()).constData(), &status), 0);
-        return status.st_mode & 0777U;
-    };
     AtomicFile file(settings.path());
     EXPECT_TRUE(file.replace("one"));
-    EXPECT_EQ(mode(), 0600U);
+    EXPECT_EQ(modeOf(settings.path()), 0600U);
     chmodFile(0644);
     EXPECT_TRUE(file.replace("two"));
-    EXPECT_EQ(mode(), 0644U);
+    EXPECT_EQ(modeOf(settings.path()), 0644U);
+}
+
+TEST_F(AtomicFileTest, StandsInFoldersOfItsOwnerAlone) {
+    const QString upper = settings.folderPath() + u"/upper"_s;
+    const WithoutMask withoutMask;
+    EXPECT_TRUE(makePrivateFolders(upper + u"/lower"_s));
+    EXPECT_EQ(modeOf(upper), 0700U);
+    EXPECT_EQ(modeOf(upper + u"/lower"_s), 0700U);
+    ASSERT_EQ(::chmod(QFile::encodeName(upper).constData(), 0755), 0);
+    EXPECT_TRUE(makePrivateFolders(upper + u"/other"_s));
+    EXPECT_EQ(modeOf(upper), 0755U) << "which the user wanted";
+    EXPECT_EQ(modeOf(upper + u"/other"_s), 0700U);
+    settings.writeInPlace("a file");
+    EXPECT_FALSE(makePrivateFolders(settings.path() + u"/folder"_s));
+    EXPECT_TRUE(QFile::link(upper, settings.folderPath() + u"/link"_s));
+    EXPECT_TRUE(makePrivateFolders(settings.folderPath() + u"/link/deeper"_s));
+    EXPECT_EQ(modeOf(upper + u"/deeper"_s), 0700U);
 }
 
 TEST_F(AtomicFileTest, ReportsAFileThatCannotBeReplaced) {

@@ -1,4 +1,5 @@
 #include "shell/painted/autostart.h"
+#include "support/file_mode.h"
 
 #include <QDir>
 #include <QFile>
@@ -110,6 +111,18 @@ TEST_F(AutostartLoginItemTest, WritesAndRemovesTheUsersEntry) {
     EXPECT_FALSE(item.isEnabled());
     EXPECT_TRUE(item.setEnabled(false)) << "there is nothing to do";
     EXPECT_EQ(QDir(QFileInfo(userFile).path()).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(AutostartLoginItemTest, WritesAnEntryThatOnlyItsUserMayChange) {
+    const WithoutMask withoutMask;
+    EXPECT_TRUE(item.setEnabled(true));
+    EXPECT_EQ(modeOf(userFile), 0600U);
+    EXPECT_EQ(modeOf(QFileInfo(userFile).path()), 0700U);
+    ASSERT_EQ(::chmod(QFile::encodeName(userFile).constData(), 0640), 0);
+    write(userFile, autostartText(u"/gone/orvelle"_s));
+    item.repair();
+    EXPECT_EQ(read(userFile), autostartText(program));
+    EXPECT_EQ(modeOf(userFile), 0640U) << "which the user wanted";
 }
 
 TEST_F(AutostartLoginItemTest, HidesAnEntryForAllUsers) {

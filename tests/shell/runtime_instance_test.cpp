@@ -111,6 +111,35 @@ TEST_F(RuntimeInstance, KeepsItsFileFromOtherUsers) {
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
 }
 
+TEST_F(RuntimeInstance, TakesThePipeAwayFromOtherUsers) {
+    ASSERT_EQ(::mkfifo(qPrintable(file()), 0600), 0);
+    ASSERT_EQ(::chmod(qPrintable(file()), 0666), 0);
+    const auto first = becomeSingleInstanceWith(file());
+    struct stat status{};
+    ASSERT_EQ(::stat(qPrintable(file()), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST_F(RuntimeInstance, DoesNotUseThePipeOfAnotherUser) {
+    ASSERT_EQ(::mkfifo(qPrintable(file()), 0600), 0);
+    ASSERT_EQ(::chmod(qPrintable(file()), 0666), 0);
+    constexpr uid_t another = 65534;
+    if (::chown(qPrintable(file()), another, another) != 0)
+        GTEST_SKIP() << "only root can make a pipe of another user";
+    EXPECT_FALSE(isInstanceFileHeld(file()));
+    const auto first = becomeSingleInstanceWith(file());
+    EXPECT_NE(first, nullptr);
+    EXPECT_NE(becomeSingleInstanceWith(file()), nullptr) << "it does not stand in the way";
+}
+
+TEST_F(RuntimeInstance, DoesNotFollowALinkInPlaceOfItsPipe) {
+    const QString pipe = QString::fromStdString(tree.root() / "elsewhere");
+    ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
+    ASSERT_EQ(::symlink(qPrintable(pipe), qPrintable(file())), 0);
+    EXPECT_NE(becomeSingleInstanceWith(file()), nullptr);
+    EXPECT_FALSE(isInstanceFileHeld(file()));
+}
+
 TEST_F(RuntimeInstance, SurvivesAPipeFullOfNotices) {
     const auto first = becomeSingleInstanceWith(file());
     QSignalSpy startedAgain(first.get(), &SingleInstance::startedAgain);

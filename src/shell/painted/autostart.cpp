@@ -1,5 +1,7 @@
 #include "shell/painted/autostart.h"
 
+#include "settings/shared_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -260,10 +262,14 @@ bool AutostartLoginItem::writeUserFile(const QByteArray& text) const {
     const QFileInfo present(userFile());
     if (present.isSymLink() && !present.exists()) // writing would follow the broken link
         QFile::remove(userFile());
-    if (!QDir().mkpath(m_places.userFolder))
+    if (!makePrivateFolders(m_places.userFolder))
         return false;
+    const bool isNew = !QFileInfo::exists(userFile());
     QSaveFile file(userFile());
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+    // Who may write to it may start programs at the user's login.
+    return file.open(QIODevice::WriteOnly) &&
+           (!isNew || file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) &&
+           file.write(text) == text.size() && file.commit();
 }
 
 } // namespace orvelle

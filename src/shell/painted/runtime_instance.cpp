@@ -39,19 +39,27 @@ private:
     int m_number; ///< -1 when closed
 };
 
-/// Opens the file for reading, writing or both; closed when it is no pipe.
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
+
+/// Whether it is a pipe of this user, to which nobody else may write or whose permissions can be mended.
+bool isOwnPipe(int descriptor) {
+    constexpr mode_t permissionBits = 0777;
+    struct stat status{};
+    if (::fstat(descriptor, &status) != 0 || !S_ISFIFO(status.st_mode) || status.st_uid != ::geteuid())
+        return false;
+    return (status.st_mode & permissionBits) == ownerOnly || ::fchmod(descriptor, ownerOnly) == 0;
+}
+
+/// Opens the file for reading, writing or both; closed when it is no pipe of this user.
 Descriptor openExistingPipe(const QByteArray& path, int access) {
     Descriptor pipe(::open(path.constData(), access | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW));
-    struct stat status{};
-    if (pipe.isOpen() && ::fstat(pipe.number(), &status) == 0 && S_ISFIFO(status.st_mode))
-        return pipe;
-    return Descriptor(-1);
+    return pipe.isOpen() && isOwnPipe(pipe.number()) ? std::move(pipe) : Descriptor(-1);
 }
 
 /// Opened for reading too, so that the pipe always has a reader and opening it never waits for one.
 Descriptor openPipe(const QString& file) {
     const QByteArray path = QFile::encodeName(file);
-    ::mkfifo(path.constData(), S_IRUSR | S_IWUSR); // it may exist
+    ::mkfifo(path.constData(), ownerOnly); // it may exist
     return openExistingPipe(path, O_RDWR);
 }
 
