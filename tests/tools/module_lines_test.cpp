@@ -69,6 +69,12 @@ TEST_F(ModuleLines, NamesThatOthersChoseAreEscaped) {
     EXPECT_TRUE(report(ModuleId::network).details.last().startsWith(QLatin1String("  &lt;i&gt;  ")));
 }
 
+TEST_F(ModuleLines, NamesFromTheRightKeepTheirPlaceBesideNumbers) {
+    machine.process->processes = {{process("\u05e9\u05dc\u05d5\u05dd 12", 3000), process("plain", 2000)}};
+    EXPECT_EQ(report(ModuleId::memory).details.last(),
+              QStringLiteral("  \u2068\u05e9\u05dc\u05d5\u05dd 12\u2069 2.9 KB, plain 2.0 KB"));
+}
+
 TEST_F(ModuleLines, ALongNameIsCut) {
     machine.process->processes = {{process(std::string(500, 'x').c_str(), 3000)}};
     EXPECT_LT(report(ModuleId::memory).details.last().size(), 60);

@@ -48,6 +48,7 @@ report=$directory/report.json
 XDG_CONFIG_HOME=$directory/config USER=$secret LOGNAME=$secret HOSTNAME=$secret HOME=$directory/$secret DISPLAY=$secret:0 \
   XDG_CURRENT_DESKTOP="sway $secret" XDG_SESSION_TYPE=wayland \
   "$probe" --report "$report" --root "$machine" >"$directory/output" 2>&1 || complain "no report: $(cat "$directory/output")"
+[[ $(stat -c %a "$report") == 600 ]] || complain "others may read the report: $(stat -c %A "$report")"
 grep -q "report.json" "$directory/output" || complain "the file is not told: $(cat "$directory/output")"
 for private in "$secret" 00:15:5d 00155d 10.77.66 2a02 215:5dff DEADBEEF 94858 firefox gnome-shell vgubuntu ann nas.example \
   192.168; do

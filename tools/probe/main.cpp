@@ -13,6 +13,7 @@
 #include "settings/user_settings.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -110,7 +111,11 @@ int answer(const ReportPlan& plan) {
         return failWith(error->message);
     QSaveFile file(plan.file);
     const QByteArray text = QJsonDocument(std::get<QJsonObject>(report)).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+    const bool isNew = !QFileInfo::exists(plan.file);
+    // Its author shows it to others, not a folder that all users share.
+    if (!file.open(QIODevice::WriteOnly) ||
+        (isNew && !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) ||
+        file.write(text) != text.size() || !file.commit())
         return failWith(QStringLiteral("Cannot write \"%1\": %2").arg(plan.file, file.errorString()));
     return print(
         QStringLiteral("Wrote %1. It is plain text: please look at it, then attach it to your report.\n")

@@ -12,8 +12,24 @@ namespace {
 constexpr qsizetype longestName = 40;
 constexpr qsizetype mostListed = 3;
 
+/// Whether some of it is written from the right.
+bool hasRightToLeft(const QString& name) {
+    return std::ranges::any_of(name.toUcs4(), [](char32_t character) {
+        const QChar::Direction direction = QChar::direction(character);
+        return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN;
+    });
+}
+
+/// A name from the right keeps its place: the figures beside it would otherwise join it.
+QString inItsPlace(const QString& name) {
+    constexpr QChar begin(0x2068);
+    constexpr QChar end(0x2069);
+    return hasRightToLeft(name) ? begin + name + end : name;
+}
+
 QString shownName(const QString& name) {
-    return pangoEscaped(name.size() > longestName ? name.left(longestName - 1) + QChar(0x2026) : name);
+    return inItsPlace(
+        pangoEscaped(name.size() > longestName ? name.left(longestName - 1) + QChar(0x2026) : name));
 }
 
 QString ratesText(double down, double up) {
