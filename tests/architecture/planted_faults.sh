@@ -92,12 +92,20 @@ plant tools/probe/main.cpp               'constexpr bool isMac = TARGET_OS_OSX;'
 plant src/charts/plain_bars.cpp          'auto name = QSysInfo::kernelType();'             "$question src/charts/plain_bars.cpp: auto name = QSysInfo::kernelType();"
 plant src/windows/panels/Any.qml         'property bool mac: Qt.platform.os == "osx"'      "$question src/windows/panels/Any.qml: property bool mac: Qt.platform.os == \"osx\""
 
+# Texts that are not plain.
+question='text that may be read as markup:'
+for line in '    Text {' '    Label { text: name }' '    TextEdit{' '    textFormat: Text.RichText' '    textFormat: Text.AutoText'; do
+  plant src/windows/panels/Any.qml       "$line"                                           "$question src/windows/panels/Any.qml: $line"
+done
+plant src/windows/common/PlainText.qml   '    textFormat: Text.StyledText'                 "$question src/windows/common/PlainText.qml:     textFormat: Text.StyledText"
+plant src/charts/canvas.cpp              'QStaticText name;'                               "$question src/charts/canvas.cpp: QStaticText name;"
+
 if "$check" "$copy" "$qt_headers" >/dev/null 2>"$copy/complaints"; then
   echo "the check succeeds on all planted faults" >&2
   exit 1
 fi
-# A question about the system shows its line number, which depends on the lines above.
-sed -E 's/^(question [^:]*: [^:]*):[0-9]+:/\1: /' "$copy/complaints" | sort >"$copy/found"
+# Some complaints show the line's number, which depends on the lines above.
+sed -E 's/^((question|text) [^:]*: [^:]*):[0-9]+:/\1: /' "$copy/complaints" | sort >"$copy/found"
 if ! diff <(sort "$copy/expected") "$copy/found" >"$copy/differences"; then
   echo "< is planted and not noticed, > is noticed and not planted:" >&2
   cat "$copy/differences" >&2

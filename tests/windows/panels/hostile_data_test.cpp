@@ -28,6 +28,9 @@ protected:
     void expectEverythingCanBeRead() {
         expectNothingIsCutOff();
         for (const QQuickItem* text : shownItems("QQuickText")) {
+            constexpr int plainText = 0;
+            EXPECT_EQ(text->property("textFormat").toInt(), plainText)
+                << "may be read as markup: " << text->property("text").toString().toStdString();
             const bool isWhole = !text->property("truncated").toBool();
             EXPECT_TRUE(isWhole || isHostile(text->property("text").toString()))
                 << "cut: " << text->property("text").toString().toStdString();
