@@ -182,6 +182,8 @@ def desktop_of(environment):
         sockets.append(("@" if bus[1] == "abstract" else "") + re.escape(bus[2]))
     # An address is looked for there without a variable.
     sockets.append(f"{runtime}/bus")
+    # The bus of assistive programs, to which the session bus leads.
+    sockets.append(rf"{runtime}/at-spi/bus\w*")
     return Desktop(files, sockets)
 
 
