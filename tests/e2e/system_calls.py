@@ -171,7 +171,11 @@ def desktop_of(environment):
         # Qt shares memory with a Wayland compositor by a file that has no name any more.
         rf"{runtime}/wayland-shm-\w+",
     ]
-    sockets = []
+    if not environment.get("XDG_RUNTIME_DIR"):
+        # Qt makes an empty folder for its user alone in its place, as soon as it starts.
+        files.append(re.escape(environment.get("TMPDIR") or "/tmp") + r"/runtime-[^/]+")
+    # The C library asks a service for the user's name, which that folder contains.
+    sockets = ["(/var)?/run/(nscd/socket|systemd/userdb/[^/]+)"]
     display = re.match(r":(\d+)", environment.get("DISPLAY", ""))
     if display:
         sockets.append(f"@?/tmp/.X11-unix/X{display[1]}")

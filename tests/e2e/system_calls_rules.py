@@ -118,6 +118,9 @@ class SystemCallRules(unittest.TestCase):
         """Without variables there are no folders and no sockets."""
         connect = Call("7", "connect", '3, {sa_family=AF_UNIX, sun_path="/tmp/.X11-unix/X0"}, 20)')
         self.assertNotEqual(fault_of(connect, desktop_of({}), "7"), "")
+        folder = Call("7", "mkdir", '"/tmp/runtime-u", 0700)')
+        self.assertEqual(fault_of(folder, desktop_of({}), "7"), "", "which Qt makes instead")
+        self.assertNotEqual(fault_of(folder, desktop_of(ENVIRONMENT), "7"), "")
         create = Call("7", "openat", 'AT_FDCWD</>, "/orvelle/orvelle.conf", O_RDWR|O_CREAT, 0600)')
         self.assertNotEqual(fault_of(create, desktop_of({}), "7"), "")
 

@@ -79,6 +79,15 @@ expectSeen "the settings' lock" 'orvelle.conf.lock.*O_CREAT'
 expectSeen "the autostart entry" 'autostart/orvelle.desktop'
 expectSeen "the list of interfaces" 'AF_NETLINK'
 expectSeen "the session bus" 'connect(.*dbus'
+storeVisibility true
+runtimeFolder=$XDG_RUNTIME_DIR
+unset XDG_RUNTIME_DIR
+launchTraced "$log" "$orvelle" --open cpu
+waitUntil "a panel opens without a runtime folder" isShown "Orvelle CPU"
+ask --quit
+expectEnd "the program ends" 0
+expectAllowedCalls "a program without a runtime folder"
+export XDG_RUNTIME_DIR=$runtimeFolder
 launchTraced "$log" "$orvelle" --quit
 expectEnd "asking a program that does not run to end" 1
 expectAllowedCalls "it"
