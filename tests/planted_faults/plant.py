@@ -18,6 +18,7 @@ from core_faults import CORE_FAULTS
 from darwin_faults import DARWIN_FAULTS
 from panel_faults import PANEL_FAULTS
 from planting import plant
+from security_faults import SECURITY_FAULTS
 from settings_window_faults import SETTINGS_FAULTS
 from wayland_faults import WAYLAND_FAULTS
 from x11_faults import X11_FAULTS
@@ -32,7 +33,7 @@ def main():
     arguments.add_argument("words", nargs="*")
     chosen = arguments.parse_args()
     everything = (CORE_FAULTS + DARWIN_FAULTS + CHART_FAULTS + BAR_FAULTS + PANEL_FAULTS + SETTINGS_FAULTS +
-                  WAYLAND_FAULTS + X11_FAULTS)
+                  SECURITY_FAULTS + WAYLAND_FAULTS + X11_FAULTS)
     faults = [fault for fault in everything
               if not chosen.words or any(word in fault.what or word in fault.file for word in chosen.words)]
     return 1 if plant(CHECKOUT, chosen.folder, faults) else 0
