@@ -3,17 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 requireTools dbus-daemon dbus-send
 
-# The system's Python comes first, because packages install for it.
-python=""
-for candidate in /usr/bin/python3 python3; do
-    [[ -n $python ]] || ! "$candidate" -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null ||
-        python=$candidate
-done
-if [[ -z $python ]]; then
-    echo "SKIPPED: no Python knows Atspi"
-    exit "$skipped"
-fi
-
+findPython 'import gi; gi.require_version("Atspi", "2.0")' Atspi
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 GSETTINGS_BACKEND=memory NO_AT_BRIDGE=1
 
 # The session bus starts the accessibility bus on demand. Both end with the session bus.

@@ -45,6 +45,16 @@ requireTools() {
     done
 }
 
+# findPython CODE NAME: sets python to one that runs the code, which imports what NAME says; skips the test without one.
+# The system's comes first, because packages install for it.
+findPython() {
+    for python in /usr/bin/python3 python3; do
+        ! "$python" -c "$1" 2>/dev/null || return 0
+    done
+    echo "SKIPPED: no Python knows $2"
+    exit "$skipped"
+}
+
 # waitUntil DESCRIPTION COMMAND...: polls; reports and counts a failure.
 waitUntil() {
     local description=$1 deadline=$((SECONDS + patienceSeconds))

@@ -8,6 +8,7 @@ orvelle=$1
 source "$(dirname "$0")/desktop.sh"
 requireTools Xvfb openbox dbus-daemon xdotool
 source "$(dirname "$0")/traced.sh"
+findPython 'from gi.repository import Gio' Gio
 
 log=$workDirectory/orvelle.log
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -80,6 +81,16 @@ expectSeen "the autostart entry" 'autostart/orvelle.desktop'
 expectSeen "the list of interfaces" 'AF_NETLINK'
 expectSeen "the session bus" 'connect(.*dbus'
 storeVisibility true
+"$python" -B "$(dirname "$0")/tray_host.py" >"$workDirectory/tray" 2>&1 &
+ownedPids+=("$!")
+waitUntil "a tray appears" grep -q '^tray' "$workDirectory/tray" || cat "$workDirectory/tray"
+launchTraced "$log" "$orvelle" --desktop=tray
+waitUntil "the tray shows the icon" grep -q '^icon ' "$workDirectory/tray" || cat "$log" "$workDirectory/tray"
+"$orvelle" --desktop=tray --open cpu
+waitUntil "a panel opens from the tray" isShown "Orvelle CPU" || cat "$log"
+"$orvelle" --desktop=tray --quit
+expectEnd "the program ends" 0
+expectAllowedCalls "a program in the tray"
 runtimeFolder=$XDG_RUNTIME_DIR
 unset XDG_RUNTIME_DIR
 launchTraced "$log" "$orvelle" --open cpu
