@@ -83,7 +83,7 @@ expectSeen "the session bus" 'connect(.*dbus'
 storeVisibility true
 "$python" -B "$(dirname "$0")/tray_host.py" >"$workDirectory/tray" 2>&1 &
 ownedPids+=("$!")
-waitUntil "a tray appears" grep -q '^tray' "$workDirectory/tray" || cat "$workDirectory/tray"
+waitUntil "a tray appears" grep -qs '^tray' "$workDirectory/tray" || cat "$workDirectory/tray"
 launchTraced "$log" "$orvelle" --desktop=tray
 waitUntil "the tray shows the icon" grep -q '^icon ' "$workDirectory/tray" || cat "$log" "$workDirectory/tray"
 "$orvelle" --desktop=tray --open cpu
