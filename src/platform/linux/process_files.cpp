@@ -135,6 +135,9 @@ const std::vector<std::int32_t>& ProcessFiles::list() {
         if (const auto pid = pidOf(entry->d_name))
             m_listed.push_back(*pid);
     }
+    // A list that doubled as it grew would keep up to half of its memory unused for good.
+    if (m_listed.capacity() > m_listed.size() + m_listed.size() / 16 + 16)
+        m_listed.shrink_to_fit();
     // The kernel lists ascending pids, a copied tree in any order.
     if (!std::ranges::is_sorted(m_listed))
         std::ranges::sort(m_listed);

@@ -150,6 +150,17 @@ TEST(ProcessName, IsReadable) {
     EXPECT_EQ(processName("/bin/\xE2\x80\xAE", "short"), "short");
 }
 
+TEST(ProcessFiles, KeepLittleMoreMemoryThanTheListedPidsNeed) {
+    const ProcessTree tree;
+    constexpr std::size_t count = 600;
+    for (std::size_t pid = 1; pid <= count; ++pid)
+        std::filesystem::create_directory(tree.root() / "proc" / std::to_string(pid));
+    ProcessFiles files(tree.root());
+    ASSERT_TRUE(files.open());
+    ASSERT_EQ(files.list().size(), count);
+    EXPECT_LE(files.list().capacity(), count + count / 10);
+}
+
 TEST(ProcessName, OfCharactersThatShowNothingDoesNotHideTheProcess) {
     EXPECT_EQ(processName("", "\xE2\x80\xAE\xE2\x81\xA6"), "\xEF\xBF\xBD");
     EXPECT_EQ(processName("/bin/\xE2\x80\xAE", "\xE2\x80\xAE"), "\xEF\xBF\xBD");

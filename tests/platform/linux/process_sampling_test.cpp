@@ -10,30 +10,50 @@
 #include <atomic>
 #include <cstdlib>
 #include <list>
+#include <malloc.h>
 #include <new>
 
 namespace {
 
 std::atomic<std::size_t> allocationCount;
+std::atomic<std::ptrdiff_t> heldBytes;
+
+/// What a block of `size` bytes takes from the heap of the C library: a word more, in steps of two words.
+std::ptrdiff_t heapBytesOf(std::size_t size) {
+    constexpr std::size_t step = 16;
+    return static_cast<std::ptrdiff_t>((size + sizeof(std::size_t) + step - 1) / step * step);
+}
+
+void* allocate(std::size_t size) noexcept {
+    void* memory = std::malloc(size == 0 ? 1 : size);
+    ++allocationCount;
+    if (memory != nullptr)
+        heldBytes += heapBytesOf(::malloc_usable_size(memory));
+    return memory;
+}
+
+void release(void* memory) noexcept {
+    if (memory != nullptr)
+        heldBytes -= heapBytesOf(::malloc_usable_size(memory));
+    std::free(memory);
+}
 
 } // namespace
 
 // Every allocation of this program is counted; the sanitizers still see it, since malloc is theirs.
 void* operator new(std::size_t size) {
-    ++allocationCount;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    if (void* memory = allocate(size))
         return memory;
     throw std::bad_alloc();
 }
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    ++allocationCount;
-    return std::malloc(size == 0 ? 1 : size);
+    return allocate(size);
 }
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    release(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    release(memory);
 }
 
 namespace orvelle::linux_platform {
@@ -67,6 +87,25 @@ TEST(ProcessSampling, PublishesWithoutAnAllocationPerProcess) {
     monitor.update();
     EXPECT_EQ(monitor.topMemoryProcesses().size(), 5);
     EXPECT_LT(fewestAllocations([&] { monitor.update(); }), 30u);
+}
+
+TEST(ProcessSampling, HoldsAtMost150BytesForAProcessWithANameOf21Characters) {
+    const ProcessTree tree;
+    auto putUpTo = [&tree, last = 0](std::int32_t pid) mutable {
+        while (last < pid)
+            tree.put({.pid = ++last, .exe = "/usr/bin/a-name-of-21-letters!"});
+    };
+    constexpr std::int32_t few = 100;
+    constexpr std::int32_t many = 2000;
+    putUpTo(few);
+    const MachineSources sources = makeTreeSources(tree.root(), [] { return WallTime{}; });
+    ProcessMonitor monitor(*sources.process, sources.now);
+    monitor.update();
+    const std::ptrdiff_t before = heldBytes;
+    putUpTo(many);
+    monitor.update();
+    EXPECT_EQ(monitor.topCPUProcesses().first().name.size(), 21);
+    EXPECT_LE(heldBytes - before, 150 * (many - few));
 }
 
 class ProcessCadenceTest : public ::testing::Test {
