@@ -14,8 +14,11 @@ public:
     Helpers(const Helpers&) = delete;
     Helpers& operator=(const Helpers&) = delete;
 
-    /// Reserves memory for `count` processes, so that starting them allocates nothing.
-    void reserve(std::size_t count) { m_pids.reserve(count); }
+    /// Makes room for `count` processes, so that starting them needs no more memory.
+    void reserve(std::size_t count) {
+        m_pids.resize(count); // brings the pages in
+        m_pids.clear();
+    }
     /// Processes that never wake.
     void addSleepers(std::size_t count);
     /// Processes that wake for a moment once per second, spread over it.
@@ -29,6 +32,10 @@ private:
 
     std::vector<pid_t> m_pids;
 };
+
+/// How many helpers this machine can bear: its pids, its limit for one user and its free memory allow no
+/// more.
+[[nodiscard]] std::size_t roomForProcesses();
 
 /// A process that comes and goes at once, as they do on any machine in use: the newest pid moves on.
 void startShortProcess();

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iostream>
@@ -23,6 +24,7 @@ using Output = MeasuredProgram::Output;
 constexpr int measuredSeconds = 18;
 constexpr double measuredSamples = measuredSeconds / 3.0;
 constexpr std::size_t manySleepers = 5000;
+constexpr std::size_t mostSleepers = 20000;
 
 struct Load {
     std::string name;
@@ -40,6 +42,8 @@ const std::vector<Load>& loads() {
              helpers.addWakers(200);
          }},
         {"5000 sleepers", 0.12, [](Helpers& helpers) { helpers.addSleepers(manySleepers); }},
+        {"20000 sleepers", 0.10,
+         [](Helpers& helpers) { helpers.addSleepers(std::min(roomForProcesses(), mostSleepers)); }},
         {"one process of 2000 threads", 0, [](Helpers& helpers) { helpers.addThreadedProcess(2000); }},
     };
     return all;
@@ -132,8 +136,10 @@ std::size_t processCount() {
     return files.open() ? files.list().size() : 0;
 }
 
-/// Runs every load and writes the tables to `folder/process.md` and to the standard output.
-int measureEverything(const std::string& self, const std::filesystem::path& folder) {
+/// Runs every load whose name contains `chosenLoads`, and writes the tables to `folder/process.md` and to the
+/// standard output.
+int measureEverything(const std::string& self, const std::filesystem::path& folder,
+                      const std::string& chosenLoads) {
     std::filesystem::create_directories(folder);
     ::setenv("XDG_CONFIG_HOME", folder.c_str(), 1); // nobody's own configuration of the other programs
     ::setenv("HOME", folder.c_str(), 1);
@@ -143,6 +149,8 @@ int measureEverything(const std::string& self, const std::filesystem::path& fold
     const MemoryGrowth growth = measureMemoryGrowth(manySleepers);
     std::vector<Measurement> measurements;
     for (const Load& load : loads()) {
+        if (load.name.find(chosenLoads) == std::string::npos)
+            continue;
         std::cerr << "measuring: " << load.name << '\n';
         Helpers helpers;
         load.start(helpers);
@@ -169,15 +177,19 @@ int run(const std::vector<std::string>& arguments) {
         std::ofstream(arguments[2]) << counts.listed << ' ' << counts.ran << '\n';
         return 0;
     }
-    if (arguments.size() == 2 && arguments[0] == "all")
-        return measureEverything(self, arguments[1]);
+    if ((arguments.size() == 2 || arguments.size() == 3) && arguments[0] == "all")
+        return measureEverything(self, arguments[1], arguments.size() == 3 ? arguments[2] : "");
+    if (arguments == std::vector<std::string>{"memory"}) {
+        std::cout << memoryText(measureMemoryGrowth(manySleepers));
+        return 0;
+    }
     if (arguments == std::vector<std::string>{"sample"})
         sampleProcesses({});
     else if (arguments == std::vector<std::string>{"clocks"})
         askOnlyClocks({});
     else if (arguments == std::vector<std::string>{"stat-files"})
         readOnlyStatFiles({});
-    std::cerr << "Usage: orvelle-bench-process all FOLDER\n";
+    std::cerr << "Usage: orvelle-bench-process all FOLDER [PART-OF-A-LOAD] | memory\n";
     return 2;
 }
 

@@ -8,6 +8,8 @@
 namespace orvelle::bench {
 namespace {
 
+constexpr int targetBytesPerProcess = 150;
+
 bool isLister(const ProgramCost& cost) {
     return cost.name != ourName && cost.name != clockFloorName && cost.name != statFloorName;
 }
@@ -69,11 +71,13 @@ std::string markdown(const std::vector<Measurement>& measurements, const MemoryG
     text += '\n';
     for (const Measurement& measurement : measurements)
         text += row(measurement, names);
-    text += fmt::format(
-        "\nMemory per further process: {:.0f} bytes of heap, {:.0f} bytes resident, for names of {} "
-        "characters; beyond 15 a name takes some 32 bytes of its own.\n",
-        growth.heapBytes, growth.residentBytes, growth.nameLength);
-    return text;
+    return text + '\n' + memoryText(growth);
+}
+
+std::string memoryText(const MemoryGrowth& growth) {
+    return fmt::format("Memory per further process: {:.0f} bytes of heap, {:.0f} bytes resident (target: at "
+                       "most {}), for names of {} characters.\n",
+                       growth.heapBytes, growth.residentBytes, targetBytesPerProcess, growth.nameLength);
 }
 
 } // namespace orvelle::bench

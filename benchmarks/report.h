@@ -41,4 +41,7 @@ inline const std::string statFloorName = "floor: stat files alone";
 [[nodiscard]] std::string markdown(const std::vector<Measurement>& measurements, const MemoryGrowth& growth,
                                    const std::string& conditions);
 
+/// What further processes cost in memory, as a sentence.
+[[nodiscard]] std::string memoryText(const MemoryGrowth& growth);
+
 } // namespace orvelle::bench

@@ -11,8 +11,8 @@
 #include <filesystem>
 #include <fstream>
 #include <malloc.h>
+#include <string>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -33,12 +33,14 @@ double heapBytes() {
     return static_cast<double>(use.uordblks + use.hblkhd);
 }
 
+/// To the page. `/proc/self/statm` is off by up to 128 kB per processor.
 double residentBytes() {
-    std::ifstream statm("/proc/self/statm");
-    double total = 0;
-    double resident = 0;
-    statm >> total >> resident;
-    return resident * static_cast<double>(::sysconf(_SC_PAGESIZE));
+    std::ifstream rollup("/proc/self/smaps_rollup");
+    for (std::string line; std::getline(rollup, line);) {
+        if (line.starts_with("Rss:"))
+            return std::stod(line.substr(4)) * 1024;
+    }
+    return 0;
 }
 
 /// Passes a source's answers on and counts what they hold.
@@ -112,23 +114,30 @@ void readOnlyStatFiles(const Rhythm& rhythm) {
 }
 
 MemoryGrowth measureMemoryGrowth(std::size_t extra) {
+    // The first ones bring everything into memory that does not grow with the processes.
+    constexpr std::size_t first = 200;
     Helpers helpers;
-    helpers.reserve(extra);
+    helpers.reserve(first + extra);
+    helpers.addSleepers(first);
     const MachineSources sources = makeHostSources();
     ProcessMonitor monitor(*sources.process, sources.now);
     const auto sampleTwice = [&monitor] {
         monitor.update();
         monitor.update();
     };
+    const auto countProcesses = [&sources] { return sources.process->readProcesses().value().size(); };
     sampleTwice();
+    const std::size_t countBefore = countProcesses();
     ::malloc_trim(0);
     const double heapBefore = heapBytes();
     const double residentBefore = residentBytes();
     helpers.addSleepers(extra);
     sampleTwice();
-    const auto perProcess = [extra](double bytes) { return bytes / static_cast<double>(extra); };
-    return {.heapBytes = perProcess(heapBytes() - heapBefore),
-            .residentBytes = perProcess(residentBytes() - residentBefore),
+    const double heapGrowth = heapBytes() - heapBefore;
+    const double residentGrowth = residentBytes() - residentBefore;
+    const auto added = static_cast<double>(countProcesses() - countBefore); // others come and go too
+    return {.heapBytes = heapGrowth / added,
+            .residentBytes = residentGrowth / added,
             .nameLength = std::filesystem::read_symlink("/proc/self/exe").filename().string().size()};
 }
 
