@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -129,6 +130,35 @@ std::optional<std::string> readFile(const std::filesystem::path& path, std::size
     if (!text)
         return std::nullopt;
     return std::string(text->substr(0, maximumSize));
+}
+
+OpenFolder::OpenFolder(const std::filesystem::path& path)
+    : m_descriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+
+OpenFolder::OpenFolder(const OpenFolder& parent, const std::string& name)
+    : m_descriptor(::openat(parent.m_descriptor, name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+
+OpenFolder::~OpenFolder() {
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+std::optional<std::string_view> OpenFolder::read(const char* name) {
+    if (m_descriptor < 0)
+        return std::nullopt;
+    const int file = ::openat(m_descriptor, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (file < 0)
+        return std::nullopt;
+    const ssize_t size = preadWithoutInterruption(file, m_buffer.data(), m_buffer.size(), 0);
+    ::close(file);
+    if (size < 0)
+        return std::nullopt;
+    return std::string_view(m_buffer.data(), static_cast<std::size_t>(size));
+}
+
+bool OpenFolder::contains(const char* name) const {
+    struct stat ignored = {};
+    return m_descriptor >= 0 && ::fstatat(m_descriptor, name, &ignored, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 std::optional<std::int64_t> parseAttributeNumber(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -69,6 +70,29 @@ private:
 /// read.
 [[nodiscard]] std::optional<std::string> readFile(const std::filesystem::path& path,
                                                   std::size_t maximumSize = KeptFile::maximumSize);
+
+/// A folder of small files that are read one after the other, as a device has in sysfs. It is looked up once:
+/// of a long path, looking up is most of what a small file costs.
+class OpenFolder {
+public:
+    /// A folder that does not exist has no files.
+    explicit OpenFolder(const std::filesystem::path& path);
+    /// The folder `name`, or the one that a link of this name leads to, in another.
+    OpenFolder(const OpenFolder& parent, const std::string& name);
+    ~OpenFolder();
+    OpenFolder(const OpenFolder&) = delete;
+    OpenFolder& operator=(const OpenFolder&) = delete;
+
+    /// The text of the file up to a page, which is more than any attribute has; valid until the next call.
+    /// Nothing when it cannot be read.
+    [[nodiscard]] std::optional<std::string_view> read(const char* name);
+    /// Whether the folder has an entry of this name; a dangling link counts.
+    [[nodiscard]] bool contains(const char* name) const;
+
+private:
+    int m_descriptor;
+    std::array<char, 4096> m_buffer;
+};
 
 // Small readings from sysfs. An attribute is one short value with a line end (Documentation/filesystems/
 // sysfs.rst); anything else that a tree may hold in its place is nothing.

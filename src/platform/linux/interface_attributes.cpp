@@ -1,6 +1,5 @@
 #include "platform/linux/interface_attributes.h"
 
-#include "platform/linux/files.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>
@@ -27,8 +26,6 @@ constexpr std::array deviceTypeKinds{
     DeviceTypeKind{"dsa", InterfaceKind::ethernet}, // a port of a switch that is built in
 };
 
-constexpr std::size_t maximumEventSize = 4096;
-
 /// The value of DEVTYPE; empty without one.
 std::string_view deviceTypeIn(std::string_view uevent) {
     constexpr std::string_view key = "DEVTYPE=";
@@ -40,8 +37,9 @@ std::string_view deviceTypeIn(std::string_view uevent) {
     return {};
 }
 
-std::filesystem::path folderOf(const std::filesystem::path& root, std::string_view name) {
-    return root / "sys/class/net" / name;
+/// The text of a file that may be missing, without blanks around it.
+std::string_view attributeIn(OpenFolder& folder, const char* name) {
+    return trimmed(folder.read(name).value_or(""));
 }
 
 } // namespace
@@ -57,13 +55,13 @@ InterfaceState interfaceState(std::string_view name, std::optional<std::string_v
             .isLoopback = (*bits & unsigned{IFF_LOOPBACK}) != 0};
 }
 
-InterfaceState readInterfaceState(const std::filesystem::path& root, std::string_view name) {
-    const std::filesystem::path directory = root / "sys/class/net" / name;
-    const std::optional<std::string> flags = readFile(directory / "flags");
-    const std::optional<std::string> operationalState = readFile(directory / "operstate");
-    InterfaceState state = interfaceState(name, flags, operationalState);
-    state.isPort = existsUnfollowed(directory / "master");
-    return state;
+InterfaceState readInterfaceState(OpenFolder& folder, std::string_view name) {
+    if (folder.contains("master"))
+        return {.isPort = true};
+    const std::optional<std::string_view> flags = folder.read("flags");
+    // The second text takes the place of the first.
+    const std::optional<std::string> keptFlags = flags ? std::optional<std::string>(*flags) : std::nullopt;
+    return interfaceState(name, keptFlags, folder.read("operstate"));
 }
 
 InterfaceKind interfaceKind(const InterfaceTraits& traits) {
@@ -88,20 +86,17 @@ InterfaceKind interfaceKind(const InterfaceTraits& traits) {
     return isEthernet ? InterfaceKind::ethernet : InterfaceKind::unknown;
 }
 
-InterfaceKind readInterfaceKind(const std::filesystem::path& root, std::string_view name,
-                                std::string_view uevent) {
-    const std::filesystem::path folder = folderOf(root, name);
-    const std::string tunnelFlags = readAttribute(folder / "tun_flags");
+InterfaceKind readInterfaceKind(OpenFolder& folder, std::string_view uevent) {
     return interfaceKind({.uevent = uevent,
-                          .linkType = parseAttributeNumber(readAttribute(folder / "type")),
-                          .tunnelFlags = parseHexadecimal(tunnelFlags),
-                          .isWireless = existsUnfollowed(folder / "wireless"),
-                          .isBridge = existsUnfollowed(folder / "bridge"),
-                          .hasDevice = existsUnfollowed(folder / "device")});
+                          .linkType = parseAttributeNumber(attributeIn(folder, "type")),
+                          .tunnelFlags = parseHexadecimal(attributeIn(folder, "tun_flags")),
+                          .isWireless = folder.contains("wireless"),
+                          .isBridge = folder.contains("bridge"),
+                          .hasDevice = folder.contains("device")});
 }
 
-std::string readInterfaceEvent(const std::filesystem::path& root, std::string_view name) {
-    return readFile(folderOf(root, name) / "uevent", maximumEventSize).value_or("");
+std::string readInterfaceEvent(OpenFolder& folder) {
+    return std::string(folder.read("uevent").value_or(""));
 }
 
 } // namespace orvelle::linux_platform

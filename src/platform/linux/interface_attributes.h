@@ -1,9 +1,10 @@
 #pragma once
 
 #include "core/sources/network_source.h"
+#include "platform/linux/files.h"
 
-#include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace orvelle::linux_platform {
@@ -24,8 +25,9 @@ struct InterfaceState {
 [[nodiscard]] InterfaceState interfaceState(std::string_view name, std::optional<std::string_view> flags,
                                             std::optional<std::string_view> operationalState);
 
-/// The state of the interface `name` in `sys/class/net` below `root`.
-[[nodiscard]] InterfaceState readInterfaceState(const std::filesystem::path& root, std::string_view name);
+/// The state of the interface `name`, whose folder in `sys/class/net` is given. Of a port nothing else is
+/// read: it is not shown, and a container host has a port for each container.
+[[nodiscard]] InterfaceState readInterfaceState(OpenFolder& folder, std::string_view name);
 
 /// The attributes in sysfs that reveal an interface's kind (Documentation/ABI/testing/sysfs-class-net).
 struct InterfaceTraits {
@@ -40,12 +42,11 @@ struct InterfaceTraits {
 /// The kind that the kernel knows; unknown for kinds without a name here (bonds, virtual pairs, taps).
 [[nodiscard]] InterfaceKind interfaceKind(const InterfaceTraits& traits);
 
-/// The kind of the interface `name` in `sys/class/net` below `root`, whose `uevent` was read already.
-[[nodiscard]] InterfaceKind readInterfaceKind(const std::filesystem::path& root, std::string_view name,
-                                              std::string_view uevent);
+/// The kind of the interface of this folder, whose `uevent` was read already.
+[[nodiscard]] InterfaceKind readInterfaceKind(OpenFolder& folder, std::string_view uevent);
 
 /// The text of the interface's `uevent`: its name, its index and its type of device. While it stays the same,
 /// so does the interface. Empty when it cannot be read.
-[[nodiscard]] std::string readInterfaceEvent(const std::filesystem::path& root, std::string_view name);
+[[nodiscard]] std::string readInterfaceEvent(OpenFolder& folder);
 
 } // namespace orvelle::linux_platform

@@ -84,8 +84,11 @@ bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces)
     if (!addresses)
         return false;
     std::map<std::string, KnownInterface, std::less<>> known;
-    for (const InterfaceCounters& counters : interfaces)
-        known[std::string(counters.name)] = lookAt(counters.name);
+    const OpenFolder folders(m_root / "sys/class/net");
+    for (const InterfaceCounters& counters : interfaces) {
+        const std::string name(counters.name);
+        known.insert_or_assign(name, lookAt(folders, name));
+    }
     for (InterfaceAddress& address : *addresses) {
         const auto position = known.find(address.interfaceName);
         if (position != known.end())
@@ -98,13 +101,17 @@ bool LinuxNetworkSource::learn(const std::vector<InterfaceCounters>& interfaces)
     return true;
 }
 
-LinuxNetworkSource::KnownInterface LinuxNetworkSource::lookAt(std::string_view name) const {
-    KnownInterface seen{.state = readInterfaceState(m_root, name),
-                        .uevent = readInterfaceEvent(m_root, name)};
+LinuxNetworkSource::KnownInterface LinuxNetworkSource::lookAt(const OpenFolder& folders,
+                                                              const std::string& name) const {
+    OpenFolder folder(folders, name);
+    KnownInterface seen{.state = readInterfaceState(folder, name)};
+    if (seen.state.isPort)
+        return seen;
+    seen.uevent = readInterfaceEvent(folder);
     const auto before = m_known.find(name);
     const bool isKnown =
         before != m_known.end() && !seen.uevent.empty() && before->second.uevent == seen.uevent;
-    seen.kind = isKnown ? before->second.kind : readInterfaceKind(m_root, name, seen.uevent);
+    seen.kind = isKnown ? before->second.kind : readInterfaceKind(folder, seen.uevent);
     return seen;
 }
 

@@ -32,7 +32,7 @@ private:
 
     [[nodiscard]] bool knowsAll(const std::vector<InterfaceCounters>& interfaces) const;
     [[nodiscard]] bool learn(const std::vector<InterfaceCounters>& interfaces);
-    [[nodiscard]] KnownInterface lookAt(std::string_view name) const;
+    [[nodiscard]] KnownInterface lookAt(const OpenFolder& folders, const std::string& name) const;
     void learnRoutes();
     [[nodiscard]] std::optional<std::vector<InterfaceAddress>> readAddresses() const;
     void addEntries(const InterfaceCounters& counters, std::vector<InterfaceEntry>& entries) const;

@@ -146,15 +146,15 @@ bool LinuxVolumes::choose() {
     const std::optional<std::string_view> text = m_mountinfo.read();
     if (!text)
         return false;
-    const HiddenPaths hidden = hiddenPathsInFstab(readFile(m_root / "etc/fstab").value_or(""));
+    std::string fstab = readFile(m_root / "etc/fstab").value_or("");
+    if (m_chosenMounts.empty() || *text != m_chosenMountinfo || fstab != m_chosenFstab) {
+        m_chosenMounts = mountsOfVolumes(*text, fstab);
+        m_chosenMountinfo = *text;
+        m_chosenFstab = std::move(fstab);
+    }
     const VolumeLabels labels(m_root);
     std::vector<Volume> volumes;
-    const auto isFile = [this](const Mount& mount) { return isSingleFile(mount); };
-    std::vector<Mount> mounts = chosenVolumes(parseMountinfo(*text), hidden, isFile);
-    // In a changed root directory (chroot) the kernel lists no mount at "/", yet there is one.
-    if (std::ranges::find(mounts, "/", &Mount::path) == mounts.end())
-        mounts.insert(mounts.begin(), Mount{.root = "/", .path = "/", .fileSystem = {}, .source = {}});
-    for (const Mount& mount : mounts) {
+    for (const Mount& mount : m_chosenMounts) {
         Volume volume = asKnownBefore(mount);
         volume.published.path = readableName(mount.path);
         volume.published.name = labels.labelOf(mount);
@@ -163,6 +163,15 @@ bool LinuxVolumes::choose() {
     }
     m_volumes = std::move(volumes);
     return true;
+}
+
+std::vector<Mount> LinuxVolumes::mountsOfVolumes(std::string_view mountinfo, std::string_view fstab) const {
+    const auto isFile = [this](const Mount& mount) { return isSingleFile(mount); };
+    std::vector<Mount> mounts = chosenVolumes(parseMountinfo(mountinfo), hiddenPathsInFstab(fstab), isFile);
+    // In a changed root directory (chroot) the kernel lists no mount at "/", yet there is one.
+    if (std::ranges::find(mounts, "/", &Mount::path) == mounts.end())
+        mounts.insert(mounts.begin(), Mount{.root = "/", .path = "/", .fileSystem = {}, .source = {}});
+    return mounts;
 }
 
 LinuxVolumes::Volume LinuxVolumes::asKnownBefore(const Mount& mount) const {

@@ -70,6 +70,8 @@ private:
     };
 
     [[nodiscard]] bool choose();
+    [[nodiscard]] std::vector<Mount> mountsOfVolumes(std::string_view mountinfo,
+                                                     std::string_view fstab) const;
     [[nodiscard]] bool isSingleFile(const Mount& mount) const;
     [[nodiscard]] Volume asKnownBefore(const Mount& mount) const;
     void measure();
@@ -78,7 +80,10 @@ private:
     std::filesystem::path m_root;
     bool m_isHost;
     KeptFile m_mountinfo;
-    SpaceReader m_readSpace; ///< none where the tree's file is read
+    SpaceReader m_readSpace;           ///< none where the tree's file is read
+    std::vector<Mount> m_chosenMounts; ///< of these texts, which seldom change
+    std::string m_chosenMountinfo;
+    std::string m_chosenFstab;
     std::vector<Volume> m_volumes;
     unsigned m_readingsUntilChoice = 0;
 };

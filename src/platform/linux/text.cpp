@@ -1,5 +1,6 @@
 #include "platform/linux/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 
@@ -29,8 +30,10 @@ std::optional<char> escapedByte(std::string_view text, const EscapeForm& form) {
 }
 
 std::string withoutEscapes(std::string_view text, const EscapeForm& form) {
-    std::string plain;
-    plain.reserve(text.size());
+    const std::size_t plainStart = std::min(text.find(form.start), text.size());
+    std::string plain(text.substr(0, plainStart)); // nearly always all of it
+    text.remove_prefix(plainStart);
+    plain.reserve(plain.size() + text.size());
     while (!text.empty()) {
         const std::optional<char> byte = escapedByte(text, form);
         plain += byte.value_or(text.front());

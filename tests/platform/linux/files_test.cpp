@@ -140,6 +140,38 @@ TEST(MountAnnouncement, ReportsAMountOnce) {
     EXPECT_EQ(outcome, MountOutcome::asExpected);
 }
 
+TEST(OpenFolder, ReadsItsFilesInTurn) {
+    const TemporaryTree tree;
+    tree.write("folder/one", "1\n");
+    tree.write("folder/empty", "");
+    tree.write("folder/long", std::string(10000, 'x'));
+    tree.link("folder/dangling", "nowhere");
+    tree.link("link", "folder");
+    const OpenFolder parent(tree.root());
+    for (OpenFolder folder(parent, "link"); const char* name : {"one", "one"})
+        EXPECT_EQ(folder.read(name), "1\n");
+    OpenFolder folder(tree.root() / "folder");
+    EXPECT_EQ(folder.read("empty"), "");
+    EXPECT_EQ(folder.read("long"), std::string(4096, 'x'));
+    EXPECT_EQ(folder.read("missing"), std::nullopt);
+    EXPECT_EQ(folder.read("."), std::nullopt);
+    EXPECT_TRUE(folder.contains("one"));
+    EXPECT_TRUE(folder.contains("dangling"));
+    EXPECT_FALSE(folder.contains("missing"));
+}
+
+TEST(OpenFolder, ThatDoesNotExistHasNoFiles) {
+    const TemporaryTree tree;
+    tree.write("file", "text");
+    OpenFolder missing(tree.root() / "missing");
+    OpenFolder missingToo(missing, "file");
+    OpenFolder file(tree.root() / "file");
+    for (OpenFolder* folder : {&missing, &missingToo, &file}) {
+        EXPECT_EQ(folder->read("file"), std::nullopt);
+        EXPECT_FALSE(folder->contains("file"));
+    }
+}
+
 TEST(Sysfs, ANumberIsOneWholeNumberAndNothingElse) {
     EXPECT_EQ(parseAttributeNumber("45000\n"), 45000);
     EXPECT_EQ(parseAttributeNumber(" -274000 \n"), -274000);

@@ -6,6 +6,10 @@
 namespace orvelle::linux_platform {
 namespace {
 
+std::filesystem::path folderOf(const TemporaryTree& tree, const std::string& name) {
+    return tree.root() / "sys/class/net" / name;
+}
+
 TEST(InterfaceState, IsUpWhenEnabledAndAbleToPassPackets) {
     EXPECT_TRUE(interfaceState("eth0", "0x1003\n", "up\n").isUp);
     EXPECT_TRUE(interfaceState("tun0", "0x10d1\n", "unknown\n").isUp);
@@ -40,11 +44,15 @@ TEST(InterfaceState, LetsTheOperationalStateDecideWithoutReadableFlags) {
 
 TEST(InterfaceState, IsReadFromTheTreeWithItsMasterLink) {
     const TemporaryTree tree;
+    const auto state = [&tree] {
+        OpenFolder folder(folderOf(tree, "eth0"));
+        return readInterfaceState(folder, "eth0");
+    };
     tree.write("sys/class/net/eth0/flags", "0x1003\n");
     tree.write("sys/class/net/eth0/operstate", "up\n");
-    EXPECT_EQ(readInterfaceState(tree.root(), "eth0"), (InterfaceState{.isUp = true}));
+    EXPECT_EQ(state(), (InterfaceState{.isUp = true}));
     tree.link("sys/class/net/eth0/master", "../br0"); // that br0 is not in the tree does not matter
-    EXPECT_EQ(readInterfaceState(tree.root(), "eth0"), (InterfaceState{.isUp = true, .isPort = true}));
+    EXPECT_EQ(state(), (InterfaceState{.isPort = true}));
 }
 
 using Kind = InterfaceKind;
@@ -103,8 +111,9 @@ TEST(InterfaceKind, IsCellularForAModemsLinkType) {
 
 TEST(InterfaceKind, IsReadFromTheTree) {
     const TemporaryTree tree;
-    const auto kindOf = [&](const std::string& name) {
-        return readInterfaceKind(tree.root(), name, readInterfaceEvent(tree.root(), name));
+    const auto kindOf = [&tree](const std::string& name) {
+        OpenFolder folder(folderOf(tree, name));
+        return readInterfaceKind(folder, readInterfaceEvent(folder));
     };
     EXPECT_EQ(kindOf("missing"), Kind::unknown);
     tree.write("sys/class/net/enp3s0/type", "1\n");
@@ -129,13 +138,15 @@ TEST(InterfaceKind, SurvivesMalformedFiles) {
           std::string("DEVTYPE="), std::string(std::size_t{1} << 20, '9')}) {
         for (const char* file : {"uevent", "type", "tun_flags"})
             tree.write(std::string("sys/class/net/odd/") + file, text);
-        const std::string uevent = readInterfaceEvent(tree.root(), "odd");
+        OpenFolder folder(folderOf(tree, "odd"));
+        const std::string uevent = readInterfaceEvent(folder);
         EXPECT_LE(uevent.size(), 4096U);
-        EXPECT_EQ(readInterfaceKind(tree.root(), "odd", uevent), Kind::unknown) << text.substr(0, 20);
+        EXPECT_EQ(readInterfaceKind(folder, uevent), Kind::unknown) << text.substr(0, 20);
     }
     tree.remove("sys/class/net/odd/uevent");
     tree.makeDirectory("sys/class/net/odd/uevent");
-    EXPECT_EQ(readInterfaceEvent(tree.root(), "odd"), "");
+    OpenFolder folder(folderOf(tree, "odd"));
+    EXPECT_EQ(readInterfaceEvent(folder), "");
 }
 
 } // namespace
