@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -22,6 +23,13 @@ ssize_t preadWithoutInterruption(int descriptor, char* into, std::size_t size, s
         count = ::pread(descriptor, into, size, static_cast<off_t>(offset));
     } while (count < 0 && errno == EINTR);
     return count;
+}
+
+/// Whether the descriptor is one of the last that this process may have.
+bool isAmongLast(int descriptor) {
+    rlimit limit{};
+    return descriptor >= 0 && ::getrlimit(RLIMIT_NOFILE, &limit) == 0 &&
+           static_cast<rlim_t>(descriptor) + KeptFile::descriptorsLeftFree >= limit.rlim_cur;
 }
 
 /// No name or label that a driver gives is longer.
@@ -60,6 +68,7 @@ KeptFile::KeptFile(KeptFile&& other) noexcept
     : m_path(std::move(other.m_path))
     , m_layout(other.m_layout)
     , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_isKept(other.m_isKept)
     , m_buffer(std::move(other.m_buffer))
     , m_size(std::exchange(other.m_size, 0)) {}
 
@@ -69,6 +78,7 @@ KeptFile& KeptFile::operator=(KeptFile&& other) noexcept {
         m_path = std::move(other.m_path);
         m_layout = other.m_layout;
         m_descriptor = std::exchange(other.m_descriptor, -1);
+        m_isKept = other.m_isKept;
         m_buffer = std::move(other.m_buffer);
         m_size = std::exchange(other.m_size, 0);
     }
@@ -82,14 +92,17 @@ void KeptFile::close() {
 }
 
 std::optional<std::string_view> KeptFile::read() {
-    if (m_descriptor < 0)
+    if (m_descriptor < 0) {
         m_descriptor = ::open(m_path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+        m_isKept = !isAmongLast(m_descriptor);
+    }
     if (m_descriptor < 0)
         return std::nullopt;
-    if (!readAll()) {
+    const bool isRead = readAll();
+    if (!isRead || !m_isKept)
         close();
+    if (!isRead)
         return std::nullopt;
-    }
     return std::string_view(m_buffer.data(), m_size);
 }
 

@@ -26,10 +26,13 @@ namespace orvelle::linux_platform {
 [[nodiscard]] bool isEntryName(std::string_view name);
 
 /// A kernel text file that is read again and again: the descriptor stays open between reads, which costs half
-/// of opening it each time. When a read fails (the device behind it vanished, say) the file is closed and
-/// opened afresh at the next read.
+/// of opening it each time. One among the last that this process may have is closed after each read: windows
+/// and their modules need some too. When a read fails (the device behind it vanished, say) the file is closed
+/// and opened afresh at the next read.
 class KeptFile {
 public:
+    /// So many of the descriptors that this process may have are not kept.
+    static constexpr int descriptorsLeftFree = 16;
     /// No kernel text that a monitor reads is longer; what lies beyond is not read.
     static constexpr std::size_t maximumSize = std::size_t{4} << 20;
 
@@ -62,6 +65,7 @@ private:
     std::filesystem::path m_path;
     Layout m_layout;
     int m_descriptor = -1;
+    bool m_isKept = true; ///< after a read
     std::string m_buffer;
     std::size_t m_size = 0;
 };

@@ -1,12 +1,16 @@
 #include "child_process.h"
 #include "hwmon_tree.h"
 #include "platform/host.h"
+#include "platform/linux/files.h"
 #include "platform/replay/fake_sources.h"
 #include "process_tree.h"
+#include "support/child_process.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fcntl.h>
+#include <sys/resource.h>
 
 namespace orvelle::linux_platform {
 namespace {
@@ -83,6 +87,31 @@ private:
 
     HwmonTree m_tree;
 };
+
+TEST(OpenFiles, LeaveTheLastOnesThatThisProcessMayHaveToOthers) {
+    RestlessMachine restless;
+    restless.moveTo(0);
+    constexpr int limit = 24;
+    const auto countAmongLast = [] {
+        int count = 0;
+        for (int descriptor = limit - KeptFile::descriptorsLeftFree; descriptor < limit; ++descriptor)
+            count += ::fcntl(descriptor, F_GETFD) >= 0 ? 1 : 0;
+        return count;
+    };
+    const auto heldAmongLast = inChildProcess([&restless, &countAmongLast] {
+        const rlimit limits{.rlim_cur = limit, .rlim_max = limit};
+        FakeClock clock;
+        MachineSources machine = makeTreeSources(restless.root(), clock.reader());
+        const int before = countAmongLast();
+        if (::setrlimit(RLIMIT_NOFILE, &limits) != 0)
+            return limit;
+        askEverySource(machine);
+        if (!machine.memory->read() || !machine.process->readProcesses())
+            return limit;
+        return countAmongLast() - before;
+    });
+    EXPECT_LE(heldAmongLast, 1); // the folder of the processes
+}
 
 TEST(OpenFiles, DoNotGrowInNumberWhileProcessesAndDevicesComeAndGo) {
     RestlessMachine restless;
