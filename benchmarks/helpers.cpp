@@ -77,6 +77,17 @@ void Helpers::addWakers(std::size_t count) {
     }
 }
 
+void Helpers::addBusy(std::size_t count) {
+    constexpr int lowestPriority = 19;
+    for (std::size_t index = 0; index < count; ++index) {
+        add([] {
+            ::setpriority(PRIO_PROCESS, 0, lowestPriority);
+            for (volatile unsigned turns = 0;;)
+                turns = turns + 1;
+        });
+    }
+}
+
 void Helpers::addThreadedProcess(std::size_t threadCount) {
     add([threadCount] { startThreadsAndSleep(threadCount); });
 }

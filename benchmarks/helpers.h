@@ -23,6 +23,8 @@ public:
     void addSleepers(std::size_t count);
     /// Processes that wake for a moment once per second, spread over it.
     void addWakers(std::size_t count);
+    /// Processes that never rest and give way to all others.
+    void addBusy(std::size_t count);
     /// One process of `threadCount` threads that never wake.
     void addThreadedProcess(std::size_t threadCount);
 
