@@ -8,7 +8,7 @@ for candidate in "unshare -m" "unshare -r -m"; do
     if ((${#ownMounts[@]} == 0)) && "${words[@]}" mount -t tmpfs none /mnt 2>/dev/null; then ownMounts=("${words[@]}"); fi
 done
 
-
+# tryPlain WHAT [COMMAND...]: runs the program through COMMAND.
 tryPlain() {
     start "$@"
     goOn "$samples"

@@ -1,5 +1,5 @@
 # Trials of the program on a machine that has more of something than others. Sourced.
-# shellcheck disable=SC2016 # the program's shell expands the scripts, not this one
+# shellcheck disable=SC2154,SC2016 # desktop.sh sets workDirectory; the program's shell expands the scripts
 
 tryManyMounts() {
     tryMounts "500 mounts" 'mkdir "$workDirectory/mounts" && mount -t tmpfs none "$workDirectory/mounts" &&
