@@ -17,7 +17,7 @@ source "$here/lacks.sh"
 source "$here/large_machines.sh"
 source "$here/crowds.sh"
 samples=1
-((seconds < 60)) || samples=3 # every third sample includes the processes
+((seconds < 200)) || samples=3 # every third sample includes the processes
 memoryGroups=()
 isSanitized=$(grep -c __asan_init "$orvelle")
 
