@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
+#include <cerrno>
+#include <sys/stat.h>
 #include <utility>
 
 namespace orvelle {
@@ -60,14 +62,15 @@ QString resolveLinks(const QString& filePath) {
     return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
 }
 
-/// The file's text, empty when it is missing. Nothing when it cannot be read.
+/// The file's text, empty when it is missing. Nothing when it cannot be read, or when nobody may ask whether
+/// it exists.
 std::optional<QByteArray> textOf(const QString& filePath) {
-    const QFileInfo info(filePath);
-    if (!info.exists())
-        return QByteArray();
+    struct stat status{};
+    if (::stat(QFile::encodeName(filePath).constData(), &status) != 0)
+        return errno == ENOENT || errno == ELOOP ? std::optional(QByteArray()) : std::nullopt;
     QFile file(filePath);
     // Opening a pipe or a device could block forever.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+    if (!S_ISREG(status.st_mode) || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray text = file.read(IniText::maximumSize + 1);
     if (file.error() != QFileDevice::NoError || text.size() > IniText::maximumSize)

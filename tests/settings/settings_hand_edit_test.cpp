@@ -2,6 +2,7 @@
 #include "support/temporary_settings.h"
 
 #include <QDir>
+#include <QFileSystemWatcher>
 #include <QSignalSpy>
 
 namespace orvelle {
@@ -12,6 +13,23 @@ using namespace Qt::StringLiterals;
 class SettingsHandEditTest : public ::testing::Test {
 protected:
     TemporarySettings settings;
+};
+
+/// The settings in a folder of their own, which may go.
+class SettingsFolderTest : public ::testing::Test {
+protected:
+    /// Makes the folder, with a file in it.
+    void makeFolder(const QByteArray& text) const {
+        ASSERT_TRUE(QDir().mkpath(folder));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(text), text.size());
+    }
+
+    TemporarySettings settings;
+    const QString config = settings.folderPath() + u"/config"_s;
+    const QString folder = config + u"/orvelle"_s;
+    const QString path = folder + u"/orvelle.conf"_s;
 };
 
 TEST_F(SettingsHandEditTest, PublishesAWriteInPlace) {
@@ -84,6 +102,71 @@ TEST_F(SettingsHandEditTest, PublishesANewFileInANewFolder) {
     file.close();
     awaitReading(store);
     EXPECT_TRUE(store.showDisk());
+}
+
+TEST_F(SettingsFolderTest, FollowsAnotherFolderOfTheSameName) {
+    makeFolder("showDisk=true\n");
+    SettingsStore store(path);
+    ASSERT_TRUE(QDir().rename(folder, folder + u".old"_s));
+    awaitReading(store);
+    EXPECT_FALSE(store.showDisk());
+    makeFolder("showDisk=true\nshowSensors=true\n");
+    awaitReading(store);
+    EXPECT_TRUE(store.showSensors());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write("showDisk=false\n");
+    file.close();
+    awaitReading(store);
+    EXPECT_FALSE(store.showDisk());
+}
+
+TEST_F(SettingsFolderTest, FollowsAFolderThatComesBack) {
+    makeFolder("showDisk=true\n");
+    SettingsStore store(path);
+    ASSERT_TRUE(QDir().rename(folder, folder + u".old"_s));
+    awaitReading(store);
+    ASSERT_TRUE(QDir().rename(folder + u".old"_s, folder));
+    awaitReading(store);
+    EXPECT_TRUE(store.showDisk());
+}
+
+TEST_F(SettingsFolderTest, FollowsAFolderThatIsMadeAgainWithAllAboveIt) {
+    makeFolder("showDisk=true\n");
+    SettingsStore store(path);
+    ASSERT_TRUE(QDir(config).removeRecursively());
+    awaitReading(store);
+    EXPECT_FALSE(store.showDisk());
+    makeFolder("showSensors=true\n");
+    EXPECT_TRUE(waitUntil([&] { return store.showSensors(); }));
+}
+
+TEST_F(SettingsFolderTest, KeepsItsValuesWhileAFileStandsInPlaceOfTheFolder) {
+    makeFolder("showDisk=true\n");
+    SettingsStore store(path);
+    QFile file(config + u"/file"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QDir().rename(folder, folder + u".old"_s));
+    ASSERT_TRUE(file.rename(folder));
+    awaitReading(store);
+    EXPECT_TRUE(store.showDisk());
+    store.setShowSensors(true);
+    EXPECT_EQ(store.saveError(), folder + u" is not a folder"_s);
+    ASSERT_TRUE(QFile::remove(folder));
+    ASSERT_TRUE(QDir().rename(folder + u".old"_s, folder));
+    awaitReading(store);
+    EXPECT_TRUE(store.showDisk());
+}
+
+TEST_F(SettingsFolderTest, DoesNotReadAgainWhenSomethingElseChangesBesideTheFolder) {
+    makeFolder("");
+    SettingsStore store(path);
+    QFileSystemWatcher witness({config});
+    QSignalSpy changes(&witness, &QFileSystemWatcher::directoryChanged);
+    ASSERT_TRUE(QDir().mkpath(config + u"/other"_s));
+    ASSERT_TRUE(waitUntil([&] { return changes.count() > 0; }));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(reloadDelay(store).isActive());
 }
 
 TEST_F(SettingsHandEditTest, PublishesTheDefaultForAnIllegalValue) {

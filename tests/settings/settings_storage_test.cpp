@@ -218,7 +218,7 @@ TEST_F(SettingsFileTest, ReportsAFolderThatCannotBeCreated) {
     EXPECT_EQ(unwritable.write({{u"a"_s, true}}), SaveResult::failed);
     EXPECT_EQ(unwritable.failureReason(), u"the folder /proc/no-such-folder does not exist"_s);
     SettingsFile belowAFile(u"/proc/version/orvelle.conf"_s);
-    EXPECT_EQ(belowAFile.read({u"a"_s}), StoredValues());
+    EXPECT_EQ(belowAFile.read({u"a"_s}), std::nullopt);
     EXPECT_EQ(belowAFile.write({{u"a"_s, true}}), SaveResult::failed);
     EXPECT_EQ(belowAFile.failureReason(), u"/proc/version is not a folder"_s);
 }
@@ -238,6 +238,14 @@ TEST_F(SettingsFileTest, NeitherReadsNorReplacesAnUnreadableFile) {
     ASSERT_EQ(::chmod(settings.path().toLocal8Bit().constData(), 0), 0);
     EXPECT_EXIT(exitAfterCheckAsOrdinaryUser([&] { return !read().has_value() && !write(); }),
                 ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(SettingsFileTest, DoesNotTakeAFileInAForbiddenFolderForAMissingOne) {
+    settings.writeInPlace("a=1\n");
+    ASSERT_EQ(::chmod(settings.folderPath().toLocal8Bit().constData(), 0), 0);
+    EXPECT_EXIT(exitAfterCheckAsOrdinaryUser([&] { return !read().has_value() && !write(); }),
+                ::testing::ExitedWithCode(0), "");
+    ASSERT_EQ(::chmod(settings.folderPath().toLocal8Bit().constData(), 0700), 0);
 }
 
 TEST_F(SettingsFileTest, ReadsAReadOnlyFileButDoesNotReplaceIt) {
