@@ -8,6 +8,7 @@
 #include "shell/x11/bar_placement.h"
 #include "shell/x11/ewmh_hints.h"
 #include "shell/x11/popup_window.h"
+#include "shell/x11/session_manager.h"
 #include "shell/x11/single_instance.h"
 #include "shell/x11/x11_bar_focus.h"
 #include "shell/x11/xsettings_follower.h"
@@ -73,6 +74,7 @@ void chooseX11() {
     // of three.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
+    outliveSessionManager();
 }
 
 std::unique_ptr<SingleInstance> X11Desktop::becomeSingleInstance(const StartRequest& request) {
