@@ -21,7 +21,7 @@ class Throttle;
 /// The parts of the desktop and the window contents that the delegate uses.
 struct AppDependencies {
     StatusBar& statusBar;
-    std::function<std::unique_ptr<WindowFactory>(const WindowContext&)> loadWindowFactory;
+    WindowFactoryLoader loadWindowFactory;
     std::function<std::unique_ptr<SettingsWindow>(std::unique_ptr<QWindow>)> makeSettingsWindow;
     /// Reports errors of starting at login to the settings window, see `WindowContext`.
     QObject* launchAtLogin = nullptr;

@@ -30,7 +30,7 @@ OrvelleApp::OrvelleApp(SettingsStore& settings, Desktop& desktop, SingleInstance
     , m_statusBar(m_desktop.makeStatusBar())
     , m_launchAtLogin(m_settings, m_desktop.makeLoginItem())
     , m_delegate(m_monitor, m_settings, m_themes,
-                 {*m_statusBar, &loadWindowFactory,
+                 {*m_statusBar, findWindowFactory(),
                   [this](std::unique_ptr<QWindow> content) {
                       return m_desktop.makeSettingsWindow(std::move(content));
                   },

@@ -2,8 +2,10 @@
 
 namespace orvelle {
 
-std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context) {
-    return std::unique_ptr<WindowFactory>(orvelleMakeWindowFactory(context));
+WindowFactoryLoader findWindowFactory() {
+    return [](const WindowContext& context) {
+        return std::unique_ptr<WindowFactory>(orvelleMakeWindowFactory(context));
+    };
 }
 
 } // namespace orvelle

@@ -36,10 +36,14 @@ public:
     [[nodiscard]] virtual std::unique_ptr<QWindow> makeSettings() = 0;
 };
 
-/// Loads what makes the windows, which the program does not do before the first one opens. Everything in the
-/// context must outlive the result. Null, with the reason on the program's standard error, when they cannot
-/// be loaded, which happens when the program is not installed whole.
-[[nodiscard]] std::unique_ptr<WindowFactory> loadWindowFactory(const WindowContext& context);
+/// Makes the factory, which the program does not do before the first window opens. Everything in the context
+/// must outlive the result. Null, with the reason on the program's standard error, when what makes the
+/// windows cannot be loaded, which happens when the program is not installed whole.
+using WindowFactoryLoader = std::function<std::unique_ptr<WindowFactory>(const WindowContext& context)>;
+
+/// Finds what makes the windows, and keeps it: an upgrade may replace or remove the file while the program
+/// runs, and what it then brings need not fit the program. To be called when the program starts.
+[[nodiscard]] WindowFactoryLoader findWindowFactory();
 
 /// The name of the function below in the module that holds the windows.
 inline constexpr const char* makeWindowFactorySymbol = "orvelleMakeWindowFactory";
