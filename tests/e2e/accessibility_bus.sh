@@ -1,6 +1,7 @@
 # Adds a private session bus and accessibility bus to the display of desktop.sh. Sourced by the end-to-end tests.
 
-source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
+# Another sourced file may have prepared the folders.
+declare -F waitUntil >/dev/null || source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 requireTools dbus-daemon dbus-send
 
 findPython 'import gi; gi.require_version("Atspi", "2.0")' Atspi

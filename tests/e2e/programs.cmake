@@ -1,0 +1,13 @@
+# The programs by which scripts drive a desktop: included by the folders whose tests and measurements use them.
+if(TARGET x11_client)
+  return()
+endif()
+pkg_check_modules(SESSION_MANAGEMENT REQUIRED IMPORTED_TARGET sm ice)
+function(orvelle_desktop_program name)
+  add_executable(${name} ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/${name}.cpp)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE orvelle_build_flags ${ARGN})
+endfunction()
+orvelle_desktop_program(x11_client PkgConfig::XCB)
+orvelle_desktop_program(settings_manager PkgConfig::XCB)
+orvelle_desktop_program(session_manager PkgConfig::SESSION_MANAGEMENT)
