@@ -5,6 +5,7 @@
 #include "settings/user_settings.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -66,6 +67,8 @@ int main(int argumentCount, char** arguments) {
     if (!commandLine.answer.isEmpty())
         return print(commandLine.answer);
     orvelle::confineProcess();
+    // What closes a connection to the program, or reads its messages no more, does not end it.
+    std::signal(SIGPIPE, SIG_IGN);
     const orvelle::DesktopChoice choice = orvelle::chooseDesktop(commandLine.desktop);
     if (!choice.make) {
         std::fprintf(stderr, "%s\n", qPrintable(choice.error));

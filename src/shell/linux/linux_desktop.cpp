@@ -12,8 +12,13 @@
 namespace orvelle {
 namespace {
 
-std::unique_ptr<Desktop> makeX11Desktop(SettingsStore& /*settings*/) {
+/// Its bar is an ordinary window.
+std::unique_ptr<Desktop> makeForeignDesktop(SettingsStore& /*settings*/) {
     return std::make_unique<X11Desktop>();
+}
+
+std::unique_ptr<Desktop> makeX11Desktop(SettingsStore& /*settings*/) {
+    return hasX11() ? std::make_unique<X11Desktop>() : nullptr;
 }
 
 std::unique_ptr<Desktop> makeWaylandDesktop(SettingsStore& /*settings*/) {
@@ -55,11 +60,11 @@ DesktopChoice chooseDesktop(const QString& name) {
         return {chooseTray(), {}};
     case DesktopKind::x11:
         chooseX11();
-        break;
+        return {&makeX11Desktop, {}};
     case DesktopKind::foreign:
         break;
     }
-    return {&makeX11Desktop, {}};
+    return {&makeForeignDesktop, {}};
 }
 
 } // namespace orvelle

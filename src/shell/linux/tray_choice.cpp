@@ -63,6 +63,8 @@ std::unique_ptr<Desktop> makePlainTray(SettingsStore& settings) {
 }
 
 std::unique_ptr<Desktop> makeX11Tray(SettingsStore& settings) {
+    if (!hasX11())
+        return nullptr;
     return std::make_unique<TrayDesktop>(
         settings, std::make_unique<X11Desktop>(),
         TrayWindows{&makeX11Popup, &makePassivePopup, [] { return std::optional(QCursor::pos()); }});

@@ -13,7 +13,10 @@
 #include "shell/x11/x11_bar_focus.h"
 #include "shell/x11/xsettings_follower.h"
 
+#include <QGuiApplication>
 #include <xcb/xcb.h>
+
+#include <cstdio>
 
 namespace orvelle {
 namespace {
@@ -67,14 +70,26 @@ std::optional<QString> x11Absence() {
 }
 
 void chooseX11() {
-    if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.startsWith("xcb"))
+        platform = "xcb";
+    // Qt aborts the process when it can use none of its platforms.
+    if (!platform.contains(';'))
+        qputenv("QT_QPA_PLATFORM", platform + ";offscreen");
     // With shared pictures Qt asks the server before each repaint whether it has read the last one, which
     // wakes two threads. Few pixels change here, so sending them is cheaper: one wake-up per sample instead
     // of three.
     if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
         qputenv("QT_XCB_NO_MITSHM", "1");
     outliveSessionManager();
+}
+
+bool hasX11() {
+    if (QGuiApplication::platformName() == QLatin1StringView("xcb"))
+        return true;
+    std::fprintf(stderr, "orvelle: Qt cannot use the X display \"%s\"\n",
+                 qPrintable(qEnvironmentVariable("DISPLAY")));
+    return false;
 }
 
 std::unique_ptr<SingleInstance> X11Desktop::becomeSingleInstance(const StartRequest& request) {

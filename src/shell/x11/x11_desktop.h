@@ -11,8 +11,13 @@ namespace orvelle {
 /// application object exists.
 [[nodiscard]] std::optional<QString> x11Absence();
 
-/// Has Qt, which reads the environment when the application object is made, talk to the X server.
+/// Has Qt, which reads the environment when the application object is made, talk to the X server. Where the
+/// server has gone by then, Qt shows nothing, see `hasX11`.
 void chooseX11();
+
+/// Whether Qt talks to the X server; if not, a line on standard error says so. After `chooseX11`, once the
+/// application object exists.
+[[nodiscard]] bool hasX11();
 
 /// Opens a window as a popup of X11. The window must outlive the result and must not have been shown.
 [[nodiscard]] std::unique_ptr<Popup> makeX11Popup(QWindow& window);

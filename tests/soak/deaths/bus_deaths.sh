@@ -1,4 +1,5 @@
 # What the program depends on that speaks over a message bus. Sourced by death.sh.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 # startServices [NAME...]: a bus, and on it doubles of the desktop's services. Sets sessionBusPid and services.
 startServices() {

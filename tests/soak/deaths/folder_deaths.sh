@@ -1,8 +1,9 @@
 # The folder of the settings. Sourced by death.sh.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 folder=$XDG_CONFIG_HOME/orvelle
 
-# startWithFolder [COMMAND...]: starts the program as an ordinary user, because every folder is open to root.
+# Starts the program as an ordinary user, because every folder is open to root.
 startWithFolder() {
     startX11 || return
     writeCarefulSettings
@@ -12,19 +13,7 @@ startWithFolder() {
         "${asUser[@]}" true 2>/dev/null || { echo "SKIPPED: there is no ordinary user"; exit "$skipped"; }
         chown -R 65534:65534 "$workDirectory"
     fi
-    runProgram "$@" "${asUser[@]}"
-}
-
-# The settings come back with the folder, and a change of them is followed: the program still listens.
-expectFolderIsFollowed() {
-    sed -i 's/^showDisk=.*/showDisk=false/' "$settingsFile"
-    diskIsHidden() { [[ -z $(lastSamples | grep Disk) ]]; }
-    local before=$cyclesBefore
-    cyclesBefore=$(cycles)
-    expectGoingOn
-    checkedSettings=$settingsFile
-    endProgram
-    : "$before"
+    runProgram "${asUser[@]}"
 }
 
 death_settingsFolderRemoved() {

@@ -1,5 +1,6 @@
 # Starts the program, lets something die, and checks what the program makes of it. Sourced by death.sh, which sets `bin`
 # and `moment`. `outcome` collects what death.sh prints.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 orvelle=$bin/orvelle
 settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
@@ -73,7 +74,7 @@ childProcesses() { cat /proc/[0-9]*/stat 2>/dev/null | sed 's/.*) //' | awk -v p
 # expectGoingOn [WORDS...]: the program neither ends nor works more than a little in the two seconds that follow, and
 # samples again. Each of WORDS stands among its messages.
 expectGoingOn() {
-    local before used word
+    local before used
     sleep 0.3 # reacting may cost something
     before=$(processorTime 2>/dev/null)
     sleep 2

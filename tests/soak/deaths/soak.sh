@@ -10,7 +10,7 @@
 bin=$1
 deadline=$((SECONDS + $2))
 here=$(dirname "$(readlink -f "$0")")
-atOnce=4 # they mostly wait
+atOnce=6 # they mostly wait
 
 # DEATH|MOMENT OF THE FIRST TIME|WHAT DIES
 deaths=(
@@ -21,6 +21,7 @@ deaths=(
     "windowManagerReplaced|panel|window manager, replaced by another"
     "settingsManagerKilled|bar|X settings manager, killed"
     "sessionManagerKilled|panel|session manager, killed"
+    "readerOfMessagesKilled|panel|reader of the messages (standard error), killed"
     "compositorKilled|settings|Wayland compositor, killed"
     "compositorEnds|panel|Wayland compositor, ended"
     "compositorFreezes|panel|Wayland compositor, stopped for 3 s"

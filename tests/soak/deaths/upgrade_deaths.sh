@@ -1,4 +1,5 @@
 # The files of the program, which an upgrade replaces while it runs. Sourced by death.sh.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 # installProgram: gives the program a copy of its files that can be replaced. Sets orvelle and libraries.
 installProgram() {
@@ -42,11 +43,16 @@ expectWindowsOpen() {
 upgrade() {
     installProgram || return
     runProgram || return
+    checkedSettings=$settingsFile
     strike "$@"
+    sleep 0.5
+    if [[ $moment == start ]] && programIsGone; then
+        expectEnding 127 # the system found only a part of its libraries
+        return
+    fi
     expectGoingOn
     [[ $moment == start ]] || expectWindowsOpen
     endProgram
-    checkedSettings=$settingsFile
 }
 
 death_windowModuleReplaced() { upgrade replaceModule; }

@@ -1,4 +1,5 @@
 # What the program depends on under Wayland. Sourced by death.sh.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 startWayland() {
     source "$here/../../e2e/wayland/sway.sh"

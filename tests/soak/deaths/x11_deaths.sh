@@ -1,4 +1,5 @@
 # What the program depends on under X11. Sourced by death.sh.
+# shellcheck disable=SC2154,SC2034 # the files that death.sh sources share their variables
 
 startX11() {
     requireTools Xvfb openbox xprop xdotool
@@ -117,3 +118,24 @@ death_sessionManagerKilled() {
     [[ $moment == start ]] || expectMessages "session manager"
     endProgram
 }
+
+# What reads the program's messages, such as a terminal or a journal. The program complains into a pipe then.
+death_readerOfMessagesKilled() {
+    startX11 && startSessionManager || return
+    mkfifo "$workDirectory/pipe"
+    cat "$workDirectory/pipe" >>"$log" &
+    local reader=$!
+    ownedPids+=("$reader")
+    runProgram withMessagesInPipe || return
+    strike kill -KILL "$reader"
+    wait "$reader" 2>/dev/null
+    kill -KILL "$sessionManager" # which the program says
+    sleep 2
+    ! programIsGone || fail "the program goes on"
+    outcome="goes on||"
+    kill -TERM "$orvellePid"
+    waitUntil "it can be ended" programIsGone
+    wait "$orvellePid"
+    expectEqual "it ends with status" 0 $?
+}
+withMessagesInPipe() { exec "$@" 2>"$workDirectory/pipe"; }
