@@ -44,6 +44,7 @@ QStringList desktopNames() {
 
 DesktopChoice chooseDesktop(const QString& name) {
     avoidStartingSessionBus();
+    outliveSessionBus();
     avoidSilentSessionBus();
     const TrayPatience patience =
         name == QLatin1StringView("tray") ? TrayPatience::waits : TrayPatience::none;

@@ -29,4 +29,8 @@ void avoidStartingSessionBus();
 /// the application object exists.
 void avoidSilentSessionBus(std::chrono::milliseconds patience = std::chrono::seconds(2));
 
+/// Keeps libdbus from aborting the process where Qt asks a bus that has ended a moment ago. To be called
+/// before anything connects.
+void outliveSessionBus();
+
 } // namespace orvelle

@@ -5,7 +5,10 @@
 startServices() {
     source "$here/../../e2e/accessibility_bus.sh"
     startAccessibilityBus || return
-    (($# > 0)) || return 0
+    (($# == 0)) || startOnBus "$@"
+}
+# startOnBus NAME...
+startOnBus() {
     "$python" -B "$here/desktop_services.py" "$@" >"$workDirectory/services" 2>&1 &
     services=$!
     ownedPids+=("$services")
@@ -99,7 +102,8 @@ death_trayKilled() {
     strike kill -KILL "$services"
     wait "$services" 2>/dev/null
     expectGoingOn
-    startServices tray
+    : >"$workDirectory/services"
+    startOnBus tray
     waitUntil "the icon comes to the next tray" wasAsked registered
     endProgram
 }

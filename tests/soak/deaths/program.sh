@@ -103,17 +103,19 @@ expectMessages() {
     expectEqual "the sanitizers find nothing" "" "$(grep -E 'Sanitizer|runtime error' "$log")"
 }
 
-# expectEnding STATUS...: the program ends by itself with one of these, and says why.
-expectEnding() {
-    local status took
+# awaitEnding: sets took, the milliseconds since the death, and status.
+awaitEnding() {
     until programIsGone || (($(microseconds) - struckAt > patienceSeconds * 1000000)); do sleep 0.005; done
     took=$((($(microseconds) - struckAt) / 1000))
-    if ! programIsGone; then
-        fail "it ends"
-        return
-    fi
+    programIsGone || { fail "it ends"; return 1; }
     wait "$orvellePid"
     status=$?
+}
+
+# expectEnding STATUS...: the program ends by itself with one of these, and says why.
+expectEnding() {
+    local took status
+    awaitEnding || return
     [[ " $* " == *" $status "* ]] || { fail "it ends with status $*, not $status"; cat "$log"; }
     [[ -n $(messages) ]] || fail "it says why it ends"
     expectMessages

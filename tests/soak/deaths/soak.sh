@@ -3,9 +3,9 @@
 #
 #   soak.sh BIN SECONDS
 #
-# BIN is the folder of the built programs. Each death happens once. If SECONDS are left, deaths happen at random moments
-# until they are over: while the program starts, while a panel or the settings are open, and while nothing is. The status
-# is 1 if the program does not do what it should, and 77 if the tools are missing.
+# BIN is the folder of the built programs. Each death happens once. With a minute or more, deaths then happen at random
+# moments until the time is over: while the program starts, while a panel or the settings are open, and while nothing is.
+# The status is 1 if the program does not do what it should, and 77 if the tools are missing.
 
 bin=$1
 deadline=$((SECONDS + $2))
@@ -85,7 +85,7 @@ for number in "${!deaths[@]}"; do
     IFS='|' read -r _ moment _ <<<"${deaths[number]}"
     tryInBackground "$number" "$moment"
 done
-while ((SECONDS < deadline - 10)); do
+while (($2 >= 60 && SECONDS < deadline - 10)); do
     tryInBackground $((RANDOM % ${#deaths[@]})) "${moments[RANDOM % ${#moments[@]}]}" random
 done
 wait
