@@ -72,7 +72,8 @@ void CPUMonitor::updateUptime() {
     if (!bootTime)
         return;
     const double now = secondsBetween(WallTime{}, m_now());
-    publish(this, m_uptime, now - static_cast<double>(*bootTime), &CPUMonitor::uptimeChanged);
+    // A wall clock that was set may stand before the start.
+    publish(this, m_uptime, std::max(now - static_cast<double>(*bootTime), 0.0), &CPUMonitor::uptimeChanged);
 }
 
 } // namespace orvelle

@@ -55,7 +55,7 @@ public:
     [[nodiscard]] double loadAverage1() const { return m_loadAverage1; }
     [[nodiscard]] double loadAverage5() const { return m_loadAverage5; }
     [[nodiscard]] double loadAverage15() const { return m_loadAverage15; }
-    /// Seconds since boot by the wall clock.
+    /// Seconds since boot by the wall clock, never negative.
     [[nodiscard]] double uptime() const { return m_uptime; }
     /// `totalUsage` of the last samples, oldest first, at most `maxHistoryCount`.
     [[nodiscard]] const QList<double>& usageHistory() const { return m_usageHistory; }

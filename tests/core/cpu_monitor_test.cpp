@@ -152,6 +152,15 @@ TEST_F(CPUMonitorTest, UptimeIsTheTimeSinceBootAndSurvivesAFailedRead) {
     EXPECT_DOUBLE_EQ(cpu.uptime(), 90061);
 }
 
+TEST_F(CPUMonitorTest, UptimeIsNeverNegativeWhenTheWallClockStandsBeforeTheStart) {
+    CPUMonitor& cpu = monitorWithBaseline({{}});
+    source.bootTime = FakeClock::replayStartSeconds - 100;
+    cpu.updateUptime();
+    clock.advance(std::chrono::hours(-24 * 365));
+    cpu.updateUptime();
+    EXPECT_EQ(cpu.uptime(), 0);
+}
+
 TEST_F(CPUMonitorTest, TheLargestTicksOfASourceDoNotStopTheProcess) {
     const CoreTicks largest{.user = CoreTicks::maximumTicks,
                             .system = CoreTicks::maximumTicks,
