@@ -3,6 +3,7 @@
 #include "core/checked.h"
 #include "core/published.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orvelle {
@@ -11,6 +12,9 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QLatin1StringView noAddress = "N/A"_L1;
+
+/// Every container that starts has an interface of a new name, and the program runs for years.
+constexpr std::size_t rememberedInterfaces = 256;
 
 struct DisplayName {
     QLatin1StringView prefix;
@@ -137,6 +141,7 @@ void NetworkMonitor::update() {
 
 void NetworkMonitor::measureSpeeds(InterfacesByName& interfaces, WallTime now) {
     const double elapsedSeconds = m_lastUpdateTime ? secondsBetween(*m_lastUpdateTime, now) : 0;
+    m_sample = checkedAdd(m_sample, qint64{1});
     for (auto& [name, info] : interfaces) {
         const auto previous = m_previousBytes.find(name);
         if (previous != m_previousBytes.end() && elapsedSeconds > 0) {
@@ -144,9 +149,17 @@ void NetworkMonitor::measureSpeeds(InterfacesByName& interfaces, WallTime now) {
             info.downloadSpeed = static_cast<double>(counterDelta(info.bytesIn, before.in)) / elapsedSeconds;
             info.uploadSpeed = static_cast<double>(counterDelta(info.bytesOut, before.out)) / elapsedSeconds;
         }
-        m_previousBytes[name] = {.in = info.bytesIn, .out = info.bytesOut};
+        m_previousBytes[name] = {.in = info.bytesIn, .out = info.bytesOut, .seenInSample = m_sample};
     }
     m_lastUpdateTime = now;
+    forgetLongGone(interfaces.size());
+}
+
+void NetworkMonitor::forgetLongGone(std::size_t presentCount) {
+    while (m_previousBytes.size() > presentCount + rememberedInterfaces) {
+        m_previousBytes.erase(std::ranges::min_element(
+            m_previousBytes, {}, [](const auto& nameAndBytes) { return nameAndBytes.second.seenInSample; }));
+    }
 }
 
 void NetworkMonitor::publishInterfaces(const InterfacesByName& interfaces) {

@@ -106,9 +106,12 @@ private:
     struct Bytes {
         quint64 in = 0;
         quint64 out = 0;
+        qint64 seenInSample = 0;
     };
 
     void measureSpeeds(InterfacesByName& interfaces, WallTime now);
+    /// Forgets of the interfaces that are gone all but those that left last.
+    void forgetLongGone(std::size_t presentCount);
     void publishInterfaces(const InterfacesByName& interfaces);
     void publishPrimaryAddresses();
 
@@ -123,8 +126,10 @@ private:
     QList<double> m_uploadHistory;
     QString m_primaryIPv4;
     QString m_primaryIPv6;
-    /// Counters of the last sample that saw the interface; what was seen once is kept.
+    /// Counters of the last sample that saw the interface. An interface that comes back is measured from
+    /// there.
     std::map<QString, Bytes> m_previousBytes;
+    qint64 m_sample = 0;
     std::optional<WallTime> m_lastUpdateTime;
 };
 

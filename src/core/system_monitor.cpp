@@ -13,6 +13,11 @@ namespace {
 
 constexpr qint64 cyclesPerProcessUpdate = 3;
 
+/// The clock for the time between two samples.
+const WallClock& clockOfSpeeds(const MachineSources& sources) {
+    return sources.steadyNow ? sources.steadyNow : sources.now;
+}
+
 } // namespace
 
 SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settings, QObject* parent)
@@ -21,11 +26,11 @@ SystemMonitor::SystemMonitor(MachineSources sources, const SettingsStore& settin
     , m_settings(settings)
     , m_cpu(*m_sources.processor, m_sources.now)
     , m_memory(*m_sources.memory)
-    , m_disk(*m_sources.disk, m_sources.now)
-    , m_network(*m_sources.network, m_sources.now)
+    , m_disk(*m_sources.disk, clockOfSpeeds(m_sources))
+    , m_network(*m_sources.network, clockOfSpeeds(m_sources))
     , m_battery(*m_sources.battery)
     , m_sensor(*m_sources.sensor)
-    , m_process(*m_sources.process, m_sources.now) {}
+    , m_process(*m_sources.process, clockOfSpeeds(m_sources)) {}
 
 std::optional<double> SystemMonitor::activeInterval() const {
     if (m_timer == nullptr)

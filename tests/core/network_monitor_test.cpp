@@ -92,6 +92,22 @@ TEST_F(NetworkMonitorTest, InterfaceThatComesBackIsMeasuredFromWhereItWasLastSee
     EXPECT_DOUBLE_EQ(monitor.totalDownloadSpeed(), 600);
 }
 
+TEST_F(NetworkMonitorTest, OfManyInterfacesThatLeftOnlyTheLastAreRemembered) {
+    updateWith({up("usb0", 1000, 0), up("usb1", 1000, 0)});
+    for (int container = 0; container < 1000; ++container) {
+        clock.advance(std::chrono::seconds(1));
+        const std::string name = "veth" + std::to_string(container);
+        updateWith(container == 999 ? std::vector{up(name, 1, 1), up("usb1", 1000, 0)}
+                                    : std::vector{up(name, 1, 1)});
+    }
+    clock.advance(std::chrono::seconds(1));
+    updateWith({up("usb0", 1600, 0), up("usb1", 1700, 0), up("veth998", 801, 1)});
+    ASSERT_EQ(namesOf(monitor.interfaces()), QStringList({u"usb0"_s, u"usb1"_s, u"veth998"_s}));
+    EXPECT_DOUBLE_EQ(monitor.interfaces()[0].downloadSpeed, 0);
+    EXPECT_DOUBLE_EQ(monitor.interfaces()[1].downloadSpeed, 700);
+    EXPECT_DOUBLE_EQ(monitor.interfaces()[2].downloadSpeed, 800);
+}
+
 TEST_F(NetworkMonitorTest, FailedOrEmptyReadChangesNothing) {
     updateWith({up("en0", 100, 100), withIPv4("en0", "192.0.2.1")});
     const QList<NetworkInterfaceInfo> before = monitor.interfaces();

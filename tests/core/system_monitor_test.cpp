@@ -116,6 +116,46 @@ TEST_F(SystemMonitorTest, TheTimerRunsOneCycleEachTime) {
     EXPECT_EQ(monitor.updateCycleCount(), 2);
 }
 
+/// A machine that also has a clock that nobody sets. In every three seconds its disk reads 3000 bytes, its
+/// interface receives as many, and its only process keeps one core busy.
+class SteadyClockTest : public ::testing::Test {
+protected:
+    void sampleAfter(std::uint64_t threeSeconds) {
+        machine.disk->counters = std::vector<DiskCounters>{{.bytesRead = 3000 * threeSeconds}};
+        machine.network->entries =
+            std::vector<InterfaceEntry>{{.name = "eth0", .isUp = true, .bytesIn = 3000 * threeSeconds}};
+        machine.process->processes = std::vector<ProcessRecord>{
+            {.pid = 1, .name = "busy", .userNanoseconds = 3'000'000'000 * threeSeconds}};
+        monitor.updateCycle();
+    }
+
+    QTemporaryDir directory;
+    SettingsStore settings{directory.filePath(QStringLiteral("settings.conf"))};
+    FakeMachine machine;
+    FakeClock steady;
+    SystemMonitor monitor{[this] {
+                              MachineSources sources = machine.sources();
+                              sources.steadyNow = steady.reader();
+                              return sources;
+                          }(),
+                          settings};
+};
+
+TEST_F(SteadyClockTest, SpeedsAreRightWhileTheWallClockIsSetForwardAndBack) {
+    constexpr std::chrono::duration<double> tenYears(3600.0 * 24 * 3650);
+    std::uint64_t passed = 1;
+    sampleAfter(passed);
+    for (const std::chrono::duration<double> setBy :
+         {tenYears, -tenYears, std::chrono::duration<double>(-2.999)}) {
+        steady.advance(std::chrono::seconds(3));
+        machine.clock.advance(std::chrono::seconds(3) + setBy);
+        sampleAfter(++passed);
+        EXPECT_DOUBLE_EQ(monitor.disk().diskIO().readSpeed, 1000) << "set by " << setBy.count() << " s";
+        EXPECT_DOUBLE_EQ(monitor.network().totalDownloadSpeed(), 1000) << "set by " << setBy.count() << " s";
+    }
+    EXPECT_DOUBLE_EQ(monitor.process().topCPUProcesses().front().cpuUsage, 100);
+}
+
 TEST_F(SystemMonitorTest, ACycleOffTheMainThreadStopsTheProcess) {
     EXPECT_DEATH(std::thread([this] { monitor.updateCycle(); }).join(), "main thread");
 }

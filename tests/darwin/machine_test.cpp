@@ -17,6 +17,7 @@ class DarwinMachineTest : public DarwinTest {};
 
 TEST_F(DarwinMachineTest, TheHostAnswersEveryQuestion) {
     EXPECT_TRUE(host().now);
+    EXPECT_TRUE(host().steadyNow);
     EXPECT_TRUE(host().processor->readTicks());
     EXPECT_TRUE(host().memory->read());
     EXPECT_TRUE(host().disk->readVolumes());

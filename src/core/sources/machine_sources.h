@@ -17,6 +17,9 @@ namespace orvelle {
 /// machine is made.
 struct MachineSources {
     WallClock now;
+    /// A clock that nobody sets, for the time between two samples. It goes on while the machine sleeps, as
+    /// `now` does. Empty where there is none: `now` then serves for both.
+    WallClock steadyNow = nullptr;
     std::unique_ptr<ProcessorSource> processor = nullptr;
     std::unique_ptr<MemorySource> memory = nullptr;
     std::unique_ptr<DiskSource> disk = nullptr;

@@ -55,6 +55,8 @@ class NoProcesses final : public ProcessSource {
 MachineSources makeHostSources() {
     MachineSources machine;
     machine.now = std::chrono::system_clock::now;
+    machine.steadyNow =
+        kernelClock(CLOCK_MONOTONIC); // on this system it counts while the machine sleeps, too
     machine.processor = std::make_unique<DarwinProcessorSource>();
     machine.memory = std::make_unique<DarwinMemorySource>();
     machine.disk = std::make_unique<DarwinDiskSource>();

@@ -51,7 +51,9 @@ MachineSources makeHostSources() {
     const std::filesystem::path root = "/";
     const ProcessTimesFrom timesFrom =
         clocksTellOfListedProcesses(root) ? ProcessTimesFrom::processClocks : ProcessTimesFrom::statFiles;
-    return makeSources(root, std::chrono::system_clock::now, timesFrom, hostUnits());
+    MachineSources sources = makeSources(root, std::chrono::system_clock::now, timesFrom, hostUnits());
+    sources.steadyNow = kernelClock(CLOCK_BOOTTIME); // counts while the machine sleeps, too
+    return sources;
 }
 
 } // namespace orvelle

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace orvelle {
 namespace {
 
@@ -55,6 +57,15 @@ TEST_F(LinuxMachineTest, ZfsAndCompressedDisksAreFoundWhereTheyExist) {
     EXPECT_EQ(reading->wiredPages, 100u);
     EXPECT_EQ(reading->purgeablePages, 50u);
     EXPECT_EQ(reading->compressorPages, 11u);
+}
+
+TEST(HostMachine, HasAClockThatNobodySets) {
+    const WallClock steady = makeHostSources().steadyNow;
+    ASSERT_TRUE(steady);
+    timespec sinceStart{};
+    ASSERT_EQ(::clock_gettime(CLOCK_BOOTTIME, &sinceStart), 0); // counts while the machine sleeps, too
+    EXPECT_NEAR(secondsBetween(WallTime{}, steady()), static_cast<double>(sinceStart.tv_sec), 60);
+    EXPECT_LE(steady(), steady());
 }
 
 TEST(HostMachine, AnswersWithPlausibleValues) {
