@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvelle {
@@ -22,9 +23,15 @@ inline constexpr qsizetype maxHistoryCount = 60;
 
 /// Appends `sample` and drops the oldest samples beyond `maximumCount`.
 inline void append(QList<double>& history, double sample, qsizetype maximumCount = maxHistoryCount) {
-    history.append(sample);
-    if (history.size() > maximumCount)
-        history.remove(0, history.size() - maximumCount);
+    if (history.size() < maximumCount) {
+        history.append(sample);
+        return;
+    }
+    // A list that drops its first element and appends one grows by the room of that element with every
+    // sample, if a view shares it. So the elements move instead.
+    std::shift_left(history.begin(), history.end(), history.size() - maximumCount + 1);
+    history.resize(maximumCount);
+    history.back() = sample;
 }
 
 } // namespace MetricHistory

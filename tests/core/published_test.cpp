@@ -20,5 +20,16 @@ TEST(MetricHistory, ShrinksALongerArrayToItsBound) {
     EXPECT_EQ(history, (QList<double>{4, 5}));
 }
 
+TEST(MetricHistory, TakesNoMoreMemoryWithTimeWhileAViewKeepsACopy) {
+    QList<double> history;
+    QList<double> copyOfAView;
+    for (int sample = 0; sample < 10'000; ++sample) {
+        copyOfAView = history;
+        MetricHistory::append(history, sample);
+    }
+    EXPECT_EQ(history.size(), 60);
+    EXPECT_LE(history.capacity(), 120);
+}
+
 } // namespace
 } // namespace orvelle
