@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds idleTime{6500};
 
 /// Fewer cycles at either end, where no costs are compared or where each cycle takes long.
 constexpr Limits shortLimits{.warmUpCycles = 500, .measuredCycles = 300};
-constexpr Limits sanitizedLimits{.warmUpCycles = 300, .measuredCycles = 100, .measurements = 1};
+constexpr Limits sanitizedLimits{.warmUpCycles = 100, .measuredCycles = 50, .measurements = 1};
 
 struct Plan {
     std::uint64_t seed = 0;
