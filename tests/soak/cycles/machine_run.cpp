@@ -17,6 +17,11 @@ constexpr std::uint64_t cyclesBetweenPictures = 100;
 constexpr int cyclesUntilAllIsKnown = 65;
 constexpr std::chrono::milliseconds timeToWriteSettings{300};
 
+void sendEvents() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
 double median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::ranges::nth_element(values, middle);
@@ -70,8 +75,7 @@ void MachineRun::changeSettings() {
     m_style = (m_style + 1) % styles.keyCount();
     m_settings.setMenuBarDisplayStyle(static_cast<MenuBarDisplayStyle>(styles.value(m_style)));
     m_monitor->restart();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
+    sendEvents();
 }
 
 Footprint MachineRun::settledFootprint() {
@@ -81,7 +85,10 @@ Footprint MachineRun::settledFootprint() {
         m_monitor->updateCycle();
         m_items->show(m_failures);
     }
-    changeSettings(); // starts the thread that writes them, which ends when it had no work for long
+    // Each of two changes starts the thread that writes them, which ends when it had no work for long.
+    m_settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::textOnly);
+    m_settings.setMenuBarDisplayStyle(MenuBarDisplayStyle::miniBars);
+    sendEvents();
     std::this_thread::sleep_for(timeToWriteSettings);
     return measureFootprint();
 }
@@ -126,6 +133,9 @@ RunResult MachineRun::run(const Limits& limits) {
 int MachineRun::wakeUpsIn(std::chrono::milliseconds time) {
     int wakeUps = 0;
     QEventLoop loop;
+    QTimer::singleShot(timeToWriteSettings, &loop,
+                       &QEventLoop::quit); // what was announced before does not count
+    loop.exec();
     QObject counter;
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &counter,
                      [&wakeUps] { ++wakeUps; });
