@@ -1,7 +1,8 @@
 # Defines how each part is built: one library target per folder, and few test programs.
 
 option(ORVELLE_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
-option(ORVELLE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(ORVELLE_SANITIZE "Build with sanitizers" OFF)
+set(ORVELLE_SANITIZERS address,undefined CACHE STRING "The sanitizers of ORVELLE_SANITIZE")
 option(ORVELLE_FAST_BUILD "Precompile headers and compile several files at once" OFF)
 option(ORVELLE_BUILD_FUZZERS "Build a fuzzer for every parser of outside text (clang only)" OFF)
 
@@ -17,8 +18,8 @@ if(ORVELLE_SANITIZE)
   # The standard library checks its callers, in the program and in the tests.
   target_compile_definitions(orvelle_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_compile_options(orvelle_build_flags INTERFACE -fno-omit-frame-pointer)
-  target_link_options(orvelle_build_flags INTERFACE -fsanitize=address,undefined)
-  set(ORVELLE_SANITIZE_OPTIONS -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_link_options(orvelle_build_flags INTERFACE -fsanitize=${ORVELLE_SANITIZERS})
+  set(ORVELLE_SANITIZE_OPTIONS -fsanitize=${ORVELLE_SANITIZERS} -fno-sanitize-recover=all)
 endif()
 if(ORVELLE_BUILD_FUZZERS)
   target_compile_options(orvelle_build_flags INTERFACE -fsanitize=fuzzer-no-link)

@@ -7,7 +7,6 @@
 #include "platform/readable_name.h"
 #include "require.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace orvelle::fuzz {
@@ -45,12 +44,6 @@ void checkPacks(const std::vector<BatteryPack>& packs, bool isOnExternalPower) {
 }
 
 } // namespace
-
-void requireShowable(std::string_view name) {
-    require(readableName(name) == name, "a name fit to be shown stays as it is");
-    require(std::ranges::none_of(name, [](char byte) { return byte == '\n' || byte == '\x1b' || byte == 0; }),
-            "a name holds no control characters");
-}
 
 void fuzzNames(std::string_view text) {
     const std::string name = readableName(text);
