@@ -13,12 +13,14 @@ namespace {
 using namespace Qt::StringLiterals;
 
 TEST(AutostartEntryTest, QuotesTheProgramSoThatItIsReadBack) {
-    for (const QString& path : {u"/usr/bin/orvelle"_s, u"/home/a b/orvelle"_s, u"/x/\"y\" $HOME `z` 100%/o"_s,
-                                u"/back\\slash/o"_s, u"/tab\there/o"_s, u"/line\nbreak/o"_s,
-                                u"/Bücher/日本/o"_s, u"/%f/%%/o"_s, u"/ends with blank /o "_s}) {
+    for (const QString& path :
+         {u"/usr/bin/orvelle"_s, u"/home/a b/orvelle"_s, u"/x/\"y\" $HOME `z` 100%/o"_s, u"/back\\slash/o"_s,
+          u"/tab\there/o"_s, u"/line\nbreak/o"_s, u"/Bücher/日本/o"_s, u"/%f/%%/o"_s,
+          u"/ends with blank /o "_s, u"/ends with two/o  "_s, u"/ends with a wide blank/o\u00A0"_s}) {
         const auto entry = parseAutostart(autostartText(path));
         ASSERT_TRUE(entry) << path.toStdString();
         EXPECT_EQ(entry->program, path) << path.toStdString();
+        EXPECT_EQ(entry->tryProgram, path) << path.toStdString();
         EXPECT_TRUE(isStartedBy(*entry, {u"GNOME"_s}));
     }
 }

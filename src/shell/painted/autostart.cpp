@@ -46,12 +46,23 @@ QString textValue(const QString& raw) {
     return value;
 }
 
-/// The raw value of the type string for a text.
+/// The raw value of the type string for a text. Blanks at its end would not be read as part of it.
 QString escapedText(QString text) {
-    return text.replace(u"\\"_s, u"\\\\"_s)
+    text.replace(u"\\"_s, u"\\\\"_s)
         .replace(u"\n"_s, u"\\n"_s)
         .replace(u"\t"_s, u"\\t"_s)
         .replace(u"\r"_s, u"\\r"_s);
+    return text.endsWith(u' ') ? text.chopped(1) + u"\\s"_s : text;
+}
+
+/// Without the blanks at both ends. Other white space of Unicode belongs to a value.
+QStringView withoutBlanks(QStringView text) {
+    const auto isBlank = [](QChar character) { return QStringView(u" \t\r").contains(character); };
+    while (!text.isEmpty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
 }
 
 bool isTrue(const QString& raw) {
@@ -66,16 +77,16 @@ QStringList listValue(const QString& raw) {
 std::optional<QHash<QString, QString>> desktopEntryGroup(const QString& text) {
     std::optional<QHash<QString, QString>> values;
     for (const QStringView rawLine : QStringView(text).split(u'\n')) {
-        const QStringView line = rawLine.trimmed();
+        const QStringView line = withoutBlanks(rawLine);
         if (line.startsWith(u'[')) {
             if (values)
                 return values;
             if (line == u"[Desktop Entry]")
                 values.emplace();
         } else if (const qsizetype equals = line.indexOf(u'='); values && equals > 0 && line[0] != u'#') {
-            const QString key = line.first(equals).trimmed().toString();
+            const QString key = withoutBlanks(line.first(equals)).toString();
             if (!values->contains(key))
-                values->insert(key, line.sliced(equals + 1).trimmed().toString());
+                values->insert(key, withoutBlanks(line.sliced(equals + 1)).toString());
         }
     }
     return values;
