@@ -143,5 +143,12 @@ TEST(StrutInUnits, IsUnchangedWhenTheDesktopsSizeMakesNoSense) {
     EXPECT_EQ(strutInUnitsOf(QSize(1280, 800), QSize(0, 0), pixels), pixels);
 }
 
+TEST(StrutInUnits, TakesTheLargestSizesThatAnXServerCanName) {
+    EXPECT_EQ(strutInUnitsOf(QSize(65534, 65534), QSize(65535, 65535), TopStrut{24, 0, 65534}),
+              (TopStrut{24, 0, 65533}));
+    EXPECT_EQ(strutInUnitsOf(QSize(65534, 1), QSize(65535, 65535), TopStrut{24, 0, 65534}),
+              (TopStrut{24, 0, 65534}));
+}
+
 } // namespace
 } // namespace orvelle

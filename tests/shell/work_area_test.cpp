@@ -69,6 +69,7 @@ TEST(HeightAboveWorkArea, IsNothingWhenTheWorkAreaMakesNoSense) {
     EXPECT_EQ(heightAboveWorkArea(fullHd, {QRect(0, 32, 900, 1048)}), 0);
     EXPECT_EQ(heightAboveWorkArea(fullHd, {QRect(5000, 32, 1920, 1048)}), 0);
     EXPECT_EQ(heightAboveWorkArea(fullHd, {QRect(0, 0, 65535, 65535)}), 0);
+    EXPECT_EQ(heightAboveWorkArea(QRect(0, 200, 1, 1080), {}), 0);
 }
 
 TEST(ReservedByDocks, IsAWorkAreaThatBeginsAtADocksLowerEdge) {

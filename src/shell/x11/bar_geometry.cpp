@@ -29,8 +29,9 @@ TopStrut strutInUnitsOf(const QSize& desktop, const QSize& root, const TopStrut&
     if (desktop.isEmpty() || desktop.width() >= root.width() || desktop.height() >= root.height())
         return strut;
     // Points keep the proportions, except that each length is rounded.
-    if (std::abs(desktop.width() * root.height() - desktop.height() * root.width()) >
-        root.width() + root.height())
+    const qint64 difference =
+        qint64{desktop.width()} * root.height() - qint64{desktop.height()} * root.width();
+    if (std::abs(difference) > root.width() + root.height())
         return strut;
     const double horizontal = static_cast<double>(desktop.width()) / root.width();
     const double vertical = static_cast<double>(desktop.height()) / root.height();

@@ -41,6 +41,8 @@ int heightAboveWorkArea(const QRect& screen, const std::vector<QRect>& areas) {
         if (areaOf(shared) > areaOf(most))
             most = shared;
     }
+    if (most.isEmpty())
+        return 0;
     const int height = most.top() - screen.top();
     return most.width() >= screen.width() / 2 && height <= screen.height() / 2 ? height : 0;
 }
