@@ -104,7 +104,7 @@ QString unknownName(const QString& desktop, const StartRequest& request, const Q
 CommandLine parseCommandLine(const QStringList& arguments, const QStringList& desktopNames) {
     CommandLine result;
     Options options(desktopNames);
-    result.error = options.parse(arguments);
+    result.error = options.parse(arguments).simplified(); // it may quote what the user wrote
     if (!result.error.isEmpty())
         return result;
     if (options.asksForHelp())
@@ -113,7 +113,7 @@ CommandLine parseCommandLine(const QStringList& arguments, const QStringList& de
         result.answer = QStringLiteral("orvelle " ORVELLE_VERSION "\n");
     if (!result.answer.isEmpty())
         return result;
-    result.error = unknownName(options.desktop(), options.request(), desktopNames);
+    result.error = unknownName(options.desktop(), options.request(), desktopNames).simplified();
     if (!result.error.isEmpty())
         return result;
     result.desktop = options.desktop();

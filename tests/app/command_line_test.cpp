@@ -38,7 +38,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
 }
 
 TEST(CommandLine, RefusesWhatItDoesNotKnowInOneLine) {
-    for (const char* argument : {"--loud", "-x", "now", "--desktop", "--open", "--settings=now"}) {
+    for (const char* argument : {"--loud", "-x", "now", "--desktop", "--open", "--settings=now", "--a\nb",
+                                 "--open=a\nb", "--desktop=a\r\nb", "a\nb"}) {
         const QString error = parsed({QString::fromLatin1(argument)}).error;
         EXPECT_FALSE(error.isEmpty()) << argument;
         EXPECT_FALSE(error.contains(u'\n')) << argument;
