@@ -75,6 +75,7 @@ TEST_F(LinuxTexts, AProcessReadsAsBeforeUnderItsNewName) {
     EXPECT_EQ(after, before);
     EXPECT_EQ(rewritten.find("9485896"), std::string::npos); // an address in the process's memory
     EXPECT_FALSE(processStatText("4301 (secret", 4301, "process-1"));
+    EXPECT_FALSE(processStatText("1 (a) \xD3 0 0 0 0 -1 0 0 0 0 0 6 7 0 0 20 0 2 0 1000 0 5 0\n", 1, "a"));
 }
 
 TEST_F(LinuxTexts, OfAnInterfacesEventOnlyTheTypeIsTold) {

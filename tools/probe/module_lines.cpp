@@ -167,8 +167,8 @@ QString pangoEscaped(const QString& text) {
     QString showable;
     for (const char32_t character : text.toUcs4()) {
         const bool isControl = QChar::category(character) == QChar::Other_Control;
-        showable +=
-            QString::fromUcs4(isControl || QChar::isNonCharacter(character) ? U"\ufffd" : &character, 1);
+        const bool isShowable = !isControl && !QChar::isNonCharacter(character);
+        showable += QChar::fromUcs4(isShowable ? character : char32_t{QChar::ReplacementCharacter});
     }
     return showable.toHtmlEscaped().replace(QLatin1Char('\''), QLatin1String("&#39;"));
 }

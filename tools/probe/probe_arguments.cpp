@@ -187,6 +187,8 @@ ProbeRequest parseProbeArguments(const QStringList& commandLine) {
         return samplingPlan(parser, options);
     if (chosen == &options.modules)
         return ModuleListing();
+    if (chosen == &options.report && !others.isEmpty() && others.first().isEmpty())
+        return usageError(QStringLiteral("--report takes the name of a file"));
     if (chosen == &options.report)
         return ReportPlan{.roots = parser.values(options.root),
                           .file = others.isEmpty() ? QStringLiteral("orvelle-report.json") : others.first()};

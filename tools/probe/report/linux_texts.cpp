@@ -147,7 +147,7 @@ std::string fstabText(std::string_view text, Pseudonyms& pseudonyms) {
 
 std::optional<std::string> processStatText(std::string_view text, std::int32_t pid, std::string_view name) {
     const std::optional<ProcessStat> stat = parseProcessStat(text);
-    if (!stat)
+    if (!stat || !isPlainWord({&stat->state, 1}))
         return std::nullopt;
     return fmt::format("{} ({}) {} 0 0 0 0 -1 {} 0 0 0 0 {} {} 0 0 20 0 {} 0 {} 0 {} 0\n", pid, name,
                        stat->state, stat->flags, stat->userTicks, stat->systemTicks, stat->threadCount,

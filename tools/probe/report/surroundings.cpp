@@ -34,14 +34,17 @@ QJsonValue settingValue(const QMetaProperty& property, const QVariant& value) {
         return QString::fromLatin1(property.enumerator().valueToKey(value.toInt()));
     if (value.typeId() != QMetaType::QString)
         return QJsonValue::fromVariant(value);
-    static const QRegularExpression harmless(QStringLiteral("^(#[0-9A-Fa-f]{6}|[A-Za-z]{0,24})$"));
+    static const QRegularExpression harmless(
+        QRegularExpression::anchoredPattern(QStringLiteral("#[0-9A-Fa-f]{6}|[A-Za-z]{0,24}")));
     return harmless.match(value.toString()).hasMatch() ? value.toString() : anotherText;
 }
 
 } // namespace
 
 QString harmlessWord(const QString& text) {
-    static const QRegularExpression harmless(QStringLiteral("^[A-Za-z0-9.:;_+~-]{0,64}$"));
+    // A dollar sign would also match before a line feed at the end.
+    static const QRegularExpression harmless(
+        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9.:;_+~-]{0,64}")));
     return harmless.match(text).hasMatch() ? text : anotherText;
 }
 
