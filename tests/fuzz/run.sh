@@ -52,7 +52,7 @@ fuzz() {
   esac
   mkdir -p "$texts"
   nice -n 19 "build/$preset/bin/orvelle-fuzz-$parser" -max_total_time="$ORVELLE_FUZZ_SLICE" -print_final_stats=1 \
-    -timeout=30 -rss_limit_mb=1024 "${lengths[@]}" -artifact_prefix="$state/findings/$parser-" -verbosity=0 \
+    -timeout=30 -rss_limit_mb=1024 "${lengths[@]}" -artifact_prefix="$state/findings/$parser-" -verbosity=0 -print_funcs=0 \
     "$texts" "tests/fuzz/corpus/$parser" >"$state/last.log" 2>&1 9>&- &
   child=$!
   wait "$child" || result=$?
