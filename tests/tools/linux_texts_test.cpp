@@ -31,7 +31,8 @@ TEST_F(LinuxTexts, DisksKeepTheirCounters) {
 
 TEST_F(LinuxTexts, InterfacesKeepTheirCounters) {
     const std::string text = netDevText(
-        "Inter-| secret\n face |secret\n  eth0: 1 2 3\nwg-secret: 4 5\n eth1: secret\n", pseudonyms);
+        "Inter-| secret\n face |secret\n  eth0: 1 2 3\nwg-secret: 4 5\n eth1: secret\n: 6 7\n a/b: 8\n",
+        pseudonyms);
     EXPECT_EQ(text.substr(text.find("compressed\n") + 11), "  eth0: 1 2 3\n  wg-1: 4 5\n");
 }
 

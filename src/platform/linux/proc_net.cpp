@@ -12,11 +12,6 @@ namespace {
 /// Numbers between the received and the sent bytes: packets, errs, drop, fifo, frame, compressed, multicast.
 constexpr int numbersBetween = 7;
 
-/// A name is that of a directory in sysfs.
-bool isPossibleName(std::string_view name) {
-    return isEntryName(name) && name.find('/') == std::string_view::npos;
-}
-
 struct Route {
     std::string_view interfaceName;
     std::uint32_t destination = 0;
@@ -52,6 +47,10 @@ bool isUsableDefault(const Route& route) {
 
 } // namespace
 
+bool isInterfaceName(std::string_view name) {
+    return isEntryName(name) && name.find('/') == std::string_view::npos;
+}
+
 std::vector<InterfaceCounters> parseNetDev(std::string_view text) {
     std::vector<InterfaceCounters> interfaces;
     SaturatingSum budgetIn;
@@ -68,7 +67,7 @@ std::vector<InterfaceCounters> parseNetDev(std::string_view text) {
         for (int skipped = 0; skipped < numbersBetween; ++skipped)
             takeWord(line);
         const auto bytesOut = takeNumber<std::uint64_t>(line);
-        if (bytesIn && bytesOut && isPossibleName(name))
+        if (bytesIn && bytesOut && isInterfaceName(name))
             interfaces.push_back({name, budgetIn.take(*bytesIn), budgetOut.take(*bytesOut)});
     }
     return interfaces;

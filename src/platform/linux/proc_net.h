@@ -8,6 +8,9 @@
 
 namespace orvelle::linux_platform {
 
+/// Whether an interface can have the name: it is that of a directory in sysfs too.
+[[nodiscard]] bool isInterfaceName(std::string_view name);
+
 /// One line of `/proc/net/dev`. The name points into the text that was parsed.
 struct InterfaceCounters {
     std::string_view name;

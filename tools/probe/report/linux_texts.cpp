@@ -1,5 +1,6 @@
 #include "probe/report/linux_texts.h"
 
+#include "platform/linux/files.h"
 #include "platform/linux/proc_net.h"
 #include "platform/linux/process_files.h"
 #include "platform/linux/text.h"
@@ -65,7 +66,7 @@ std::string diskstatsText(std::string_view text, Pseudonyms& pseudonyms) {
         const std::string_view major = takeWord(line);
         const std::string_view minor = takeWord(line);
         const std::string_view name = takeWord(line);
-        if (!isDigits(major) || !isDigits(minor) || name.empty() || !isNumbers(line))
+        if (!isDigits(major) || !isDigits(minor) || !isEntryName(name) || !isNumbers(line))
             return std::nullopt;
         return fmt::format("{:>4} {:>7} {}{}", major, minor, pseudonyms.device(name), line);
     });
@@ -80,10 +81,11 @@ std::string netDevText(std::string_view text, Pseudonyms& pseudonyms) {
     return std::string(heading) +
            rewrittenLines(text, [&](std::string_view line) -> std::optional<std::string> {
                const std::size_t colon = line.rfind(':');
-               if (colon == std::string_view::npos || !isNumbers(line.substr(colon + 1)))
+               const std::string_view name = trimmed(line.substr(0, colon));
+               if (colon == std::string_view::npos || !isInterfaceName(name) ||
+                   !isNumbers(line.substr(colon + 1)))
                    return std::nullopt;
-               return fmt::format("{:>6}:{}", pseudonyms.interface(trimmed(line.substr(0, colon))),
-                                  line.substr(colon + 1));
+               return fmt::format("{:>6}:{}", pseudonyms.interface(name), line.substr(colon + 1));
            });
 }
 
