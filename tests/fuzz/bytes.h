@@ -3,8 +3,8 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -24,7 +24,7 @@ public:
     Number number() {
         Number value{};
         const std::size_t size = std::min(sizeof value, m_rest.size());
-        std::memcpy(&value, m_rest.data(), size);
+        std::copy_n(m_rest.begin(), size, reinterpret_cast<char*>(&value));
         m_rest.remove_prefix(size);
         return value;
     }

@@ -130,7 +130,8 @@ private:
     static void damageQuietly(const fs::path& root, Dice& dice) {
         try {
             damageTree(root, dice);
-        } catch (const fs::filesystem_error&) { // a folder has gone while it was listed
+        } catch (const fs::filesystem_error&) {
+            std::this_thread::yield(); // a folder has gone while it was listed
         }
     }
 
