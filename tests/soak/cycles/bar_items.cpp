@@ -1,4 +1,5 @@
 #include "bar_items.h"
+#include "core/system_monitor.h"
 
 #include <QImage>
 
@@ -44,7 +45,7 @@ void BarItems::show(Failures& failures) {
             if (scene.accessibleText.contains(QLatin1String(absurd)))
                 failures.add("an item says " + scene.accessibleText.toStdString());
         }
-        m_presenters[index]->show(scene);
+        m_presenters[index]->show(scene, m_context.monitor.cpu().totalUsage());
     }
     for (int step = 0; step < 3; ++step) {
         m_clock.seconds += 1;
