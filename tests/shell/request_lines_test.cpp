@@ -8,13 +8,13 @@ namespace {
 using Requests = std::vector<StartRequest>;
 
 const StartRequest again;
-const StartRequest settings{StartRequest::Kind::openSettings, {}};
+const StartRequest settingsRequest{StartRequest::Kind::openSettings, {}};
 const StartRequest quit{StartRequest::Kind::quit, {}};
 const StartRequest cpu{StartRequest::Kind::openPanel, QStringLiteral("cpu")};
 
 TEST(RequestLines, AreReadOneByOne) {
     RequestLines lines;
-    EXPECT_EQ(lines.take("settings\n"), Requests{settings});
+    EXPECT_EQ(lines.take("settings\n"), Requests{settingsRequest});
     EXPECT_EQ(lines.take("open cpu\nquit\n\n"), (Requests{cpu, quit, again}));
     EXPECT_EQ(lines.take(""), Requests());
 }
@@ -23,7 +23,7 @@ TEST(RequestLines, WaitForTheEndOfALine) {
     RequestLines lines;
     EXPECT_EQ(lines.take("open cpu\nset"), Requests{cpu});
     EXPECT_EQ(lines.take("tin"), Requests());
-    EXPECT_EQ(lines.take("gs\n"), Requests{settings});
+    EXPECT_EQ(lines.take("gs\n"), Requests{settingsRequest});
 }
 
 TEST(RequestLines, GoOnAfterALineThatWasCutOff) {
@@ -53,9 +53,10 @@ TEST(RequestLines, TakeGarbageForOneMoreStart) {
 
 TEST(RequestLines, AskOnceForWhatAFloodAsksFor) {
     RequestLines lines;
-    EXPECT_EQ(lines.take(QByteArray("settings\n").repeated(10'000)), Requests{settings});
+    EXPECT_EQ(lines.take(QByteArray("settings\n").repeated(10'000)), Requests{settingsRequest});
     EXPECT_EQ(lines.take(QByteArray(60'000, '\n')), Requests{again});
-    EXPECT_EQ(lines.take("settings\nsettings\nopen cpu\nsettings\n"), (Requests{settings, cpu, settings}));
+    EXPECT_EQ(lines.take("settings\nsettings\nopen cpu\nsettings\n"),
+              (Requests{settingsRequest, cpu, settingsRequest}));
 }
 
 } // namespace
