@@ -103,7 +103,7 @@ QList<QRectF> coreBarSlots(qsizetype coreCount, const QSizeF& frame) {
 }
 
 const TextExtent& textExtent(const TextShape& text) {
-    constexpr qsizetype mostRemembered = 64;
+    constexpr qsizetype mostRemembered = 256; // all percentages, and some rates
     static QHash<std::pair<QString, QFont>, TextExtent> remembered;
     const std::pair key(text.text, text.font);
     auto found = remembered.find(key);

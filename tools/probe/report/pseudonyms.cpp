@@ -110,7 +110,8 @@ std::string Pseudonyms::place(std::string_view name) {
     const bool isDots = shown == "." || shown == "..";
     if (shown.empty() || isDots || std::ranges::find(commonPlaces, shown) != commonPlaces.end())
         return shown;
-    std::string pseudonym = "n" + m_places.of(shown);
+    std::string pseudonym("n");
+    pseudonym += m_places.of(shown);
     pseudonym.append(std::max(std::min(shown.size(), longestPlace), pseudonym.size()) - pseudonym.size(),
                      'x');
     return pseudonym;
