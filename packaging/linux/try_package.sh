@@ -15,7 +15,7 @@ echo "ok: apt installs it and what it depends on"
 
 home=$(mktemp -d)
 as_user=(env -i HOME="$home" XDG_RUNTIME_DIR="$home" PATH="$PATH" LC_ALL=C.UTF-8 QT_FORCE_STDERR_LOGGING=1
-  QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=orvelle.start.debug=true)
+  QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=orvelle.start.debug=true;orvelle.open.debug=true")
 mkdir -p "$home/.config/orvelle"
 printf '[General]\nshowDisk=true\n' >"$home/.config/orvelle/orvelle.conf"
 check "the version is told" [ "$("${as_user[@]}" orvelle --version)" = "orvelle $(dpkg-deb -f "$package" Version | sed 's/-.*//')" ]
@@ -29,12 +29,15 @@ start() {
   log=$(mktemp -p "$home")
   "${as_user[@]}" orvelle "$@" 2>"$log" &
   program=$!
-  for _ in $(seq 100); do ! grep -q "first bar painted" "$log" || return 0; sleep 0.1; done
-  fail "the program starts: $(cat "$log")"
+  await_message "the program starts" "first bar painted"
+}
+# await_message WHAT MESSAGE
+await_message() {
+  for _ in $(seq 100); do ! grep -q "$2" "$log" || { echo "ok: $1"; return; }; sleep 0.1; done
+  fail "$1: $(cat "$log")"
 }
 start --settings
-sleep 2
-check "its settings open" [ "$(grep -c "cannot open" "$log")" -eq 0 ]
+await_message "its settings open" "settings window was painted"
 check "no font of its own is missing" [ -z "$(grep -i "font" "$log")" ]
 
 # A newer version lies in the same place, and the program that runs goes on until it ends.
