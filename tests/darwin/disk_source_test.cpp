@@ -99,7 +99,8 @@ TEST_F(DarwinDiskSourceTest, WithoutPurgeableSpaceWhatIsAvailableIsFree) {
                          {.path = "/b", .values = exFAT},
                          {.path = "/c", .values = odd},
                          {.path = "/d", .values = less}};
-    for (const MountedVolume& volume : readVolumes().value())
+    const std::vector<MountedVolume> volumes = readVolumes().value();
+    for (const MountedVolume& volume : volumes)
         EXPECT_EQ(volume.freeBytes, 300) << volume.path;
 }
 
