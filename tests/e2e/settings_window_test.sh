@@ -87,6 +87,7 @@ testMovingByBackground() {
     drag 200 92
     waitUntil "a drag on a switch switches it" grep -q '=true' "$settingsFile"
     expectEqual "and does not move the window" "$before" "$(place)"
+    waitUntil "the bar comes" isShown Orvelle
     storeVisibility false
     waitUntil "the bar goes again" isHidden Orvelle
     xdotool key Escape
