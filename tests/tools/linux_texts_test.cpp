@@ -59,7 +59,8 @@ TEST_F(LinuxTexts, MountsKeepTheirShape) {
 }
 
 TEST_F(LinuxTexts, OfFstabOnlyHiddenMountsAreTold) {
-    EXPECT_EQ(fstabText("# secret\nUUID=secret /home ext4 defaults 0 2\nLABEL=secret /mnt/secret\\040x auto "
+    EXPECT_EQ(fstabText("# secret\n#LABEL=secret /mnt/secret auto x-gvfs-hide 0 0\nUUID=secret /home ext4 "
+                        "defaults 0 2\nLABEL=secret /mnt/secret\\040x auto "
                         "nofail,x-gvfs-hide 0 0\n",
                         pseudonyms),
               "none /mnt/n1xxxxxx auto x-gvfs-hide 0 0\n");

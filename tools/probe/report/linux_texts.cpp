@@ -138,6 +138,8 @@ std::string mountinfoText(const std::vector<Mount>& mounts, Pseudonyms& pseudony
 std::string fstabText(std::string_view text, Pseudonyms& pseudonyms) {
     return rewrittenLines(text, [&](std::string_view line) -> std::optional<std::string> {
         line = trimmed(line);
+        if (line.starts_with('#'))
+            return std::nullopt;
         takeWord(line); // the device
         const std::string path = withoutOctalEscapes(takeWord(line));
         takeWord(line); // the file system
