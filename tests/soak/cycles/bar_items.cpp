@@ -1,4 +1,5 @@
 #include "bar_items.h"
+
 #include "core/system_monitor.h"
 
 #include <QImage>
