@@ -4,19 +4,14 @@
 # other processes keep its processors busy by turns. Takes about four minutes and prints a Markdown table.
 set -euo pipefail
 orvelle=$1
-source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
-source "$(dirname "$(readlink -f "$0")")/../scripts/modules.sh"
-settings=$(mktemp -d)
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_STATE_HOME=$settings
-log=$settings/log started=()
+source "$(dirname "$(readlink -f "$0")")/on_virtual_display.sh"
+started=()
 finish() {
   local process
   for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; wait "$process" 2>/dev/null || true; done
   rm -rf "$settings"
 }
 trap finish EXIT
-source "$(dirname "$(readlink -f "$0")")/running_program.sh"
 read_modules "$orvelle"
 
 # start_display: starts a server with a window manager. They are ended with everything else.
@@ -85,8 +80,7 @@ add_cost_rows() {
 
 start_display
 own_display=$x_server_process
-mkdir -p "$settings/orvelle"
-printf '%s\n' '[General]' "${module_settings[@]/%/=true}" >"$settings/orvelle/orvelle.conf"
+write_settings "${module_settings[@]/%/=true}"
 "$orvelle" 2>"$log" &
 program=$!
 started=("$program" "${started[@]}")

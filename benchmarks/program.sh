@@ -4,11 +4,8 @@
 # Prints a Markdown table.
 set -euo pipefail
 orvelle=$1
-source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
-settings=$(mktemp -d)
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_RUNTIME_DIR=$settings XDG_STATE_HOME=$settings
-program="" log=$settings/log
+source "$(dirname "$(readlink -f "$0")")/on_virtual_display.sh"
+program=""
 finish() {
   [ -z "$program" ] || end_program
   stop_virtual_display
@@ -16,12 +13,10 @@ finish() {
 }
 trap finish EXIT
 
-source "$(dirname "$(readlink -f "$0")")/running_program.sh"
-
 start_program() {
   local begin
   begin=$(milliseconds)
-  XDG_CONFIG_HOME=$settings "$orvelle" 2>"$log" &
+  "$orvelle" 2>"$log" &
   program=$!
   await_first_bar "$begin"
 }

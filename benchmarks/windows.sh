@@ -4,12 +4,8 @@
 # Markdown table.
 set -euo pipefail
 orvelle=$1
-source "$(dirname "$(readlink -f "$0")")/../scripts/virtual_display.sh"
-source "$(dirname "$(readlink -f "$0")")/../scripts/modules.sh"
-settings=$(mktemp -d)
-unset "${!QT_@}" WAYLAND_DISPLAY
-export XDG_RUNTIME_DIR=$settings XDG_CONFIG_HOME=$settings XDG_STATE_HOME=$settings
-program="" log=$settings/log
+source "$(dirname "$(readlink -f "$0")")/on_virtual_display.sh"
+program=""
 finish() {
   [ -z "$program" ] || { kill "$program" 2>/dev/null || true; wait "$program" 2>/dev/null || true; }
   stop_virtual_display
@@ -17,7 +13,6 @@ finish() {
 }
 trap finish EXIT
 
-source "$(dirname "$(readlink -f "$0")")/running_program.sh"
 export QT_MESSAGE_PATTERN="%{time process} %{message}" # the seconds since its start
 read_modules "$orvelle"
 # click_item NUMBER [BUTTON]: from the left, while all are shown.
@@ -26,8 +21,7 @@ press_escape() { xdotool key Escape; }
 
 # start_program SETTING...
 start_program() {
-  mkdir -p "$settings/orvelle"
-  printf '%s\n' '[General]' "$@" >"$settings/orvelle/orvelle.conf"
+  write_settings "$@"
   "$orvelle" 2>"$log" &
   program=$!
   wait_until 20 grep -q 'first bar painted' "$log"

@@ -15,13 +15,10 @@ settingsFile=$XDG_CONFIG_HOME/orvelle/orvelle.conf
 autostartFile=$XDG_CONFIG_HOME/autostart/orvelle.desktop
 read_modules "$orvelle" || exit 1
 
-# ask ARGUMENT...: starts the program again, with a wish.
-ask() { startAgain "$orvelle" "$@" 2>/dev/null; }
-
 usePanels() {
     local index
     for index in "${!module_keys[@]}"; do
-        ask --open "${module_keys[index]}"
+        ask 0 "" --open "${module_keys[index]}"
         waitUntil "the ${module_titles[index]} panel opens" isShown "Orvelle ${module_titles[index]}"
     done
     xdotool key Escape
@@ -36,7 +33,7 @@ useMenu() {
 }
 
 useSettings() {
-    ask --settings
+    ask 0 "" --settings
     waitUntil "the settings open" isShown "Orvelle Settings"
     xdotool key Tab Tab space
     waitUntil "a switch is stored" grep -q '^showMemory=false' "$settingsFile"
@@ -56,10 +53,10 @@ tour() {
     usePanels
     useMenu
     useSettings
-    ask
+    ask 0 "Orvelle is already running on this desktop."
     storeVisibility false
     waitUntil "the bar goes with the last item" isHidden Orvelle
-    ask --quit
+    ask 0 "" --quit
     expectEnd "the program ends" 0
     expectAllowedCalls "$1"
 }
@@ -95,7 +92,7 @@ runtimeFolder=$XDG_RUNTIME_DIR
 unset XDG_RUNTIME_DIR
 launchTraced "$log" "$orvelle" --open cpu
 waitUntil "a panel opens without a runtime folder" isShown "Orvelle CPU"
-ask --quit
+startAgain "$orvelle" --quit
 expectEnd "the program ends" 0
 expectAllowedCalls "a program without a runtime folder"
 export XDG_RUNTIME_DIR=$runtimeFolder

@@ -31,11 +31,11 @@ inline std::string_view takeLine(std::string_view& text) {
 inline std::string_view takeWord(std::string_view& line) {
     // By hand: find_first_of calls a function for each character, and words are most of what a sample reads.
     const auto isBlank = [](char character) { return character == ' ' || character == '\t'; };
-    const char* const end = line.data() + line.size();
-    const char* const start = std::find_if_not(line.data(), end, isBlank);
-    const char* const stop = std::find_if(start, end, isBlank);
-    line = {stop, static_cast<std::size_t>(end - stop)};
-    return {start, static_cast<std::size_t>(stop - start)};
+    const auto start = std::find_if_not(line.begin(), line.end(), isBlank);
+    const auto stop = std::find_if(start, line.end(), isBlank);
+    const std::string_view word(start, stop);
+    line = {stop, line.end()};
+    return word;
 }
 
 /// `text` without blanks, tabs and line ends at either end.

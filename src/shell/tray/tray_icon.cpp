@@ -14,7 +14,7 @@ TrayIcon::TrayIcon(const QString& id, std::function<std::optional<TrayContent>()
     , m_item(*new StatusNotifierItem(m_itemObject, id, std::move(actions)))
     , m_menu(*new TrayMenu(m_menuObject)) {
     publish(); // before there is a connection, so that nothing of it is announced as new
-    m_connection.emplace(m_itemObject, m_menuObject, std::move(bus));
+    m_connection = std::make_unique<TrayConnection>(m_itemObject, m_menuObject, std::move(bus));
 }
 
 void TrayIcon::update() {

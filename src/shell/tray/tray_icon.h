@@ -5,6 +5,7 @@
 #include "shell/tray/tray_connection.h"
 #include "shell/tray/tray_menu.h"
 
+#include <memory>
 #include <optional>
 
 namespace orvelle {
@@ -27,7 +28,7 @@ public:
     void setMenu(std::vector<MenuEntry> entries) { m_menu.setEntries(std::move(entries)); }
 
     /// Its name on the bus.
-    [[nodiscard]] const QString& serviceName() const { return m_connection.value().serviceName(); }
+    [[nodiscard]] const QString& serviceName() const { return m_connection->serviceName(); }
 
 private:
     void publish();
@@ -39,9 +40,9 @@ private:
     Animation m_wait;           ///< runs until the next update may come
     QObject m_itemObject;
     TrayMenuObject m_menuObject;
-    StatusNotifierItem& m_item;                 ///< owned by `m_itemObject`
-    TrayMenu& m_menu;                           ///< owned by `m_menuObject`
-    std::optional<TrayConnection> m_connection; ///< always there after construction
+    StatusNotifierItem& m_item;                   ///< owned by `m_itemObject`
+    TrayMenu& m_menu;                             ///< owned by `m_menuObject`
+    std::unique_ptr<TrayConnection> m_connection; ///< always there after construction
 };
 
 } // namespace orvelle
