@@ -1,6 +1,6 @@
 #include "counted_text.h"
 
-#include "counter.h"
+#include "common/counter.h"
 #include "platform/linux/text.h"
 
 #include <algorithm>

@@ -1,8 +1,6 @@
 #include "machine_run.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QMetaEnum>
 
 #include <algorithm>
@@ -128,20 +126,6 @@ RunResult MachineRun::run(const Limits& limits) {
     result.seconds = std::chrono::duration<double>(Clock::now() - start).count();
     result.failures = m_failures.all();
     return result;
-}
-
-int MachineRun::wakeUpsIn(std::chrono::milliseconds time) {
-    int wakeUps = 0;
-    QEventLoop loop;
-    QTimer::singleShot(timeToWriteSettings, &loop,
-                       &QEventLoop::quit); // what was announced before does not count
-    loop.exec();
-    QObject counter;
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &counter,
-                     [&wakeUps] { ++wakeUps; });
-    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-    return wakeUps;
 }
 
 } // namespace orvelle::soak

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "bar_items.h"
-#include "footprint.h"
-#include "machine.h"
+#include "common/footprint.h"
+#include "common/machine.h"
 #include "settings/settings_store.h"
 #include "speed_check.h"
 #include "theme/theme_manager.h"
@@ -46,8 +46,6 @@ public:
 
     /// Ends at the first broken promise.
     [[nodiscard]] RunResult run(const Limits& limits);
-    /// How often the event loop wakes in `time` while nothing happens but the sampling.
-    [[nodiscard]] int wakeUpsIn(std::chrono::milliseconds time);
 
 private:
     void check();

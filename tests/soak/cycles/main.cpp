@@ -1,8 +1,8 @@
 // Runs update cycles on scripted and recorded machines whose parts come and go, checks each of them, and
 // compares the process after the warm-up with the process at the end. Prints a row for each machine.
 
+#include "common/scripted_machine.h"
 #include "machine_run.h"
-#include "scripted_machine.h"
 #include "tree_machine.h"
 
 #include <QCommandLineParser>
@@ -14,19 +14,7 @@
 namespace orvelle::soak {
 namespace {
 
-// Sanitizers keep freed memory for a while and take time as they like.
-#ifdef ORVELLE_SANITIZED
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
-
-constexpr std::size_t mostResidentGrowth = isSanitized ? 200'000 : 2048; // kilobytes
-/// Bytes. The caches of symbols and texts fill up slowly. A byte in every cycle would be more.
-constexpr std::size_t mostHeapGrowth = 512 * 1024;
 constexpr double mostCostGrowth = 1.3;
-/// Threads that write the settings, each with a descriptor. They come and go, later where the disk is slow.
-constexpr std::size_t mostWriters = 3;
 constexpr std::chrono::milliseconds idleTime{6500};
 
 /// Fewer cycles at either end, where no costs are compared or where each cycle takes long.
@@ -64,26 +52,12 @@ std::vector<PlannedMachine> machinesOf(const std::filesystem::path& recordings) 
 
 /// What has grown, in words.
 std::vector<std::string> growthOf(const Measurement& first, const Measurement& last) {
-    std::vector<std::string> growth;
-    const auto compare = [&growth](const char* what, double before, double after, double most) {
-        if (after > most)
-            growth.push_back(fmt::format("{} grew from {:.1f} to {:.1f}", what, before, after));
-    };
-    const auto number = [](std::size_t value) { return static_cast<double>(value); };
-    const Footprint& before = first.footprint;
-    const Footprint& after = last.footprint;
-    compare("resident memory (kB)", number(before.residentKilobytes), number(after.residentKilobytes),
-            number(before.residentKilobytes + mostResidentGrowth));
-    compare("descriptors", number(before.descriptors), number(after.descriptors),
-            number(before.descriptors + mostWriters));
-    compare("threads", number(before.threads), number(after.threads), number(before.threads + mostWriters));
-    compare("timers", number(first.timers), number(last.timers), 1);
-    if constexpr (!isSanitized) {
-        compare("heap (bytes)", number(before.heapBytes), number(after.heapBytes),
-                number(before.heapBytes + mostHeapGrowth));
-        compare("cost of a cycle (us)", first.microsecondsPerCycle, last.microsecondsPerCycle,
-                first.microsecondsPerCycle * mostCostGrowth);
-    }
+    std::vector<std::string> growth = growthBetween(first.footprint, last.footprint);
+    if (last.timers > 1)
+        growth.push_back(fmt::format("{} timers", last.timers));
+    if (!isSanitized && last.microsecondsPerCycle > first.microsecondsPerCycle * mostCostGrowth)
+        growth.push_back(fmt::format("the cost of a cycle grew from {:.1f} to {:.1f} us",
+                                     first.microsecondsPerCycle, last.microsecondsPerCycle));
     return growth;
 }
 
@@ -107,9 +81,9 @@ bool tryMachine(const PlannedMachine& planned, const Plan& plan) {
     const std::unique_ptr<Machine> machine = planned.make();
     MachineRun run(*machine, plan.seed);
     const bool countsWakeUps = !isSanitized && planned.name == "scripted";
-    const int firstWakeUps = countsWakeUps ? run.wakeUpsIn(idleTime) : 0;
+    const int firstWakeUps = countsWakeUps ? wakeUpsIn(idleTime) : 0;
     RunResult result = run.run(limits);
-    const int lastWakeUps = countsWakeUps ? run.wakeUpsIn(idleTime) : 0;
+    const int lastWakeUps = countsWakeUps ? wakeUpsIn(idleTime) : 0;
     if (countsWakeUps)
         std::fputs(fmt::format("wake-ups in {} ms: {} at first, {} at the end\n", idleTime.count(),
                                firstWakeUps, lastWakeUps)

@@ -1,6 +1,6 @@
 #include "tree_machine.h"
 
-#include "counter.h"
+#include "common/counter.h"
 #include "platform/host.h"
 
 #include <algorithm>

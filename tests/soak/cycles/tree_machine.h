@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/machine.h"
 #include "counted_text.h"
-#include "machine.h"
 #include "tree_folder.h"
 
 namespace orvelle::soak {

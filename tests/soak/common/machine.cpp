@@ -1,4 +1,4 @@
-#include "machine.h"
+#include "common/machine.h"
 
 #include <algorithm>
 

@@ -28,7 +28,8 @@ public:
     /// One of the elements of a container that is not empty.
     template <class Container>
     [[nodiscard]] auto& oneOf(Container& container) {
-        return container[static_cast<std::size_t>(upTo(std::size(container) - 1))];
+        const auto last = static_cast<std::uint64_t>(std::size(container)) - 1;
+        return *std::next(std::begin(container), static_cast<std::ptrdiff_t>(upTo(last)));
     }
 
     /// A name that does not come again, as container runtimes give to interfaces.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine.h"
+#include "common/machine.h"
 #include "platform/replay/fake_sources.h"
 
 namespace orvelle::soak {

@@ -1,6 +1,6 @@
-#include "scripted_machine.h"
+#include "common/scripted_machine.h"
 
-#include "counter.h"
+#include "common/counter.h"
 
 namespace orvelle::soak {
 namespace {

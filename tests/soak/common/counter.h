@@ -1,6 +1,6 @@
 #pragma once
 
-#include "random.h"
+#include "common/random.h"
 
 namespace orvelle::soak {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/random.h"
 #include "core/sources/machine_sources.h"
-#include "random.h"
 
 namespace orvelle::soak {
 
