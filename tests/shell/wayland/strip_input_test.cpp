@@ -176,6 +176,16 @@ TEST_F(StripInputTest, AFingerThatMovesAwayClicksNothing) {
     expectNoClick();
 }
 
+TEST_F(StripInputTest, AFingerThatMovesOnItsItemIsNotHeld) {
+    seat().touch(surface(), 0, middle(*memory));
+    seat().moveFinger(0, middle(*memory) + QPointF(15, 0));
+    QTest::qWait(static_cast<int>(TouchInput::holdTime.count()) + 100);
+    seat().lift(0);
+    ASSERT_TRUE(waitUntil([this] { return !clicks.isEmpty(); }));
+    settleBoth();
+    EXPECT_EQ(clicks, (Clicks{{memoryName, ClickButton::left}}));
+}
+
 TEST_F(StripInputTest, OnlyTheFirstFingerCounts) {
     seat().touch(surface(), 0, middle(*memory));
     seat().touch(surface(), 1, middle(*cpu));

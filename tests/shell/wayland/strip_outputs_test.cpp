@@ -50,6 +50,9 @@ TEST_F(StripOutputsTest, MovesWhenItsScreenGoesWithoutClosingIt) {
     const FakeOutput& second = add(QStringLiteral("HDMI-A-2"));
     start();
     ASSERT_TRUE(waitForStripOn(first));
+    // The place may be asked for at any time.
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &*strip,
+                     [this] { static_cast<void>(strip->bar().place()); });
     compositor.removeOutput(first, false);
     ASSERT_TRUE(waitForStripOn(second));
     EXPECT_EQ(compositor.layerSurfaces().size(), 1U);

@@ -1,10 +1,18 @@
 #include "shell/wayland/strip_fixture.h"
 
+#include <array>
 #include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
 #include <wayland-client.h>
 
 namespace orvelle {
 namespace {
+
+void limitSendBuffer(int socket) {
+    const int smallest = 1; // the system makes it some kilobytes
+    ASSERT_EQ(setsockopt(socket, SOL_SOCKET, SO_SNDBUF, &smallest, sizeof smallest), 0);
+}
 
 class ConnectionTest : public StripTest {
 protected:
@@ -82,9 +90,8 @@ TEST_F(ConnectionTest, WaitsForACompositorThatDoesNotRead) {
     EXPECT_TRUE(showsTheBar());
 }
 
-TEST_F(ConnectionTest, SendsTheRestWhenASocketTakesNoMore) {
-    const int smallest = 1; // the system makes it some kilobytes
-    ASSERT_EQ(setsockopt(socket, SOL_SOCKET, SO_SNDBUF, &smallest, sizeof smallest), 0);
+TEST_F(ConnectionTest, LosesNothingWhenASocketTakesNoMore) {
+    limitSendBuffer(socket);
     compositor.setStalled(true);
     std::vector<std::unique_ptr<PressCatcher>> catchers;
     for (int catcher = 0; catcher < 20; ++catcher) {
@@ -94,6 +101,39 @@ TEST_F(ConnectionTest, SendsTheRestWhenASocketTakesNoMore) {
     compositor.setStalled(false);
     EXPECT_TRUE(waitUntil([this] { return compositor.layerSurfaceCount == 21; }));
     EXPECT_TRUE(losses.isEmpty());
+}
+
+/// A program without timers sleeps until the socket wakes it.
+TEST(WaylandConnectionTest, SendsTheRestToACompositorThatReadsAgain) {
+    std::array<int, 2> sockets{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()), 0);
+    limitSendBuffer(sockets[0]);
+    std::unique_ptr<WaylandConnection> connection = WaylandConnection::overSocket(sockets[0]);
+    ssize_t requested = 0; // bytes
+    do {
+        constexpr int requests = 100;
+        constexpr int bytesOfASync = 12;
+        for (int count = 0; count < requests; ++count)
+            wl_callback_destroy(wl_display_sync(connection->display()));
+        requested += requests * bytesOfASync;
+    } while (wl_display_flush(connection->display()) >= 0);
+
+    QEventLoop loop;
+    ssize_t received = 0;
+    std::thread compositor([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50)); // until the loop sleeps
+        std::array<char, 4096> bytes{};
+        ssize_t read = 1;
+        for (; received < requested && read > 0; received += std::max<ssize_t>(read, 0))
+            read = ::read(sockets[1], bytes.data(), bytes.size());
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    QTimer::singleShot(patience, &loop, [&loop] { loop.exit(1); });
+    EXPECT_EQ(loop.exec(), 0) << "the rest is not sent";
+    connection.reset();
+    compositor.join();
+    ::close(sockets[1]);
+    EXPECT_EQ(received, requested);
 }
 
 TEST(WaylandConnectionTest, SaysWhichDisplayCannotBeReached) {
