@@ -41,6 +41,12 @@ CHANGES = [
      '#include "menu_bar/clock_menu_bar_item.h"\n#include "menu_bar/cpu_menu_bar_item.h"\n'),
     # Its panel.
     ("src/windows/panels/CMakeLists.txt", "    CPUPanelView.qml\n", "    CPUPanelView.qml\n    ClockPanelView.qml\n"),
+    # Its line for status bars and terminals.
+    ("tools/probe/module_lines.cpp", "ModuleReport reportOf(SensorMonitor& sensors",
+     "ModuleReport reportOf(ClockMonitor& clock, SystemMonitor& /*monitor*/) {\n"
+     "    const QString ticks = QString::number(clock.ticks());\n"
+     "    return {.text = QStringLiteral(\"CLK \") + ticks, .details = {QStringLiteral(\"Clock \") + ticks}};\n}\n\n"
+     "ModuleReport reportOf(SensorMonitor& sensors"),
     # Its tests.
     ("tests/menu_bar/CMakeLists.txt", "    cpu_menu_bar_item_test.cpp\n",
      "    clock_menu_bar_item_test.cpp\n    cpu_menu_bar_item_test.cpp\n"),
@@ -79,6 +85,15 @@ def said_by_probe(build, *arguments):
                           encoding="utf-8").stdout
 
 
+def line_for_status_bars(build):
+    """The first line that the probe of the build prints for them. It would print more until nobody reads."""
+    with subprocess.Popen([build / "bin" / "orvelle-probe", "--plain", "--interval", "0.1"], stdout=subprocess.PIPE,
+                          encoding="utf-8") as probe:
+        line = probe.stdout.readline()
+        probe.kill()
+    return line
+
+
 def main():
     """Adds the module and says who knows it."""
     arguments = argparse.ArgumentParser(description="Adds a seventh module to a copy of the checkout.")
@@ -93,6 +108,7 @@ def main():
     answers = [
         ("the probe lists it", "clock\t40\tshowClock\ttrue\tClock\n" in said_by_probe(checkout.build, "--modules")),
         ("the probe prints what it publishes", ticks == 2),
+        ("the probe has a line for status bars", "CLK " in line_for_status_bars(checkout.build)),
         *((f"{program} passes with it", checkout.passed(program, only)) for program, only in TESTS),
     ]
     for what, is_so in answers:
